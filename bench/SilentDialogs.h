@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/Dialogs.h"
+
+namespace quorvex::bench {
+
+// Shows nothing and keeps nothing.
+class SilentDialogs final : public platform::Dialogs {
+public:
+    platform::Answer Show(platform::Message const&) override { return platform::Answer::Ok; }
+
+    [[nodiscard]] std::string Ask(platform::Question const&) override { return {}; }
+
+    [[nodiscard]] std::optional<std::string> ChooseQuoteFile(std::span<std::string const>) override {
+        return std::nullopt;
+    }
+
+    [[nodiscard]] std::optional<std::string> ChooseParameterFile(std::span<std::string const>) override {
+        return std::nullopt;
+    }
+};
+
+} // namespace quorvex::bench

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// Times the display-free routines, each beside the least work that it could be done with, and ends with a
+// table of the ratios that have a target.
+
+#include "RatioTable.h"
+
+#include <benchmark/benchmark.h>
+
+#include <exception>
+#include <iostream>
+
+int main(int argc, char** argv) {
+    try {
+        benchmark::Initialize(&argc, argv);
+        if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+            return 2;
+        }
+        benchmark::RunSpecifiedBenchmarks();
+        benchmark::Shutdown();
+        std::cout << '\n' << quorvex::bench::MeasuredRatioTable();
+    } catch (std::exception const& error) {
+        std::cerr << error.what() << '\n';
+        return 1;
+    }
+    return 0;
+}

@@ -1,0 +1,48 @@
+# What every target is compiled with.
+
+option(QUORVEX_TESTS "Build the tests" ON)
+option(QUORVEX_BENCH "Build the benchmarks" OFF)
+option(QUORVEX_FUZZ "Build the fuzz targets (clang only)" OFF)
+option(QUORVEX_COVERAGE "Instrument for gcov" OFF)
+option(QUORVEX_WARNINGS_AS_ERRORS "Treat warnings as errors" ON)
+set(QUORVEX_SANITIZERS "" CACHE STRING "Sanitizers, as in -fsanitize=<value>")
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_SCAN_FOR_MODULES OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+# Compile every header on its own, so that each includes what it needs.
+set(CMAKE_VERIFY_INTERFACE_HEADER_SETS ON)
+
+find_program(QUORVEX_CCACHE ccache)
+if(QUORVEX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${QUORVEX_CCACHE})
+endif()
+
+add_library(quorvex_options INTERFACE)
+if(MSVC)
+    target_compile_options(quorvex_options INTERFACE /W4 /permissive- /utf-8 /fp:precise)
+    target_compile_definitions(quorvex_options INTERFACE NOMINMAX WIN32_LEAN_AND_MEAN)
+    if(QUORVEX_WARNINGS_AS_ERRORS)
+        target_compile_options(quorvex_options INTERFACE /WX)
+    endif()
+else()
+    target_compile_options(quorvex_options INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wcast-align -Wold-style-cast
+        -Wnon-virtual-dtor -Woverloaded-virtual -Wdouble-promotion -Wimplicit-fallthrough
+        # The same sums on every processor: no fused multiply-add behind the program's back.
+        -ffp-contract=off)
+    if(QUORVEX_WARNINGS_AS_ERRORS)
+        target_compile_options(quorvex_options INTERFACE -Werror)
+    endif()
+    if(QUORVEX_SANITIZERS)
+        target_compile_options(quorvex_options INTERFACE
+            -fsanitize=${QUORVEX_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_link_options(quorvex_options INTERFACE -fsanitize=${QUORVEX_SANITIZERS})
+    endif()
+    if(QUORVEX_COVERAGE)
+        target_compile_options(quorvex_options INTERFACE --coverage)
+        target_link_options(quorvex_options INTERFACE --coverage)
+    endif()
+endif()

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// The input is a double and behind it the text of a number format.
+
+#include "Require.h"
+#include "text/RunTimeError.h"
+#include "text/basFormats.h"
+#include "text/basNumbers.h"
+
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quorvex::fuzz {
+
+namespace {
+
+// The slow way round: through the printed text.
+double ThroughText(std::string const& printed) {
+    return printed.empty() || printed == "." ? 0 : text::StrictNumber(printed);
+}
+
+void CheckFormat(double value, std::string_view formatText) {
+    text::NumberFormat const format(formatText);
+    std::string const printed = format.Format(value);
+
+    std::string appended = "x";
+    format.AppendTo(appended, value);
+    Require(appended == 'x' + printed);
+    Require(text::FormatNumber(value, formatText) == printed);
+
+    double rounded = 0;
+    double expected = 0;
+    auto const error = text::Trap([&] { rounded = format.Round(value); });
+    auto const expectedError = text::Trap([&] { expected = ThroughText(printed); });
+    Require(std::isfinite(rounded));
+    Require(error.has_value() == expectedError.has_value());
+    Require(!error || error->Kind() == expectedError->Kind());
+    Require(rounded == expected);
+}
+
+} // namespace
+
+} // namespace quorvex::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
+    std::string_view const input(reinterpret_cast<char const*>(data), size);
+    double value = 0;
+    if (input.size() < sizeof value) {
+        return 0;
+    }
+    std::memcpy(&value, input.data(), sizeof value);
+    if (std::isfinite(value)) {
+        quorvex::fuzz::CheckFormat(value, input.substr(sizeof value));
+    }
+    return 0;
+}

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// The program-wide data.
+#pragma once
+
+#include "cycles/CycleCurves.h"
+#include "cycles/CycleParameterSet.h"
+#include "cycles/ParameterGrid.h"
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "platform/PendingMessages.h"
+#include "prefs/Settings.h"
+#include "quotes/PriceScale.h"
+#include "quotes/QuoteSeries.h"
+
+#include <string>
+#include <string_view>
+
+namespace quorvex::app {
+
+inline constexpr std::string_view ProgramVersion = "2.0.b";
+
+// Owned by whoever runs the program. It is large: keep it off the stack.
+struct Program {
+    prefs::Settings Settings;
+    quotes::QuoteSeries Quotes;
+    cycles::CycleParameterSet Cycles;
+    cycles::CycleCurves Curves;
+    quotes::PriceScale PriceScale;
+    std::string ProgramFolder; // of the executable
+};
+
+// The outside that commands work with.
+struct Services {
+    cycles::ParameterGrid& Grid;
+    platform::Dialogs& Dialogs;
+    platform::Files& Files;
+    platform::PendingMessages& Pending;
+};
+
+// Brings the program to its state after start-up: default settings, zeros in the grid.
+void StartUp(Program& program, cycles::ParameterGrid& grid, std::string_view programFolder);
+
+} // namespace quorvex::app

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// One whole analysis of one quote file, as a user would run it in the window: open, narrow, read or fit
+// parameters, correlate, forecast.
+#pragma once
+
+#include "app/Program.h"
+#include "cycles/basAutomate.h"
+#include "cycles/basForecast.h"
+#include "platform/Dialogs.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quorvex::app {
+
+struct AnalysisRequest {
+    std::string ParameterPath; // parameter file to read; none when empty
+    int AutomatedCycles = 0;   // cycles to fit; none when 0
+    std::string StartDate;     // first day to analyse; the first of the file when empty
+    std::string EndDate;       // last day to analyse; the last of the file when empty
+};
+
+struct Forecast {
+    cycles::ForecastCurve Values;
+    cycles::ForecastDates Dates;
+    std::vector<std::string> PreviousCloses;
+    std::vector<std::string> EstimatedValues;
+};
+
+// What an analysis leaves beside the program's data. What does not exist is empty.
+struct AnalysisResult {
+    bool HasMovingAverage = false;
+    bool HasComposite = false;
+    bool HasResidual = false;
+    std::vector<cycles::SinusoidFit> Fits;
+    std::optional<double> CorrelationCoefficient;
+    platform::Message CorrelationMessage; // what the Correlation command would show
+    std::optional<Forecast> ForecastShown;
+};
+
+// Analyses the quote file that the program's settings and file name point at; the program has just been
+// started up. Messages and faults go to the dialogs; after them the analysis goes on with what there is.
+// Nothing comes back when the quote file was refused or could not be read.
+[[nodiscard]] std::optional<AnalysisResult> Analyse(Program& program, Services& services,
+                                                    AnalysisRequest const& request);
+
+} // namespace quorvex::app

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// The commands of the main window, without the window: what each does to the program's data and what it tells
+// the user. Every command runs under an error trap; a fault that a command does not report otherwise is shown
+// as its description.
+#pragma once
+
+#include "app/Program.h"
+
+namespace quorvex::app {
+
+void FileOpen(Program& program, Services& services);
+void FileClose(Program& program);
+void FileSaveAs(Program& program, Services& services);
+
+void ParametersNew(Program& program, Services& services);
+void ParametersOpen(Program& program, Services& services);
+void ParametersSave(Services& services);
+void ParametersSaveAs(Program& program, Services& services);
+
+// Fits 1, 2 or 3 cycles to the moving average and takes them up from the grid.
+void ParametersAutomate(int cycleCount, Program& program, Services& services);
+
+// Reports the correlation of composite and moving average.
+void Correlation(Program& program, Services& services);
+
+// Whether there is something to forecast; when not, tells the user.
+[[nodiscard]] bool RequireForecast(Program const& program, Services& services);
+
+} // namespace quorvex::app

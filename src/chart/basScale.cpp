@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "chart/basScale.h"
+
+#include "text/RunTimeError.h"
+
+namespace quorvex::chart {
+
+quotes::PriceScale ComputePriceScale(quotes::QuoteSeries const& series) {
+    constexpr double Margin = 0.1;
+    double maximum = -9999999;
+    double minimum = 9999999;
+    for (int day = 1; day <= series.WorkingCount; ++day) {
+        quotes::QuoteRecord const& quote = series.Working[day];
+        if (quote.High >= maximum) {
+            maximum = quote.High;
+        }
+        if (quote.Low < minimum) {
+            minimum = quote.Low;
+        }
+    }
+    maximum = maximum + Margin * (maximum - minimum);
+    minimum = minimum - Margin * (maximum - minimum);
+    return {text::RequireFinite(maximum), text::RequireFinite(minimum)};
+}
+
+} // namespace quorvex::chart

@@ -1,0 +1,130 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/AnalysisJson.h"
+
+#include "auxiliary/basProperties.h"
+
+#include <nlohmann/json.hpp>
+
+#include <cstddef>
+
+namespace quorvex::cli {
+
+namespace {
+
+// Ordered, so that the members stand as documented.
+using Json = nlohmann::ordered_json;
+
+// Slots 1..last of a curve or list.
+template <class Slots>
+Json ArrayOf(Slots const& slots, std::ptrdiff_t last) {
+    Json array = Json::array();
+    for (std::ptrdiff_t slot = 1; slot <= last; ++slot) {
+        array.push_back(slots[slot]);
+    }
+    return array;
+}
+
+Json QuotesJson(quotes::QuoteSeries const& series) {
+    Json rows = Json::array();
+    for (int day = 1; day <= series.WorkingCount; ++day) {
+        quotes::QuoteRecord const& quote = series.Working[day];
+        rows.push_back(
+            {quote.Date, quote.Open, quote.High, quote.Low, quote.Close, quote.Volume, quote.OpenInterest});
+    }
+    return rows;
+}
+
+Json GridJson(cycles::ParameterGrid const& grid) {
+    Json rows = Json::array();
+    for (int cycle = 1; cycle <= cycles::CycleCount; ++cycle) {
+        Json row = Json::array();
+        for (auto const parameter : cycles::Parameters) {
+            row.push_back(grid.Text(parameter, cycle));
+        }
+        rows.push_back(std::move(row));
+    }
+    return rows;
+}
+
+Json CyclesJson(cycles::CycleParameterSet const& set, std::ptrdiff_t lastDay) {
+    Json active = Json::array();
+    for (int index = 1; index <= cycles::CycleCount; ++index) {
+        cycles::CycleRecord const& cycle = set.Cycles[index];
+        if (cycle.IsActive()) {
+            active.push_back({{"Weight", cycle.Weight},
+                              {"Period", cycle.Period},
+                              {"Shift", cycle.Shift},
+                              {"Decay", cycle.Decay},
+                              {"Values", ArrayOf(cycle.Values, lastDay)}});
+        }
+    }
+    return active;
+}
+
+Json FitsJson(std::vector<cycles::SinusoidFit> const& fits) {
+    Json array = Json::array();
+    for (cycles::SinusoidFit const& fit : fits) {
+        array.push_back({{"Amplitude", fit.Amplitude},
+                         {"Frequency", fit.Frequency},
+                         {"Phase", fit.Phase},
+                         {"CosineCoefficient", fit.CosineCoefficient},
+                         {"SineCoefficient", fit.SineCoefficient}});
+    }
+    return array;
+}
+
+Json CorrelationJson(app::AnalysisResult const& result) {
+    auto const& r = result.CorrelationCoefficient;
+    return {{"r", r ? Json(*r) : Json()},
+            {"message", result.CorrelationMessage.Text},
+            {"title", result.CorrelationMessage.Title}};
+}
+
+Json ForecastJson(app::Forecast const& forecast) {
+    return {{"Values", ArrayOf(forecast.Values, cycles::ForecastDays)},
+            {"Dates", ArrayOf(forecast.Dates, cycles::ForecastDays)},
+            {"List1", forecast.PreviousCloses},
+            {"List2", forecast.EstimatedValues}};
+}
+
+Json PropertiesJson(app::Program const& program) {
+    Json captions = Json::object();
+    for (auto const& caption : auxiliary::DescribeQuotes(program.Quotes, program.Settings.CurrencyFormat)) {
+        captions[std::string(caption.Label)] = caption.Caption;
+    }
+    return captions;
+}
+
+} // namespace
+
+std::string AnalysisJson(app::Program const& program, cycles::ParameterGrid const& grid,
+                         app::AnalysisResult const& result) {
+    quotes::QuoteSeries const& series = program.Quotes;
+    cycles::CycleCurves const& curves = program.Curves;
+    int const n = series.WorkingCount;
+    int const lastDay = n + cycles::ForecastDays;
+    Json json;
+    json["QuoteFileName"] = series.QuoteFileName;
+    json["QuoteCount"] = series.QuoteCount;
+    json["WorkingCount"] = series.WorkingCount;
+    json["FirstQuoteDate"] = series.FirstQuoteDate;
+    json["LastQuoteDate"] = series.LastQuoteDate;
+    json["Quotes"] = QuotesJson(series);
+    json["MovingAverageCurve"] = result.HasMovingAverage ? ArrayOf(curves.MovingAverageCurve, n) : Json();
+    json["PriceScaleHigh"] = program.PriceScale.PriceScaleHigh;
+    json["PriceScaleLow"] = program.PriceScale.PriceScaleLow;
+    json["Grid"] = GridJson(grid);
+    json["Cycles"] = result.HasComposite ? CyclesJson(program.Cycles, lastDay) : Json();
+    json["CompositeCurve"] = result.HasComposite ? ArrayOf(curves.CompositeCurve, lastDay) : Json();
+    json["ResidualCurve"] = result.HasResidual ? ArrayOf(curves.ResidualCurve, n) : Json();
+    json["Fits"] = result.Fits.empty() ? Json() : FitsJson(result.Fits);
+    json["Correlation"] = CorrelationJson(result);
+    json["Forecast"] = result.ForecastShown ? ForecastJson(*result.ForecastShown) : Json();
+    json["Properties"] = PropertiesJson(program);
+    // A file name may hold any bytes.
+    return json.dump(-1, ' ', false, Json::error_handler_t::replace) + '\n';
+}
+
+} // namespace quorvex::cli

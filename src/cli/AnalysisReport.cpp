@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/AnalysisReport.h"
+
+#include "auxiliary/basProperties.h"
+#include "cycles/basCurves.h"
+#include "text/basFolders.h"
+#include "text/basFormats.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <string_view>
+#include <utility>
+
+namespace quorvex::cli {
+
+namespace {
+
+std::string PadLeft(std::string_view text, std::size_t width) {
+    std::string padded(width > text.size() ? width - text.size() : 0, ' ');
+    return padded.append(text);
+}
+
+std::string PadRight(std::string_view text, std::size_t width) {
+    std::string padded(text);
+    padded.resize(std::max(width, text.size()), ' ');
+    return padded;
+}
+
+// What the report calls each label of the properties window.
+constexpr std::array<std::pair<std::string_view, std::string_view>, 10> StatisticNames = {{
+    {"lblQuoteFileName", "Quote file"},
+    {"lblStartDate", "Start date"},
+    {"lblEndDate", "End date"},
+    {"lblNumQuotes", "No. of quotes"},
+    {"lblOpen", "Open"},
+    {"lblHigh", "High"},
+    {"lblLow", "Low"},
+    {"lblClose", "Close"},
+    {"lblRange", "Range"},
+    {"lblMean", "Mean"},
+}};
+
+std::string_view StatisticName(std::string_view label) {
+    auto const row = std::find_if(StatisticNames.begin(), StatisticNames.end(),
+                                  [label](auto const& name) { return name.first == label; });
+    return row == StatisticNames.end() ? label : row->second;
+}
+
+std::string Statistics(app::Program const& program) {
+    constexpr std::size_t NameWidth = 15;
+    std::string lines = "Quotes\n";
+    for (auto const& caption : auxiliary::DescribeQuotes(program.Quotes, program.Settings.CurrencyFormat)) {
+        lines += "  " + PadRight(StatisticName(caption.Label), NameWidth);
+        lines.append(text::Trim(caption.Caption)) += '\n';
+    }
+    return lines;
+}
+
+std::string Cycles(app::Program const& program, cycles::ParameterGrid const& grid) {
+    constexpr std::size_t NameWidth = 10;
+    constexpr std::size_t ColumnWidth = 8;
+    if (!cycles::HasActiveCycle(program.Cycles)) {
+        return "Cycles\n  none: give --parameters FILE.dat or --automate 1|2|3\n";
+    }
+    std::string lines = PadRight("Cycles", NameWidth + 2);
+    for (std::string_view const caption : {"Weight", "Period", "Shift", "Decay"}) {
+        lines += PadLeft(caption, ColumnWidth);
+    }
+    lines += '\n';
+    for (int cycle = 1; cycle <= cycles::CycleCount; ++cycle) {
+        if (!program.Cycles.Cycles[cycle].IsActive()) {
+            continue;
+        }
+        lines += "  " + PadRight("Cycle " + std::to_string(cycle), NameWidth);
+        for (auto const parameter : cycles::Parameters) {
+            lines += PadLeft(grid.Text(parameter, cycle), ColumnWidth);
+        }
+        lines += '\n';
+    }
+    return lines;
+}
+
+std::string Fits(std::vector<cycles::SinusoidFit> const& fits) {
+    constexpr std::size_t NameWidth = 10;
+    constexpr std::size_t ColumnWidth = 14;
+    std::string lines = PadRight("Fit", NameWidth + 2) + PadLeft("Period, days", ColumnWidth) +
+                        PadLeft("Amplitude", ColumnWidth) + PadLeft("Phase, rad", ColumnWidth) + '\n';
+    text::NumberFormat const number("####0.0000");
+    for (std::size_t index = 0; index < fits.size(); ++index) {
+        cycles::SinusoidFit const& fit = fits[index];
+        lines += "  " + PadRight("Cycle " + std::to_string(index + 1), NameWidth);
+        lines += PadLeft(number.Format(cycles::TwoPi / fit.Frequency), ColumnWidth);
+        lines += PadLeft(number.Format(fit.Amplitude), ColumnWidth);
+        lines += PadLeft(number.Format(fit.Phase), ColumnWidth) + '\n';
+    }
+    return lines;
+}
+
+// The lines of the message without the blanks that shape its box.
+std::string Correlation(platform::Message const& message) {
+    std::string lines = "Correlation\n";
+    std::string_view rest = message.Text;
+    while (!rest.empty()) {
+        auto const end = std::min(rest.find('\n'), rest.size());
+        lines.append("  ").append(text::Trim(rest.substr(0, end))) += '\n';
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return lines;
+}
+
+std::string ForecastTable(app::Forecast const& forecast) {
+    constexpr std::size_t ColumnWidth = 34;
+    std::string lines = "Forecast\n  " + PadRight("Previous Closes", ColumnWidth) + "Estimated Values\n";
+    std::size_t const count = std::max(forecast.PreviousCloses.size(), forecast.EstimatedValues.size());
+    for (std::size_t index = 0; index < count; ++index) {
+        bool const known = index < forecast.PreviousCloses.size();
+        lines += "  " + PadRight(known ? forecast.PreviousCloses[index] : std::string(), ColumnWidth);
+        lines += forecast.EstimatedValues[index] + '\n';
+    }
+    return lines;
+}
+
+} // namespace
+
+std::string AnalysisReport(app::Program const& program, cycles::ParameterGrid const& grid,
+                           app::AnalysisResult const& result) {
+    std::string report = Statistics(program) + '\n' + Cycles(program, grid);
+    if (!result.Fits.empty()) {
+        report += '\n' + Fits(result.Fits);
+    }
+    report += '\n' + Correlation(result.CorrelationMessage);
+    if (result.ForecastShown) {
+        report += '\n' + ForecastTable(*result.ForecastShown);
+    }
+    return report;
+}
+
+} // namespace quorvex::cli

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "app/Program.h"
+#include "app/basAnalysis.h"
+
+#include <string>
+
+namespace quorvex::cli {
+
+// The analysis as a text to read: statistics, cycles, fit, correlation and forecast.
+[[nodiscard]] std::string AnalysisReport(app::Program const& program, cycles::ParameterGrid const& grid,
+                                         app::AnalysisResult const& result);
+
+} // namespace quorvex::cli

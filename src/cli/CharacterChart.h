@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "app/Program.h"
+#include "app/basAnalysis.h"
+
+#include <string>
+
+namespace quorvex::cli {
+
+// A chart of the closes with the composite over them, drawn in ASCII characters for a terminal of this width.
+// The composite is put on the price axis as the residual chart does, 25 forecast days included. When there
+// are more days than columns, a column shows the last day that falls into it.
+[[nodiscard]] std::string CharacterChart(app::Program const& program, app::AnalysisResult const& result,
+                                         int width);
+
+} // namespace quorvex::cli

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/ConsoleDialogs.h"
+
+#include "cli/StandardStreams.h"
+
+namespace quorvex::cli {
+
+platform::Answer ConsoleDialogs::Show(platform::Message const& message) {
+    hasShown_ = true;
+    Complain(message.Text);
+    return message.Offered == platform::Buttons::Ok ? platform::Answer::Ok : platform::Answer::Cancel;
+}
+
+std::string ConsoleDialogs::Ask(platform::Question const&) {
+    return {};
+}
+
+std::optional<std::string> ConsoleDialogs::ChooseQuoteFile(std::span<std::string const>) {
+    return std::nullopt;
+}
+
+std::optional<std::string> ConsoleDialogs::ChooseParameterFile(std::span<std::string const>) {
+    return std::nullopt;
+}
+
+} // namespace quorvex::cli

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/Dialogs.h"
+
+namespace quorvex::cli {
+
+// Puts the program's messages on standard error and has no one to answer questions.
+class ConsoleDialogs final : public platform::Dialogs {
+public:
+    platform::Answer Show(platform::Message const& message) override;
+    [[nodiscard]] std::string Ask(platform::Question const& question) override;
+    [[nodiscard]] std::optional<std::string> ChooseQuoteFile(std::span<std::string const> names) override;
+    [[nodiscard]] std::optional<std::string> ChooseParameterFile(std::span<std::string const> names) override;
+
+    // Whether the program had to say something.
+    [[nodiscard]] bool HasShown() const { return hasShown_; }
+
+private:
+    bool hasShown_ = false;
+};
+
+} // namespace quorvex::cli

@@ -1,0 +1,187 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "cycles/basAutomate.h"
+
+#include "cycles/basCurves.h"
+#include "text/RunTimeError.h"
+
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <numbers>
+
+namespace quorvex::cycles {
+
+namespace {
+
+constexpr double Pi = 3.14159265358979;
+
+// Weights by rank of the cycle; they sum to 100 whatever the amplitudes are.
+constexpr std::array<double, 3> FixedWeights = {50, 34, 16};
+
+// cos(w t) and sin(w t) of the days, which the fit and the stripping share.
+struct Basis {
+    QuoteCurve Cosine;
+    QuoteCurve Sine;
+};
+
+// Sums many arc cosines at the cost of one arc: multiplying unit vectors adds their angles. Each angle is
+// below a half turn, so that every change between the upper and the lower half of the circle is one half turn
+// more.
+class ArcCosineSum {
+public:
+    void Add(double cosine) {
+        double const square = cosine * cosine;
+        if (square >= 1) {
+            return; // counts as an angle of 0
+        }
+        double const sine = std::sqrt(1 - square);
+        double const x = x_ * cosine - y_ * sine;
+        double const y = x_ * sine + y_ * cosine;
+        halfTurns_ += std::signbit(y) != std::signbit(y_) ? 1 : 0;
+        x_ = x;
+        y_ = y;
+        ++angles_;
+    }
+
+    [[nodiscard]] double Radians() const {
+        // An arc cosine is taken from half of Pi, which falls short of a quarter turn.
+        constexpr double Shortfall = (std::numbers::pi - Pi) / 2;
+        double const rest = std::atan2(std::fabs(y_), std::signbit(y_) ? -x_ : x_);
+        return halfTurns_ * std::numbers::pi + rest - angles_ * Shortfall;
+    }
+
+private:
+    double x_ = 1;
+    double y_ = 0;
+    int halfTurns_ = 0;
+    int angles_ = 0;
+};
+
+// For a pure sinusoid the quotient is cos w at every day, so that each day within range votes for a
+// frequency.
+double EstimateFrequency(QuoteCurve const& x, std::int16_t count) {
+    ArcCosineSum sum;
+    double votes = 0;
+    for (int day = 3; day <= count - 2; ++day) {
+        double const above = 2 * x[day] + x[day - 2] + x[day + 2];
+        double const below = 2 * (x[day - 1] + x[day + 1]);
+        if (below == 0) {
+            continue;
+        }
+        double const ratio = above / below;
+        if (std::fabs(ratio) <= 1) {
+            sum.Add(ratio);
+            votes += 1;
+        } else {
+            static_cast<void>(text::RequireFinite(ratio));
+        }
+    }
+    return text::Divide(sum.Radians(), votes);
+}
+
+void FillBasis(double frequency, std::int16_t count, Basis& basis) {
+    for (int day = 1; day <= count; ++day) {
+        double const angle = frequency * day;
+        basis.Cosine[day] = std::cos(angle);
+        basis.Sine[day] = std::sin(angle);
+    }
+}
+
+// Least squares for x[t] = a cos(w t) + b sin(w t).
+SinusoidFit SolveLeastSquares(QuoteCurve const& x, Basis const& basis, std::int16_t count) {
+    double xc = 0;
+    double xs = 0;
+    double cc = 0;
+    double ss = 0;
+    double cs = 0;
+    for (int day = 1; day <= count; ++day) {
+        double const value = x[day];
+        double const cosine = basis.Cosine[day];
+        double const sine = basis.Sine[day];
+        xc += value * cosine;
+        xs += value * sine;
+        cc += cosine * cosine;
+        ss += sine * sine;
+        cs += sine * cosine;
+    }
+    double const determinant = cs * cs - cc * ss;
+    SinusoidFit fit;
+    fit.CosineCoefficient = text::Divide(cs * xs - ss * xc, determinant);
+    fit.SineCoefficient = text::Divide(cs * xc - cc * xs, determinant);
+    return fit;
+}
+
+SinusoidFit FitWithBasis(QuoteCurve const& x, std::int16_t count, Basis& basis) {
+    double const frequency = EstimateFrequency(x, count);
+    FillBasis(frequency, count, basis);
+    SinusoidFit fit = SolveLeastSquares(x, basis, count);
+    double const a = fit.CosineCoefficient;
+    double const b = fit.SineCoefficient;
+    fit.Frequency = frequency;
+    fit.Amplitude = std::sqrt(text::RequireFinite(a * a + b * b));
+    fit.Phase = -std::atan(text::Divide(-b, a));
+    return fit;
+}
+
+// The moving average less its mean.
+QuoteCurve CentredSeries(QuoteCurve const& movingAverageCurve, std::int16_t count) {
+    double sum = 0;
+    for (int day = 1; day <= count; ++day) {
+        sum += movingAverageCurve[day];
+    }
+    double const mean = text::RequireFinite(sum) / count;
+    QuoteCurve series;
+    for (int day = 1; day <= count; ++day) {
+        series[day] = movingAverageCurve[day] - mean;
+    }
+    return series;
+}
+
+void Strip(QuoteCurve& series, SinusoidFit const& fit, Basis const& basis, std::int16_t count) {
+    for (int day = 1; day <= count; ++day) {
+        series[day] =
+            series[day] - fit.CosineCoefficient * basis.Cosine[day] - fit.SineCoefficient * basis.Sine[day];
+    }
+}
+
+void WriteFit(ParameterGrid& grid, int cycle, SinusoidFit const& fit) {
+    WriteCell(grid, Parameter::Weight, cycle, FixedWeights.at(static_cast<std::size_t>(cycle - 1)));
+    WriteCell(grid, Parameter::Period, cycle, text::Divide(TwoPi, fit.Frequency));
+    WriteCell(grid, Parameter::Shift, cycle, text::Divide(TwoPi, fit.Phase));
+}
+
+} // namespace
+
+double ArcCosine(double x) {
+    ArcCosineSum sum;
+    sum.Add(x);
+    return sum.Radians();
+}
+
+SinusoidFit FitSinusoid(QuoteCurve const& series, std::int16_t count) {
+    Basis basis;
+    return FitWithBasis(series, count, basis);
+}
+
+void AutomateCycles(int cycleCount, std::int16_t workingCount, CycleCurves& curves, CycleParameterSet& set,
+                    ParameterGrid& grid, std::vector<SinusoidFit>& fits) {
+    if (workingCount == 0) {
+        return;
+    }
+    ClearCycles(set, curves.CompositeCurve);
+    QuoteCurve series = CentredSeries(curves.MovingAverageCurve, workingCount);
+    ClearGrid(grid);
+    Basis basis;
+    for (int cycle = 1; cycle <= cycleCount; ++cycle) {
+        SinusoidFit const fit = FitWithBasis(series, workingCount, basis);
+        fits.push_back(fit);
+        WriteFit(grid, cycle, fit);
+        if (cycle < cycleCount) {
+            Strip(series, fit, basis, workingCount);
+        }
+    }
+}
+
+} // namespace quorvex::cycles

@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "cycles/basCurves.h"
+
+#include "text/RunTimeError.h"
+#include "text/basNumbers.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace quorvex::cycles {
+
+namespace {
+
+// Without quotes the cycles are shown for so many days.
+constexpr int DaysWithoutQuotes = 100;
+
+int LastDay(std::int16_t workingCount) {
+    return (workingCount < 1 ? DaysWithoutQuotes : workingCount) + ForecastDays;
+}
+
+void ComputeValues(CycleRecord& cycle, int lastDay) {
+    double const frequency = text::Divide(TwoPi, cycle.Period);
+    double const phase = cycle.Shift == 0 ? 0 : text::Divide(TwoPi, cycle.Shift);
+    static_cast<void>(text::RequireFinite(lastDay * frequency + phase));
+    for (int day = 1; day <= lastDay; ++day) {
+        cycle.Values[day] = cycle.Weight * std::sin(day * frequency + phase);
+    }
+}
+
+double SumOfCloses(quotes::QuoteRecords const& records, int first, int last) {
+    double sum = 0;
+    for (int day = first; day <= last; ++day) {
+        sum += records[day].Close;
+    }
+    return text::RequireFinite(sum);
+}
+
+double MeanOfCloses(quotes::QuoteRecords const& records, int first, int last) {
+    return SumOfCloses(records, first, last) / (last - first + 1);
+}
+
+} // namespace
+
+void ComputeCycleValues(CycleParameterSet& set, std::int16_t workingCount) {
+    for (int index = 1; index <= CycleCount; ++index) {
+        CycleRecord& cycle = set.Cycles[index];
+        if (cycle.IsActive()) {
+            ComputeValues(cycle, LastDay(workingCount));
+        }
+    }
+}
+
+void ComputeComposite(CycleParameterSet const& set, std::int16_t workingCount, CycleCurve& compositeCurve) {
+    int const lastDay = LastDay(workingCount);
+    for (int day = 1; day <= lastDay; ++day) {
+        double sum = 0;
+        for (int cycle = 1; cycle <= CycleCount; ++cycle) {
+            sum += set.Cycles[cycle].Values[day];
+        }
+        compositeCurve[day] = text::RequireFinite(sum);
+    }
+}
+
+std::int16_t MovingAverageLength(std::string_view movingAverageIndex) {
+    return text::WholeNumber(text::LeadingNumber(movingAverageIndex));
+}
+
+void ComputeMovingAverage(quotes::QuoteSeries const& series, std::int16_t length,
+                          QuoteCurve& movingAverageCurve) {
+    int const last = series.WorkingCount;
+    quotes::QuoteRecords const& records = series.Working;
+    if (length < 2) {
+        for (int day = 1; day <= last; ++day) {
+            movingAverageCurve[day] = records[day].Close;
+        }
+        return;
+    }
+    int const half = text::WholeNumber((length - 0.5) / 2);
+    for (int day = 1; day <= half; ++day) {
+        movingAverageCurve[day] = MeanOfCloses(records, 1, 2 * day - 1);
+    }
+    for (int day = half + 1; day <= last - half; ++day) {
+        movingAverageCurve[day] = SumOfCloses(records, day - half, day + half) / length;
+    }
+    for (int day = last - half + 1; day <= last; ++day) {
+        movingAverageCurve[day] = MeanOfCloses(records, last - 2 * (last - day), last);
+    }
+}
+
+void ComputeResidual(CycleCurves& curves, quotes::PriceScale const& scale, std::int16_t workingCount) {
+    constexpr double CycleUnits = 200;
+    double const factor = text::Divide(CycleUnits, scale.PriceScaleHigh - scale.PriceScaleLow);
+    double const offset = -(scale.PriceScaleLow + scale.PriceScaleHigh) * factor / 2;
+    for (int day = 1; day <= workingCount; ++day) {
+        curves.ResidualCurve[day] = text::RequireFinite(curves.MovingAverageCurve[day] * factor + offset -
+                                                        curves.CompositeCurve[day]);
+    }
+}
+
+ResidualScale ScaleResidual(QuoteCurve const& residualCurve, std::int16_t workingCount) {
+    constexpr double Margin = 0.1;
+    ResidualScale scale{residualCurve[1], residualCurve[1]};
+    for (int day = 2; day <= workingCount; ++day) {
+        scale.High = std::max(scale.High, residualCurve[day]);
+        scale.Low = std::min(scale.Low, residualCurve[day]);
+    }
+    scale.High += (scale.High - scale.Low) * Margin;
+    scale.Low -= (scale.High - scale.Low) * Margin;
+    return scale;
+}
+
+} // namespace quorvex::cycles

@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "cycles/basParameters.h"
+
+#include "platform/basMessages.h"
+#include "text/RunTimeError.h"
+#include "text/basFolders.h"
+#include "text/basNumbers.h"
+
+namespace quorvex::cycles {
+
+namespace {
+
+// Whether the grid holds weights; when not, tells the user.
+bool RequireWeights(ParameterGrid const& grid, platform::Dialogs& dialogs) {
+    if (SumOfWeights(grid) == 0) {
+        platform::ShowWarning(dialogs, "Insufficient cycle parameters data to save");
+        return false;
+    }
+    return true;
+}
+
+// Lets the user choose and reads what was chosen; nothing changes when there is nothing to choose from.
+void ChooseParameterFile(CycleParameterSet& set, std::string_view programFolder, platform::Files const& files,
+                         platform::Dialogs& dialogs) {
+    std::string const folder = text::EndWithSeparator(programFolder);
+    auto const names = files.List(folder, ParameterFilePattern);
+    if (names.empty()) {
+        platform::ShowWarning(dialogs, "Cannot find Cycle Parameter text files.");
+        return;
+    }
+    auto const name = dialogs.ChooseParameterFile(names);
+    set.ParameterFileName = name ? folder + *name : std::string();
+    if (name) {
+        ReadParameterFile(set.ParameterFileName, set, files, dialogs);
+    }
+}
+
+} // namespace
+
+void ReadParameters(text::ByteSource& source, CycleParameterSet& set) {
+    text::FieldReader fields(source);
+    for (int row = 1; !fields.AtEnd(); ++row) {
+        double const weight = text::LeadingNumber(fields.Take());
+        double const period = text::LeadingNumber(fields.Take());
+        double const shift = text::LeadingNumber(fields.Take());
+        double const decay = text::LeadingNumber(fields.Take());
+        CycleRecord& cycle = set.Cycles[row];
+        cycle.Weight = weight;
+        cycle.Period = period;
+        cycle.Shift = shift;
+        cycle.Decay = decay;
+    }
+}
+
+bool ReadParameterFile(std::string const& path, CycleParameterSet& set, platform::Files const& files,
+                       platform::Dialogs& dialogs) {
+    auto const error = text::Trap([&] { ReadParameters(*files.OpenForInput(path), set); });
+    if (error) {
+        platform::ShowError(dialogs, *error);
+    }
+    return !error;
+}
+
+void OpenParameters(CycleParameterSet& set, ParameterGrid& grid, std::string_view programFolder,
+                    platform::Files const& files, platform::Dialogs& dialogs) {
+    ChooseParameterFile(set, programFolder, files, dialogs);
+    if (!set.ParameterFileName.empty()) {
+        WriteGrid(set, grid);
+    }
+}
+
+void SaveParameters(ParameterGrid const& grid, platform::Dialogs& dialogs) {
+    static_cast<void>(RequireWeights(grid, dialogs));
+}
+
+void SaveParametersAs(CycleParameterSet const& set, ParameterGrid const& grid, platform::Dialogs& dialogs) {
+    if (!RequireWeights(grid, dialogs)) {
+        return;
+    }
+    for (;;) {
+        std::string const name =
+            dialogs.Ask({"Save current cycle parameters file:", "Save As...", set.ParameterFileName});
+        if (name.empty()) {
+            return;
+        }
+        if (IsParameterFileName(name)) {
+            break;
+        }
+        platform::ShowWarning(dialogs, "Invalid cycle parameters file (*.dat)");
+    }
+    dialogs.Show({"Cycle parameters file " + set.ParameterFileName + " successfully saved", "Save As..."});
+}
+
+bool IsParameterFileName(std::string_view name) {
+    return text::IsNameWithExtension(name, ".DAT");
+}
+
+bool NewParameters(CycleParameterSet& set, CycleCurve& compositeCurve, ParameterGrid& grid,
+                   platform::Dialogs& dialogs) {
+    if (SumOfWeights(grid) != 0) {
+        auto const answer = dialogs.Show({"Save current cycle parameters data?", "Save Parameter File",
+                                          platform::Icon::None, platform::Buttons::YesNoCancel});
+        if (answer == platform::Answer::Cancel) {
+            return false;
+        }
+        if (answer == platform::Answer::Yes && set.ParameterFileName.empty()) {
+            SaveParametersAs(set, grid, dialogs);
+        } else if (answer == platform::Answer::Yes) {
+            SaveParameters(grid, dialogs);
+        }
+    }
+    ClearGrid(grid);
+    ClearCycles(set, compositeCurve);
+    set.ParameterFileName.clear();
+    return true;
+}
+
+} // namespace quorvex::cycles

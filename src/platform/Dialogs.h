@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// The questions and messages that stop the program until the user answers.
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+
+namespace quorvex::platform {
+
+enum class Icon { None, Information, Exclamation, Critical, Question };
+
+enum class Buttons { Ok, YesNoCancel };
+
+enum class Answer { Ok, Yes, No, Cancel };
+
+// A message box. Line breaks in the text are LF.
+struct Message {
+    std::string Text;
+    std::string Title;
+    Icon Shown = Icon::None;
+    Buttons Offered = Buttons::Ok;
+};
+
+// An input box with the text that stands in it at first.
+struct Question {
+    std::string Prompt;
+    std::string Title;
+    std::string Default;
+};
+
+class Dialogs {
+public:
+    Dialogs() = default;
+    Dialogs(Dialogs const&) = delete;
+    Dialogs& operator=(Dialogs const&) = delete;
+    virtual ~Dialogs() = default;
+
+    // Shows the message and returns the button that closed it; closing the box by other means is Cancel, or
+    // Ok where no Cancel is offered.
+    virtual Answer Show(Message const& message) = 0;
+
+    // The text that the user entered, as typed; empty when the box was cancelled.
+    [[nodiscard]] virtual std::string Ask(Question const& question) = 0;
+
+    // The quote file chooser: the name chosen among those offered, nothing when it was cancelled.
+    [[nodiscard]] virtual std::optional<std::string> ChooseQuoteFile(std::span<std::string const> names) = 0;
+
+    // The parameter file chooser, likewise.
+    [[nodiscard]] virtual std::optional<std::string>
+    ChooseParameterFile(std::span<std::string const> names) = 0;
+};
+
+} // namespace quorvex::platform

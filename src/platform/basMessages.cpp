@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/basMessages.h"
+
+#include <string>
+
+namespace quorvex::platform {
+
+void ShowWarning(Dialogs& dialogs, std::string_view text) {
+    dialogs.Show({std::string(text), std::string(ApplicationTitle), Icon::Exclamation});
+}
+
+void ShowNoQuotesMessage(Dialogs& dialogs) {
+    dialogs.Show({"Please use File Open option to load a quote data file", std::string(ApplicationTitle),
+                  Icon::Information});
+}
+
+Message ErrorMessage(text::RunTimeError const& error) {
+    return {std::string(error.Description()), std::string(ApplicationTitle), Icon::None};
+}
+
+void ShowError(Dialogs& dialogs, text::RunTimeError const& error) {
+    dialogs.Show(ErrorMessage(error));
+}
+
+} // namespace quorvex::platform

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// Messages that many commands share.
+#pragma once
+
+#include "platform/Dialogs.h"
+#include "text/RunTimeError.h"
+
+#include <string_view>
+
+namespace quorvex::platform {
+
+// The title of the program's own message boxes.
+inline constexpr std::string_view ApplicationTitle = "Quorvex";
+
+// Shows the text with an OK button and the exclamation icon.
+void ShowWarning(Dialogs& dialogs, std::string_view text);
+
+// Tells the user that the command needs a quote file.
+void ShowNoQuotesMessage(Dialogs& dialogs);
+
+// The plain box with an OK button that shows an error's own description.
+[[nodiscard]] Message ErrorMessage(text::RunTimeError const& error);
+
+void ShowError(Dialogs& dialogs, text::RunTimeError const& error);
+
+} // namespace quorvex::platform

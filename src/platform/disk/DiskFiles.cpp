@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/disk/DiskFiles.h"
+
+#include "platform/disk/HostFile.h"
+#include "text/RunTimeError.h"
+#include "text/basFolders.h"
+
+#include <algorithm>
+#include <system_error>
+
+namespace quorvex::platform::disk {
+
+namespace {
+
+using text::Fault;
+using text::RunTimeError;
+
+void RequireName(std::string_view path) {
+    if (path.empty() || path.find('\0') != std::string_view::npos) {
+        throw RunTimeError(Fault::BadFileName);
+    }
+}
+
+std::string Utf8(std::filesystem::path const& path) {
+    auto const text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+// A link keeps pointing at its file: the file behind it is the one that is replaced.
+std::filesystem::path BehindLinks(std::filesystem::path const& path) {
+    std::error_code error;
+    if (!std::filesystem::is_symlink(path, error)) {
+        return path;
+    }
+    auto const target = std::filesystem::weakly_canonical(path, error);
+    return error ? path : target;
+}
+
+} // namespace
+
+std::filesystem::path HostPath(std::string_view path) {
+    std::u8string spelled(path.begin(), path.end());
+    if constexpr (std::filesystem::path::preferred_separator == '/') {
+        std::replace(spelled.begin(), spelled.end(), u8'\\', u8'/');
+    }
+    return {spelled};
+}
+
+std::unique_ptr<text::ByteSource> DiskFiles::OpenForInput(std::string const& path) const {
+    RequireName(path);
+    return OpenHostFile(HostPath(path));
+}
+
+void DiskFiles::Replace(std::string const& path, std::string_view content) {
+    RequireName(path);
+    std::filesystem::path const target = BehindLinks(HostPath(path));
+    std::error_code error;
+    if (std::filesystem::is_directory(target, error) || IsWriteProtected(target)) {
+        throw RunTimeError(Fault::PermissionDenied);
+    }
+    auto const temporary = target.parent_path() / (".quorvex-" + std::to_string(ProcessNumber()) + ".tmp");
+    // Left behind by a process of the same number that was killed.
+    std::filesystem::remove(temporary, error);
+    WriteNewHostFile(temporary, content);
+    auto const fault = text::Trap([&] { MoveHostFile(temporary, target); });
+    if (fault) {
+        std::filesystem::remove(temporary, error);
+        throw RunTimeError(fault->Kind());
+    }
+}
+
+std::vector<std::string> DiskFiles::List(std::string const& folder, std::string_view pattern) const {
+    std::vector<std::string> names;
+    std::error_code error;
+    std::filesystem::directory_iterator entry(HostPath(folder), error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        std::error_code unreadable;
+        std::string name = Utf8(entry->path().filename());
+        if (text::MatchesPattern(name, pattern) && !entry->is_directory(unreadable)) {
+            names.push_back(std::move(name));
+        }
+    }
+    return names;
+}
+
+} // namespace quorvex::platform::disk

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/Files.h"
+
+#include <filesystem>
+
+namespace quorvex::platform::disk {
+
+// The path in the form of this system: where "/" separates folders, backslashes become "/".
+[[nodiscard]] std::filesystem::path HostPath(std::string_view path);
+
+// The files of this machine.
+class DiskFiles final : public Files {
+public:
+    [[nodiscard]] std::unique_ptr<text::ByteSource> OpenForInput(std::string const& path) const override;
+    void Replace(std::string const& path, std::string_view content) override;
+    [[nodiscard]] std::vector<std::string> List(std::string const& folder,
+                                                std::string_view pattern) const override;
+};
+
+} // namespace quorvex::platform::disk

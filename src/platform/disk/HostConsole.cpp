@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/disk/HostConsole.h"
+
+#ifdef _WIN32
+#include <io.h>
+#include <windows.h>
+#else
+#include <sys/ioctl.h>
+#include <unistd.h>
+#endif
+
+namespace quorvex::platform::disk {
+
+namespace {
+
+constexpr int UsualWidth = 80;
+
+} // namespace
+
+#ifdef _WIN32
+
+bool HostConsole::IsTerminal() const {
+    return _isatty(1) != 0;
+}
+
+int HostConsole::Width() const {
+    CONSOLE_SCREEN_BUFFER_INFO info;
+    if (GetConsoleScreenBufferInfo(GetStdHandle(STD_OUTPUT_HANDLE), &info) == 0) {
+        return UsualWidth;
+    }
+    return info.srWindow.Right - info.srWindow.Left + 1;
+}
+
+#else
+
+bool HostConsole::IsTerminal() const {
+    return isatty(STDOUT_FILENO) != 0;
+}
+
+int HostConsole::Width() const {
+    winsize size{};
+    if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0) {
+        return UsualWidth;
+    }
+    return size.ws_col;
+}
+
+#endif
+
+} // namespace quorvex::platform::disk

@@ -1,0 +1,271 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/disk/HostFile.h"
+
+#include "text/RunTimeError.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <system_error>
+
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <process.h>
+#include <sys/stat.h>
+#include <windows.h>
+#else
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace quorvex::platform::disk {
+
+namespace {
+
+using text::Fault;
+using text::RunTimeError;
+
+// The two systems differ in the names of the same calls and in little else.
+#ifdef _WIN32
+
+constexpr int ReadFlags = _O_RDONLY | _O_BINARY | _O_NOINHERIT;
+constexpr int CreateFlags = _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT;
+
+int OpenDescriptor(std::filesystem::path const& path, int flags) {
+    return _wopen(path.c_str(), flags, _S_IREAD | _S_IWRITE);
+}
+
+std::ptrdiff_t ReadDescriptor(int descriptor, char* bytes, std::size_t count) {
+    return _read(descriptor, bytes, static_cast<unsigned>(std::min<std::size_t>(count, 1U << 30)));
+}
+
+std::ptrdiff_t WriteDescriptor(int descriptor, char const* bytes, std::size_t count) {
+    return _write(descriptor, bytes, static_cast<unsigned>(std::min<std::size_t>(count, 1U << 30)));
+}
+
+int FlushDescriptor(int descriptor) {
+    return _commit(descriptor);
+}
+
+int CloseDescriptor(int descriptor) {
+    return _close(descriptor);
+}
+
+// _wopen refuses a folder by itself.
+bool IsFolder(int) {
+    return false;
+}
+
+#else
+
+constexpr int ReadFlags = O_RDONLY | O_CLOEXEC;
+constexpr int CreateFlags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
+
+int OpenDescriptor(std::filesystem::path const& path, int flags) {
+    constexpr mode_t EverybodyLessUmask = 0666;
+    return open(path.c_str(), flags, EverybodyLessUmask);
+}
+
+std::ptrdiff_t ReadDescriptor(int descriptor, char* bytes, std::size_t count) {
+    return read(descriptor, bytes, count);
+}
+
+std::ptrdiff_t WriteDescriptor(int descriptor, char const* bytes, std::size_t count) {
+    return write(descriptor, bytes, count);
+}
+
+int FlushDescriptor(int descriptor) {
+    return fsync(descriptor);
+}
+
+int CloseDescriptor(int descriptor) {
+    return close(descriptor);
+}
+
+bool IsFolder(int descriptor) {
+    struct stat status {};
+
+    return fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+#endif
+
+bool FolderExists(std::filesystem::path const& path) {
+    std::error_code ignored;
+    auto const folder = path.parent_path();
+    return folder.empty() || std::filesystem::is_directory(folder, ignored);
+}
+
+Fault FaultOf(int error, std::filesystem::path const& path) {
+    switch (error) {
+    case ENOENT:
+        return path.empty()         ? Fault::BadFileName
+               : FolderExists(path) ? Fault::FileNotFound
+                                    : Fault::PathNotFound;
+    case ENOTDIR:
+        return Fault::PathNotFound;
+    case ENOSPC:
+    case EFBIG:
+#ifdef EDQUOT
+    case EDQUOT:
+#endif
+        return Fault::DiskFull;
+    case EINVAL:
+    case ENAMETOOLONG:
+    case ELOOP:
+        return Fault::BadFileName;
+    default:
+        return Fault::PermissionDenied;
+    }
+}
+
+[[noreturn]] void Raise(int error, std::filesystem::path const& path) {
+    throw RunTimeError(FaultOf(error, path));
+}
+
+// An open file, closed with its owner.
+class HostFile {
+public:
+    HostFile(std::filesystem::path const& path, int flags)
+        : path_(path),
+          descriptor_(OpenDescriptor(path, flags)) {
+        if (descriptor_ < 0) {
+            Raise(errno, path_);
+        }
+        if (IsFolder(descriptor_)) {
+            CloseDescriptor(descriptor_);
+            throw RunTimeError(Fault::PermissionDenied);
+        }
+    }
+
+    HostFile(HostFile const&) = delete;
+    HostFile& operator=(HostFile const&) = delete;
+
+    ~HostFile() {
+        if (descriptor_ >= 0) {
+            CloseDescriptor(descriptor_);
+        }
+    }
+
+    [[nodiscard]] std::size_t Read(std::span<char> buffer) const {
+        for (;;) {
+            auto const count = ReadDescriptor(descriptor_, buffer.data(), buffer.size());
+            if (count >= 0) {
+                return static_cast<std::size_t>(count);
+            }
+            if (errno != EINTR) {
+                Raise(errno, path_);
+            }
+        }
+    }
+
+    void Write(std::string_view bytes) const {
+        while (!bytes.empty()) {
+            auto const count = WriteDescriptor(descriptor_, bytes.data(), bytes.size());
+            if (count >= 0) {
+                bytes.remove_prefix(static_cast<std::size_t>(count));
+            } else if (errno != EINTR) {
+                Raise(errno, path_);
+            }
+        }
+    }
+
+    // Waits for the disk; an error that the system reports only on closing is not lost.
+    void FlushAndClose() {
+        if (FlushDescriptor(descriptor_) != 0) {
+            Raise(errno, path_);
+        }
+        int const descriptor = descriptor_;
+        descriptor_ = -1;
+        if (CloseDescriptor(descriptor) != 0 && errno != EINTR) {
+            Raise(errno, path_);
+        }
+    }
+
+private:
+    std::filesystem::path path_;
+    int descriptor_;
+};
+
+class HostFileSource final : public text::ByteSource {
+public:
+    explicit HostFileSource(std::filesystem::path const& path) : file_(path, ReadFlags) {}
+
+    [[nodiscard]] std::size_t Read(std::span<char> buffer) override { return file_.Read(buffer); }
+
+private:
+    HostFile file_;
+};
+
+} // namespace
+
+std::unique_ptr<text::ByteSource> OpenHostFile(std::filesystem::path const& path) {
+    return std::make_unique<HostFileSource>(path);
+}
+
+void WriteNewHostFile(std::filesystem::path const& path, std::string_view content) {
+    HostFile file(path, CreateFlags);
+    auto const error = text::Trap([&] {
+        file.Write(content);
+        file.FlushAndClose();
+    });
+    if (error) {
+        std::error_code ignored;
+        std::filesystem::remove(path, ignored);
+        throw RunTimeError(error->Kind());
+    }
+}
+
+#ifdef _WIN32
+
+void MoveHostFile(std::filesystem::path const& from, std::filesystem::path const& to) {
+    if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0) {
+        throw RunTimeError(Fault::PermissionDenied);
+    }
+}
+
+bool IsWriteProtected(std::filesystem::path const& path) {
+    DWORD const attributes = GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
+unsigned ProcessNumber() {
+    return static_cast<unsigned>(_getpid());
+}
+
+#else
+
+void MoveHostFile(std::filesystem::path const& from, std::filesystem::path const& to) {
+    struct stat status {};
+
+    if (stat(to.c_str(), &status) == 0 && chmod(from.c_str(), status.st_mode & 07777) != 0) {
+        Raise(errno, to);
+    }
+    if (rename(from.c_str(), to.c_str()) != 0) {
+        Raise(errno, to);
+    }
+    // The new name outlives a power failure only once the folder is on the disk. Some file systems cannot
+    // flush a folder; the rename itself stands either way.
+    auto const folder = to.parent_path();
+    int const descriptor = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor >= 0) {
+        fsync(descriptor);
+        close(descriptor);
+    }
+}
+
+bool IsWriteProtected(std::filesystem::path const& path) {
+    // Asks with the effective user, who will do the writing.
+    return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0 && errno == EACCES;
+}
+
+unsigned ProcessNumber() {
+    return static_cast<unsigned>(getpid());
+}
+
+#endif
+
+} // namespace quorvex::platform::disk

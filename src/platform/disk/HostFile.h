@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// The operating system's calls for one file. Every fault of the system comes out as a text::RunTimeError.
+#pragma once
+
+#include "text/basFields.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <memory>
+#include <span>
+#include <string_view>
+
+namespace quorvex::platform::disk {
+
+// The file opened for reading from its start.
+[[nodiscard]] std::unique_ptr<text::ByteSource> OpenHostFile(std::filesystem::path const& path);
+
+// Creates the file, which must not exist, with this content and waits until the disk holds it. A file that
+// could not be written whole is gone again.
+void WriteNewHostFile(std::filesystem::path const& path, std::string_view content);
+
+// Puts the file in the place of the other one in a single step, with the other one's permissions when there
+// is one.
+void MoveHostFile(std::filesystem::path const& from, std::filesystem::path const& to);
+
+// Whether the file exists and may not be written.
+[[nodiscard]] bool IsWriteProtected(std::filesystem::path const& path);
+
+// A number that no other running process has, for names of temporary files.
+[[nodiscard]] unsigned ProcessNumber();
+
+} // namespace quorvex::platform::disk

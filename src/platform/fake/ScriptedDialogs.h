@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/Dialogs.h"
+
+#include <deque>
+#include <string>
+#include <vector>
+
+namespace quorvex::platform::fake {
+
+// Dialogs for tests: keeps what was shown and answers from a script. A question that the script does not
+// foresee is a mistake of the test and throws std::logic_error.
+class ScriptedDialogs final : public Dialogs {
+public:
+    Answer Show(Message const& message) override;
+    [[nodiscard]] std::string Ask(Question const& question) override;
+    [[nodiscard]] std::optional<std::string> ChooseQuoteFile(std::span<std::string const> names) override;
+    [[nodiscard]] std::optional<std::string> ChooseParameterFile(std::span<std::string const> names) override;
+
+    // What was shown, in order.
+    std::vector<Message> Messages;
+    std::vector<Question> Questions;
+    std::vector<std::vector<std::string>> OfferedFiles;
+
+    // What to answer, first one first. A box with only an OK button needs no answer.
+    std::deque<Answer> Answers;
+    std::deque<std::string> Texts;
+    std::deque<std::optional<std::string>> Choices;
+
+private:
+    std::optional<std::string> Choose(std::span<std::string const> names);
+};
+
+} // namespace quorvex::platform::fake

@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "quotes/basDisk.h"
+
+#include "platform/basMessages.h"
+#include "text/RunTimeError.h"
+#include "text/basDates.h"
+#include "text/basNumbers.h"
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+namespace quorvex::quotes {
+
+namespace {
+
+using text::Fault;
+using text::RunTimeError;
+
+// The numbers of a line, in the order in which they stand.
+constexpr std::array<double QuoteRecord::*, 6> Numbers = {&QuoteRecord::Open,   &QuoteRecord::High,
+                                                          &QuoteRecord::Low,    &QuoteRecord::Close,
+                                                          &QuoteRecord::Volume, &QuoteRecord::OpenInterest};
+constexpr std::size_t NumberCount = Numbers.size();
+
+// A line as it stands in the file, its numbers not yet rounded.
+struct QuoteLine {
+    std::optional<text::CalendarDay> Date;
+    std::array<double, NumberCount> Values{};
+
+    [[nodiscard]] bool IsQuote() const {
+        return Date && text::RequireFinite(Values[0] * Values[1] * Values[2] * Values[3]) > 0;
+    }
+};
+
+// A file that ends inside a line leaves its last fields empty.
+std::string_view TakeOrEmpty(text::FieldReader& fields) {
+    return fields.AtEnd() ? std::string_view() : fields.Take();
+}
+
+QuoteLine ReadLine(text::FieldReader& fields) {
+    QuoteLine line;
+    line.Date = text::ParseDate(TakeOrEmpty(fields));
+    for (double& value : line.Values) {
+        value = text::LeadingNumber(TakeOrEmpty(fields));
+    }
+    return line;
+}
+
+QuoteRecord Rounded(QuoteLine const& line, text::NumberFormat const& format) {
+    QuoteRecord record;
+    record.Date = text::FormatDate(*line.Date);
+    for (std::size_t index = 0; index < NumberCount; ++index) {
+        record.*Numbers[index] = format.Round(line.Values[index]);
+    }
+    return record;
+}
+
+void RefuseQuoteFile(QuoteSeries& series, platform::Dialogs& dialogs) {
+    dialogs.Show({"A minimum of 25 daily quotes is required to perform cyclical analysis",
+                  "Quorvex Requirements", platform::Icon::Information});
+    series.QuoteFileName.clear();
+    series.QuoteCount = 0;
+    series.WorkingCount = 0;
+}
+
+// A quote file is the user's data: a number goes into it only in a form that the reader takes back unchanged.
+void AppendReadableNumber(std::string& text, double value, text::NumberFormat const& format) {
+    std::size_t const begin = text.size();
+    format.AppendTo(text, value);
+    std::string_view const field = std::string_view(text).substr(begin);
+    if (field.find_first_of(",\"\r\n") != std::string_view::npos ||
+        text::LeadingNumber(field) != format.Round(value)) {
+        throw RunTimeError(Fault::TypeMismatch);
+    }
+}
+
+} // namespace
+
+std::int16_t ReadQuotes(text::ByteSource& source, text::NumberFormat const& format, QuoteSeries& series) {
+    text::FieldReader fields(source);
+    std::int16_t count = 0;
+    while (!fields.AtEnd()) {
+        QuoteLine const line = ReadLine(fields);
+        if (!line.IsQuote()) {
+            continue;
+        }
+        if (count == MaxQuotes) {
+            break;
+        }
+        ++count;
+        series.Master[count] = Rounded(line, format);
+        series.Working[count] = series.Master[count];
+    }
+    return count;
+}
+
+std::int16_t LoadQuoteFile(QuoteSeries& series, prefs::Settings const& settings, platform::Files const& files,
+                           platform::Dialogs& dialogs) {
+    std::int16_t count = 0;
+    auto const error = text::Trap([&] {
+        auto const source = files.OpenForInput(settings.DataPath + series.QuoteFileName);
+        count = ReadQuotes(*source, text::NumberFormat(settings.CurrencyFormat), series);
+    });
+    if (error) {
+        platform::ShowError(dialogs, *error);
+        return 0;
+    }
+    if (count < MinQuotes) {
+        RefuseQuoteFile(series, dialogs);
+        return 0;
+    }
+    series.QuoteCount = count;
+    series.WorkingCount = count;
+    TakeDatesOfWorkingCopy(series);
+    return count;
+}
+
+std::string QuoteFileText(QuoteSeries const& series, text::NumberFormat const& format) {
+    constexpr std::size_t UsualLineLength = 80;
+    std::string text;
+    text.reserve(static_cast<std::size_t>(series.WorkingCount) * UsualLineLength);
+    for (std::int16_t day = 1; day <= series.WorkingCount; ++day) {
+        QuoteRecord const& record = series.Working[day];
+        text += record.Date;
+        for (auto const number : Numbers) {
+            text += ", ";
+            AppendReadableNumber(text, record.*number, format);
+        }
+        text += "\r\n";
+    }
+    return text;
+}
+
+bool SaveQuoteFile(std::string const& fileName, QuoteSeries& series, prefs::Settings const& settings,
+                   platform::Files& files, platform::Dialogs& dialogs) {
+    auto const error = text::Trap([&] {
+        files.Replace(settings.DataPath + fileName,
+                      QuoteFileText(series, text::NumberFormat(settings.CurrencyFormat)));
+    });
+    if (error) {
+        platform::ShowError(dialogs, *error);
+        return false;
+    }
+    for (std::int16_t day = 1; day <= series.WorkingCount; ++day) {
+        series.Master[day] = series.Working[day];
+    }
+    series.QuoteCount = series.WorkingCount;
+    if (series.WorkingCount > 0) {
+        TakeDatesOfWorkingCopy(series);
+    }
+    return true;
+}
+
+} // namespace quorvex::quotes

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// Reading and writing quote files. docs/formats/quote-file.md describes the format.
+#pragma once
+
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "prefs/Settings.h"
+#include "quotes/QuoteSeries.h"
+#include "text/basFields.h"
+#include "text/basFormats.h"
+
+#include <cstdint>
+#include <string>
+
+namespace quorvex::quotes {
+
+// Reads quotes, oldest first, into both copies from day 1 on and returns how many days were stored, 0..500. A
+// line whose date is none, or whose four prices have a product that is not above zero, is skipped; reading
+// ends behind day 500. Every number is rounded through the format. Counts, dates and name of the series are
+// left alone. A fault of the source, and "Overflow" of a number beyond a double, leave the days stored so
+// far.
+[[nodiscard]] std::int16_t ReadQuotes(text::ByteSource& source, text::NumberFormat const& format,
+                                      QuoteSeries& series);
+
+// Reads the quote file named by the series from the data folder into both copies, oldest day first, prices
+// rounded through the currency format. Returns the number of days, 25..500, or 0 when the file was refused:
+// then a message was shown and no file is open. A file that cannot be read returns 0 too, after its fault was
+// shown, and leaves the series as it was at that point.
+std::int16_t LoadQuoteFile(QuoteSeries& series, prefs::Settings const& settings, platform::Files const& files,
+                           platform::Dialogs& dialogs);
+
+// The working copy as the text of a quote file. Raises "Type mismatch" when the format spells numbers in a
+// way that would not read back as the same numbers, such as with thousands commas.
+[[nodiscard]] std::string QuoteFileText(QuoteSeries const& series, text::NumberFormat const& format);
+
+// Writes the working copy into the data folder under the name, which may be in use, and makes it the master
+// copy. Returns false after a fault was shown: then the series and any file of that name are as they were.
+bool SaveQuoteFile(std::string const& fileName, QuoteSeries& series, prefs::Settings const& settings,
+                   platform::Files& files, platform::Dialogs& dialogs);
+
+} // namespace quorvex::quotes

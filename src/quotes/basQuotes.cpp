@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "quotes/basQuotes.h"
+
+#include "platform/basMessages.h"
+#include "quotes/basDisk.h"
+#include "text/basFolders.h"
+
+namespace quorvex::quotes {
+
+bool RequireQuotes(QuoteSeries const& series, platform::Dialogs& dialogs) {
+    if (!series.HasQuotes()) {
+        platform::ShowNoQuotesMessage(dialogs);
+    }
+    return series.HasQuotes();
+}
+
+void OpenQuoteFile(QuoteSeries& series, prefs::Settings const& settings, platform::Files const& files,
+                   platform::Dialogs& dialogs) {
+    auto const names = files.List(settings.DataPath, QuoteFilePattern);
+    if (names.empty()) {
+        platform::ShowWarning(dialogs, "Cannot find daily quote text files.");
+        return;
+    }
+    series.QuoteFileName = dialogs.ChooseQuoteFile(names).value_or("");
+    if (series.HasQuotes()) {
+        LoadQuoteFile(series, settings, files, dialogs);
+    }
+}
+
+void CloseQuoteFile(QuoteSeries& series) {
+    series.QuoteFileName.clear();
+    series.WorkingCount = 0;
+    series.QuoteCount = 0;
+}
+
+bool IsQuoteFileName(std::string_view name) {
+    return text::IsNameWithExtension(text::Trim(name), ".TXT");
+}
+
+void SaveQuoteFileAs(QuoteSeries& series, prefs::Settings const& settings, platform::Files& files,
+                     platform::Dialogs& dialogs) {
+    std::string const answer =
+        dialogs.Ask({"Save " + series.QuoteFileName + " As...", "Save As...", series.QuoteFileName});
+    if (!IsQuoteFileName(answer)) {
+        dialogs.Show(
+            {"Invalid data file name", std::string(platform::ApplicationTitle), platform::Icon::Critical});
+        return;
+    }
+    std::string const name(text::Trim(answer));
+    if (SaveQuoteFile(name, series, settings, files, dialogs)) {
+        series.QuoteFileName = name;
+    }
+}
+
+} // namespace quorvex::quotes

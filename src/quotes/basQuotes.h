@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// The File commands that choose, close and save a quote file, without their windows.
+#pragma once
+
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "prefs/Settings.h"
+#include "quotes/QuoteSeries.h"
+
+#include <string>
+#include <string_view>
+
+namespace quorvex::quotes {
+
+// The quote files of the data folder.
+inline constexpr std::string_view QuoteFilePattern = "*.Txt";
+
+// Whether a quote file is open. When none is, tells the user to open one.
+[[nodiscard]] bool RequireQuotes(QuoteSeries const& series, platform::Dialogs& dialogs);
+
+// Lets the user choose among the quote files of the data folder and loads the one chosen. Cancelling closes
+// the file that was open.
+void OpenQuoteFile(QuoteSeries& series, prefs::Settings const& settings, platform::Files const& files,
+                   platform::Dialogs& dialogs);
+
+// Closes the quote file. The records stay where they are; nothing uses them without a file name.
+void CloseQuoteFile(QuoteSeries& series);
+
+// Whether a name, trimmed, is one that quotes can be saved under: five characters at least, ending with
+// ".TXT" in either case.
+[[nodiscard]] bool IsQuoteFileName(std::string_view name);
+
+// Asks for a name and saves the working copy under it, which becomes the open file's name when that succeeds.
+void SaveQuoteFileAs(QuoteSeries& series, prefs::Settings const& settings, platform::Files& files,
+                     platform::Dialogs& dialogs);
+
+} // namespace quorvex::quotes

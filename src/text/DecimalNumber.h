@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// A double as its decimal text with 15 significant digits, the form in which numbers are rounded for display.
+#pragma once
+
+#include <cstdint>
+
+namespace quorvex::text {
+
+// The number +-Digits x 10^Exponent. Digits has at most 15 decimal digits.
+struct DecimalNumber {
+    bool Negative = false;
+    std::uint64_t Digits = 0;
+    int Exponent = 0;
+};
+
+// The decimal number of 15 significant digits nearest to the finite value, without trailing zero digits.
+[[nodiscard]] DecimalNumber ToDecimal(double value);
+
+// The number rounded to so many decimals, half away from zero; its exponent is then -decimals or more.
+[[nodiscard]] DecimalNumber RoundHalfAway(DecimalNumber number, int decimals);
+
+// The double nearest to the number; raises "Overflow" when it is beyond the range of a double.
+[[nodiscard]] double ToDouble(DecimalNumber number);
+
+} // namespace quorvex::text

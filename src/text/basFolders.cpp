@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "text/basFolders.h"
+
+#include <cstddef>
+
+namespace quorvex::text {
+
+namespace {
+
+constexpr std::size_t ShortestName = 5;
+
+char Upper(char letter) {
+    return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+}
+
+} // namespace
+
+std::string EndWithSeparator(std::string_view folder) {
+    std::string ended(folder);
+    if (ended.ends_with('\\') || ended.ends_with('/')) {
+        return ended;
+    }
+    bool const posixStyle =
+        folder.find('/') != std::string_view::npos && folder.find('\\') == std::string_view::npos;
+    ended += posixStyle ? '/' : '\\';
+    return ended;
+}
+
+bool MatchesPattern(std::string_view name, std::string_view pattern) {
+    // The usual two-finger walk: on a mismatch the last star takes one more character.
+    std::size_t at = 0;
+    std::size_t rule = 0;
+    std::size_t star = std::string_view::npos;
+    std::size_t afterStar = 0;
+    while (at < name.size()) {
+        if (rule < pattern.size() && pattern[rule] == '*') {
+            star = rule++;
+            afterStar = at;
+        } else if (rule < pattern.size() &&
+                   (pattern[rule] == '?' || Upper(pattern[rule]) == Upper(name[at]))) {
+            ++rule;
+            ++at;
+        } else if (star != std::string_view::npos) {
+            rule = star + 1;
+            at = ++afterStar;
+        } else {
+            return false;
+        }
+    }
+    while (rule < pattern.size() && pattern[rule] == '*') {
+        ++rule;
+    }
+    return rule == pattern.size();
+}
+
+std::string UpperCase(std::string_view text) {
+    std::string raised(text);
+    for (char& letter : raised) {
+        letter = Upper(letter);
+    }
+    return raised;
+}
+
+std::string_view Trim(std::string_view text) {
+    auto const first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+bool IsNameWithExtension(std::string_view name, std::string_view extension) {
+    return name.size() >= ShortestName && UpperCase(name).ends_with(extension);
+}
+
+} // namespace quorvex::text

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// Numbers read from texts and whole numbers made of doubles. The decimal mark is always the point, whatever
+// the system's locale says.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace quorvex::text {
+
+// The number at the start of the text, 0 when there is none. Leading blanks and tabs are skipped; then come
+// an optional sign, digits with at most one point, and an optional exponent (e, E, d or D, an optional sign,
+// one digit at least): "12abc" is 12, ".5" is 0.5, "1e" is 1, "1,234" is 1, "-" is 0. Raises "Overflow"
+// beyond the range of a double.
+[[nodiscard]] double LeadingNumber(std::string_view text);
+
+// The number that the whole text is, blanks around it aside; commas between the digits in front of the point
+// are thousands marks. Raises "Type mismatch" for anything else and "Overflow" beyond the range of a double.
+[[nodiscard]] double StrictNumber(std::string_view text);
+
+// The nearest whole number, a half to the even neighbour. Raises "Overflow" outside -32768..32767.
+[[nodiscard]] std::int16_t WholeNumber(double value);
+
+// The shortest text that reads back as the same double: "245.5", "0.662", "100000", "1e+20".
+[[nodiscard]] std::string PlainNumber(double value);
+
+} // namespace quorvex::text

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "RunningProgram.h"
+
+#include "app/basCommands.h"
+
+namespace quorvex::app {
+
+RunningProgram::RunningProgram() {
+    StartUp(*Data, Grid, "C:\\Quorvex");
+}
+
+void RunningProgram::Open(std::string const& name, std::string const& text) {
+    Files.Contents["C:\\Quorvex\\" + name] = text;
+    Dialogs.Choices = {name};
+    FileOpen(*Data, Outside);
+}
+
+void RunningProgram::TypeCycle(int cycle, std::string const& weight, std::string const& period) {
+    Grid.SetText(cycles::Parameter::Weight, cycle, weight);
+    Grid.SetText(cycles::Parameter::Period, cycle, period);
+}
+
+} // namespace quorvex::app

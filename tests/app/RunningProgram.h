@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "app/Program.h"
+#include "platform/fake/MemoryFiles.h"
+#include "platform/fake/ScriptedDialogs.h"
+
+#include <memory>
+#include <string>
+
+namespace quorvex::app {
+
+// A started program in a world of the test's own: files in memory, scripted dialogs, a grid of texts.
+class RunningProgram {
+public:
+    RunningProgram();
+
+    // Puts the file into the data folder and opens it through the chooser.
+    void Open(std::string const& name, std::string const& text);
+
+    // Types weight and period of a cycle.
+    void TypeCycle(int cycle, std::string const& weight, std::string const& period);
+
+    std::unique_ptr<Program> Data = std::make_unique<Program>();
+    cycles::TextGrid Grid;
+    platform::fake::MemoryFiles Files;
+    platform::fake::ScriptedDialogs Dialogs;
+    platform::NoPendingMessages Pending;
+    Services Outside{Grid, Dialogs, Files, Pending};
+};
+
+} // namespace quorvex::app

@@ -1,0 +1,204 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "app/basCommands.h"
+
+#include "RunningProgram.h"
+#include "support/Golden.h"
+#include "support/Messages.h"
+#include "support/QuoteTexts.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvex::app {
+namespace {
+
+using platform::Icon;
+using tests::GoldenFile;
+using tests::IsOnlyMessage;
+using tests::QuoteLines;
+
+constexpr auto NoQuotes = "Please use File Open option to load a quote data file";
+
+TEST(Commands, OpenLoadsAndComputes) {
+    RunningProgram running;
+    running.Open("corn.txt", QuoteLines(30));
+    EXPECT_EQ(running.Data->Quotes.QuoteFileName, "corn.txt");
+    EXPECT_EQ(running.Data->Quotes.WorkingCount, 30);
+    EXPECT_EQ(running.Data->Curves.MovingAverageCurve[30], 130);
+}
+
+TEST(Commands, CloseForgetsTheQuotesAndKeepsTheCycles) {
+    RunningProgram running;
+    running.Open("q060.txt", GoldenFile("quotes/q060.txt"));
+    ParametersAutomate(1, *running.Data, running.Outside);
+    double const period = running.Data->Cycles.Cycles[1].Period;
+    FileClose(*running.Data);
+    EXPECT_FALSE(running.Data->Quotes.HasQuotes());
+    EXPECT_EQ(running.Data->Quotes.WorkingCount, 0);
+    EXPECT_EQ(running.Data->Cycles.Cycles[1].Period, period);
+    EXPECT_NE(period, 0);
+}
+
+TEST(Commands, ACancelledSaveAsReportsAnInvalidName) {
+    RunningProgram running;
+    running.Open("corn.txt", QuoteLines(30));
+    running.Dialogs.Texts = {""};
+    FileSaveAs(*running.Data, running.Outside);
+    EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Invalid data file name", "Quorvex", Icon::Critical));
+}
+
+TEST(Commands, SaveAsWritesTheQuotes) {
+    RunningProgram running;
+    running.Open("corn.txt", QuoteLines(30));
+    running.Dialogs.Texts = {"copy.txt"};
+    FileSaveAs(*running.Data, running.Outside);
+    EXPECT_EQ(running.Files.Contents.at("C:\\Quorvex\\copy.txt"), QuoteLines(30));
+    EXPECT_EQ(running.Data->Quotes.QuoteFileName, "copy.txt");
+}
+
+TEST(Commands, WithoutQuotesAnalysesOnlyAskForThem) {
+    for (int command = 0; command < 5; ++command) {
+        SCOPED_TRACE(command);
+        RunningProgram running;
+        running.TypeCycle(1, "50", "20");
+        if (command < 3) {
+            ParametersAutomate(command + 1, *running.Data, running.Outside);
+        } else if (command == 3) {
+            Correlation(*running.Data, running.Outside);
+        } else {
+            EXPECT_FALSE(RequireForecast(*running.Data, running.Outside));
+        }
+        EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, NoQuotes, "Quorvex", Icon::Information));
+        EXPECT_EQ(running.Grid.Text(cycles::Parameter::Weight, 1), "50");
+    }
+}
+
+TEST(Commands, AutomateTakesTheFitUpFromTheGrid) {
+    RunningProgram running;
+    running.Open("q250.txt", GoldenFile("quotes/q250.txt"));
+    ParametersAutomate(3, *running.Data, running.Outside);
+    EXPECT_TRUE(running.Dialogs.Messages.empty());
+    EXPECT_EQ(running.Grid.Text(cycles::Parameter::Period, 1), "14");
+    EXPECT_EQ(running.Data->Cycles.Cycles[1].Weight, 50);
+    EXPECT_EQ(running.Data->Cycles.Cycles[3].Weight, 16);
+    EXPECT_NE(running.Data->Curves.CompositeCurve[1], 0);
+}
+
+TEST(Commands, OneCycleIsFittedToTheMovingAverageAsItStands) {
+    RunningProgram running;
+    running.Open("q250.txt", GoldenFile("quotes/q250.txt"));
+    running.Data->Settings.MovingAverageIndex = "25";
+    ParametersAutomate(1, *running.Data, running.Outside);
+    EXPECT_EQ(running.Grid.Text(cycles::Parameter::Period, 1), "14"); // of length 3
+    ParametersAutomate(2, *running.Data, running.Outside);
+    EXPECT_EQ(running.Grid.Text(cycles::Parameter::Period, 1), "19"); // of length 25
+}
+
+TEST(Commands, AFitThatFailsShowsItsDescription) {
+    RunningProgram running;
+    running.Open("corn.txt", QuoteLines(30));
+    running.Data->Curves.MovingAverageCurve.Fill(0);
+    ParametersAutomate(1, *running.Data, running.Outside);
+    EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Division by zero", "Quorvex", Icon::None));
+    EXPECT_EQ(running.Grid.Text(cycles::Parameter::Weight, 1), "0");
+}
+
+TEST(Commands, CorrelationReportsAPercentage) {
+    RunningProgram running;
+    running.Open("q250.txt", GoldenFile("quotes/q250.txt"));
+    ParametersAutomate(3, *running.Data, running.Outside);
+    Correlation(*running.Data, running.Outside);
+    ASSERT_EQ(running.Dialogs.Messages.size(), 1U);
+    EXPECT_EQ(running.Dialogs.Messages[0].Title, "Quorvex - Coefficient of Correlation");
+    EXPECT_EQ(running.Dialogs.Messages[0].Shown, Icon::Information);
+    EXPECT_TRUE(running.Dialogs.Messages[0].Text.ends_with('%'));
+}
+
+TEST(Commands, CorrelationAfterNewFindsInsufficientData) {
+    RunningProgram running;
+    running.Open("q250.txt", GoldenFile("quotes/q250.txt"));
+    ParametersAutomate(3, *running.Data, running.Outside);
+    running.Dialogs.Answers = {platform::Answer::No};
+    ParametersNew(*running.Data, running.Outside);
+    running.Dialogs.Messages.clear();
+    Correlation(*running.Data, running.Outside);
+    EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Insufficient data to perform correlation",
+                              "Quorvex - Correlation", Icon::Information));
+}
+
+TEST(Commands, CorrelationOfFlatPricesShowsTheDivision) {
+    RunningProgram running;
+    running.Open("corn.txt", QuoteLines(30));
+    running.Data->Curves.CompositeCurve.Fill(1);
+    Correlation(*running.Data, running.Outside);
+    EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Division by zero", "Quorvex", Icon::None));
+}
+
+TEST(Commands, ForecastNeedsWeights) {
+    RunningProgram running;
+    running.Open("corn.txt", QuoteLines(30));
+    EXPECT_FALSE(RequireForecast(*running.Data, running.Outside));
+    EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages,
+                              "Insufficient cycle parameters data to create forecast values", "Quorvex",
+                              Icon::Exclamation));
+    running.Dialogs.Messages.clear();
+    running.TypeCycle(1, "50", "20");
+    EXPECT_TRUE(RequireForecast(*running.Data, running.Outside));
+    EXPECT_TRUE(running.Dialogs.Messages.empty());
+}
+
+TEST(Commands, ParametersOpenShowsAndTakesUpTheSet) {
+    RunningProgram running;
+    running.Files.Contents["C:\\Quorvex\\mine.dat"] = "1, 40, 10, 0\r\n3, 20, 5, 0\r\n";
+    running.Dialogs.Choices = {"mine.dat"};
+    ParametersOpen(*running.Data, running.Outside);
+    EXPECT_EQ(running.Grid.Text(cycles::Parameter::Weight, 1), "25");
+    EXPECT_EQ(running.Data->Cycles.Cycles[2].Weight, 75);
+    EXPECT_NE(running.Data->Curves.CompositeCurve[1], 0);
+}
+
+TEST(Commands, ParametersTooLargeForTheGridShowTheOverflow) {
+    RunningProgram running;
+    running.Files.Contents["C:\\Quorvex\\mine.dat"] = "1, 40000, 10, 0\r\n";
+    running.Dialogs.Choices = {"mine.dat"};
+    ParametersOpen(*running.Data, running.Outside);
+    EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Overflow", "Quorvex", Icon::None));
+}
+
+TEST(Commands, SaveAndSaveAsOfParametersWriteNoFile) {
+    RunningProgram running;
+    running.TypeCycle(1, "50", "20");
+    ParametersSave(running.Outside);
+    EXPECT_TRUE(running.Dialogs.Messages.empty());
+    running.Dialogs.Texts = {"mine.dat"};
+    ParametersSaveAs(*running.Data, running.Outside);
+    EXPECT_EQ(running.Dialogs.Messages.size(), 1U);
+    EXPECT_TRUE(running.Files.Contents.empty());
+}
+
+TEST(Commands, AWeightThatOverflowsIsReportedByEveryCommandThatSumsTheGrid) {
+    for (int command = 0; command < 4; ++command) {
+        SCOPED_TRACE(command);
+        RunningProgram running;
+        running.Open("corn.txt", QuoteLines(30));
+        running.TypeCycle(1, "1e999", "20");
+        switch (command) {
+        case 0:
+            ParametersNew(*running.Data, running.Outside);
+            break;
+        case 1:
+            ParametersSave(running.Outside);
+            break;
+        case 2:
+            ParametersSaveAs(*running.Data, running.Outside);
+            break;
+        default:
+            EXPECT_FALSE(RequireForecast(*running.Data, running.Outside));
+        }
+        EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Overflow", "Quorvex", Icon::None));
+    }
+}
+
+} // namespace
+} // namespace quorvex::app

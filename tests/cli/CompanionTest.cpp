@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "RunCompanion.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvex::tests {
+namespace {
+
+TEST(Companion, TellsItsVersion) {
+    auto const run = RunCompanion({"--version"});
+    EXPECT_EQ(run.ExitStatus, 0);
+    EXPECT_EQ(run.Output, "quorvex-cli 2.0.b\n");
+    EXPECT_EQ(run.Errors, "");
+}
+
+TEST(Companion, HelpsOnItselfAndOnEachSubCommand) {
+    auto const run = RunCompanion({"--help"});
+    EXPECT_EQ(run.ExitStatus, 0);
+    for (auto const* command : {"analyse", "format"}) {
+        EXPECT_NE(run.Output.find(command), std::string::npos);
+        auto const help = RunCompanion({command, "--help"});
+        EXPECT_EQ(help.ExitStatus, 0);
+        EXPECT_NE(help.Output.find("Usage: quorvex-cli " + std::string(command)), std::string::npos);
+        EXPECT_EQ(help.Errors, "");
+    }
+}
+
+TEST(Companion, EndsWithTwoOnWrongUsage) {
+    for (std::vector<std::string> const& arguments :
+         {std::vector<std::string>{},
+          {"nonsense"},
+          {"--nonsense"},
+          {"analyse"},
+          {"analyse", "a.txt", "--automate", "4"},
+          {"analyse", "a.txt", "--automate", "0"},
+          {"analyse", "a.txt", "--automate", "x"},
+          {"analyse", "a.txt", "b.txt"},
+          {"analyse", "a.txt", "--nonsense"},
+          {"analyse", "a.txt", "--start", "13/45/02"},
+          {"analyse", "a.txt", "--end", ""},
+          {"analyse", "a.txt", "--automate", "1", "--parameters", "p.dat"},
+          {"format"},
+          {"format", "0"}}) {
+        SCOPED_TRACE(testing::PrintToString(arguments));
+        auto const run = RunCompanion(arguments);
+        EXPECT_EQ(run.ExitStatus, 2);
+        EXPECT_EQ(run.Output, "");
+        EXPECT_NE(run.Errors, "");
+    }
+}
+
+} // namespace
+} // namespace quorvex::tests

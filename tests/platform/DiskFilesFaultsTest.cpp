@@ -1,0 +1,175 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// Faults of the file system that POSIX systems can be made to show: a full disk, folders and files without
+// permission, links, and a process that dies while it saves.
+
+#include "platform/disk/DiskFiles.h"
+#include "support/TemporaryFolder.h"
+#include "text/RunTimeError.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <filesystem>
+#include <optional>
+#include <random>
+#include <stdexcept>
+#include <string>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace quorvex::platform::disk {
+namespace {
+
+using text::Fault;
+
+constexpr uid_t Nobody = 65534;
+
+// The administrator may do everything, so the tests of permissions run as somebody else.
+class AsOrdinaryUser {
+public:
+    AsOrdinaryUser() {
+        if (geteuid() == 0 && seteuid(Nobody) != 0) {
+            throw std::runtime_error("Cannot become an ordinary user");
+        }
+    }
+
+    AsOrdinaryUser(AsOrdinaryUser const&) = delete;
+    AsOrdinaryUser& operator=(AsOrdinaryUser const&) = delete;
+
+    ~AsOrdinaryUser() {
+        if (geteuid() != getuid()) {
+            static_cast<void>(!seteuid(getuid()));
+        }
+    }
+};
+
+// Files may grow to this many bytes only, which fails the way a full disk does.
+class SmallDisk {
+public:
+    explicit SmallDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        rlimit const limit{bytes, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+
+    SmallDisk(SmallDisk const&) = delete;
+    SmallDisk& operator=(SmallDisk const&) = delete;
+
+    ~SmallDisk() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+
+private:
+    rlimit before_{};
+    void (*handler_)(int);
+};
+
+std::optional<Fault> FaultOfReplacing(std::string const& path, std::string_view content) {
+    auto const error = text::Trap([&] { DiskFiles().Replace(path, content); });
+    return error ? std::optional(error->Kind()) : std::nullopt;
+}
+
+std::optional<Fault> FaultOfOpening(std::string const& path) {
+    auto const error = text::Trap([&] { static_cast<void>(DiskFiles().OpenForInput(path)); });
+    return error ? std::optional(error->Kind()) : std::nullopt;
+}
+
+TEST(DiskFilesFaults, AFullDiskLeavesTheOldFileAndNoOther) {
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "old");
+    {
+        SmallDisk const small(1000);
+        EXPECT_EQ(FaultOfReplacing(folder.File("a.txt"), std::string(5000, 'x')), Fault::DiskFull);
+    }
+    EXPECT_EQ(folder.Read("a.txt"), "old");
+    EXPECT_EQ(folder.EntryCount(), 1);
+}
+
+TEST(DiskFilesFaults, AReadOnlyFolderLeavesTheOldFile) {
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "old");
+    chmod(folder.File("a.txt").c_str(), 0666);
+    chmod(folder.Path().c_str(), 0555);
+    {
+        AsOrdinaryUser const user;
+        EXPECT_EQ(FaultOfReplacing(folder.File("a.txt"), "new"), Fault::PermissionDenied);
+    }
+    EXPECT_EQ(folder.Read("a.txt"), "old");
+    EXPECT_EQ(folder.EntryCount(), 1);
+}
+
+TEST(DiskFilesFaults, AWriteProtectedFileStays) {
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "old");
+    chmod(folder.File("a.txt").c_str(), 0444);
+    chmod(folder.Path().c_str(), 0777);
+    {
+        AsOrdinaryUser const user;
+        EXPECT_EQ(FaultOfReplacing(folder.File("a.txt"), "new"), Fault::PermissionDenied);
+    }
+    EXPECT_EQ(folder.Read("a.txt"), "old");
+    EXPECT_EQ(folder.EntryCount(), 1);
+}
+
+TEST(DiskFilesFaults, AnUnreadableFileIsDenied) {
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "secret");
+    chmod(folder.File("a.txt").c_str(), 0);
+    chmod(folder.Path().c_str(), 0777);
+    AsOrdinaryUser const user;
+    EXPECT_EQ(FaultOfOpening(folder.File("a.txt")), Fault::PermissionDenied);
+}
+
+TEST(DiskFilesFaults, AFileKeepsItsPermissions) {
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "old");
+    chmod(folder.File("a.txt").c_str(), 0640);
+    EXPECT_EQ(FaultOfReplacing(folder.File("a.txt"), "new"), std::nullopt);
+
+    struct stat status {};
+
+    ASSERT_EQ(stat(folder.File("a.txt").c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777U, 0640U);
+}
+
+TEST(DiskFilesFaults, ALinkKeepsPointingAtTheReplacedFile) {
+    tests::TemporaryFolder const folder;
+    folder.Write("real.txt", "old");
+    std::filesystem::create_symlink(folder.File("real.txt"), folder.File("link.txt"));
+    EXPECT_EQ(FaultOfReplacing(folder.File("link.txt"), "new"), std::nullopt);
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.File("link.txt")));
+    EXPECT_EQ(folder.Read("real.txt"), "new");
+}
+
+TEST(DiskFilesFaults, AProcessThatDiesWhileSavingLeavesTheOldOrTheNewFile) {
+    constexpr int Deaths = 60;
+    constexpr unsigned LongestLife = 3000; // microseconds
+    tests::TemporaryFolder const folder;
+    std::string const old(40'000, 'o');
+    std::string const fresh(40'000, 'n');
+    std::mt19937 random(20260101);
+    for (int death = 0; death < Deaths; ++death) {
+        folder.Write("a.txt", old);
+        pid_t const child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            DiskFiles files;
+            for (;;) {
+                files.Replace(folder.File("a.txt"), fresh);
+            }
+        }
+        usleep(static_cast<unsigned>(random()) % LongestLife);
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        std::string const left = folder.Read("a.txt");
+        ASSERT_TRUE(left == old || left == fresh) << left.size() << " bytes";
+    }
+}
+
+} // namespace
+} // namespace quorvex::platform::disk

@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/disk/DiskFiles.h"
+
+#include "support/TemporaryFolder.h"
+#include "text/RunTimeError.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <filesystem>
+#include <optional>
+
+namespace quorvex::platform::disk {
+namespace {
+
+using testing::UnorderedElementsAre;
+using text::Fault;
+
+std::optional<Fault> FaultOfOpening(std::string const& path) {
+    auto const error = text::Trap([&] { static_cast<void>(DiskFiles().OpenForInput(path)); });
+    return error ? std::optional(error->Kind()) : std::nullopt;
+}
+
+std::optional<Fault> FaultOfReplacing(std::string const& path) {
+    auto const error = text::Trap([&] { DiskFiles().Replace(path, "new"); });
+    return error ? std::optional(error->Kind()) : std::nullopt;
+}
+
+TEST(DiskFiles, ReadAFileInPieces) {
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "hello");
+    auto const source = DiskFiles().OpenForInput(folder.File("a.txt"));
+    std::array<char, 3> buffer{};
+    EXPECT_EQ(source->Read(buffer), 3U);
+    EXPECT_EQ(std::string(buffer.data(), 3), "hel");
+    EXPECT_EQ(source->Read(buffer), 2U);
+    EXPECT_EQ(source->Read(buffer), 0U);
+    EXPECT_EQ(source->Read(buffer), 0U);
+}
+
+TEST(DiskFiles, TellWhyAFileCannotBeRead) {
+    tests::TemporaryFolder const folder;
+    EXPECT_EQ(FaultOfOpening(folder.File("gone.txt")), Fault::FileNotFound);
+    EXPECT_EQ(FaultOfOpening(folder.File("nowhere/gone.txt")), Fault::PathNotFound);
+    EXPECT_EQ(FaultOfOpening(folder.Text()), Fault::PermissionDenied);
+    EXPECT_EQ(FaultOfOpening(""), Fault::BadFileName);
+    EXPECT_EQ(FaultOfOpening(folder.File(std::string("a\0b.txt", 7))), Fault::BadFileName);
+    EXPECT_EQ(FaultOfOpening(folder.File(std::string(5000, 'x'))), Fault::BadFileName);
+    folder.Write("a.txt", "");
+    EXPECT_EQ(FaultOfOpening(folder.File("a.txt/b.txt")), Fault::PathNotFound);
+}
+
+TEST(DiskFiles, TakeBackslashesAsSeparators) {
+    tests::TemporaryFolder const folder;
+    std::filesystem::create_directory(folder.File("sub"));
+    folder.Write("sub/a.txt", "x");
+    EXPECT_EQ(FaultOfOpening(folder.File("sub\\a.txt")), std::nullopt);
+    DiskFiles().Replace(folder.File("sub\\b.txt"), "y");
+    EXPECT_EQ(folder.Read("sub/b.txt"), "y");
+    EXPECT_THAT(DiskFiles().List(folder.File("sub\\"), "*.txt"), UnorderedElementsAre("a.txt", "b.txt"));
+}
+
+TEST(DiskFiles, ReplaceCreatesAndOverwrites) {
+    tests::TemporaryFolder const folder;
+    DiskFiles files;
+    files.Replace(folder.File("a.txt"), "first and long");
+    EXPECT_EQ(folder.Read("a.txt"), "first and long");
+    files.Replace(folder.File("a.txt"), "second");
+    EXPECT_EQ(folder.Read("a.txt"), "second");
+    files.Replace(folder.File("a.txt"), "");
+    EXPECT_EQ(folder.Read("a.txt"), "");
+    EXPECT_EQ(folder.EntryCount(), 1);
+}
+
+TEST(DiskFiles, ReplaceTellsWhyItCannot) {
+    tests::TemporaryFolder const folder;
+    EXPECT_EQ(FaultOfReplacing(folder.File("nowhere/a.txt")), Fault::PathNotFound);
+    EXPECT_EQ(FaultOfReplacing(""), Fault::BadFileName);
+    std::filesystem::create_directory(folder.File("folder.txt"));
+    EXPECT_EQ(FaultOfReplacing(folder.File("folder.txt")), Fault::PermissionDenied);
+    EXPECT_EQ(folder.EntryCount(), 1);
+}
+
+TEST(DiskFiles, NamesOutsideAsciiWork) {
+    tests::TemporaryFolder const folder;
+    DiskFiles files;
+    std::string const name = "W\xC3\xA4hrung \xE2\x82\xAC.txt";
+    files.Replace(folder.File(name), "x");
+    EXPECT_EQ(FaultOfOpening(folder.File(name)), std::nullopt);
+    EXPECT_THAT(files.List(folder.Text(), "*.TXT"), UnorderedElementsAre(name));
+}
+
+TEST(DiskFiles, ListFilesOfThePatternInEitherCaseAndNoFolders) {
+    tests::TemporaryFolder const folder;
+    for (auto const* name : {"a.txt", "b.TXT", "c.Txt", "d.txt.bak", "e.dat"}) {
+        folder.Write(name, "");
+    }
+    std::filesystem::create_directory(folder.File("f.txt"));
+    EXPECT_THAT(DiskFiles().List(folder.Text(), "*.Txt"), UnorderedElementsAre("a.txt", "b.TXT", "c.Txt"));
+    EXPECT_TRUE(DiskFiles().List(folder.File("nowhere/"), "*.Txt").empty());
+}
+
+} // namespace
+} // namespace quorvex::platform::disk

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/fake/ScriptedDialogs.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace quorvex::platform::fake {
+namespace {
+
+TEST(ScriptedDialogs, AnswerInOrder) {
+    ScriptedDialogs dialogs;
+    dialogs.Answers = {Answer::No, Answer::Cancel};
+    dialogs.Texts = {"first", "second"};
+    dialogs.Choices = {"a.txt", std::nullopt};
+    Message const question{"Save?", "Title", Icon::None, Buttons::YesNoCancel};
+    EXPECT_EQ(dialogs.Show(question), Answer::No);
+    EXPECT_EQ(dialogs.Show({"Done", "Title"}), Answer::Ok);
+    EXPECT_EQ(dialogs.Show(question), Answer::Cancel);
+    EXPECT_EQ(dialogs.Ask({"Name", "Title", ""}), "first");
+    EXPECT_EQ(dialogs.Ask({"Name", "Title", ""}), "second");
+    std::vector<std::string> const names = {"a.txt", "b.txt"};
+    EXPECT_EQ(dialogs.ChooseQuoteFile(names), "a.txt");
+    EXPECT_EQ(dialogs.ChooseParameterFile(names), std::nullopt);
+    EXPECT_EQ(dialogs.Messages.size(), 3U);
+    EXPECT_EQ(dialogs.OfferedFiles.size(), 2U);
+}
+
+TEST(ScriptedDialogs, RefuseAQuestionThatTheTestDidNotForesee) {
+    ScriptedDialogs dialogs;
+    EXPECT_THROW(dialogs.Show({"Save?", "Title", Icon::None, Buttons::YesNoCancel}), std::logic_error);
+    EXPECT_THROW(static_cast<void>(dialogs.Ask({"Name", "Title", ""})), std::logic_error);
+    EXPECT_THROW(static_cast<void>(dialogs.ChooseQuoteFile({})), std::logic_error);
+}
+
+} // namespace
+} // namespace quorvex::platform::fake

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/basMessages.h"
+
+#include "platform/fake/ScriptedDialogs.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvex::platform {
+namespace {
+
+void ExpectOnly(fake::ScriptedDialogs const& dialogs, std::string const& text, Icon icon) {
+    ASSERT_EQ(dialogs.Messages.size(), 1U);
+    EXPECT_EQ(dialogs.Messages[0].Text, text);
+    EXPECT_EQ(dialogs.Messages[0].Title, "Quorvex");
+    EXPECT_EQ(dialogs.Messages[0].Shown, icon);
+    EXPECT_EQ(dialogs.Messages[0].Offered, Buttons::Ok);
+}
+
+TEST(Messages, AWarningHasTheExclamationIcon) {
+    fake::ScriptedDialogs dialogs;
+    ShowWarning(dialogs, "Mind the gap");
+    ExpectOnly(dialogs, "Mind the gap", Icon::Exclamation);
+}
+
+TEST(Messages, WithoutQuotesTheUserIsToldToOpenAFile) {
+    fake::ScriptedDialogs dialogs;
+    ShowNoQuotesMessage(dialogs);
+    ExpectOnly(dialogs, "Please use File Open option to load a quote data file", Icon::Information);
+}
+
+TEST(Messages, AnErrorShowsItsDescriptionWithoutAnIcon) {
+    fake::ScriptedDialogs dialogs;
+    ShowError(dialogs, text::RunTimeError(text::Fault::Overflow));
+    ExpectOnly(dialogs, "Overflow", Icon::None);
+}
+
+} // namespace
+} // namespace quorvex::platform

@@ -1,0 +1,192 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "FaultOf.h"
+#include "FieldSources.h"
+#include "support/Golden.h"
+#include "text/RunTimeError.h"
+#include "text/basFields.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <random>
+
+namespace quorvex::text {
+
+namespace {
+
+constexpr std::size_t FirstBuffer = 64 * 1024;
+
+// A device that fails once its text is read.
+class FailingSource final : public ByteSource {
+public:
+    explicit FailingSource(std::string_view text) : source_(text) {}
+
+    [[nodiscard]] std::size_t Read(std::span<char> buffer) override {
+        std::size_t const count = source_.Read(buffer);
+        if (count == 0) {
+            throw RunTimeError(Fault::DiskFull);
+        }
+        return count;
+    }
+
+private:
+    TextSource source_;
+};
+
+// Keeps what the reader asked for: the largest room it offered, and how often it asked.
+class WatchedSource final : public ByteSource {
+public:
+    explicit WatchedSource(std::string_view text) : source_(text) {}
+
+    [[nodiscard]] std::size_t Read(std::span<char> buffer) override {
+        LargestRoom = std::max(LargestRoom, buffer.size());
+        std::size_t const count = source_.Read(buffer);
+        EmptyReads += count == 0 ? 1 : 0;
+        return count;
+    }
+
+    std::size_t LargestRoom = 0;
+    int EmptyReads = 0;
+
+private:
+    TextSource source_;
+};
+
+TEST(TextSource, GivesItsTextInOrderAndThenNothing) {
+    TextSource source("abcde");
+    std::array<char, 3> buffer{};
+    EXPECT_EQ(source.Read(buffer), 3U);
+    EXPECT_EQ(std::string_view(buffer.data(), 3), "abc");
+    EXPECT_EQ(source.Read(buffer), 2U);
+    EXPECT_EQ(std::string_view(buffer.data(), 2), "de");
+    EXPECT_EQ(source.Read(buffer), 0U);
+    EXPECT_EQ(source.Read(buffer), 0U);
+}
+
+TEST(FieldReaderBuffer, GivesTheReferenceFieldsFromPiecesOfAnySize) {
+    for (auto const& entry : tests::GoldenVector("fields")) {
+        SCOPED_TRACE(entry.dump());
+        auto const text = entry[0].get<std::string>();
+        for (std::size_t pieceSize = 1; pieceSize <= text.size() + 1; ++pieceSize) {
+            EXPECT_EQ(FieldsInPieces(text, pieceSize), entry[1].get<FieldTexts>()) << pieceSize;
+        }
+    }
+}
+
+TEST(FieldReaderBuffer, GivesTheSameFieldsOfAnyTextInPiecesOfAnySize) {
+    std::mt19937_64 random(20020305); // NOLINT: the same texts in every run
+    constexpr std::string_view Alphabet = "ab\",\r\n \t,\n\"\x1a\xEF\xBB\xBF";
+    std::uniform_int_distribution<std::size_t> letter(0, Alphabet.size() - 1);
+    std::uniform_int_distribution<std::size_t> length(0, 40);
+    std::size_t fieldCount = 0;
+    for (int round = 0; round < 5'000; ++round) {
+        std::string text(length(random), ' ');
+        for (char& c : text) {
+            c = Alphabet[letter(random)];
+        }
+        auto const fields = FieldsOf(text);
+        fieldCount += fields.size();
+        for (std::size_t const pieceSize : {1U, 2U, 7U}) {
+            ASSERT_EQ(FieldsInPieces(text, pieceSize), fields) << testing::PrintToString(text);
+        }
+    }
+    EXPECT_GT(fieldCount, 10'000U);
+}
+
+TEST(FieldReaderBuffer, SkipsAByteOrderMarkThatComesInPieces) {
+    EXPECT_EQ(FieldsInPieces("\xEF\xBB\xBF\"a\",b", 1), (FieldTexts{"a", "b"}));
+    EXPECT_EQ(FieldsInPieces("\xEF\xBB\xBF\"a\",b", 2), (FieldTexts{"a", "b"}));
+}
+
+TEST(FieldReaderBuffer, KeepsAFieldWholeThatStraddlesTheBuffersEnd) {
+    for (std::size_t inFront = FirstBuffer - 12; inFront <= FirstBuffer + 2; ++inFront) {
+        SCOPED_TRACE(inFront);
+        std::string const filler(inFront, 'x');
+        EXPECT_EQ(FieldsOf(filler + ",abcdef , ghi\r\njkl"), (FieldTexts{filler, "abcdef", "ghi", "jkl"}));
+        EXPECT_EQ(FieldsOf(filler + "\r\n\"ab,cdef\" , \r\njkl"), (FieldTexts{filler, "ab,cdef", "", "jkl"}));
+    }
+}
+
+TEST(FieldReaderBuffer, KeepsManyFieldsWholeOverManyBuffers) {
+    std::string text;
+    FieldTexts expected;
+    for (int number = 0; number < 60'000; ++number) {
+        expected.push_back(std::to_string(number));
+        text += expected.back();
+        text += number % 7 == 0 ? "\r\n" : " , ";
+    }
+    ASSERT_GT(text.size(), 4 * FirstBuffer);
+    EXPECT_EQ(FieldsOf(text), expected);
+    EXPECT_EQ(FieldsInPieces(text, 1'000), expected);
+}
+
+TEST(FieldReaderBuffer, GrowsForAFieldLargerThanTheBuffer) {
+    for (std::size_t const length : {FirstBuffer - 1, FirstBuffer, FirstBuffer + 1, 5 * FirstBuffer}) {
+        SCOPED_TRACE(length);
+        std::string const large(length, 'x');
+        EXPECT_EQ(FieldsOf("a," + large + ",b"), (FieldTexts{"a", large, "b"}));
+        EXPECT_EQ(FieldsOf("a,\"" + large + "\",b"), (FieldTexts{"a", large, "b"}));
+        EXPECT_EQ(FieldsOf("a,\"" + large + "\r\nb"), (FieldTexts{"a", large, "b"}));
+        EXPECT_EQ(FieldsInPieces("a," + large + "\nb", 4'099), (FieldTexts{"a", large, "b"}));
+        EXPECT_EQ(FieldsOf(large), (FieldTexts{large}));
+    }
+}
+
+TEST(FieldReaderBuffer, SkipsMoreThanABufferOfBlanksOrJunk) {
+    std::string const blanks(3 * FirstBuffer, ' ');
+    std::string const lines(3 * FirstBuffer, '\n');
+    std::string const junk(3 * FirstBuffer, 'x');
+    EXPECT_EQ(FieldsOf(blanks + "a" + blanks + ',' + blanks + "b"), (FieldTexts{"a", "b"}));
+    EXPECT_EQ(FieldsOf("a" + lines + "b" + lines), (FieldTexts{"a", "b"}));
+    EXPECT_EQ(FieldsOf("a," + blanks + lines + "b," + blanks), (FieldTexts{"a", "", "b"}));
+    EXPECT_EQ(FieldsOf("\"a\"" + junk + ",b"), (FieldTexts{"a", "b"}));
+    EXPECT_EQ(FieldsInPieces("\"a\"" + junk + "\nb", 5'003), (FieldTexts{"a", "b"}));
+}
+
+TEST(FieldReaderBuffer, StreamsALongTextThroughItsFirstBuffer) {
+    std::string text;
+    while (text.size() < 20 * FirstBuffer) {
+        text += "03/05/02, 245.25, \"246\" x,,7\r\n \t\r\n";
+    }
+    text += std::string(5 * FirstBuffer, ' ') + std::string(5 * FirstBuffer, '\n') + 'x';
+    WatchedSource source(text);
+    EXPECT_EQ(AllFields(source).back(), "x");
+    EXPECT_EQ(source.LargestRoom, FirstBuffer);
+}
+
+TEST(FieldReaderBuffer, AsksASourceNoMoreOnceItEnded) {
+    WatchedSource source("a,b\r\n");
+    FieldReader reader(source);
+    EXPECT_EQ(reader.Take(), "a");
+    EXPECT_EQ(reader.Take(), "b");
+    EXPECT_TRUE(reader.AtEnd());
+    EXPECT_TRUE(reader.AtEnd());
+    EXPECT_EQ(source.EmptyReads, 1);
+}
+
+TEST(FieldReaderBuffer, KeepsTheFieldReadableUntilTheNextCall) {
+    // The separator behind the first field is not in the buffer yet when the field ends.
+    PieceSource source("abc,def", 3);
+    FieldReader reader(source);
+    std::string_view const first = reader.Take();
+    EXPECT_EQ(first, "abc");
+    EXPECT_EQ(reader.Take(), "def");
+}
+
+TEST(FieldReaderBuffer, PassesTheFaultOfTheDeviceOn) {
+    EXPECT_EQ(FaultOf([] {
+                  FailingSource source("");
+                  FieldReader const reader(source);
+              }),
+              "Disk full");
+    FailingSource source("abc,def");
+    FieldReader reader(source);
+    EXPECT_EQ(reader.Take(), "abc");
+    EXPECT_EQ(FaultOf([&] { static_cast<void>(reader.Take()); }), "Disk full");
+}
+
+} // namespace
+
+} // namespace quorvex::text
