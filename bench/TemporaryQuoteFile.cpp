@@ -4,10 +4,11 @@
 #include "TemporaryQuoteFile.h"
 
 #include "platform/disk/DiskFiles.h"
-#include "platform/disk/HostFile.h"
 #include "text/basFolders.h"
 
 #include <atomic>
+#include <random>
+#include <string>
 #include <system_error>
 
 namespace quorvex::bench {
@@ -16,7 +17,7 @@ namespace {
 
 std::string NewFolderName() {
     static std::atomic<unsigned> made = 0;
-    return "quorvex-bench-" + std::to_string(platform::disk::ProcessNumber()) + '-' + std::to_string(++made);
+    return "quorvex-bench-" + std::to_string(std::random_device()()) + '-' + std::to_string(++made);
 }
 
 } // namespace

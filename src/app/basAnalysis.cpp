@@ -10,6 +10,7 @@
 #include "quotes/basDateRange.h"
 #include "quotes/basDisk.h"
 #include "text/RunTimeError.h"
+#include "text/basDates.h"
 
 namespace quorvex::app {
 
@@ -21,35 +22,47 @@ void Report(std::optional<text::RunTimeError> const& error, platform::Dialogs& d
     }
 }
 
-void NarrowDates(Program& program, platform::Dialogs& dialogs, AnalysisRequest const& request) {
+// Returns false when no quote bears the end date: the count of days would then mean nothing.
+bool NarrowDates(Program& program, platform::Dialogs& dialogs, AnalysisRequest const& request) {
     if (request.StartDate.empty() && request.EndDate.empty()) {
-        return;
+        return true;
     }
-    quotes::DateRange range{request.StartDate.empty() ? program.Quotes.FirstQuoteDate : request.StartDate,
-                            request.EndDate.empty() ? program.Quotes.LastQuoteDate : request.EndDate};
-    Report(text::Trap([&] { quotes::AdjustQuoteDateRange(program.Quotes, range); }), dialogs);
+    quotes::QuoteSeries& series = program.Quotes;
+    quotes::DateRange range{request.StartDate.empty() ? series.FirstQuoteDate : request.StartDate,
+                            request.EndDate.empty() ? series.LastQuoteDate : request.EndDate};
+    auto change = quotes::RangeChange::None;
+    platform::RunReported(dialogs, [&] { change = quotes::AdjustQuoteDateRange(series, range); });
+    if (change == quotes::RangeChange::Narrowed &&
+        series.LastQuoteDate != text::FormatDate(text::RequireDate(range.End))) {
+        platform::ShowWarning(dialogs, "No quote is dated " + range.End);
+        return false;
+    }
+    return true;
 }
 
-void TakeParameters(Program& program, Services& services, AnalysisRequest const& request,
-                    AnalysisResult& result) {
-    if (!request.ParameterPath.empty()) {
-        program.Cycles.ParameterFileName = request.ParameterPath;
-        cycles::ReadParameterFile(request.ParameterPath, program.Cycles, services.Files, services.Dialogs);
-        Report(text::Trap([&] { cycles::WriteGrid(program.Cycles, services.Grid); }), services.Dialogs);
+void ReadParameters(Program& program, Services& services, std::string const& path) {
+    program.Cycles.ParameterFileName = path;
+    cycles::ReadParameterFile(path, program.Cycles, services.Files, services.Dialogs);
+    platform::RunReported(services.Dialogs, [&] { cycles::WriteGrid(program.Cycles, services.Grid); });
+}
+
+// Returns whether all cycles were fitted.
+bool FitCycles(Program& program, Services& services, int cycleCount, AnalysisResult& result) {
+    if (cycleCount > 1) {
+        RefreshMovingAverage(program);
     }
-    if (request.AutomatedCycles > 0) {
-        Report(text::Trap([&] {
-                   cycles::AutomateCycles(request.AutomatedCycles, program.Quotes.WorkingCount,
-                                          program.Curves, program.Cycles, services.Grid, result.Fits);
-               }),
-               services.Dialogs);
-    }
+    return platform::RunReported(services.Dialogs, [&] {
+        cycles::AutomateCycles(cycleCount, program.Quotes.WorkingCount, program.Curves, program.Cycles,
+                               services.Grid, result.Fits);
+    });
 }
 
 void Correlate(Program const& program, AnalysisResult& result) {
     auto const error = text::Trap([&] {
-        result.CorrelationCoefficient =
-            cycles::CoefficientOfCorrelation(program.Curves, program.Quotes.WorkingCount);
+        if (result.HasMovingAverage) {
+            result.CorrelationCoefficient =
+                cycles::CoefficientOfCorrelation(program.Curves, program.Quotes.WorkingCount);
+        }
         result.CorrelationMessage = cycles::CorrelationMessage(result.CorrelationCoefficient);
     });
     if (error) {
@@ -66,27 +79,42 @@ Forecast ComputeWholeForecast(Program const& program) {
     return forecast;
 }
 
+// Takes cycles and residual up from the grid and forecasts with them.
+void FollowCycles(Program& program, Services& services, AnalysisResult& result) {
+    auto const faults = Recompute(program, services);
+    Report(faults.Cycles, services.Dialogs);
+    result.HasComposite = cycles::HasActiveCycle(program.Cycles) && !faults.Cycles;
+    if (result.HasComposite && result.HasMovingAverage) {
+        Report(faults.Residual, services.Dialogs);
+        result.HasResidual = !faults.Residual;
+    }
+    if (cycles::SumOfWeights(services.Grid) != 0) {
+        platform::RunReported(services.Dialogs,
+                              [&] { result.ForecastShown = ComputeWholeForecast(program); });
+    }
+}
+
 } // namespace
 
 std::optional<AnalysisResult> Analyse(Program& program, Services& services, AnalysisRequest const& request) {
-    if (quotes::LoadQuoteFile(program.Quotes, program.Settings, services.Files, services.Dialogs) == 0) {
+    if (quotes::LoadQuoteFile(program.Quotes, program.Settings, services.Files, services.Dialogs) == 0 ||
+        !NarrowDates(program, services.Dialogs, request)) {
         return std::nullopt;
     }
     AnalysisResult result;
-    NarrowDates(program, services.Dialogs, request);
-    auto faults = Recompute(program, services);
+    auto const faults = Recompute(program, services);
     Report(faults.Quotes, services.Dialogs);
     result.HasMovingAverage = !faults.Quotes;
-    TakeParameters(program, services, request, result);
-    faults = Recompute(program, services);
-    Report(faults.Cycles, services.Dialogs);
-    bool const active = cycles::HasActiveCycle(program.Cycles);
-    result.HasComposite = active && !faults.Cycles;
-    result.HasResidual = result.HasComposite && result.HasMovingAverage && !faults.Residual;
-    Correlate(program, result);
-    if (cycles::SumOfWeights(services.Grid) != 0) {
-        Report(text::Trap([&] { result.ForecastShown = ComputeWholeForecast(program); }), services.Dialogs);
+    if (request.ParameterPath) {
+        ReadParameters(program, services, *request.ParameterPath);
     }
+    if (request.AutomatedCycles == 0 || FitCycles(program, services, request.AutomatedCycles, result)) {
+        FollowCycles(program, services, result);
+    }
+    Correlate(program, result);
+    platform::RunReported(services.Dialogs, [&] {
+        result.Properties = auxiliary::DescribeQuotes(program.Quotes, program.Settings.CurrencyFormat);
+    });
     return result;
 }
 

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "app/Program.h"
+#include "auxiliary/basProperties.h"
 #include "cycles/basAutomate.h"
 #include "cycles/basForecast.h"
 #include "platform/Dialogs.h"
@@ -17,10 +18,10 @@
 namespace quorvex::app {
 
 struct AnalysisRequest {
-    std::string ParameterPath; // parameter file to read; none when empty
-    int AutomatedCycles = 0;   // cycles to fit; none when 0
-    std::string StartDate;     // first day to analyse; the first of the file when empty
-    std::string EndDate;       // last day to analyse; the last of the file when empty
+    std::optional<std::string> ParameterPath; // parameter file to read
+    int AutomatedCycles = 0;                  // cycles to fit; none when 0
+    std::string StartDate;                    // first day to analyse; the first of the file when empty
+    std::string EndDate;                      // last day to analyse; the last of the file when empty
 };
 
 struct Forecast {
@@ -39,11 +40,13 @@ struct AnalysisResult {
     std::optional<double> CorrelationCoefficient;
     platform::Message CorrelationMessage; // what the Correlation command would show
     std::optional<Forecast> ForecastShown;
+    std::optional<std::vector<auxiliary::PropertyCaption>> Properties;
 };
 
 // Analyses the quote file that the program's settings and file name point at; the program has just been
-// started up. Messages and faults go to the dialogs; after them the analysis goes on with what there is.
-// Nothing comes back when the quote file was refused or could not be read.
+// started up. Messages and faults go to the dialogs; after them the analysis goes on with what there is,
+// only a fit that fails leaves no cycles. Nothing comes back when the quote file was refused or could not be
+// read, or when no quote bears the last day asked for.
 [[nodiscard]] std::optional<AnalysisResult> Analyse(Program& program, Services& services,
                                                     AnalysisRequest const& request);
 

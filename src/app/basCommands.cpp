@@ -10,24 +10,10 @@
 #include "cycles/basParameters.h"
 #include "platform/basMessages.h"
 #include "quotes/basQuotes.h"
-#include "text/RunTimeError.h"
 
-#include <utility>
 #include <vector>
 
 namespace quorvex::app {
-
-namespace {
-
-// Runs a command's routine and shows the fault that ended it.
-template <class Routine>
-void RunReported(platform::Dialogs& dialogs, Routine&& routine) {
-    if (auto const error = text::Trap(std::forward<Routine>(routine))) {
-        platform::ShowError(dialogs, *error);
-    }
-}
-
-} // namespace
 
 void FileOpen(Program& program, Services& services) {
     quotes::OpenQuoteFile(program.Quotes, program.Settings, services.Files, services.Dialogs);
@@ -44,13 +30,13 @@ void FileSaveAs(Program& program, Services& services) {
 }
 
 void ParametersNew(Program& program, Services& services) {
-    RunReported(services.Dialogs, [&] {
+    platform::RunReported(services.Dialogs, [&] {
         cycles::NewParameters(program.Cycles, program.Curves.CompositeCurve, services.Grid, services.Dialogs);
     });
 }
 
 void ParametersOpen(Program& program, Services& services) {
-    RunReported(services.Dialogs, [&] {
+    platform::RunReported(services.Dialogs, [&] {
         cycles::OpenParameters(program.Cycles, services.Grid, program.ProgramFolder, services.Files,
                                services.Dialogs);
     });
@@ -58,38 +44,39 @@ void ParametersOpen(Program& program, Services& services) {
 }
 
 void ParametersSave(Services& services) {
-    RunReported(services.Dialogs, [&] { cycles::SaveParameters(services.Grid, services.Dialogs); });
+    platform::RunReported(services.Dialogs, [&] { cycles::SaveParameters(services.Grid, services.Dialogs); });
 }
 
 void ParametersSaveAs(Program& program, Services& services) {
-    RunReported(services.Dialogs,
-                [&] { cycles::SaveParametersAs(program.Cycles, services.Grid, services.Dialogs); });
+    platform::RunReported(services.Dialogs,
+                          [&] { cycles::SaveParametersAs(program.Cycles, services.Grid, services.Dialogs); });
 }
 
 void ParametersAutomate(int cycleCount, Program& program, Services& services) {
     if (!quotes::RequireQuotes(program.Quotes, services.Dialogs)) {
         return;
     }
-    RunReported(services.Dialogs, [&] {
+    // A fault ends the command: the grid keeps what was written before it.
+    platform::RunReported(services.Dialogs, [&] {
         // One cycle is fitted to the moving average as it stands.
         if (cycleCount > 1) {
-            RecomputeQuotes(program);
+            RefreshMovingAverage(program);
         }
         std::vector<cycles::SinusoidFit> fits;
         cycles::AutomateCycles(cycleCount, program.Quotes.WorkingCount, program.Curves, program.Cycles,
                                services.Grid, fits);
+        Recompute(program, services);
     });
-    Recompute(program, services);
 }
 
 void Correlation(Program& program, Services& services) {
     if (!quotes::RequireQuotes(program.Quotes, services.Dialogs)) {
         return;
     }
-    RunReported(services.Dialogs, [&] {
+    platform::RunReported(services.Dialogs, [&] {
         cycles::ShowCorrelation(program.Curves, program.Quotes.WorkingCount, services.Dialogs);
+        Recompute(program, services);
     });
-    Recompute(program, services);
 }
 
 bool RequireForecast(Program const& program, Services& services) {
@@ -97,8 +84,8 @@ bool RequireForecast(Program const& program, Services& services) {
         return false;
     }
     bool enough = false;
-    RunReported(services.Dialogs,
-                [&] { enough = cycles::RequireForecastWeights(services.Grid, services.Dialogs); });
+    platform::RunReported(services.Dialogs,
+                          [&] { enough = cycles::RequireForecastWeights(services.Grid, services.Dialogs); });
     return enough;
 }
 

@@ -8,6 +8,16 @@
 
 namespace quorvex::app {
 
+namespace {
+
+void ComputeMovingAverage(Program& program) {
+    cycles::ComputeMovingAverage(program.Quotes,
+                                 cycles::MovingAverageLength(program.Settings.MovingAverageIndex),
+                                 program.Curves.MovingAverageCurve);
+}
+
+} // namespace
+
 void RecomputeQuotes(Program& program) {
     if (!program.Quotes.HasQuotes()) {
         return;
@@ -15,9 +25,12 @@ void RecomputeQuotes(Program& program) {
     program.PriceScale = chart::ComputePriceScale(program.Quotes);
     // A scale without height has no place for any price, and the moving average is drawn on it.
     static_cast<void>(text::Divide(1, program.PriceScale.PriceScaleHigh - program.PriceScale.PriceScaleLow));
-    cycles::ComputeMovingAverage(program.Quotes,
-                                 cycles::MovingAverageLength(program.Settings.MovingAverageIndex),
-                                 program.Curves.MovingAverageCurve);
+    ComputeMovingAverage(program);
+}
+
+void RefreshMovingAverage(Program& program) {
+    static_cast<void>(text::Trap([&] { RecomputeQuotes(program); }));
+    static_cast<void>(text::Trap([&] { ComputeMovingAverage(program); }));
 }
 
 RecomputeFaults Recompute(Program& program, Services& services) {
@@ -32,7 +45,7 @@ RecomputeFaults Recompute(Program& program, Services& services) {
         cycles::ComputeCycleValues(program.Cycles, count);
         cycles::ComputeComposite(program.Cycles, count, program.Curves.CompositeCurve);
     });
-    if (program.Quotes.HasQuotes()) {
+    if (program.Quotes.HasQuotes() && !faults.Cycles) {
         faults.Residual =
             text::Trap([&] { cycles::ComputeResidual(program.Curves, program.PriceScale, count); });
     }

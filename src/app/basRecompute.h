@@ -22,9 +22,13 @@ struct RecomputeFaults {
 // without height, before the moving average.
 void RecomputeQuotes(Program& program);
 
+// Brings the moving average up to date before a fit. A fault, such as of prices without a range, ends it
+// quietly where it stands.
+void RefreshMovingAverage(Program& program);
+
 // Reads the grid and computes, in the order of the charts, price scale and moving average, the cycles with
 // their composite, and the residual. Without quotes only the cycles are computed, without an active cycle
-// only the quotes.
+// only the quotes. A fault of the cycles leaves the residual out.
 RecomputeFaults Recompute(Program& program, Services& services);
 
 } // namespace quorvex::app

@@ -55,7 +55,7 @@ std::vector<PropertyCaption> DescribeQuotes(quotes::QuoteSeries const& series,
         {"lblHigh", text::PlainNumber(found.Highest)},
         {"lblLow", text::PlainNumber(found.Lowest)},
         {"lblClose", price.Format(last.Close)},
-        {"lblRange", price.Format(found.Highest - found.Lowest)},
+        {"lblRange", price.Format(text::RequireFinite(found.Highest - found.Lowest))},
         {"lblMean", price.Format(mean)},
     };
     for (PropertyCaption& caption : captions) {

@@ -19,7 +19,8 @@ struct PropertyCaption {
 };
 
 // The captions in the order of the window, with prices in the currency format; the highest High and the
-// lowest Low are plain numbers. Raises "Division by zero" without working days.
+// lowest Low are plain numbers. Raises "Division by zero" without working days, "Overflow" for a range or
+// mean beyond a double.
 [[nodiscard]] std::vector<PropertyCaption> DescribeQuotes(quotes::QuoteSeries const& series,
                                                           std::string_view currencyFormat);
 

@@ -11,7 +11,6 @@
 #include "cli/ConsoleDialogs.h"
 #include "cli/StandardStreams.h"
 #include "platform/disk/DiskFiles.h"
-#include "platform/disk/HostConsole.h"
 #include "text/basDates.h"
 
 #include <memory>
@@ -34,10 +33,9 @@ struct AnalyseOptions {
 
 // Splits a path into the data folder, with its separator, and the bare name.
 void TakeQuotePath(std::string_view path, app::Program& program) {
-    auto const separator = path.find_last_of("/\\");
-    bool const bare = separator == std::string_view::npos;
-    program.Settings.DataPath = bare ? "./" : path.substr(0, separator + 1);
-    program.Quotes.QuoteFileName = bare ? path : path.substr(separator + 1);
+    auto const folderEnd = path.find_last_of(platform::disk::FolderEnds) + 1; // 0 when there is none
+    program.Settings.DataPath = path.substr(0, folderEnd);
+    program.Quotes.QuoteFileName = path.substr(folderEnd);
 }
 
 void TakeSettings(AnalyseOptions const& options, CLI::App const& command, prefs::Settings& settings) {
@@ -52,7 +50,7 @@ void TakeSettings(AnalyseOptions const& options, CLI::App const& command, prefs:
     }
 }
 
-ExitStatus Analyse(AnalyseOptions const& options, CLI::App const& command) {
+ExitStatus Analyse(AnalyseOptions const& options, CLI::App const& command, platform::Console const& console) {
     auto const program = std::make_unique<app::Program>();
     cycles::TextGrid grid;
     ConsoleDialogs dialogs;
@@ -71,7 +69,6 @@ ExitStatus Analyse(AnalyseOptions const& options, CLI::App const& command) {
     if (options.Json) {
         output = AnalysisJson(*program, grid, *result);
     } else {
-        platform::disk::HostConsole const console;
         output = AnalysisReport(*program, grid, *result);
         if (console.IsTerminal()) {
             output += '\n' + CharacterChart(*program, *result, console.Width());
@@ -81,15 +78,24 @@ ExitStatus Analyse(AnalyseOptions const& options, CLI::App const& command) {
     return written && !dialogs.HasShown() ? ExitStatus::Success : ExitStatus::Refused;
 }
 
-CLI::Validator DateValidator() {
+// Without a description of its own: the help names the type of the option.
+CLI::Validator IsDate() {
     return {
         [](std::string const& text) { return text::ParseDate(text) ? std::string() : text + " is no date"; },
-        "mm/dd/yy"};
+        ""};
+}
+
+CLI::Validator IsFitCount() {
+    return {[](std::string const& text) {
+                bool const good = text == "1" || text == "2" || text == "3";
+                return good ? std::string() : text + " is not 1, 2 or 3";
+            },
+            ""};
 }
 
 } // namespace
 
-void AddAnalyse(CLI::App& app, ExitStatus& status) {
+void AddAnalyse(CLI::App& app, platform::Console const& console, ExitStatus& status) {
     auto const options = std::make_shared<AnalyseOptions>();
     CLI::App* command = app.add_subcommand("analyse", "Analyse the quotes of one contract");
     command->add_option("QUOTES", options->QuotePath, "Quote file to read")->required()->type_name("");
@@ -101,7 +107,7 @@ void AddAnalyse(CLI::App& app, ExitStatus& status) {
         ->add_option("--automate", options->Request.AutomatedCycles,
                      "Fit so many cycles to the moving average")
         ->type_name("1|2|3")
-        ->check(CLI::Range(1, 3))
+        ->check(IsFitCount())
         ->excludes(parameters);
     command->add_option("--moving-average", options->MovingAverage, "Length of the moving average [3]")
         ->type_name("K");
@@ -110,12 +116,13 @@ void AddAnalyse(CLI::App& app, ExitStatus& status) {
         ->type_name("T");
     command->add_option("--start", options->Request.StartDate, "First day to analyse")
         ->type_name("mm/dd/yy")
-        ->check(DateValidator());
+        ->check(IsDate());
     command->add_option("--end", options->Request.EndDate, "Last day to analyse")
         ->type_name("mm/dd/yy")
-        ->check(DateValidator());
+        ->check(IsDate());
     command->add_flag("--json", options->Json, "Print one JSON object instead of a report");
-    command->callback([options, command, &status] { status = Analyse(*options, *command); });
+    command->callback(
+        [options, command, &console, &status] { status = Analyse(*options, *command, console); });
 }
 
 } // namespace quorvex::cli

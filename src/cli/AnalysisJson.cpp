@@ -4,6 +4,7 @@
 #include "cli/AnalysisJson.h"
 
 #include "auxiliary/basProperties.h"
+#include "text/basNumbers.h"
 
 #include <nlohmann/json.hpp>
 
@@ -89,12 +90,38 @@ Json ForecastJson(app::Forecast const& forecast) {
             {"List2", forecast.EstimatedValues}};
 }
 
-Json PropertiesJson(app::Program const& program) {
+Json PropertiesJson(std::vector<auxiliary::PropertyCaption> const& properties) {
     Json captions = Json::object();
-    for (auto const& caption : auxiliary::DescribeQuotes(program.Quotes, program.Settings.CurrencyFormat)) {
-        captions[std::string(caption.Label)] = caption.Caption;
+    for (auto const& property : properties) {
+        captions[std::string(property.Label)] = property.Caption;
     }
     return captions;
+}
+
+// The text of a value that is neither object nor array. The library spells some doubles with a digit more
+// than they need; strings may hold any bytes, since file names do.
+std::string ScalarText(Json const& value) {
+    return value.is_number_float() ? text::PlainNumber(value.get<double>())
+                                   : value.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+// The whole value, on one line.
+void AppendText(std::string& text, Json const& value) {
+    if (!value.is_structured()) {
+        text += ScalarText(value);
+        return;
+    }
+    text += value.is_object() ? '{' : '[';
+    bool first = true;
+    for (auto const& [key, member] : value.items()) {
+        text += first ? "" : ",";
+        first = false;
+        if (value.is_object()) {
+            text += ScalarText(key) + ':';
+        }
+        AppendText(text, member);
+    }
+    text += value.is_object() ? '}' : ']';
 }
 
 } // namespace
@@ -122,9 +149,10 @@ std::string AnalysisJson(app::Program const& program, cycles::ParameterGrid cons
     json["Fits"] = result.Fits.empty() ? Json() : FitsJson(result.Fits);
     json["Correlation"] = CorrelationJson(result);
     json["Forecast"] = result.ForecastShown ? ForecastJson(*result.ForecastShown) : Json();
-    json["Properties"] = PropertiesJson(program);
-    // A file name may hold any bytes.
-    return json.dump(-1, ' ', false, Json::error_handler_t::replace) + '\n';
+    json["Properties"] = result.Properties ? PropertiesJson(*result.Properties) : Json();
+    std::string text;
+    AppendText(text, json);
+    return text + '\n';
 }
 
 } // namespace quorvex::cli

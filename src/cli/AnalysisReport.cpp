@@ -5,8 +5,8 @@
 
 #include "auxiliary/basProperties.h"
 #include "cycles/basCurves.h"
-#include "text/basFolders.h"
 #include "text/basFormats.h"
+#include "text/basTexts.h"
 
 #include <algorithm>
 #include <array>
@@ -49,10 +49,10 @@ std::string_view StatisticName(std::string_view label) {
     return row == StatisticNames.end() ? label : row->second;
 }
 
-std::string Statistics(app::Program const& program) {
+std::string Statistics(std::vector<auxiliary::PropertyCaption> const& properties) {
     constexpr std::size_t NameWidth = 15;
     std::string lines = "Quotes\n";
-    for (auto const& caption : auxiliary::DescribeQuotes(program.Quotes, program.Settings.CurrencyFormat)) {
+    for (auto const& caption : properties) {
         lines += "  " + PadRight(StatisticName(caption.Label), NameWidth);
         lines.append(text::Trim(caption.Caption)) += '\n';
     }
@@ -127,7 +127,11 @@ std::string ForecastTable(app::Forecast const& forecast) {
 
 std::string AnalysisReport(app::Program const& program, cycles::ParameterGrid const& grid,
                            app::AnalysisResult const& result) {
-    std::string report = Statistics(program) + '\n' + Cycles(program, grid);
+    std::string report;
+    if (result.Properties) {
+        report += Statistics(*result.Properties) + '\n';
+    }
+    report += Cycles(program, grid);
     if (!result.Fits.empty()) {
         report += '\n' + Fits(result.Fits);
     }

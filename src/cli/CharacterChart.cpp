@@ -3,6 +3,7 @@
 
 #include "cli/CharacterChart.h"
 
+#include "cycles/basCurves.h"
 #include "text/basFormats.h"
 
 #include <algorithm>
@@ -52,7 +53,7 @@ private:
 // A value of the composite as a price: the inverse of the mapping of prices to cycle units.
 double PriceOf(double cycleUnits, quotes::PriceScale const& scale) {
     double const middle = (scale.PriceScaleHigh + scale.PriceScaleLow) / 2;
-    return middle + cycleUnits * (scale.PriceScaleHigh - scale.PriceScaleLow) / 200;
+    return middle + cycleUnits * (scale.PriceScaleHigh - scale.PriceScaleLow) / cycles::ScaleHeight;
 }
 
 std::array<std::string, Rows> AxisLabels(app::Program const& program) {

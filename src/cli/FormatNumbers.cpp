@@ -46,7 +46,8 @@ void AddFormat(CLI::App& app, ExitStatus& status) {
             throw CLI::RequiredError("F and one NUMBER at least");
         }
         std::string const format = arguments.front();
-        arguments.erase(arguments.begin());
+        bool const separated = arguments[1] == "--"; // the conventional end of options
+        arguments.erase(arguments.begin(), arguments.begin() + (separated ? 2 : 1));
         status = FormatNumbers(format, arguments);
     });
 }

@@ -8,10 +8,13 @@
 #include "cli/FormatNumbers.h"
 #include "cli/StandardStreams.h"
 #include "cli/SubCommand.h"
+#include "platform/disk/HostArguments.h"
+#include "platform/disk/HostConsole.h"
 
 #include <CLI/CLI.hpp>
 
 #include <exception>
+#include <new>
 #include <string>
 
 int main(int argc, char** argv) {
@@ -21,14 +24,19 @@ int main(int argc, char** argv) {
         CLI::App app("Cycle analysis of commodity futures quotes", "quorvex-cli");
         app.set_version_flag("--version", "quorvex-cli " + std::string(quorvex::app::ProgramVersion));
         app.require_subcommand(1);
-        quorvex::cli::AddAnalyse(app, status);
+        app.allow_windows_style_options(false);
+        quorvex::platform::disk::HostConsole const console;
+        quorvex::cli::AddAnalyse(app, console, status);
         quorvex::cli::AddFormat(app, status);
         try {
-            app.parse(argc, argv);
+            app.parse(quorvex::platform::disk::ReversedArguments(argc, argv));
         } catch (CLI::ParseError const& error) {
             bool const asked = app.exit(error) == 0; // prints help, version or what is wrong
             status = asked ? ExitStatus::Success : ExitStatus::Usage;
         }
+    } catch (std::bad_alloc const&) {
+        quorvex::cli::Complain("Out of memory");
+        status = ExitStatus::Refused;
     } catch (std::exception const& error) {
         quorvex::cli::Complain(error.what());
         status = ExitStatus::Refused;

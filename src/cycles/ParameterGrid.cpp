@@ -85,7 +85,7 @@ void ClearGrid(ParameterGrid& grid) {
 
 bool ReadGrid(ParameterGrid& grid, CycleParameterSet& set, platform::PendingMessages& pending) {
     bool stored = false;
-    auto const error = text::Trap([&] {
+    static_cast<void>(text::Trap([&] {
         double const total = CheckWeights(grid);
         if (total == 0) {
             return;
@@ -95,8 +95,8 @@ bool ReadGrid(ParameterGrid& grid, CycleParameterSet& set, platform::PendingMess
         StoreParameters(grid, set);
         WriteGrid(set, grid);
         stored = true;
-    });
-    return stored && !error;
+    }));
+    return stored;
 }
 
 void WriteGrid(CycleParameterSet const& set, ParameterGrid& grid) {

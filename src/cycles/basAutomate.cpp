@@ -67,15 +67,14 @@ double EstimateFrequency(QuoteCurve const& x, std::int16_t count) {
     for (int day = 3; day <= count - 2; ++day) {
         double const above = 2 * x[day] + x[day - 2] + x[day + 2];
         double const below = 2 * (x[day - 1] + x[day + 1]);
+        static_cast<void>(text::RequireFinite(above + below));
         if (below == 0) {
             continue;
         }
-        double const ratio = above / below;
+        double const ratio = text::RequireFinite(above / below);
         if (std::fabs(ratio) <= 1) {
             sum.Add(ratio);
             votes += 1;
-        } else {
-            static_cast<void>(text::RequireFinite(ratio));
         }
     }
     return text::Divide(sum.Radians(), votes);

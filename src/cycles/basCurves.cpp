@@ -90,8 +90,7 @@ void ComputeMovingAverage(quotes::QuoteSeries const& series, std::int16_t length
 }
 
 void ComputeResidual(CycleCurves& curves, quotes::PriceScale const& scale, std::int16_t workingCount) {
-    constexpr double CycleUnits = 200;
-    double const factor = text::Divide(CycleUnits, scale.PriceScaleHigh - scale.PriceScaleLow);
+    double const factor = text::Divide(ScaleHeight, scale.PriceScaleHigh - scale.PriceScaleLow);
     double const offset = -(scale.PriceScaleLow + scale.PriceScaleHigh) * factor / 2;
     for (int day = 1; day <= workingCount; ++day) {
         curves.ResidualCurve[day] = text::RequireFinite(curves.MovingAverageCurve[day] * factor + offset -

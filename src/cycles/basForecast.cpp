@@ -7,8 +7,8 @@
 #include "platform/basMessages.h"
 #include "text/RunTimeError.h"
 #include "text/basDates.h"
-#include "text/basFolders.h"
 #include "text/basFormats.h"
+#include "text/basTexts.h"
 
 #include <algorithm>
 #include <chrono>

@@ -4,9 +4,9 @@
 #include "cycles/basParameters.h"
 
 #include "platform/basMessages.h"
-#include "text/RunTimeError.h"
 #include "text/basFolders.h"
 #include "text/basNumbers.h"
+#include "text/basTexts.h"
 
 namespace quorvex::cycles {
 
@@ -56,11 +56,7 @@ void ReadParameters(text::ByteSource& source, CycleParameterSet& set) {
 
 bool ReadParameterFile(std::string const& path, CycleParameterSet& set, platform::Files const& files,
                        platform::Dialogs& dialogs) {
-    auto const error = text::Trap([&] { ReadParameters(*files.OpenForInput(path), set); });
-    if (error) {
-        platform::ShowError(dialogs, *error);
-    }
-    return !error;
+    return platform::RunReported(dialogs, [&] { ReadParameters(*files.OpenForInput(path), set); });
 }
 
 void OpenParameters(CycleParameterSet& set, ParameterGrid& grid, std::string_view programFolder,

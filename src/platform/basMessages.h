@@ -8,6 +8,7 @@
 #include "text/RunTimeError.h"
 
 #include <string_view>
+#include <utility>
 
 namespace quorvex::platform {
 
@@ -24,5 +25,15 @@ void ShowNoQuotesMessage(Dialogs& dialogs);
 [[nodiscard]] Message ErrorMessage(text::RunTimeError const& error);
 
 void ShowError(Dialogs& dialogs, text::RunTimeError const& error);
+
+// Runs the routine under an error trap and shows the fault that ended it. Returns whether there was none.
+template <class Routine>
+bool RunReported(Dialogs& dialogs, Routine&& routine) {
+    auto const error = text::Trap(std::forward<Routine>(routine));
+    if (error) {
+        ShowError(dialogs, *error);
+    }
+    return !error;
+}
 
 } // namespace quorvex::platform

@@ -21,18 +21,27 @@ using text::Fault;
 using text::RunTimeError;
 
 // The numbers of a line, in the order in which they stand.
-constexpr std::array<double QuoteRecord::*, 6> Numbers = {&QuoteRecord::Open,   &QuoteRecord::High,
-                                                          &QuoteRecord::Low,    &QuoteRecord::Close,
-                                                          &QuoteRecord::Volume, &QuoteRecord::OpenInterest};
-constexpr std::size_t NumberCount = Numbers.size();
+constexpr std::array<double QuoteRecord::*, 6> NumberFields = {
+    &QuoteRecord::Open,  &QuoteRecord::High,   &QuoteRecord::Low,
+    &QuoteRecord::Close, &QuoteRecord::Volume, &QuoteRecord::OpenInterest};
+constexpr std::size_t NumberCount = NumberFields.size();
 
-// A line as it stands in the file, its numbers not yet rounded.
+// A line as it stands in the file, its numbers not yet rounded. A number beyond a double is empty: it matters
+// only when the line comes to need it.
 struct QuoteLine {
     std::optional<text::CalendarDay> Date;
-    std::array<double, NumberCount> Values{};
+    std::array<std::optional<double>, NumberCount> Numbers{};
 
+    [[nodiscard]] double Number(std::size_t index) const {
+        if (!Numbers[index]) {
+            throw RunTimeError(Fault::Overflow);
+        }
+        return *Numbers[index];
+    }
+
+    // Whether the date is one and the product of the four prices is above zero.
     [[nodiscard]] bool IsQuote() const {
-        return Date && text::RequireFinite(Values[0] * Values[1] * Values[2] * Values[3]) > 0;
+        return Date && text::RequireFinite(Number(0) * Number(1) * Number(2) * Number(3)) > 0;
     }
 };
 
@@ -41,11 +50,17 @@ std::string_view TakeOrEmpty(text::FieldReader& fields) {
     return fields.AtEnd() ? std::string_view() : fields.Take();
 }
 
+std::optional<double> NumberWithinRange(std::string_view field) {
+    std::optional<double> number;
+    static_cast<void>(text::Trap([&] { number = text::LeadingNumber(field); }));
+    return number;
+}
+
 QuoteLine ReadLine(text::FieldReader& fields) {
     QuoteLine line;
     line.Date = text::ParseDate(TakeOrEmpty(fields));
-    for (double& value : line.Values) {
-        value = text::LeadingNumber(TakeOrEmpty(fields));
+    for (auto& number : line.Numbers) {
+        number = NumberWithinRange(TakeOrEmpty(fields));
     }
     return line;
 }
@@ -54,7 +69,7 @@ QuoteRecord Rounded(QuoteLine const& line, text::NumberFormat const& format) {
     QuoteRecord record;
     record.Date = text::FormatDate(*line.Date);
     for (std::size_t index = 0; index < NumberCount; ++index) {
-        record.*Numbers[index] = format.Round(line.Values[index]);
+        record.*NumberFields[index] = format.Round(line.Number(index));
     }
     return record;
 }
@@ -101,12 +116,11 @@ std::int16_t ReadQuotes(text::ByteSource& source, text::NumberFormat const& form
 std::int16_t LoadQuoteFile(QuoteSeries& series, prefs::Settings const& settings, platform::Files const& files,
                            platform::Dialogs& dialogs) {
     std::int16_t count = 0;
-    auto const error = text::Trap([&] {
+    bool const wasRead = platform::RunReported(dialogs, [&] {
         auto const source = files.OpenForInput(settings.DataPath + series.QuoteFileName);
         count = ReadQuotes(*source, text::NumberFormat(settings.CurrencyFormat), series);
     });
-    if (error) {
-        platform::ShowError(dialogs, *error);
+    if (!wasRead) {
         return 0;
     }
     if (count < MinQuotes) {
@@ -126,7 +140,7 @@ std::string QuoteFileText(QuoteSeries const& series, text::NumberFormat const& f
     for (std::int16_t day = 1; day <= series.WorkingCount; ++day) {
         QuoteRecord const& record = series.Working[day];
         text += record.Date;
-        for (auto const number : Numbers) {
+        for (auto const number : NumberFields) {
             text += ", ";
             AppendReadableNumber(text, record.*number, format);
         }
@@ -137,12 +151,11 @@ std::string QuoteFileText(QuoteSeries const& series, text::NumberFormat const& f
 
 bool SaveQuoteFile(std::string const& fileName, QuoteSeries& series, prefs::Settings const& settings,
                    platform::Files& files, platform::Dialogs& dialogs) {
-    auto const error = text::Trap([&] {
+    bool const saved = platform::RunReported(dialogs, [&] {
         files.Replace(settings.DataPath + fileName,
                       QuoteFileText(series, text::NumberFormat(settings.CurrencyFormat)));
     });
-    if (error) {
-        platform::ShowError(dialogs, *error);
+    if (!saved) {
         return false;
     }
     for (std::int16_t day = 1; day <= series.WorkingCount; ++day) {

@@ -5,7 +5,7 @@
 
 #include "platform/basMessages.h"
 #include "quotes/basDisk.h"
-#include "text/basFolders.h"
+#include "text/basTexts.h"
 
 namespace quorvex::quotes {
 
@@ -36,19 +36,19 @@ void CloseQuoteFile(QuoteSeries& series) {
 }
 
 bool IsQuoteFileName(std::string_view name) {
-    return text::IsNameWithExtension(text::Trim(name), ".TXT");
+    return text::IsNameWithExtension(name, ".TXT");
 }
 
 void SaveQuoteFileAs(QuoteSeries& series, prefs::Settings const& settings, platform::Files& files,
                      platform::Dialogs& dialogs) {
     std::string const answer =
         dialogs.Ask({"Save " + series.QuoteFileName + " As...", "Save As...", series.QuoteFileName});
-    if (!IsQuoteFileName(answer)) {
+    std::string const name(text::Trim(answer));
+    if (!IsQuoteFileName(name)) {
         dialogs.Show(
             {"Invalid data file name", std::string(platform::ApplicationTitle), platform::Icon::Critical});
         return;
     }
-    std::string const name(text::Trim(answer));
     if (SaveQuoteFile(name, series, settings, files, dialogs)) {
         series.QuoteFileName = name;
     }

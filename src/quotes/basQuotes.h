@@ -28,7 +28,7 @@ void OpenQuoteFile(QuoteSeries& series, prefs::Settings const& settings, platfor
 // Closes the quote file. The records stay where they are; nothing uses them without a file name.
 void CloseQuoteFile(QuoteSeries& series);
 
-// Whether a name, trimmed, is one that quotes can be saved under: five characters at least, ending with
+// Whether a name is one that quotes can be saved under: five characters at least, ending with
 // ".TXT" in either case.
 [[nodiscard]] bool IsQuoteFileName(std::string_view name);
 

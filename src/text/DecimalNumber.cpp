@@ -83,7 +83,7 @@ void FromScientificText(double magnitude, DecimalNumber& number) {
 DecimalNumber ToDecimal(double value) {
     DecimalNumber number;
     number.Negative = std::signbit(value);
-    double const magnitude = std::fabs(value);
+    double const magnitude = std::fabs(RequireFinite(value));
     if (!FromFewDecimals(magnitude, number)) {
         FromScientificText(magnitude, number);
     }

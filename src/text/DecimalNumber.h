@@ -15,7 +15,8 @@ struct DecimalNumber {
     int Exponent = 0;
 };
 
-// The decimal number of 15 significant digits nearest to the finite value, without trailing zero digits.
+// The decimal number of 15 significant digits nearest to the value, without trailing zero digits. Raises
+// "Overflow" for an infinity or NaN.
 [[nodiscard]] DecimalNumber ToDecimal(double value);
 
 // The number rounded to so many decimals, half away from zero; its exponent is then -decimals or more.

@@ -3,6 +3,7 @@
 
 #include "text/basDates.h"
 
+#include "text/Characters.h"
 #include "text/RunTimeError.h"
 
 #include <array>
@@ -33,7 +34,7 @@ public:
     bool Number(std::size_t least, std::size_t most, int& value) {
         std::size_t length = 0;
         value = 0;
-        while (length < rest_.size() && length <= most && rest_[length] >= '0' && rest_[length] <= '9') {
+        while (length < rest_.size() && length <= most && IsDigit(rest_[length])) {
             value = value * 10 + (rest_[length] - '0');
             ++length;
         }
@@ -105,10 +106,6 @@ struct DateParts {
     int Month = 0;
     int Day = 0;
 };
-
-bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
 
 bool IsSeparator(char c) {
     return c == '/' || c == '-';

@@ -3,6 +3,7 @@
 
 #include "text/basFields.h"
 
+#include "text/Characters.h"
 #include "text/RunTimeError.h"
 
 #include <algorithm>
@@ -16,10 +17,6 @@ namespace {
 constexpr std::size_t FirstCapacity = 65'536;
 constexpr char CtrlZ = '\x1a';
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
-
-bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
 
 bool IsLineEnd(char c) {
     return c == '\r' || c == '\n';
@@ -101,9 +98,6 @@ bool FieldReader::AtEnd() {
             return true;
         }
         if (!IsBlank(c) && !IsLineEnd(c)) {
-            if (!insideLine_) {
-                at_ = keep_ + passed;
-            }
             return false;
         }
         ++passed;

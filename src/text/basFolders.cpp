@@ -3,19 +3,11 @@
 
 #include "text/basFolders.h"
 
+#include "text/basTexts.h"
+
 #include <cstddef>
 
 namespace quorvex::text {
-
-namespace {
-
-constexpr std::size_t ShortestName = 5;
-
-char Upper(char letter) {
-    return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
-}
-
-} // namespace
 
 std::string EndWithSeparator(std::string_view folder) {
     std::string ended(folder);
@@ -39,7 +31,7 @@ bool MatchesPattern(std::string_view name, std::string_view pattern) {
             star = rule++;
             afterStar = at;
         } else if (rule < pattern.size() &&
-                   (pattern[rule] == '?' || Upper(pattern[rule]) == Upper(name[at]))) {
+                   (pattern[rule] == '?' || UpperCase(pattern[rule]) == UpperCase(name[at]))) {
             ++rule;
             ++at;
         } else if (star != std::string_view::npos) {
@@ -53,26 +45,6 @@ bool MatchesPattern(std::string_view name, std::string_view pattern) {
         ++rule;
     }
     return rule == pattern.size();
-}
-
-std::string UpperCase(std::string_view text) {
-    std::string raised(text);
-    for (char& letter : raised) {
-        letter = Upper(letter);
-    }
-    return raised;
-}
-
-std::string_view Trim(std::string_view text) {
-    auto const first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
-bool IsNameWithExtension(std::string_view name, std::string_view extension) {
-    return name.size() >= ShortestName && UpperCase(name).ends_with(extension);
 }
 
 } // namespace quorvex::text

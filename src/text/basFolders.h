@@ -18,14 +18,4 @@ namespace quorvex::text {
 // fit in either case.
 [[nodiscard]] bool MatchesPattern(std::string_view name, std::string_view pattern);
 
-// The text with the letters a..z raised; every other byte stays, whatever the locale.
-[[nodiscard]] std::string UpperCase(std::string_view text);
-
-// The text without the blanks at both of its ends.
-[[nodiscard]] std::string_view Trim(std::string_view text);
-
-// Whether the text is long enough for a name and ends, in either case, with the extension: five characters at
-// least, one in front of a dot and three letters. The extension is given in upper case, dot included.
-[[nodiscard]] bool IsNameWithExtension(std::string_view name, std::string_view extension);
-
 } // namespace quorvex::text

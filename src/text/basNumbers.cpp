@@ -3,6 +3,7 @@
 
 #include "text/basNumbers.h"
 
+#include "text/Characters.h"
 #include "text/DecimalNumber.h"
 #include "text/RunTimeError.h"
 
@@ -17,23 +18,15 @@ namespace quorvex::text {
 
 namespace {
 
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
-bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
-
 // What the scan of a number found. Digits is the number without its point, good for up to 19 significant
 // digits.
 struct ScannedNumber {
     bool Found = false;
     bool Negative = false;
     std::uint64_t Digits = 0;
-    std::ptrdiff_t DigitCount = 0; // significant digits seen, leading zeros aside
-    std::ptrdiff_t Scale = 0;      // the number is the digits x 10^Scale
-    std::size_t Begin = 0;         // of the digits, behind the sign
+    std::int64_t DigitCount = 0; // significant digits seen, leading zeros aside
+    std::int64_t Scale = 0;      // the number is the digits x 10^Scale
+    std::size_t Begin = 0;       // of the digits, behind the sign
     std::size_t MantissaEnd = 0;
     std::size_t End = 0; // behind the exponent
 };
@@ -41,7 +34,7 @@ struct ScannedNumber {
 constexpr int MostExactDigits = 15;
 
 // An exponent is read up to here, which no text in memory can make up for with digits or zeros.
-constexpr std::ptrdiff_t LargestExponent = 100'000'000'000;
+constexpr std::int64_t LargestExponent = 100'000'000'000;
 
 void ScanExponent(std::string_view text, ScannedNumber& number) {
     std::size_t at = number.MantissaEnd;
@@ -56,7 +49,7 @@ void ScanExponent(std::string_view text, ScannedNumber& number) {
     if (at == text.size() || !IsDigit(text[at])) {
         return;
     }
-    std::ptrdiff_t exponent = 0;
+    std::int64_t exponent = 0;
     for (; at < text.size() && IsDigit(text[at]); ++at) {
         if (exponent < LargestExponent) {
             exponent = exponent * 10 + (text[at] - '0');
@@ -191,7 +184,7 @@ double StrictNumber(std::string_view text) {
     }
     std::string const plain = WithoutThousandsMarks(text);
     ScannedNumber const number = ScanNumber(plain);
-    if (!number.Found || number.End != plain.size() || number.Begin > 1) {
+    if (!number.Found || number.End != plain.size()) {
         throw RunTimeError(Fault::TypeMismatch);
     }
     return ValueOf(plain, number);

@@ -4,13 +4,13 @@
 #include "app/basAnalysis.h"
 
 #include "RunningProgram.h"
+#include "cycles/basCorrel.h"
 #include "support/Golden.h"
 #include "support/Messages.h"
 #include "support/QuoteTexts.h"
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <optional>
 
 namespace quorvex::app {
@@ -50,7 +50,7 @@ TEST_F(Analysis, OfARefusedFileIsNone) {
 }
 
 TEST_F(Analysis, WithAFitHasEverything) {
-    auto const result = Run(GoldenFile("quotes/q250.txt"), {"", 3, "", ""});
+    auto const result = Run(GoldenFile("quotes/q250.txt"), {std::nullopt, 3, "", ""});
     ASSERT_TRUE(result);
     EXPECT_TRUE(result->HasResidual);
     EXPECT_EQ(result->Fits.size(), 3U);
@@ -63,7 +63,7 @@ TEST_F(Analysis, WithAFitHasEverything) {
 }
 
 TEST_F(Analysis, OfTwoFittedCyclesShowsTheirWeightsInPercent) {
-    ASSERT_TRUE(Run(GoldenFile("quotes/q250.txt"), {"", 2, "", ""}));
+    ASSERT_TRUE(Run(GoldenFile("quotes/q250.txt"), {std::nullopt, 2, "", ""}));
     EXPECT_EQ(running.Grid.Text(cycles::Parameter::Weight, 1), "60");
     EXPECT_EQ(running.Grid.Text(cycles::Parameter::Weight, 2), "40");
     EXPECT_EQ(running.Data->Cycles.Cycles[1].Weight, 60);
@@ -88,7 +88,7 @@ TEST_F(Analysis, GoesOnAfterAnUnreadableParameterFile) {
 }
 
 TEST_F(Analysis, FollowsANarrowedRange) {
-    auto const result = Run(GoldenFile("quotes/q250.txt"), {"", 1, "08/05/99", ""});
+    auto const result = Run(GoldenFile("quotes/q250.txt"), {std::nullopt, 1, "08/05/99", ""});
     ASSERT_TRUE(result);
     EXPECT_EQ(running.Data->Quotes.FirstQuoteDate, "08/05/99");
     EXPECT_EQ(running.Data->Quotes.LastQuoteDate, "01/06/00");
@@ -98,7 +98,7 @@ TEST_F(Analysis, FollowsANarrowedRange) {
 }
 
 TEST_F(Analysis, OfAShortRangeListsTheClosesThereAre) {
-    auto const result = Run(GoldenFile("quotes/q250.txt"), {"", 1, "08/05/99", "08/12/99"});
+    auto const result = Run(GoldenFile("quotes/q250.txt"), {std::nullopt, 1, "08/05/99", "08/12/99"});
     ASSERT_TRUE(result);
     EXPECT_EQ(running.Data->Quotes.WorkingCount, 6);
     ASSERT_TRUE(result->ForecastShown);
@@ -107,7 +107,7 @@ TEST_F(Analysis, OfAShortRangeListsTheClosesThereAre) {
 }
 
 TEST_F(Analysis, ReportsADateThatIsNone) {
-    auto const result = Run(QuoteLines(30), {"", 0, "nonsense", ""});
+    auto const result = Run(QuoteLines(30), {std::nullopt, 0, "nonsense", ""});
     ASSERT_TRUE(result);
     EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Type mismatch", "Quorvex", Icon::None));
     EXPECT_EQ(running.Data->Quotes.WorkingCount, 30);
@@ -119,6 +119,29 @@ TEST_F(Analysis, ReportsAMovingAverageLongerThanTheSeries) {
     ASSERT_TRUE(result);
     EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Subscript out of range", "Quorvex", Icon::None));
     EXPECT_FALSE(result->HasMovingAverage);
+    EXPECT_FALSE(result->CorrelationCoefficient);
+}
+
+TEST_F(Analysis, RefusesALastDayThatNoQuoteBears) {
+    EXPECT_FALSE(Run(GoldenFile("quotes/q250.txt"), {std::nullopt, 1, "08/05/99", "08/14/99"}));
+    EXPECT_TRUE(
+        IsOnlyMessage(running.Dialogs.Messages, "No quote is dated 08/14/99", "Quorvex", Icon::Exclamation));
+}
+
+TEST_F(Analysis, HasThePropertiesOfTheQuotes) {
+    auto const result = Run(QuoteLines(30));
+    ASSERT_TRUE(result);
+    ASSERT_TRUE(result->Properties);
+    EXPECT_EQ(result->Properties->size(), 10U);
+}
+
+TEST_F(Analysis, OfPricesTooWideApartLacksTheirPropertiesOnly) {
+    running.Data->Settings.CurrencyFormat = "";
+    auto const result = Run("03/05/02, 1e-308, 1e308, -1e308, -1, 0, 0\r\n" + QuoteLines(30));
+    ASSERT_TRUE(result);
+    EXPECT_FALSE(result->Properties);
+    ASSERT_FALSE(running.Dialogs.Messages.empty());
+    EXPECT_EQ(running.Dialogs.Messages.back().Text, "Overflow");
 }
 
 TEST_F(Analysis, ReportsAFitThatFails) {
@@ -126,7 +149,7 @@ TEST_F(Analysis, ReportsAFitThatFails) {
     for (int day = 1; day <= 28; ++day) {
         flat += "01/" + std::to_string(day) + "/02, 5, 6, 4, 5, 1, 1\r\n";
     }
-    auto const result = Run(flat, {"", 2, "", ""});
+    auto const result = Run(flat, {std::nullopt, 2, "", ""});
     ASSERT_TRUE(result);
     EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Division by zero", "Quorvex", Icon::None));
     EXPECT_TRUE(result->HasMovingAverage);
@@ -139,7 +162,8 @@ TEST_F(Analysis, CorrelatesTheCurvesThatItComputed) {
     auto const result = Run(GoldenFile("quotes/q060.txt"), {"C:\\Quorvex\\p.dat", 0, "", ""});
     ASSERT_TRUE(result);
     ASSERT_TRUE(result->CorrelationCoefficient);
-    EXPECT_LE(std::abs(*result->CorrelationCoefficient), 1);
+    EXPECT_EQ(result->CorrelationCoefficient,
+              cycles::CoefficientOfCorrelation(running.Data->Curves, running.Data->Quotes.WorkingCount));
     EXPECT_EQ(result->CorrelationMessage.Title, "Quorvex - Coefficient of Correlation");
 }
 

@@ -104,6 +104,46 @@ TEST(Commands, AFitThatFailsShowsItsDescription) {
     EXPECT_EQ(running.Grid.Text(cycles::Parameter::Weight, 1), "0");
 }
 
+TEST(Commands, AFitThatFailsLeavesTheGridAsItWasWritten) {
+    RunningProgram running;
+    running.Open("corn.txt", QuoteLines(25));
+    // The second cycle of this moving average has a Shift beyond 16 bits.
+    int day = 0;
+    for (int const value : {2, 2, 2, 2, 1, 0, 2, 0, 0, 1, -1, -1, 0, -1, 0, 0, 0, 0, 0, 0, 2, 0, 0, 0, 0}) {
+        running.Data->Quotes.Working[++day].Close = value;
+    }
+    running.Data->Settings.MovingAverageIndex = "1";
+    ParametersAutomate(2, *running.Data, running.Outside);
+    EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Overflow", "Quorvex", Icon::None));
+    EXPECT_EQ(running.Grid.Text(cycles::Parameter::Weight, 1), "50");
+    EXPECT_EQ(running.Grid.Text(cycles::Parameter::Weight, 2), "34");
+    EXPECT_EQ(running.Grid.Text(cycles::Parameter::Period, 2), "4");
+    EXPECT_FALSE(cycles::HasActiveCycle(running.Data->Cycles));
+}
+
+TEST(Commands, AutomateGoesOnWhenTheMovingAverageCannotBeRefreshed) {
+    RunningProgram running;
+    running.Open("q060.txt", GoldenFile("quotes/q060.txt"));
+    running.Data->Settings.MovingAverageIndex = "40000"; // no whole number of 16 bits
+    ParametersAutomate(2, *running.Data, running.Outside);
+    EXPECT_TRUE(running.Dialogs.Messages.empty());
+    EXPECT_EQ(running.Grid.Text(cycles::Parameter::Weight, 1), "60");
+    EXPECT_EQ(running.Grid.Text(cycles::Parameter::Period, 1), "23");
+}
+
+TEST(Commands, AutomateOfPricesWithoutARangeFitsTheirMovingAverage) {
+    RunningProgram running;
+    running.Open("q060.txt", GoldenFile("quotes/q060.txt"));
+    for (int day = 1; day <= 60; ++day) {
+        running.Data->Quotes.Working[day].High = 5;
+        running.Data->Quotes.Working[day].Low = 5;
+    }
+    running.Data->Curves.MovingAverageCurve.Fill(0);
+    ParametersAutomate(2, *running.Data, running.Outside);
+    EXPECT_TRUE(running.Dialogs.Messages.empty());
+    EXPECT_EQ(running.Grid.Text(cycles::Parameter::Period, 1), "23");
+}
+
 TEST(Commands, CorrelationReportsAPercentage) {
     RunningProgram running;
     running.Open("q250.txt", GoldenFile("quotes/q250.txt"));
@@ -133,6 +173,7 @@ TEST(Commands, CorrelationOfFlatPricesShowsTheDivision) {
     running.Data->Curves.CompositeCurve.Fill(1);
     Correlation(*running.Data, running.Outside);
     EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Division by zero", "Quorvex", Icon::None));
+    EXPECT_EQ(running.Data->Curves.CompositeCurve[1], 1) << "the command ends with the fault";
 }
 
 TEST(Commands, ForecastNeedsWeights) {

@@ -81,6 +81,7 @@ TEST(Recompute, ACycleThatOverflowsIsAFaultOfTheCycles) {
     auto const faults = Recompute(*running.Data, running.Outside);
     ASSERT_TRUE(faults.Cycles);
     EXPECT_EQ(faults.Cycles->Description(), "Overflow");
+    EXPECT_FALSE(faults.Residual) << "a composite that was not computed has no residual";
 }
 
 } // namespace

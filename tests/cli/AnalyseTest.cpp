@@ -161,7 +161,7 @@ TEST(AnalyseJson, AgreesWithTheReferenceCurvesOfWholePercentages) {
             EXPECT_TRUE(IsClose(forecast.at("Values").at(day), expected.at("forecast").at("values").at(day)));
         }
     }
-    EXPECT_GT(compared, 0);
+    EXPECT_EQ(compared, 4);
 }
 
 TEST(AnalyseJson, AgreesWithTheReferenceProperties) {
@@ -195,6 +195,22 @@ TEST(Analyse, ReportsFilesThatCannotBeRead) {
     run = RunCompanion({"analyse", folder.Text()});
     EXPECT_EQ(run.ExitStatus, 1);
     EXPECT_EQ(run.Output, "");
+}
+
+TEST(Analyse, TakesAnEmptyPathForABadName) {
+    auto run = RunCompanion({"analyse", ""});
+    EXPECT_EQ(run.ExitStatus, 1);
+    EXPECT_EQ(run.Errors, "Bad file name or number\n");
+    run = RunCompanion({"analyse", GoldenPath("quotes/q060.txt"), "--parameters", ""});
+    EXPECT_EQ(run.ExitStatus, 1);
+    EXPECT_EQ(run.Errors, "Bad file name or number\n");
+}
+
+TEST(Analyse, RefusesALastDayThatNoQuoteBears) {
+    auto const run = RunCompanion({"analyse", GoldenPath("quotes/q250.txt"), "--end", "08/14/99", "--json"});
+    EXPECT_EQ(run.ExitStatus, 1);
+    EXPECT_EQ(run.Output, "");
+    EXPECT_EQ(run.Errors, "No quote is dated 08/14/99\n");
 }
 
 TEST(Analyse, PrintsWhatThereIsWhenTheParameterFileBreaksOff) {

@@ -64,9 +64,9 @@ TEST(CharacterChart, FitsTheTerminal) {
     auto const program = RisingProgram();
     for (int const width : {1, 20, 40, 80, 500}) {
         for (std::string const& line : LinesOf(CharacterChart(*program, ResultWith(true), width))) {
-            if (!line.ends_with("days on")) {
-                EXPECT_LE(line.size(), static_cast<std::size_t>(std::max(width, 28))) << line;
-            }
+            // A terminal too narrow for twenty columns gets those all the same, and the legend stays whole.
+            bool const legend = line.ends_with("days on");
+            EXPECT_TRUE(legend || line.size() <= static_cast<std::size_t>(std::max(width, 28))) << line;
         }
     }
 }

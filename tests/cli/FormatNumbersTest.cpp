@@ -21,6 +21,10 @@ TEST(FormatNumbers, TakesNegativeNumbersAndFormatsThatLookLikeOptions) {
     EXPECT_EQ(RunCompanion({"format", "--0", "5"}).Output, "--5\n");
 }
 
+TEST(FormatNumbers, TakesTheConventionalEndOfOptionsBehindTheFormat) {
+    EXPECT_EQ(RunCompanion({"format", "##0", "--", "-7"}).Output, "-7\n");
+}
+
 TEST(FormatNumbers, TakesAnEmptyFormat) {
     EXPECT_EQ(RunCompanion({"format", "", "245.50", "100000"}).Output, "245.5\n100000\n");
 }

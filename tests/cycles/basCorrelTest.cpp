@@ -3,7 +3,7 @@
 
 #include "cycles/basCorrel.h"
 
-#include "CycleTexts.h"
+#include "ReferenceCurves.h"
 #include "platform/fake/ScriptedDialogs.h"
 #include "support/Approximate.h"
 #include "support/Golden.h"
@@ -97,7 +97,11 @@ TEST(Correlation, OfAFlatCurveDividesByZero) {
 TEST(Correlation, AgreesWithTheAnalysesOfTheReference) {
     for (auto const& expected : tests::GoldenVector("curves")) {
         auto const& correlation = expected.at("correlation");
-        auto const message = CorrelationMessage(correlation.at("r").get<double>());
+        ReferenceCurves const actual(expected);
+        auto const r = CoefficientOfCorrelation(*actual.curves, actual.series->WorkingCount);
+        ASSERT_TRUE(r);
+        EXPECT_TRUE(IsClose(*r, correlation.at("r")));
+        auto const message = CorrelationMessage(r);
         EXPECT_EQ(message.Text, JoinLines(correlation.at("lines")));
         EXPECT_EQ(message.Title, correlation.at("title"));
         EXPECT_EQ(message.Shown, tests::IconNamed(correlation.at("icon")));

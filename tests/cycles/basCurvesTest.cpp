@@ -4,6 +4,7 @@
 #include "cycles/basCurves.h"
 
 #include "CycleTexts.h"
+#include "ReferenceCurves.h"
 #include "support/Approximate.h"
 #include "support/Golden.h"
 #include "support/QuoteTexts.h"
@@ -133,26 +134,6 @@ TEST(MovingAverage, TakesItsLengthFromTheLeadingNumberOfTheText) {
     EXPECT_EQ(MovingAverageLength(""), 0);
     EXPECT_THROW(static_cast<void>(MovingAverageLength("40000")), text::RunTimeError);
 }
-
-// The curves of one reference analysis.
-class ReferenceCurves {
-public:
-    explicit ReferenceCurves(nlohmann::json const& expected)
-        : series(GoldenSeries(expected.at("file"), expected.at("currency_format").get<std::string>())) {
-        SetRows(*set, expected.at("cycles"));
-        quotes::PriceScale const scale{expected.at("price_scale").at("high"),
-                                       expected.at("price_scale").at("low")};
-        auto const length = MovingAverageLength(expected.at("moving_average_index").get<std::string>());
-        ComputeMovingAverage(*series, length, curves->MovingAverageCurve);
-        ComputeCycleValues(*set, series->WorkingCount);
-        ComputeComposite(*set, series->WorkingCount, curves->CompositeCurve);
-        ComputeResidual(*curves, scale, series->WorkingCount);
-    }
-
-    std::unique_ptr<quotes::QuoteSeries> series;
-    std::unique_ptr<CycleParameterSet> set = std::make_unique<CycleParameterSet>();
-    std::unique_ptr<CycleCurves> curves = std::make_unique<CycleCurves>();
-};
 
 template <class Curve>
 void ExpectCurve(Curve const& curve, nlohmann::json const& days, nlohmann::json const& values) {

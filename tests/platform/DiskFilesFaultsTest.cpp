@@ -5,6 +5,7 @@
 // permission, links, and a process that dies while it saves.
 
 #include "platform/disk/DiskFiles.h"
+#include "support/AsOrdinaryUser.h"
 #include "support/TemporaryFolder.h"
 #include "text/RunTimeError.h"
 
@@ -14,11 +15,11 @@
 #include <filesystem>
 #include <optional>
 #include <random>
-#include <stdexcept>
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace quorvex::platform::disk {
@@ -26,26 +27,7 @@ namespace {
 
 using text::Fault;
 
-constexpr uid_t Nobody = 65534;
-
-// The administrator may do everything, so the tests of permissions run as somebody else.
-class AsOrdinaryUser {
-public:
-    AsOrdinaryUser() {
-        if (geteuid() == 0 && seteuid(Nobody) != 0) {
-            throw std::runtime_error("Cannot become an ordinary user");
-        }
-    }
-
-    AsOrdinaryUser(AsOrdinaryUser const&) = delete;
-    AsOrdinaryUser& operator=(AsOrdinaryUser const&) = delete;
-
-    ~AsOrdinaryUser() {
-        if (geteuid() != getuid()) {
-            static_cast<void>(!seteuid(getuid()));
-        }
-    }
-};
+using tests::AsOrdinaryUser;
 
 // Files may grow to this many bytes only, which fails the way a full disk does.
 class SmallDisk {
@@ -144,6 +126,51 @@ TEST(DiskFilesFaults, ALinkKeepsPointingAtTheReplacedFile) {
     EXPECT_EQ(FaultOfReplacing(folder.File("link.txt"), "new"), std::nullopt);
     EXPECT_TRUE(std::filesystem::is_symlink(folder.File("link.txt")));
     EXPECT_EQ(folder.Read("real.txt"), "new");
+}
+
+TEST(DiskFilesFaults, ANewFileIsReadableAsTheUserWants) {
+    tests::TemporaryFolder const folder;
+    mode_t const before = umask(027);
+    EXPECT_EQ(FaultOfReplacing(folder.File("a.txt"), "new"), std::nullopt);
+    umask(before);
+
+    struct stat status {};
+
+    ASSERT_EQ(stat(folder.File("a.txt").c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777U, 0640U);
+}
+
+TEST(DiskFilesFaults, APipeIsNeitherOfferedNorReplaced) {
+    tests::TemporaryFolder const folder;
+    ASSERT_EQ(mkfifo(folder.File("pipe.txt").c_str(), 0666), 0);
+    EXPECT_TRUE(DiskFiles().List(folder.Text(), "*.Txt").empty());
+    EXPECT_EQ(FaultOfReplacing(folder.File("pipe.txt"), "new"), Fault::PermissionDenied);
+    EXPECT_TRUE(std::filesystem::is_fifo(folder.File("pipe.txt")));
+}
+
+TEST(DiskFilesFaults, WhatAKilledProcessLeftIsNotTouched) {
+    tests::TemporaryFolder const folder;
+    folder.Write(".quorvex-1.tmp", "of another process");
+    EXPECT_EQ(FaultOfReplacing(folder.File("a.txt"), "new"), std::nullopt);
+    EXPECT_EQ(folder.Read(".quorvex-1.tmp"), "of another process");
+    EXPECT_EQ(folder.EntryCount(), 2);
+}
+
+TEST(DiskFilesFaults, TwoSavesAtOnceDoNotMix) {
+    constexpr int Saves = 200;
+    tests::TemporaryFolder const folder;
+    auto save = [&folder](std::string const& name, std::string const& content) {
+        DiskFiles files;
+        for (int times = 0; times < Saves; ++times) {
+            files.Replace(folder.File(name), content);
+        }
+    };
+    std::thread other(save, "a.txt", "first");
+    save("b.txt", "second");
+    other.join();
+    EXPECT_EQ(folder.Read("a.txt"), "first");
+    EXPECT_EQ(folder.Read("b.txt"), "second");
+    EXPECT_EQ(folder.EntryCount(), 2);
 }
 
 TEST(DiskFilesFaults, AProcessThatDiesWhileSavingLeavesTheOldOrTheNewFile) {

@@ -7,6 +7,7 @@
 #include "platform/fake/MemoryFiles.h"
 #include "platform/fake/ScriptedDialogs.h"
 #include "quotes/basDisk.h"
+#include "support/AsOrdinaryUser.h"
 #include "support/Messages.h"
 #include "support/QuoteTexts.h"
 #include "support/TemporaryFolder.h"
@@ -66,6 +67,19 @@ TEST_F(QuoteFileFaults, AFolderInPlaceOfAFileIsReported) {
     EXPECT_TRUE(IsOnlyMessage(dialogs.Messages, "Permission denied", "Quorvex", Icon::None));
 }
 
+#ifndef _WIN32
+TEST_F(QuoteFileFaults, AnUnreadableFileIsReported) {
+    folder.Write("secret.txt", QuoteLines(30));
+    std::filesystem::permissions(folder.Path(), std::filesystem::perms::all);
+    std::filesystem::permissions(folder.File("secret.txt"), std::filesystem::perms::none);
+    {
+        tests::AsOrdinaryUser const user;
+        EXPECT_EQ(Load("secret.txt"), 0);
+    }
+    EXPECT_TRUE(IsOnlyMessage(dialogs.Messages, "Permission denied", "Quorvex", Icon::None));
+}
+#endif
+
 TEST_F(QuoteFileFaults, ADeviceThatFailsHalfWayLeavesTheCountsAsTheyWere) {
     platform::fake::MemoryFiles files;
     files.Contents[folder.File("bad.txt")] = QuoteLines(100);
@@ -80,6 +94,11 @@ TEST_F(QuoteFileFaults, ADeviceThatFailsHalfWayLeavesTheCountsAsTheyWere) {
 
 TEST_F(QuoteFileFaults, ANumberBeyondADoubleIsReported) {
     EXPECT_EQ(LoadText(QuoteLines(30) + "03/05/02, 1e999, 1, 1, 1, 1, 1\r\n"), 0);
+    EXPECT_TRUE(IsOnlyMessage(dialogs.Messages, "Overflow", "Quorvex", Icon::None));
+}
+
+TEST_F(QuoteFileFaults, AVolumeBeyondADoubleIsReported) {
+    EXPECT_EQ(LoadText(QuoteLines(30) + "03/05/02, 1, 1, 1, 1, 1e999, 1\r\n"), 0);
     EXPECT_TRUE(IsOnlyMessage(dialogs.Messages, "Overflow", "Quorvex", Icon::None));
 }
 

@@ -130,6 +130,12 @@ TEST_F(QuoteFile, SkipsAnOddNumberOfNegativePricesAndKeepsAnEvenOne) {
     EXPECT_EQ(series->Working[26].Low, 3);
 }
 
+TEST_F(QuoteFile, SkipsALineBeforeItsNumbersMatter) {
+    EXPECT_EQ(Load("no date, 1e999, 1, 1, 1, 1, 1\r\n03/05/02, 0, 1, 1, 1, 1e999, 1\r\n" + QuoteLines(25)),
+              25);
+    EXPECT_TRUE(dialogs.Messages.empty());
+}
+
 TEST_F(QuoteFile, DoesNotCheckVolumeAndOpenInterest) {
     EXPECT_EQ(Load(QuoteLines(25) + "03/15/02, 1, 2, 3, 4, none, -7\r\n"), 26);
     EXPECT_EQ(series->Working[26].Volume, 0);

@@ -67,6 +67,13 @@ TEST(DecimalNumber, HasFifteenDigitsAtMost) {
     EXPECT_EQ(ToDecimal(9999999999999999.0), (DecimalNumber{false, 1, 16}));
 }
 
+TEST(DecimalNumber, OverflowsForWhatIsNoFiniteNumber) {
+    double const infinity = std::numeric_limits<double>::infinity();
+    for (double const value : {infinity, -infinity, std::numeric_limits<double>::quiet_NaN()}) {
+        EXPECT_EQ(FaultOf([&] { static_cast<void>(ToDecimal(value)); }), "Overflow");
+    }
+}
+
 TEST(DecimalNumber, AgreesWithThePrintedDigitsOfPrices) {
     std::mt19937_64 random(20020305); // NOLINT: the same numbers in every run
     std::uniform_int_distribution<std::int64_t> digits(1, 999'999'999'999'999);

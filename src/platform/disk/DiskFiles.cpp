@@ -8,7 +8,9 @@
 #include "text/basFolders.h"
 
 #include <algorithm>
+#include <optional>
 #include <system_error>
+#include <utility>
 
 namespace quorvex::platform::disk {
 
@@ -23,9 +25,14 @@ void RequireName(std::string_view path) {
     }
 }
 
-std::string Utf8(std::filesystem::path const& path) {
-    auto const text = path.u8string();
-    return {text.begin(), text.end()};
+// The name as UTF-8; nothing for one that Unicode cannot spell, as Windows allows.
+std::optional<std::string> Utf8(std::filesystem::path const& name) {
+    try {
+        auto const text = name.u8string();
+        return std::string(text.begin(), text.end());
+    } catch (std::system_error const&) {
+        return std::nullopt;
+    }
 }
 
 // A link keeps pointing at its file: the file behind it is the one that is replaced.
@@ -57,13 +64,11 @@ void DiskFiles::Replace(std::string const& path, std::string_view content) {
     RequireName(path);
     std::filesystem::path const target = BehindLinks(HostPath(path));
     std::error_code error;
-    if (std::filesystem::is_directory(target, error) || IsWriteProtected(target)) {
+    bool const exists = std::filesystem::exists(target, error);
+    if (exists && (!std::filesystem::is_regular_file(target, error) || IsWriteProtected(target))) {
         throw RunTimeError(Fault::PermissionDenied);
     }
-    auto const temporary = target.parent_path() / (".quorvex-" + std::to_string(ProcessNumber()) + ".tmp");
-    // Left behind by a process of the same number that was killed.
-    std::filesystem::remove(temporary, error);
-    WriteNewHostFile(temporary, content);
+    std::filesystem::path const temporary = WriteTemporaryHostFile(target, content);
     auto const fault = text::Trap([&] { MoveHostFile(temporary, target); });
     if (fault) {
         std::filesystem::remove(temporary, error);
@@ -77,9 +82,10 @@ std::vector<std::string> DiskFiles::List(std::string const& folder, std::string_
     std::filesystem::directory_iterator entry(HostPath(folder), error);
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
         std::error_code unreadable;
-        std::string name = Utf8(entry->path().filename());
-        if (text::MatchesPattern(name, pattern) && !entry->is_directory(unreadable)) {
-            names.push_back(std::move(name));
+        auto name = Utf8(entry->path().filename());
+        // A pipe or a device would keep a reader waiting.
+        if (name && text::MatchesPattern(*name, pattern) && entry->is_regular_file(unreadable)) {
+            names.push_back(std::move(*name));
         }
     }
     return names;

@@ -7,12 +7,13 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <random>
+#include <string>
 #include <system_error>
 
 #ifdef _WIN32
 #include <fcntl.h>
 #include <io.h>
-#include <process.h>
 #include <sys/stat.h>
 #include <windows.h>
 #else
@@ -34,7 +35,7 @@ using text::RunTimeError;
 constexpr int ReadFlags = _O_RDONLY | _O_BINARY | _O_NOINHERIT;
 constexpr int CreateFlags = _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT;
 
-int OpenDescriptor(std::filesystem::path const& path, int flags) {
+int OpenDescriptor(std::filesystem::path const& path, int flags, bool) {
     return _wopen(path.c_str(), flags, _S_IREAD | _S_IWRITE);
 }
 
@@ -64,9 +65,10 @@ bool IsFolder(int) {
 constexpr int ReadFlags = O_RDONLY | O_CLOEXEC;
 constexpr int CreateFlags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
 
-int OpenDescriptor(std::filesystem::path const& path, int flags) {
+int OpenDescriptor(std::filesystem::path const& path, int flags, bool onlyForOwner) {
+    constexpr mode_t Owner = 0600;
     constexpr mode_t EverybodyLessUmask = 0666;
-    return open(path.c_str(), flags, EverybodyLessUmask);
+    return open(path.c_str(), flags, onlyForOwner ? Owner : EverybodyLessUmask);
 }
 
 std::ptrdiff_t ReadDescriptor(int descriptor, char* bytes, std::size_t count) {
@@ -78,6 +80,12 @@ std::ptrdiff_t WriteDescriptor(int descriptor, char const* bytes, std::size_t co
 }
 
 int FlushDescriptor(int descriptor) {
+#ifdef F_FULLFSYNC
+    // On macOS fsync stops at the drive's own memory.
+    if (fcntl(descriptor, F_FULLFSYNC) == 0) {
+        return 0;
+    }
+#endif
     return fsync(descriptor);
 }
 
@@ -129,12 +137,10 @@ Fault FaultOf(int error, std::filesystem::path const& path) {
 // An open file, closed with its owner.
 class HostFile {
 public:
-    HostFile(std::filesystem::path const& path, int flags)
-        : path_(path),
-          descriptor_(OpenDescriptor(path, flags)) {
-        if (descriptor_ < 0) {
-            Raise(errno, path_);
-        }
+    // Takes over the descriptor, or raises the fault that the system has just reported in place of one.
+    HostFile(std::filesystem::path const& path, int descriptor)
+        : descriptor_(descriptor < 0 ? throw RunTimeError(FaultOf(errno, path)) : descriptor),
+          path_(path) {
         if (IsFolder(descriptor_)) {
             CloseDescriptor(descriptor_);
             throw RunTimeError(Fault::PermissionDenied);
@@ -165,7 +171,10 @@ public:
     void Write(std::string_view bytes) const {
         while (!bytes.empty()) {
             auto const count = WriteDescriptor(descriptor_, bytes.data(), bytes.size());
-            if (count >= 0) {
+            if (count == 0) {
+                throw RunTimeError(Fault::DiskFull);
+            }
+            if (count > 0) {
                 bytes.remove_prefix(static_cast<std::size_t>(count));
             } else if (errno != EINTR) {
                 Raise(errno, path_);
@@ -186,13 +195,14 @@ public:
     }
 
 private:
-    std::filesystem::path path_;
     int descriptor_;
+    std::filesystem::path path_;
 };
 
 class HostFileSource final : public text::ByteSource {
 public:
-    explicit HostFileSource(std::filesystem::path const& path) : file_(path, ReadFlags) {}
+    explicit HostFileSource(std::filesystem::path const& path)
+        : file_(path, OpenDescriptor(path, ReadFlags, false)) {}
 
     [[nodiscard]] std::size_t Read(std::span<char> buffer) override { return file_.Read(buffer); }
 
@@ -206,34 +216,39 @@ std::unique_ptr<text::ByteSource> OpenHostFile(std::filesystem::path const& path
     return std::make_unique<HostFileSource>(path);
 }
 
-void WriteNewHostFile(std::filesystem::path const& path, std::string_view content) {
-    HostFile file(path, CreateFlags);
+std::filesystem::path WriteTemporaryHostFile(std::filesystem::path const& target, std::string_view content) {
+    std::error_code ignored;
+    bool const onlyForOwner = std::filesystem::exists(target, ignored);
+    std::random_device random;
+    std::filesystem::path path;
+    int descriptor = -1;
+    do {
+        path = target.parent_path() / (".quorvex-" + std::to_string(random()) + ".tmp");
+        descriptor = OpenDescriptor(path, CreateFlags, onlyForOwner);
+    } while (descriptor < 0 && errno == EEXIST);
+    HostFile file(path, descriptor);
     auto const error = text::Trap([&] {
         file.Write(content);
         file.FlushAndClose();
     });
     if (error) {
-        std::error_code ignored;
         std::filesystem::remove(path, ignored);
         throw RunTimeError(error->Kind());
     }
+    return path;
 }
 
 #ifdef _WIN32
 
 void MoveHostFile(std::filesystem::path const& from, std::filesystem::path const& to) {
     if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0) {
-        throw RunTimeError(Fault::PermissionDenied);
+        throw RunTimeError(GetLastError() == ERROR_DISK_FULL ? Fault::DiskFull : Fault::PermissionDenied);
     }
 }
 
 bool IsWriteProtected(std::filesystem::path const& path) {
     DWORD const attributes = GetFileAttributesW(path.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
-}
-
-unsigned ProcessNumber() {
-    return static_cast<unsigned>(_getpid());
 }
 
 #else
@@ -260,10 +275,6 @@ void MoveHostFile(std::filesystem::path const& from, std::filesystem::path const
 bool IsWriteProtected(std::filesystem::path const& path) {
     // Asks with the effective user, who will do the writing.
     return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0 && errno == EACCES;
-}
-
-unsigned ProcessNumber() {
-    return static_cast<unsigned>(getpid());
 }
 
 #endif

@@ -17,9 +17,11 @@ namespace quorvex::platform::disk {
 // The file opened for reading from its start.
 [[nodiscard]] std::unique_ptr<text::ByteSource> OpenHostFile(std::filesystem::path const& path);
 
-// Creates the file, which must not exist, with this content and waits until the disk holds it. A file that
-// could not be written whole is gone again.
-void WriteNewHostFile(std::filesystem::path const& path, std::string_view content);
+// Writes the content to a new file beside the target, under a name that is not in use, and waits until the
+// disk holds it. Only its owner may read it when the target exists, whose permissions it gets on moving. A
+// file that could not be written whole is gone again.
+[[nodiscard]] std::filesystem::path WriteTemporaryHostFile(std::filesystem::path const& target,
+                                                           std::string_view content);
 
 // Puts the file in the place of the other one in a single step, with the other one's permissions when there
 // is one.
@@ -27,8 +29,5 @@ void MoveHostFile(std::filesystem::path const& from, std::filesystem::path const
 
 // Whether the file exists and may not be written.
 [[nodiscard]] bool IsWriteProtected(std::filesystem::path const& path);
-
-// A number that no other running process has, for names of temporary files.
-[[nodiscard]] unsigned ProcessNumber();
 
 } // namespace quorvex::platform::disk
