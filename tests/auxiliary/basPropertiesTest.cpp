@@ -78,7 +78,7 @@ TEST(Properties, KeepTheBoundsOfTheirSearch) {
 
 TEST(Properties, WithoutDaysDivideByZero) {
     auto const series = std::make_unique<quotes::QuoteSeries>();
-    EXPECT_THROW(DescribeQuotes(*series, "####0.00"), text::RunTimeError);
+    EXPECT_THROW(static_cast<void>(DescribeQuotes(*series, "####0.00")), text::RunTimeError);
 }
 
 } // namespace
