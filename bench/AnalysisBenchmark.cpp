@@ -8,6 +8,7 @@
 #include "TemporaryQuoteFile.h"
 #include "app/Program.h"
 #include "app/basAnalysis.h"
+#include "platform/BlankCanvas.h"
 #include "platform/disk/DiskFiles.h"
 
 #include <benchmark/benchmark.h>
@@ -25,7 +26,8 @@ void WholeAnalysis(benchmark::State& state) {
     SilentDialogs dialogs;
     platform::disk::DiskFiles files;
     platform::NoPendingMessages pending;
-    app::Services services{grid, dialogs, files, pending};
+    platform::BlankCanvas box;
+    app::Services services{grid, {box, box, box, box}, dialogs, files, pending};
     app::AnalysisRequest request;
     request.AutomatedCycles = 3;
     app::StartUp(*program, grid, file.Folder());

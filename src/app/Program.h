@@ -7,6 +7,7 @@
 #include "cycles/CycleCurves.h"
 #include "cycles/CycleParameterSet.h"
 #include "cycles/ParameterGrid.h"
+#include "platform/Canvas.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/PendingMessages.h"
@@ -31,9 +32,18 @@ struct Program {
     std::string ProgramFolder; // of the executable
 };
 
+// The four chart boxes.
+struct ChartBoxes {
+    platform::Canvas& Pic1; // quotes and moving average
+    platform::Canvas& Pic2; // single cycles
+    platform::Canvas& Pic3; // composite
+    platform::Canvas& Pic4; // residual
+};
+
 // The outside that commands work with.
 struct Services {
     cycles::ParameterGrid& Grid;
+    ChartBoxes Boxes;
     platform::Dialogs& Dialogs;
     platform::Files& Files;
     platform::PendingMessages& Pending;

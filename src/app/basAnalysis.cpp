@@ -3,7 +3,7 @@
 
 #include "app/basAnalysis.h"
 
-#include "app/basRecompute.h"
+#include "app/basRedraw.h"
 #include "cycles/basCorrel.h"
 #include "cycles/basParameters.h"
 #include "platform/basMessages.h"
@@ -49,7 +49,7 @@ void ReadParameters(Program& program, Services& services, std::string const& pat
 // Returns whether all cycles were fitted.
 bool FitCycles(Program& program, Services& services, int cycleCount, AnalysisResult& result) {
     if (cycleCount > 1) {
-        RefreshMovingAverage(program);
+        RefreshMovingAverage(program, services.Boxes.Pic1);
     }
     return platform::RunReported(services.Dialogs, [&] {
         cycles::AutomateCycles(cycleCount, program.Quotes.WorkingCount, program.Curves, program.Cycles,
@@ -81,7 +81,7 @@ Forecast ComputeWholeForecast(Program const& program) {
 
 // Takes cycles and residual up from the grid and forecasts with them.
 void FollowCycles(Program& program, Services& services, AnalysisResult& result) {
-    auto const faults = Recompute(program, services);
+    auto const faults = Redraw(program, services);
     Report(faults.Cycles, services.Dialogs);
     result.HasComposite = cycles::HasActiveCycle(program.Cycles) && !faults.Cycles;
     if (result.HasComposite && result.HasMovingAverage) {
@@ -102,7 +102,7 @@ std::optional<AnalysisResult> Analyse(Program& program, Services& services, Anal
         return std::nullopt;
     }
     AnalysisResult result;
-    auto const faults = Recompute(program, services);
+    auto const faults = Redraw(program, services);
     Report(faults.Quotes, services.Dialogs);
     result.HasMovingAverage = !faults.Quotes;
     if (request.ParameterPath) {

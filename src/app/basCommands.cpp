@@ -3,7 +3,8 @@
 
 #include "app/basCommands.h"
 
-#include "app/basRecompute.h"
+#include "app/basRedraw.h"
+#include "chart/basPlot.h"
 #include "cycles/basAutomate.h"
 #include "cycles/basCorrel.h"
 #include "cycles/basForecast.h"
@@ -17,21 +18,28 @@ namespace quorvex::app {
 
 void FileOpen(Program& program, Services& services) {
     quotes::OpenQuoteFile(program.Quotes, program.Settings, services.Files, services.Dialogs);
-    Recompute(program, services);
+    Redraw(program, services);
 }
 
-void FileClose(Program& program) {
+void FileClose(Program& program, Services& services) {
     quotes::CloseQuoteFile(program.Quotes);
+    chart::PrepareChart(services.Boxes.Pic1, program.Quotes.WorkingCount);
+    chart::PrepareChart(services.Boxes.Pic4, program.Quotes.WorkingCount);
 }
 
 void FileSaveAs(Program& program, Services& services) {
     quotes::SaveQuoteFileAs(program.Quotes, program.Settings, services.Files, services.Dialogs);
-    Recompute(program, services);
+    Redraw(program, services);
 }
 
 void ParametersNew(Program& program, Services& services) {
     platform::RunReported(services.Dialogs, [&] {
-        cycles::NewParameters(program.Cycles, program.Curves.CompositeCurve, services.Grid, services.Dialogs);
+        if (cycles::NewParameters(program.Cycles, program.Curves.CompositeCurve, services.Grid,
+                                  services.Dialogs)) {
+            for (platform::Canvas* box : {&services.Boxes.Pic2, &services.Boxes.Pic3, &services.Boxes.Pic4}) {
+                chart::PrepareChart(*box, program.Quotes.WorkingCount);
+            }
+        }
     });
 }
 
@@ -40,7 +48,7 @@ void ParametersOpen(Program& program, Services& services) {
         cycles::OpenParameters(program.Cycles, services.Grid, program.ProgramFolder, services.Files,
                                services.Dialogs);
     });
-    Recompute(program, services);
+    Redraw(program, services);
 }
 
 void ParametersSave(Services& services) {
@@ -60,12 +68,12 @@ void ParametersAutomate(int cycleCount, Program& program, Services& services) {
     platform::RunReported(services.Dialogs, [&] {
         // One cycle is fitted to the moving average as it stands.
         if (cycleCount > 1) {
-            RefreshMovingAverage(program);
+            RefreshMovingAverage(program, services.Boxes.Pic1);
         }
         std::vector<cycles::SinusoidFit> fits;
         cycles::AutomateCycles(cycleCount, program.Quotes.WorkingCount, program.Curves, program.Cycles,
                                services.Grid, fits);
-        Recompute(program, services);
+        Redraw(program, services);
     });
 }
 
@@ -75,7 +83,7 @@ void Correlation(Program& program, Services& services) {
     }
     platform::RunReported(services.Dialogs, [&] {
         cycles::ShowCorrelation(program.Curves, program.Quotes.WorkingCount, services.Dialogs);
-        Recompute(program, services);
+        Redraw(program, services);
     });
 }
 

@@ -11,7 +11,10 @@
 namespace quorvex::app {
 
 void FileOpen(Program& program, Services& services);
-void FileClose(Program& program);
+
+// Leaves the charts of the cycles as they are: they do not depend on the quotes.
+void FileClose(Program& program, Services& services);
+
 void FileSaveAs(Program& program, Services& services);
 
 void ParametersNew(Program& program, Services& services);

@@ -25,4 +25,11 @@ quotes::PriceScale ComputePriceScale(quotes::QuoteSeries const& series) {
     return {text::RequireFinite(maximum), text::RequireFinite(minimum)};
 }
 
+VerticalScale ScalePrices(quotes::PriceScale const& scale, double height) {
+    constexpr double Margins = 10;
+    double const factor = text::Divide(Margins - height, scale.PriceScaleHigh - scale.PriceScaleLow);
+    double const sum = text::RequireFinite((scale.PriceScaleLow + scale.PriceScaleHigh) * factor);
+    return {factor, (height - sum) / 2};
+}
+
 } // namespace quorvex::chart

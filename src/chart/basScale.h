@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-// The price axis of the quote chart.
+// The axes of the chart boxes.
 #pragma once
 
 #include "quotes/PriceScale.h"
@@ -12,5 +12,17 @@ namespace quorvex::chart {
 // The range from the lowest Low to the highest High of the working days, widened by a tenth at the top and
 // then by a tenth of the widened range at the bottom, which is therefore the larger margin.
 [[nodiscard]] quotes::PriceScale ComputePriceScale(quotes::QuoteSeries const& series);
+
+// Maps a value to a height in a box: y = Factor x value + Offset, in twips.
+struct VerticalScale {
+    double Factor = 0;
+    double Offset = 0;
+
+    [[nodiscard]] double Y(double value) const { return Factor * value + Offset; }
+};
+
+// The mapping of prices to a box of this height, with a margin of 5 twips above and below. Raises "Division
+// by zero" for a scale without height.
+[[nodiscard]] VerticalScale ScalePrices(quotes::PriceScale const& scale, double height);
 
 } // namespace quorvex::chart

@@ -4,18 +4,13 @@
 #include "cli/AnalysisJson.h"
 
 #include "auxiliary/basProperties.h"
-#include "text/basNumbers.h"
-
-#include <nlohmann/json.hpp>
+#include "cli/JsonText.h"
 
 #include <cstddef>
 
 namespace quorvex::cli {
 
 namespace {
-
-// Ordered, so that the members stand as documented.
-using Json = nlohmann::ordered_json;
 
 // Slots 1..last of a curve or list.
 template <class Slots>
@@ -98,32 +93,6 @@ Json PropertiesJson(std::vector<auxiliary::PropertyCaption> const& properties) {
     return captions;
 }
 
-// The text of a value that is neither object nor array. The library spells some doubles with a digit more
-// than they need; strings may hold any bytes, since file names do.
-std::string ScalarText(Json const& value) {
-    return value.is_number_float() ? text::PlainNumber(value.get<double>())
-                                   : value.dump(-1, ' ', false, Json::error_handler_t::replace);
-}
-
-// The whole value, on one line.
-void AppendText(std::string& text, Json const& value) {
-    if (!value.is_structured()) {
-        text += ScalarText(value);
-        return;
-    }
-    text += value.is_object() ? '{' : '[';
-    bool first = true;
-    for (auto const& [key, member] : value.items()) {
-        text += first ? "" : ",";
-        first = false;
-        if (value.is_object()) {
-            text += ScalarText(key) + ':';
-        }
-        AppendText(text, member);
-    }
-    text += value.is_object() ? '}' : ']';
-}
-
 } // namespace
 
 std::string AnalysisJson(app::Program const& program, cycles::ParameterGrid const& grid,
@@ -150,9 +119,7 @@ std::string AnalysisJson(app::Program const& program, cycles::ParameterGrid cons
     json["Correlation"] = CorrelationJson(result);
     json["Forecast"] = result.ForecastShown ? ForecastJson(*result.ForecastShown) : Json();
     json["Properties"] = result.Properties ? PropertiesJson(*result.Properties) : Json();
-    std::string text;
-    AppendText(text, json);
-    return text + '\n';
+    return JsonText(json);
 }
 
 } // namespace quorvex::cli

@@ -5,6 +5,7 @@
 
 #include "app/Program.h"
 #include "cli/Analyse.h"
+#include "cli/Chart.h"
 #include "cli/FormatNumbers.h"
 #include "cli/StandardStreams.h"
 #include "cli/SubCommand.h"
@@ -27,6 +28,7 @@ int main(int argc, char** argv) {
         app.allow_windows_style_options(false);
         quorvex::platform::disk::HostConsole const console;
         quorvex::cli::AddAnalyse(app, console, status);
+        quorvex::cli::AddChart(app, status);
         quorvex::cli::AddFormat(app, status);
         try {
             app.parse(quorvex::platform::disk::ReversedArguments(argc, argv));

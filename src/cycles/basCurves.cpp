@@ -13,11 +13,8 @@ namespace quorvex::cycles {
 
 namespace {
 
-// Without quotes the cycles are shown for so many days.
-constexpr int DaysWithoutQuotes = 100;
-
 int LastDay(std::int16_t workingCount) {
-    return (workingCount < 1 ? DaysWithoutQuotes : workingCount) + ForecastDays;
+    return CurveDays(workingCount) + ForecastDays;
 }
 
 void ComputeValues(CycleRecord& cycle, int lastDay) {
@@ -42,6 +39,11 @@ double MeanOfCloses(quotes::QuoteRecords const& records, int first, int last) {
 }
 
 } // namespace
+
+std::int16_t CurveDays(std::int16_t workingCount) {
+    constexpr std::int16_t DaysWithoutQuotes = 100;
+    return workingCount < 1 ? DaysWithoutQuotes : workingCount;
+}
 
 void ComputeCycleValues(CycleParameterSet& set, std::int16_t workingCount) {
     for (int index = 1; index <= CycleCount; ++index) {

@@ -20,9 +20,12 @@ inline constexpr double TwoPi = 6.28318530717958;
 // The height of the price scale in cycle units: -100..+100.
 inline constexpr double ScaleHeight = 200;
 
-// Computes the curve of each active cycle for days 1..n+25, n being the working days or 100 when there are
-// none: Weight x sin(2 pi day / Period + phase), the phase 2 pi / Shift or 0 when Shift is 0. An inactive
-// cycle keeps its curve. Raises "Overflow" when a value leaves the range of a double.
+// The days that the cycles are shown for: the working days, or 100 when there are none.
+[[nodiscard]] std::int16_t CurveDays(std::int16_t workingCount);
+
+// Computes the curve of each active cycle for days 1..n+25, n being the days above: Weight x sin(2 pi day /
+// Period + phase), the phase 2 pi / Shift or 0 when Shift is 0. An inactive cycle keeps its curve. Raises
+// "Overflow" when a value leaves the range of a double.
 void ComputeCycleValues(CycleParameterSet& set, std::int16_t workingCount);
 
 // Sums the curves of all ten cycles, active or not, for the same days.

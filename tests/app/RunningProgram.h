@@ -4,6 +4,7 @@
 #pragma once
 
 #include "app/Program.h"
+#include "platform/RecordingCanvas.h"
 #include "platform/fake/MemoryFiles.h"
 #include "platform/fake/ScriptedDialogs.h"
 
@@ -28,7 +29,11 @@ public:
     platform::fake::MemoryFiles Files;
     platform::fake::ScriptedDialogs Dialogs;
     platform::NoPendingMessages Pending;
-    Services Outside{Grid, Dialogs, Files, Pending};
+    platform::RecordingCanvas Pic1{7000, 2500};
+    platform::RecordingCanvas Pic2{7000, 1500};
+    platform::RecordingCanvas Pic3{7000, 1500};
+    platform::RecordingCanvas Pic4{7000, 1500};
+    Services Outside{Grid, {Pic1, Pic2, Pic3, Pic4}, Dialogs, Files, Pending};
 };
 
 } // namespace quorvex::app

@@ -33,11 +33,40 @@ TEST(Commands, CloseForgetsTheQuotesAndKeepsTheCycles) {
     running.Open("q060.txt", GoldenFile("quotes/q060.txt"));
     ParametersAutomate(1, *running.Data, running.Outside);
     double const period = running.Data->Cycles.Cycles[1].Period;
-    FileClose(*running.Data);
+    FileClose(*running.Data, running.Outside);
     EXPECT_FALSE(running.Data->Quotes.HasQuotes());
     EXPECT_EQ(running.Data->Quotes.WorkingCount, 0);
     EXPECT_EQ(running.Data->Cycles.Cycles[1].Period, period);
     EXPECT_NE(period, 0);
+}
+
+TEST(Commands, CloseEmptiesTheBoxesOfQuotesAndResidualOnly) {
+    RunningProgram running;
+    running.Open("q060.txt", GoldenFile("quotes/q060.txt"));
+    auto const before = running.Pic2.Operations().size() + running.Pic3.Operations().size();
+    auto const quotes = running.Pic1.Operations().size();
+    FileClose(*running.Data, running.Outside);
+    EXPECT_EQ(running.Pic2.Operations().size() + running.Pic3.Operations().size(), before);
+    EXPECT_EQ(running.Pic1.Operations().at(quotes).What, platform::DrawingOperation::Kind::Clear);
+    EXPECT_EQ(running.Pic4.Operations().back().What, platform::DrawingOperation::Kind::Line);
+}
+
+TEST(Commands, NewEmptiesTheBoxesOfTheCycles) {
+    RunningProgram running;
+    auto const quotes = running.Pic1.Operations().size();
+    ParametersNew(*running.Data, running.Outside);
+    EXPECT_EQ(running.Pic1.Operations().size(), quotes);
+    for (auto const* box : {&running.Pic2, &running.Pic3, &running.Pic4}) {
+        EXPECT_EQ(box->Operations().front().What, platform::DrawingOperation::Kind::Clear);
+    }
+}
+
+TEST(Commands, ACancelledNewLeavesTheBoxes) {
+    RunningProgram running;
+    running.TypeCycle(1, "50", "20");
+    running.Dialogs.Answers = {platform::Answer::Cancel};
+    ParametersNew(*running.Data, running.Outside);
+    EXPECT_TRUE(running.Pic2.Operations().empty());
 }
 
 TEST(Commands, ACancelledSaveAsReportsAnInvalidName) {

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "app/basRedraw.h"
+
+#include "chart/basCyclePlot.h"
+#include "chart/basPlot.h"
+#include "cycles/basCurves.h"
+
+#include <array>
+
+namespace quorvex::app {
+
+namespace {
+
+std::optional<text::RunTimeError> DrawQuotes(Program& program, platform::Canvas& box) {
+    return chart::DrawQuoteChart(box, program.Quotes, program.Settings, program.PriceScale,
+                                 program.Curves.MovingAverageCurve);
+}
+
+void DrawCyclesAndComposite(Program& program, ChartBoxes const& boxes) {
+    auto const count = program.Quotes.WorkingCount;
+    cycles::ComputeCycleValues(program.Cycles, count);
+    chart::DrawCycles(boxes.Pic2, program.Cycles, count);
+    cycles::ComputeComposite(program.Cycles, count, program.Curves.CompositeCurve);
+    chart::DrawComposite(boxes.Pic3, program.Curves.CompositeCurve, count);
+}
+
+void DrawResidual(Program& program, platform::Canvas& box) {
+    auto const count = program.Quotes.WorkingCount;
+    cycles::ComputeResidual(program.Curves, program.PriceScale, count);
+    chart::DrawResidual(box, program.Curves.ResidualCurve, count);
+}
+
+} // namespace
+
+RedrawFaults Redraw(Program& program, Services& services) {
+    ChartBoxes const& boxes = services.Boxes;
+    std::array<platform::Canvas*, 4> const all = {&boxes.Pic1, &boxes.Pic2, &boxes.Pic3, &boxes.Pic4};
+    for (platform::Canvas* box : all) {
+        chart::PrepareChart(*box, program.Quotes.WorkingCount);
+    }
+    cycles::ReadGrid(services.Grid, program.Cycles, services.Pending);
+    RedrawFaults faults;
+    faults.Quotes = DrawQuotes(program, boxes.Pic1);
+    if (cycles::HasActiveCycle(program.Cycles)) {
+        faults.Cycles = text::Trap([&] { DrawCyclesAndComposite(program, boxes); });
+        if (!faults.Cycles && program.Quotes.HasQuotes()) {
+            faults.Residual = text::Trap([&] { DrawResidual(program, boxes.Pic4); });
+        }
+        if (faults.Cycles || faults.Residual) {
+            return faults;
+        }
+    }
+    for (platform::Canvas* box : all) {
+        chart::DrawTimeTicks(*box, program.Quotes.WorkingCount);
+    }
+    return faults;
+}
+
+void RefreshMovingAverage(Program& program, platform::Canvas& box) {
+    static_cast<void>(DrawQuotes(program, box));
+    static_cast<void>(chart::DrawMovingAverage(box, program.Quotes, program.Settings.MovingAverageIndex,
+                                               program.PriceScale, program.Curves.MovingAverageCurve));
+}
+
+} // namespace quorvex::app

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// Draws what the four chart boxes have in common, and the quote chart.
+#pragma once
+
+#include "cycles/CycleCurves.h"
+#include "platform/Canvas.h"
+#include "prefs/Settings.h"
+#include "quotes/PriceScale.h"
+#include "quotes/QuoteSeries.h"
+#include "text/RunTimeError.h"
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace quorvex::chart {
+
+// Clears the box and draws its three reference lines: dashes at a quarter and at three quarters of its
+// height, one dash a day or 100 without days, and a solid line between them.
+void PrepareChart(platform::Canvas& box, std::int16_t workingCount);
+
+// Draws the quotes in the style of the chart type with moving average and price labels, and leaves the price
+// scale and the moving average's curve. Without a quote file nothing happens. A fault, such as of prices
+// without a range, ends the drawing where it stands and comes back.
+std::optional<text::RunTimeError> DrawQuoteChart(platform::Canvas& box, quotes::QuoteSeries const& series,
+                                                 prefs::Settings const& settings, quotes::PriceScale& scale,
+                                                 cycles::QuoteCurve& movingAverageCurve);
+
+// Computes the moving average's curve and, unless its length is 0, draws it on the price scale. Faults as
+// above.
+std::optional<text::RunTimeError> DrawMovingAverage(platform::Canvas& box, quotes::QuoteSeries const& series,
+                                                    std::string_view movingAverageIndex,
+                                                    quotes::PriceScale const& scale,
+                                                    cycles::QuoteCurve& movingAverageCurve);
+
+// Writes the top, middle and bottom price at the left edge.
+void DrawPriceLabels(platform::Canvas& box, double top, double bottom, std::string_view currencyFormat);
+
+// Draws a tick for every day, or 100 without days, along the bottom edge; every fifth and every tenth is
+// longer.
+void DrawTimeTicks(platform::Canvas& box, std::int16_t workingCount);
+
+} // namespace quorvex::chart

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/AnalysisOptions.h"
+
+#include "platform/disk/DiskFiles.h"
+#include "text/basDates.h"
+
+#include <string_view>
+
+namespace quorvex::cli {
+
+namespace {
+
+// Without a description of its own: the help names the type of the option.
+CLI::Validator IsDate() {
+    return {
+        [](std::string const& text) { return text::ParseDate(text) ? std::string() : text + " is no date"; },
+        ""};
+}
+
+CLI::Validator IsFitCount() {
+    return {[](std::string const& text) {
+                bool const good = text == "1" || text == "2" || text == "3";
+                return good ? std::string() : text + " is not 1, 2 or 3";
+            },
+            ""};
+}
+
+// Splits a path into the data folder, with its separator, and the bare name.
+void TakeQuotePath(std::string_view path, app::Program& program) {
+    auto const folderEnd = path.find_last_of(platform::disk::FolderEnds) + 1; // 0 when there is none
+    program.Settings.DataPath = path.substr(0, folderEnd);
+    program.Quotes.QuoteFileName = path.substr(folderEnd);
+}
+
+} // namespace
+
+void AddAnalysisOptions(CLI::App& command, AnalysisOptions& options) {
+    command.add_option("QUOTES", options.QuotePath, "Quote file to read")->required()->type_name("");
+    auto* const parameters = command
+                                 .add_option("--parameters", options.Request.ParameterPath,
+                                             "Read the cycles from a parameter file")
+                                 ->type_name("FILE.dat");
+    command
+        .add_option("--automate", options.Request.AutomatedCycles, "Fit so many cycles to the moving average")
+        ->type_name("1|2|3")
+        ->check(IsFitCount())
+        ->excludes(parameters);
+    command.add_option("--moving-average", options.MovingAverage, "Length of the moving average [3]")
+        ->type_name("K");
+    command.add_option("--format", options.Format, "Number format of prices [####0.00]")->type_name("F");
+    command.add_option("--chart-type", options.ChartType, "Kind of quote chart [Daily Bar Chart]")
+        ->type_name("T");
+    command.add_option("--start", options.Request.StartDate, "First day to analyse")
+        ->type_name("mm/dd/yy")
+        ->check(IsDate());
+    command.add_option("--end", options.Request.EndDate, "Last day to analyse")
+        ->type_name("mm/dd/yy")
+        ->check(IsDate());
+}
+
+void TakeAnalysisOptions(AnalysisOptions const& options, app::Program& program) {
+    prefs::Settings& settings = program.Settings;
+    settings.MovingAverageIndex = options.MovingAverage.value_or(settings.MovingAverageIndex);
+    settings.CurrencyFormat = options.Format.value_or(settings.CurrencyFormat);
+    settings.ChartType = options.ChartType.value_or(settings.ChartType);
+    TakeQuotePath(options.QuotePath, program);
+}
+
+} // namespace quorvex::cli

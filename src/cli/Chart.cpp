@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/Chart.h"
+
+#include "app/Program.h"
+#include "app/basAnalysis.h"
+#include "app/basRedraw.h"
+#include "app/layout/basLayout.h"
+#include "cli/AnalysisOptions.h"
+#include "cli/ChartJson.h"
+#include "cli/ConsoleDialogs.h"
+#include "cli/StandardStreams.h"
+#include "platform/BlankCanvas.h"
+#include "platform/RecordingCanvas.h"
+#include "platform/basMessages.h"
+#include "platform/disk/DiskFiles.h"
+#include "text/basTexts.h"
+
+#include <array>
+#include <charconv>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace quorvex::cli {
+
+namespace {
+
+// Twips to the pixel.
+constexpr double PixelSize = 15;
+
+struct WindowSize {
+    double Width = 1100 * PixelSize;
+    double Height = 800 * PixelSize;
+};
+
+struct ChartOptions {
+    AnalysisOptions Analysis;
+    std::string Size;
+    std::string OutputPath;
+};
+
+// A whole number of twips at the front of the text, which loses it; 0 when there is none.
+double TakeTwips(std::string_view& text) {
+    constexpr int Largest = 1'000'000;
+    int twips = 0;
+    auto const result = std::from_chars(text.data(), text.data() + text.size(), twips);
+    bool const good = result.ec == std::errc() && twips > 0 && twips <= Largest;
+    text.remove_prefix(static_cast<std::size_t>(result.ptr - text.data()));
+    return good ? twips : 0;
+}
+
+// Returns whether the text is a width and a height joined by an x.
+bool ReadSize(std::string_view text, WindowSize& size) {
+    size.Width = TakeTwips(text);
+    if (size.Width == 0 || !text.starts_with('x')) {
+        return false;
+    }
+    text.remove_prefix(1);
+    size.Height = TakeTwips(text);
+    return size.Height > 0 && text.empty();
+}
+
+CLI::Validator IsSize() {
+    return {[](std::string const& text) {
+                WindowSize size;
+                return ReadSize(text, size) ? std::string() : text + " is no size";
+            },
+            ""};
+}
+
+CLI::Validator IsChartFile() {
+    return {[](std::string const& text) {
+                bool const good = text == "-" || text::UpperCase(text).ends_with(".JSON");
+                return good ? std::string() : text + " does not end with .json";
+            },
+            ""};
+}
+
+platform::RecordingCanvas BoxOf(app::layout::Rectangle const& place) {
+    return {place.Width, place.Height};
+}
+
+ExitStatus WriteChart(std::string const& path, std::string const& charts, platform::Files& files,
+                      ConsoleDialogs& dialogs) {
+    bool const written =
+        path == "-" ? Print(charts) : platform::RunReported(dialogs, [&] { files.Replace(path, charts); });
+    return written && !dialogs.HasShown() ? ExitStatus::Success : ExitStatus::Refused;
+}
+
+ExitStatus Chart(ChartOptions const& options) {
+    WindowSize size;
+    if (!options.Size.empty()) {
+        ReadSize(options.Size, size);
+    }
+    auto const places =
+        app::layout::LayoutMainWindow(size.Width, size.Height, app::layout::IconStripHeight).Charts;
+    auto const program = std::make_unique<app::Program>();
+    cycles::TextGrid grid;
+    ConsoleDialogs dialogs;
+    platform::disk::DiskFiles files;
+    platform::NoPendingMessages pending;
+    platform::BlankCanvas blank;
+    app::Services services{grid, {blank, blank, blank, blank}, dialogs, files, pending};
+
+    app::StartUp(*program, grid, "./");
+    TakeAnalysisOptions(options.Analysis, *program);
+    if (!app::Analyse(*program, services, options.Analysis.Request)) {
+        return ExitStatus::Refused;
+    }
+    // One redraw of what the analysis left.
+    auto pic1 = BoxOf(places[0]);
+    auto pic2 = BoxOf(places[1]);
+    auto pic3 = BoxOf(places[2]);
+    auto pic4 = BoxOf(places[3]);
+    app::Services recorded{grid, {pic1, pic2, pic3, pic4}, dialogs, files, pending};
+    app::Redraw(*program, recorded);
+    return WriteChart(options.OutputPath, ChartJson({&pic1, &pic2, &pic3, &pic4}), files, dialogs);
+}
+
+} // namespace
+
+void AddChart(CLI::App& app, ExitStatus& status) {
+    auto const options = std::make_shared<ChartOptions>();
+    CLI::App* command = app.add_subcommand("chart", "Write the drawing operations of the four charts");
+    AddAnalysisOptions(*command, options->Analysis);
+    command
+        ->add_option("--size", options->Size,
+                     "Outer size of the window in twips, 15 to the pixel [16500x12000]")
+        ->type_name("WxH")
+        ->check(IsSize());
+    command->add_option("-o", options->OutputPath, "File to write, - for standard output")
+        ->type_name("FILE.json")
+        ->required()
+        ->check(IsChartFile());
+    command->callback([options, &status] { status = Chart(*options); });
+}
+
+} // namespace quorvex::cli

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/Canvas.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace quorvex::platform {
+
+// One drawing operation as it was asked for. A line to a point is a line from the point that was current.
+struct DrawingOperation {
+    enum class Kind { Clear, ForeColour, Point, Line, Rectangle, TextPosition, Font, Print };
+
+    Kind What = Kind::Clear;
+    std::array<double, 4> Coordinates{}; // of a point or a text position the first two, of a font its size
+    Colour Drawn = Black;
+    bool Flag = false; // a rectangle is filled, a font is bold
+    std::string Text;  // of a font its name
+};
+
+// A canvas that keeps what it was asked to draw.
+class RecordingCanvas final : public Canvas {
+public:
+    RecordingCanvas(double width, double height) : width_(width), height_(height) {}
+
+    [[nodiscard]] double Width() const override { return width_; }
+
+    [[nodiscard]] double Height() const override { return height_; }
+
+    void Clear() override;
+    void SetForeColour(Colour colour) override;
+    void Point(double x, double y, Colour colour) override;
+    void Line(double x1, double y1, double x2, double y2, Colour colour) override;
+    void LineTo(double x, double y, Colour colour) override;
+    void Rectangle(double x1, double y1, double x2, double y2, Colour colour, Fill fill) override;
+    void SetTextPosition(double x, double y) override;
+    void SetFont(std::string_view name, int size, bool bold) override;
+    void Print(std::string_view text) override;
+
+    [[nodiscard]] std::vector<DrawingOperation> const& Operations() const { return operations_; }
+
+private:
+    double width_;
+    double height_;
+    double x_ = 0;
+    double y_ = 0;
+    std::vector<DrawingOperation> operations_;
+};
+
+} // namespace quorvex::platform

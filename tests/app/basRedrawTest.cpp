@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "app/basRedraw.h"
+
+#include "RunningProgram.h"
+#include "chart/ChartColours.h"
+#include "cycles/basCurves.h"
+#include "support/Approximate.h"
+#include "support/Golden.h"
+#include "support/QuoteTexts.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace quorvex::app {
+namespace {
+
+using tests::IsClose;
+using tests::QuoteLines;
+
+TEST(Redraw, StartsWithZerosInTheGridAndDefaultSettings) {
+    RunningProgram running;
+    EXPECT_EQ(running.Grid.Text(cycles::Parameter::Decay, 10), "0");
+    EXPECT_EQ(running.Data->Settings.DataPath, "C:\\Quorvex\\");
+    EXPECT_EQ(running.Data->ProgramFolder, "C:\\Quorvex");
+    EXPECT_FALSE(running.Data->Quotes.HasQuotes());
+}
+
+TEST(Redraw, TakesUpWhatWasTyped) {
+    RunningProgram running;
+    running.Open("q.txt", tests::GoldenFile("quotes/q060.txt"));
+    running.TypeCycle(1, "1", "20.4");
+    auto const faults = Redraw(*running.Data, running.Outside);
+    EXPECT_FALSE(faults.Quotes || faults.Cycles || faults.Residual);
+    EXPECT_EQ(running.Grid.Text(cycles::Parameter::Weight, 1), "100");
+    EXPECT_EQ(running.Data->Cycles.Cycles[1].Period, 20);
+    EXPECT_TRUE(IsClose(running.Data->Curves.CompositeCurve[5], 100));
+}
+
+TEST(Redraw, WithoutQuotesComputesTheCyclesForAHundredDays) {
+    RunningProgram running;
+    running.TypeCycle(1, "50", "20");
+    auto const faults = Redraw(*running.Data, running.Outside);
+    EXPECT_FALSE(faults.Quotes || faults.Cycles || faults.Residual);
+    EXPECT_TRUE(IsClose(running.Data->Curves.CompositeCurve[125], 100 * std::sin(125 * cycles::TwoPi / 20)));
+    EXPECT_EQ(running.Data->Curves.MovingAverageCurve[1], 0);
+    EXPECT_EQ(running.Data->Curves.ResidualCurve[1], 0);
+}
+
+TEST(Redraw, WithoutCyclesComputesTheQuotesAlone) {
+    RunningProgram running;
+    running.Open("q.txt", QuoteLines(30));
+    EXPECT_EQ(running.Data->Curves.MovingAverageCurve[30], 130);
+    EXPECT_EQ(running.Data->Curves.ResidualCurve[30], 0);
+    EXPECT_GT(running.Data->PriceScale.PriceScaleHigh, 130);
+}
+
+TEST(Redraw, PricesWithoutARangeLeaveTheMovingAverageAsItWas) {
+    std::string flat;
+    for (int day = 1; day <= 28; ++day) {
+        flat += "01/" + std::to_string(day) + "/02, 5, 5, 5, 5, 1, 1\r\n";
+    }
+    RunningProgram running;
+    running.Open("flat.txt", flat);
+    running.TypeCycle(1, "50", "20");
+    auto const faults = Redraw(*running.Data, running.Outside);
+    ASSERT_TRUE(faults.Quotes);
+    EXPECT_EQ(faults.Quotes->Description(), "Division by zero");
+    ASSERT_TRUE(faults.Residual);
+    EXPECT_EQ(faults.Residual->Description(), "Division by zero");
+    EXPECT_FALSE(faults.Cycles);
+    EXPECT_EQ(running.Data->Curves.MovingAverageCurve[1], 0);
+    EXPECT_TRUE(IsClose(running.Data->Curves.CompositeCurve[5], 100));
+}
+
+TEST(Redraw, ACycleThatOverflowsIsAFaultOfTheCycles) {
+    RunningProgram running;
+    running.Data->Cycles.Cycles[1].Weight = 1;
+    running.Data->Cycles.Cycles[1].Period = 1e-320;
+    auto const faults = Redraw(*running.Data, running.Outside);
+    ASSERT_TRUE(faults.Cycles);
+    EXPECT_EQ(faults.Cycles->Description(), "Overflow");
+    EXPECT_FALSE(faults.Residual) << "a composite that was not computed has no residual";
+}
+
+// How a box was drawn last: the operations from its last clearing on.
+std::vector<platform::DrawingOperation> LastDrawing(platform::RecordingCanvas const& box) {
+    auto const& all = box.Operations();
+    auto const clear = std::find_if(all.rbegin(), all.rend(), [](auto const& operation) {
+        return operation.What == platform::DrawingOperation::Kind::Clear;
+    });
+    return {clear == all.rend() ? all.begin() : clear.base() - 1, all.end()};
+}
+
+int CountOf(std::vector<platform::DrawingOperation> const& drawing, platform::Colour colour) {
+    return static_cast<int>(std::count_if(drawing.begin(), drawing.end(), [colour](auto const& operation) {
+        return operation.Drawn == colour && operation.What != platform::DrawingOperation::Kind::ForeColour;
+    }));
+}
+
+TEST(Redraw, PreparesDrawsAndTicksTheFourBoxes) {
+    RunningProgram running;
+    running.Open("q060.txt", tests::GoldenFile("quotes/q060.txt"));
+    running.TypeCycle(1, "50", "20");
+    running.TypeCycle(2, "50", "30");
+    Redraw(*running.Data, running.Outside);
+    EXPECT_EQ(CountOf(LastDrawing(running.Pic1), chart::MovingAverageColour), 60);
+    EXPECT_EQ(CountOf(LastDrawing(running.Pic2), chart::CycleColour(1)), 61);
+    EXPECT_EQ(CountOf(LastDrawing(running.Pic2), chart::CycleColour(2)), 61);
+    EXPECT_EQ(CountOf(LastDrawing(running.Pic3), chart::CompositeColour), 61);
+    EXPECT_EQ(CountOf(LastDrawing(running.Pic4), chart::ResidualColour), 61);
+    for (auto const* box : {&running.Pic1, &running.Pic2, &running.Pic3, &running.Pic4}) {
+        auto const drawing = LastDrawing(*box);
+        EXPECT_EQ(drawing.back().What, platform::DrawingOperation::Kind::Rectangle) << "a tick comes last";
+        EXPECT_EQ(drawing.back().Coordinates[1], box->Height());
+    }
+}
+
+TEST(Redraw, EndsWithTheFaultOfACycle) {
+    RunningProgram running;
+    running.Data->Cycles.Cycles[1].Weight = 1;
+    running.Data->Cycles.Cycles[1].Period = 1e-320;
+    Redraw(*running.Data, running.Outside);
+    EXPECT_NE(LastDrawing(running.Pic1).back().What, platform::DrawingOperation::Kind::Rectangle);
+}
+
+} // namespace
+} // namespace quorvex::app

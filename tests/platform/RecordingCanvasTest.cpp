@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/RecordingCanvas.h"
+
+#include "platform/BlankCanvas.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvex::platform {
+namespace {
+
+TEST(RecordingCanvas, DrawsALineToAPointFromTheCurrentOne) {
+    RecordingCanvas canvas(100, 50);
+    canvas.Point(1, 2, Black);
+    canvas.LineTo(3, 4, Magenta);
+    canvas.LineTo(5, 6, Magenta);
+    canvas.Line(7, 8, 9, 10, Black);
+    canvas.LineTo(11, 12, Black);
+    auto const& drawn = canvas.Operations();
+    ASSERT_EQ(drawn.size(), 5U);
+    EXPECT_EQ(drawn[1].Coordinates, (std::array<double, 4>{1, 2, 3, 4}));
+    EXPECT_EQ(drawn[1].Drawn, Magenta);
+    EXPECT_EQ(drawn[2].Coordinates, (std::array<double, 4>{3, 4, 5, 6}));
+    EXPECT_EQ(drawn[4].Coordinates, (std::array<double, 4>{9, 10, 11, 12}));
+}
+
+TEST(BlankCanvas, HasASizeToDrawOn) {
+    BlankCanvas const canvas;
+    EXPECT_GT(canvas.Width(), 0);
+    EXPECT_GT(canvas.Height(), 10);
+}
+
+} // namespace
+} // namespace quorvex::platform
