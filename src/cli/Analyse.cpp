@@ -3,16 +3,12 @@
 
 #include "cli/Analyse.h"
 
-#include "app/Program.h"
-#include "app/basAnalysis.h"
 #include "cli/AnalysisJson.h"
 #include "cli/AnalysisOptions.h"
 #include "cli/AnalysisReport.h"
+#include "cli/AnalysisSession.h"
 #include "cli/CharacterChart.h"
-#include "cli/ConsoleDialogs.h"
 #include "cli/StandardStreams.h"
-#include "platform/BlankCanvas.h"
-#include "platform/disk/DiskFiles.h"
 
 #include <memory>
 #include <string>
@@ -27,31 +23,21 @@ struct AnalyseOptions {
 };
 
 ExitStatus Analyse(AnalyseOptions const& options, platform::Console const& console) {
-    auto const program = std::make_unique<app::Program>();
-    cycles::TextGrid grid;
-    ConsoleDialogs dialogs;
-    platform::disk::DiskFiles files;
-    platform::NoPendingMessages pending;
-    platform::BlankCanvas box;
-    app::Services services{grid, {box, box, box, box}, dialogs, files, pending};
-
-    app::StartUp(*program, grid, "./");
-    TakeAnalysisOptions(options.Analysis, *program);
-    auto const result = app::Analyse(*program, services, options.Analysis.Request);
+    AnalysisSession session(options.Analysis);
+    auto const result = session.Analyse();
     if (!result) {
         return ExitStatus::Refused;
     }
     std::string output;
     if (options.Json) {
-        output = AnalysisJson(*program, grid, *result);
+        output = AnalysisJson(session.Program(), session.Grid(), *result);
     } else {
-        output = AnalysisReport(*program, grid, *result);
+        output = AnalysisReport(session.Program(), session.Grid(), *result);
         if (console.IsTerminal()) {
-            output += '\n' + CharacterChart(*program, *result, console.Width());
+            output += '\n' + CharacterChart(session.Program(), *result, console.Width());
         }
     }
-    bool const written = Print(output);
-    return written && !dialogs.HasShown() ? ExitStatus::Success : ExitStatus::Refused;
+    return session.Status(Print(output));
 }
 
 } // namespace

@@ -3,18 +3,12 @@
 
 #include "cli/Chart.h"
 
-#include "app/Program.h"
-#include "app/basAnalysis.h"
-#include "app/basRedraw.h"
 #include "app/layout/basLayout.h"
-#include "cli/AnalysisOptions.h"
+#include "cli/AnalysisSession.h"
 #include "cli/ChartJson.h"
-#include "cli/ConsoleDialogs.h"
 #include "cli/StandardStreams.h"
-#include "platform/BlankCanvas.h"
 #include "platform/RecordingCanvas.h"
 #include "platform/basMessages.h"
-#include "platform/disk/DiskFiles.h"
 #include "text/basTexts.h"
 
 #include <array>
@@ -83,11 +77,10 @@ platform::RecordingCanvas BoxOf(app::layout::Rectangle const& place) {
     return {place.Width, place.Height};
 }
 
-ExitStatus WriteChart(std::string const& path, std::string const& charts, platform::Files& files,
-                      ConsoleDialogs& dialogs) {
-    bool const written =
-        path == "-" ? Print(charts) : platform::RunReported(dialogs, [&] { files.Replace(path, charts); });
-    return written && !dialogs.HasShown() ? ExitStatus::Success : ExitStatus::Refused;
+bool WriteChart(std::string const& path, std::string const& charts, AnalysisSession& session) {
+    return path == "-"
+               ? Print(charts)
+               : platform::RunReported(session.Dialogs(), [&] { session.Files().Replace(path, charts); });
 }
 
 ExitStatus Chart(ChartOptions const& options) {
@@ -97,27 +90,16 @@ ExitStatus Chart(ChartOptions const& options) {
     }
     auto const places =
         app::layout::LayoutMainWindow(size.Width, size.Height, app::layout::IconStripHeight).Charts;
-    auto const program = std::make_unique<app::Program>();
-    cycles::TextGrid grid;
-    ConsoleDialogs dialogs;
-    platform::disk::DiskFiles files;
-    platform::NoPendingMessages pending;
-    platform::BlankCanvas blank;
-    app::Services services{grid, {blank, blank, blank, blank}, dialogs, files, pending};
-
-    app::StartUp(*program, grid, "./");
-    TakeAnalysisOptions(options.Analysis, *program);
-    if (!app::Analyse(*program, services, options.Analysis.Request)) {
+    AnalysisSession session(options.Analysis);
+    if (!session.Analyse()) {
         return ExitStatus::Refused;
     }
-    // One redraw of what the analysis left.
     auto pic1 = BoxOf(places[0]);
     auto pic2 = BoxOf(places[1]);
     auto pic3 = BoxOf(places[2]);
     auto pic4 = BoxOf(places[3]);
-    app::Services recorded{grid, {pic1, pic2, pic3, pic4}, dialogs, files, pending};
-    app::Redraw(*program, recorded);
-    return WriteChart(options.OutputPath, ChartJson({&pic1, &pic2, &pic3, &pic4}), files, dialogs);
+    session.Redraw({pic1, pic2, pic3, pic4});
+    return session.Status(WriteChart(options.OutputPath, ChartJson({&pic1, &pic2, &pic3, &pic4}), session));
 }
 
 } // namespace

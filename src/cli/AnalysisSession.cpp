@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/AnalysisSession.h"
+
+#include "app/basRedraw.h"
+
+namespace quorvex::cli {
+
+AnalysisSession::AnalysisSession(AnalysisOptions const& options) : request_(options.Request) {
+    app::StartUp(*program_, grid_, "./");
+    TakeAnalysisOptions(options, *program_);
+}
+
+std::optional<app::AnalysisResult> AnalysisSession::Analyse() {
+    platform::BlankCanvas blank;
+    app::Services services{grid_, {blank, blank, blank, blank}, dialogs_, files_, pending_};
+    return app::Analyse(*program_, services, request_);
+}
+
+void AnalysisSession::Redraw(app::ChartBoxes const& boxes) {
+    app::Services services{grid_, boxes, dialogs_, files_, pending_};
+    app::Redraw(*program_, services);
+}
+
+ExitStatus AnalysisSession::Status(bool written) const {
+    return written && !dialogs_.HasShown() ? ExitStatus::Success : ExitStatus::Refused;
+}
+
+} // namespace quorvex::cli

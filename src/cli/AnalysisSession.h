@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "app/Program.h"
+#include "app/basAnalysis.h"
+#include "cli/AnalysisOptions.h"
+#include "cli/ConsoleDialogs.h"
+#include "cli/SubCommand.h"
+#include "platform/BlankCanvas.h"
+#include "platform/disk/DiskFiles.h"
+
+#include <memory>
+#include <optional>
+
+namespace quorvex::cli {
+
+// A started program with the outside that it needs to run in a console.
+class AnalysisSession {
+public:
+    explicit AnalysisSession(AnalysisOptions const& options);
+
+    // Runs the analysis of the options; nothing comes back when the quote file was refused.
+    [[nodiscard]] std::optional<app::AnalysisResult> Analyse();
+
+    // Draws once more what the analysis left, on these boxes.
+    void Redraw(app::ChartBoxes const& boxes);
+
+    [[nodiscard]] app::Program const& Program() const { return *program_; }
+
+    [[nodiscard]] cycles::ParameterGrid const& Grid() const { return grid_; }
+
+    [[nodiscard]] platform::Files& Files() { return files_; }
+
+    [[nodiscard]] platform::Dialogs& Dialogs() { return dialogs_; }
+
+    // What the run ends with once its results were written, or not: any message means that data were refused.
+    [[nodiscard]] ExitStatus Status(bool written) const;
+
+private:
+    app::AnalysisRequest request_;
+    std::unique_ptr<app::Program> program_ = std::make_unique<app::Program>();
+    cycles::TextGrid grid_;
+    ConsoleDialogs dialogs_;
+    platform::disk::DiskFiles files_;
+    platform::NoPendingMessages pending_;
+};
+
+} // namespace quorvex::cli
