@@ -5,12 +5,15 @@
 
 #include "app/basRedraw.h"
 #include "cycles/basCorrel.h"
+#include "cycles/basCurves.h"
 #include "cycles/basParameters.h"
 #include "platform/basMessages.h"
 #include "quotes/basDateRange.h"
 #include "quotes/basDisk.h"
 #include "text/RunTimeError.h"
 #include "text/basDates.h"
+
+#include <memory>
 
 namespace quorvex::app {
 
@@ -22,7 +25,8 @@ void Report(std::optional<text::RunTimeError> const& error, platform::Dialogs& d
     }
 }
 
-// Returns false when no quote bears the end date: the count of days would then mean nothing.
+// Narrows the quotes to the days asked for. Returns false, after saying why, when there are no such days: the
+// rules of the preferences window would then analyse other days than the ones asked for.
 bool NarrowDates(Program& program, platform::Dialogs& dialogs, AnalysisRequest const& request) {
     if (request.StartDate.empty() && request.EndDate.empty()) {
         return true;
@@ -30,14 +34,24 @@ bool NarrowDates(Program& program, platform::Dialogs& dialogs, AnalysisRequest c
     quotes::QuoteSeries& series = program.Quotes;
     quotes::DateRange range{request.StartDate.empty() ? series.FirstQuoteDate : request.StartDate,
                             request.EndDate.empty() ? series.LastQuoteDate : request.EndDate};
-    auto change = quotes::RangeChange::None;
-    platform::RunReported(dialogs, [&] { change = quotes::AdjustQuoteDateRange(series, range); });
-    if (change == quotes::RangeChange::Narrowed &&
-        series.LastQuoteDate != text::FormatDate(text::RequireDate(range.End))) {
-        platform::ShowWarning(dialogs, "No quote is dated " + range.End);
-        return false;
+    std::string refusal;
+    bool const narrowed = platform::RunReported(dialogs, [&] {
+        auto const start = text::RequireDate(range.Start);
+        auto const end = text::RequireDate(range.End);
+        auto const last = text::RequireDate(series.LastQuoteDate);
+        if (start > last) {
+            refusal = "No quote is dated " + range.Start + " or later";
+        } else if (end <= start) {
+            refusal = "The start date must lie before the end date";
+        } else if (quotes::AdjustQuoteDateRange(series, range);
+                   text::RequireDate(series.LastQuoteDate) != end) {
+            refusal = "No quote is dated " + range.End;
+        }
+    });
+    if (!refusal.empty()) {
+        platform::ShowWarning(dialogs, refusal);
     }
-    return true;
+    return narrowed && refusal.empty();
 }
 
 void ReadParameters(Program& program, Services& services, std::string const& path) {
@@ -46,10 +60,21 @@ void ReadParameters(Program& program, Services& services, std::string const& pat
     platform::RunReported(services.Dialogs, [&] { cycles::WriteGrid(program.Cycles, services.Grid); });
 }
 
+// Whether the moving average can be computed at all; prices without a range, which no chart can show, have
+// one.
+bool IsMovingAverageWhole(Program const& program) {
+    auto const curve = std::make_unique<cycles::QuoteCurve>();
+    return !text::Trap([&] {
+        cycles::ComputeMovingAverage(
+            program.Quotes, cycles::MovingAverageLength(program.Settings.MovingAverageIndex), *curve);
+    });
+}
+
 // Returns whether all cycles were fitted.
 bool FitCycles(Program& program, Services& services, int cycleCount, AnalysisResult& result) {
     if (cycleCount > 1) {
         RefreshMovingAverage(program, services.Boxes.Pic1);
+        result.HasMovingAverage = IsMovingAverageWhole(program);
     }
     return platform::RunReported(services.Dialogs, [&] {
         cycles::AutomateCycles(cycleCount, program.Quotes.WorkingCount, program.Curves, program.Cycles,

@@ -46,7 +46,7 @@ struct AnalysisResult {
 // Analyses the quote file that the program's settings and file name point at; the program has just been
 // started up. Messages and faults go to the dialogs; after them the analysis goes on with what there is,
 // only a fit that fails leaves no cycles. Nothing comes back when the quote file was refused or could not be
-// read, or when no quote bears the last day asked for.
+// read, or when it has no such days as were asked for.
 [[nodiscard]] std::optional<AnalysisResult> Analyse(Program& program, Services& services,
                                                     AnalysisRequest const& request);
 

@@ -17,19 +17,23 @@
 namespace quorvex::app {
 
 void FileOpen(Program& program, Services& services) {
-    quotes::OpenQuoteFile(program.Quotes, program.Settings, services.Files, services.Dialogs);
-    Redraw(program, services);
+    platform::RunReported(services.Dialogs, [&] {
+        quotes::OpenQuoteFile(program.Quotes, program.Settings, services.Files, services.Dialogs);
+        Redraw(program, services);
+    });
 }
 
 void FileClose(Program& program, Services& services) {
-    quotes::CloseQuoteFile(program.Quotes);
     chart::PrepareChart(services.Boxes.Pic1, program.Quotes.WorkingCount);
     chart::PrepareChart(services.Boxes.Pic4, program.Quotes.WorkingCount);
+    quotes::CloseQuoteFile(program.Quotes);
 }
 
 void FileSaveAs(Program& program, Services& services) {
-    quotes::SaveQuoteFileAs(program.Quotes, program.Settings, services.Files, services.Dialogs);
-    Redraw(program, services);
+    platform::RunReported(services.Dialogs, [&] {
+        quotes::SaveQuoteFileAs(program.Quotes, program.Settings, services.Files, services.Dialogs);
+        Redraw(program, services);
+    });
 }
 
 void ParametersNew(Program& program, Services& services) {

@@ -32,15 +32,17 @@ void DrawResidual(Program& program, platform::Canvas& box) {
     chart::DrawResidual(box, program.Curves.ResidualCurve, count);
 }
 
-} // namespace
+std::array<platform::Canvas*, 4> AllOf(ChartBoxes const& boxes) {
+    return {&boxes.Pic1, &boxes.Pic2, &boxes.Pic3, &boxes.Pic4};
+}
 
-RedrawFaults Redraw(Program& program, Services& services) {
-    ChartBoxes const& boxes = services.Boxes;
-    std::array<platform::Canvas*, 4> const all = {&boxes.Pic1, &boxes.Pic2, &boxes.Pic3, &boxes.Pic4};
-    for (platform::Canvas* box : all) {
+void PrepareCharts(Program const& program, ChartBoxes const& boxes) {
+    for (platform::Canvas* box : AllOf(boxes)) {
         chart::PrepareChart(*box, program.Quotes.WorkingCount);
     }
-    cycles::ReadGrid(services.Grid, program.Cycles, services.Pending);
+}
+
+RedrawFaults DrawPrepared(Program& program, ChartBoxes const& boxes) {
     RedrawFaults faults;
     faults.Quotes = DrawQuotes(program, boxes.Pic1);
     if (cycles::HasActiveCycle(program.Cycles)) {
@@ -52,10 +54,23 @@ RedrawFaults Redraw(Program& program, Services& services) {
             return faults;
         }
     }
-    for (platform::Canvas* box : all) {
+    for (platform::Canvas* box : AllOf(boxes)) {
         chart::DrawTimeTicks(*box, program.Quotes.WorkingCount);
     }
     return faults;
+}
+
+} // namespace
+
+RedrawFaults Redraw(Program& program, Services& services) {
+    PrepareCharts(program, services.Boxes);
+    cycles::ReadGrid(services.Grid, program.Cycles, services.Pending);
+    return DrawPrepared(program, services.Boxes);
+}
+
+RedrawFaults DrawCharts(Program& program, ChartBoxes const& boxes) {
+    PrepareCharts(program, boxes);
+    return DrawPrepared(program, boxes);
 }
 
 void RefreshMovingAverage(Program& program, platform::Canvas& box) {

@@ -23,6 +23,10 @@ struct RedrawFaults {
 // empty, without an active cycle those of the cycles and the residual.
 RedrawFaults Redraw(Program& program, Services& services);
 
+// The same for the cycles as they are, without reading the grid: reading it a second time scales its weights
+// once more.
+RedrawFaults DrawCharts(Program& program, ChartBoxes const& boxes);
+
 // Draws the quote chart and its moving average once more, so that its curve is fresh for a fit. Faults end
 // each quietly.
 void RefreshMovingAverage(Program& program, platform::Canvas& box);

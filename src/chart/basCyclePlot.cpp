@@ -6,7 +6,6 @@
 #include "chart/ChartColours.h"
 #include "chart/basScale.h"
 #include "cycles/basCurves.h"
-#include "text/RunTimeError.h"
 
 namespace quorvex::chart {
 
@@ -49,11 +48,9 @@ void DrawComposite(platform::Canvas& box, cycles::CycleCurve const& compositeCur
 }
 
 void DrawResidual(platform::Canvas& box, cycles::QuoteCurve const& residualCurve, std::int16_t workingCount) {
-    constexpr double Margins = 10;
     auto const bounds = cycles::ScaleResidual(residualCurve, workingCount);
-    double const factor = text::Divide(Margins - box.Height(), bounds.High - bounds.Low);
-    double const middle = (bounds.High + bounds.Low) / 2;
-    DrawCurve(box, residualCurve, workingCount, {factor, box.Height() / 2 - factor * middle}, ResidualColour);
+    DrawCurve(box, residualCurve, workingCount, ScalePrices({bounds.High, bounds.Low}, box.Height()),
+              ResidualColour);
 }
 
 } // namespace quorvex::chart

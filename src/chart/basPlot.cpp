@@ -36,8 +36,10 @@ void DrawDashes(platform::Canvas& box, double step, double y) {
     if (!(step > 0)) {
         return; // a box without width
     }
-    for (double x = 0; x <= box.Width(); x += step) {
+    double x = 0;
+    while (x <= box.Width()) {
         box.Line(x, y, x + step * DashShare, y, Black);
+        x += step;
     }
 }
 
@@ -45,7 +47,7 @@ void DrawDashes(platform::Canvas& box, double step, double y) {
 struct QuotePlot {
     platform::Canvas& Box;
     quotes::QuoteSeries const& Series;
-    double Step;
+    double Step = 0;
     VerticalScale Prices;
 
     [[nodiscard]] quotes::QuoteRecord const& Quote(int day) const { return Series.Working[day]; }

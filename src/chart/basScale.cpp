@@ -3,8 +3,6 @@
 
 #include "chart/basScale.h"
 
-#include "text/RunTimeError.h"
-
 namespace quorvex::chart {
 
 quotes::PriceScale ComputePriceScale(quotes::QuoteSeries const& series) {

@@ -6,6 +6,7 @@
 
 #include "quotes/PriceScale.h"
 #include "quotes/QuoteSeries.h"
+#include "text/RunTimeError.h"
 
 namespace quorvex::chart {
 
@@ -18,7 +19,8 @@ struct VerticalScale {
     double Factor = 0;
     double Offset = 0;
 
-    [[nodiscard]] double Y(double value) const { return Factor * value + Offset; }
+    // Raises "Overflow" when the height is beyond the range of a double.
+    [[nodiscard]] double Y(double value) const { return text::RequireFinite(Factor * value + Offset); }
 };
 
 // The mapping of prices to a box of this height, with a margin of 5 twips above and below. Raises "Division

@@ -18,9 +18,8 @@ std::optional<app::AnalysisResult> AnalysisSession::Analyse() {
     return app::Analyse(*program_, services, request_);
 }
 
-void AnalysisSession::Redraw(app::ChartBoxes const& boxes) {
-    app::Services services{grid_, boxes, dialogs_, files_, pending_};
-    app::Redraw(*program_, services);
+void AnalysisSession::DrawCharts(app::ChartBoxes const& boxes) {
+    app::DrawCharts(*program_, boxes);
 }
 
 ExitStatus AnalysisSession::Status(bool written) const {

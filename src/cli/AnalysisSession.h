@@ -24,8 +24,8 @@ public:
     // Runs the analysis of the options; nothing comes back when the quote file was refused.
     [[nodiscard]] std::optional<app::AnalysisResult> Analyse();
 
-    // Draws once more what the analysis left, on these boxes.
-    void Redraw(app::ChartBoxes const& boxes);
+    // Draws what the analysis left on these boxes.
+    void DrawCharts(app::ChartBoxes const& boxes);
 
     [[nodiscard]] app::Program const& Program() const { return *program_; }
 

@@ -46,7 +46,11 @@ double TakeTwips(std::string_view& text) {
     return good ? twips : 0;
 }
 
-// Returns whether the text is a width and a height joined by an x.
+std::array<app::layout::Rectangle, 4> ChartPlaces(WindowSize const& size) {
+    return app::layout::LayoutMainWindow(size.Width, size.Height, app::layout::IconStripHeight).Charts;
+}
+
+// Returns whether the text is a width and a height joined by an x, large enough for the charts.
 bool ReadSize(std::string_view text, WindowSize& size) {
     size.Width = TakeTwips(text);
     if (size.Width == 0 || !text.starts_with('x')) {
@@ -54,7 +58,7 @@ bool ReadSize(std::string_view text, WindowSize& size) {
     }
     text.remove_prefix(1);
     size.Height = TakeTwips(text);
-    return size.Height > 0 && text.empty();
+    return text.empty() && ChartPlaces(size).back().Height > 0;
 }
 
 CLI::Validator IsSize() {
@@ -88,8 +92,7 @@ ExitStatus Chart(ChartOptions const& options) {
     if (!options.Size.empty()) {
         ReadSize(options.Size, size);
     }
-    auto const places =
-        app::layout::LayoutMainWindow(size.Width, size.Height, app::layout::IconStripHeight).Charts;
+    auto const places = ChartPlaces(size);
     AnalysisSession session(options.Analysis);
     if (!session.Analyse()) {
         return ExitStatus::Refused;
@@ -98,7 +101,7 @@ ExitStatus Chart(ChartOptions const& options) {
     auto pic2 = BoxOf(places[1]);
     auto pic3 = BoxOf(places[2]);
     auto pic4 = BoxOf(places[3]);
-    session.Redraw({pic1, pic2, pic3, pic4});
+    session.DrawCharts({pic1, pic2, pic3, pic4});
     return session.Status(WriteChart(options.OutputPath, ChartJson({&pic1, &pic2, &pic3, &pic4}), session));
 }
 

@@ -24,8 +24,9 @@ void OpenQuoteFile(QuoteSeries& series, prefs::Settings const& settings, platfor
         return;
     }
     series.QuoteFileName = dialogs.ChooseQuoteFile(names).value_or("");
-    if (series.HasQuotes()) {
-        LoadQuoteFile(series, settings, files, dialogs);
+    // A file that could not be read to its end must not pass for an open one: Save As offers its name.
+    if (series.HasQuotes() && LoadQuoteFile(series, settings, files, dialogs) == 0) {
+        CloseQuoteFile(series);
     }
 }
 

@@ -20,8 +20,8 @@ inline constexpr std::string_view QuoteFilePattern = "*.Txt";
 // Whether a quote file is open. When none is, tells the user to open one.
 [[nodiscard]] bool RequireQuotes(QuoteSeries const& series, platform::Dialogs& dialogs);
 
-// Lets the user choose among the quote files of the data folder and loads the one chosen. Cancelling closes
-// the file that was open.
+// Lets the user choose among the quote files of the data folder and loads the one chosen. Cancelling forgets
+// the name of the file that was open; a file that cannot be loaded leaves none open.
 void OpenQuoteFile(QuoteSeries& series, prefs::Settings const& settings, platform::Files const& files,
                    platform::Dialogs& dialogs);
 

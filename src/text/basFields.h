@@ -41,7 +41,7 @@ private:
 // follows the closing mark up to the comma is skipped. A line of nothing but blanks holds no field. The text
 // ends where only white space is left or where a Ctrl-Z stands in place of a field. A UTF-8 byte order mark
 // at the start is skipped; other bytes beyond ASCII pass through. The text streams through one buffer that
-// grows only when a single field is larger.
+// grows only for a field, or white space behind a comma, that is larger.
 class FieldReader {
 public:
     // The source must outlive the reader.

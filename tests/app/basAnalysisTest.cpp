@@ -106,11 +106,40 @@ TEST_F(Analysis, OfAShortRangeListsTheClosesThereAre) {
     EXPECT_EQ(result->ForecastShown->Dates[1], "08/13/99");
 }
 
-TEST_F(Analysis, ReportsADateThatIsNone) {
-    auto const result = Run(QuoteLines(30), {std::nullopt, 0, "nonsense", ""});
-    ASSERT_TRUE(result);
+TEST_F(Analysis, RefusesADateThatIsNone) {
+    EXPECT_FALSE(Run(QuoteLines(30), {std::nullopt, 0, "nonsense", ""}));
     EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Type mismatch", "Quorvex", Icon::None));
-    EXPECT_EQ(running.Data->Quotes.WorkingCount, 30);
+}
+
+TEST_F(Analysis, RefusesDaysThatThereAreNot) {
+    struct Case {
+        std::string Start;
+        std::string End;
+        std::string Message;
+    };
+
+    for (Case const& refused :
+         {Case{"01/01/25", "", "No quote is dated 01/01/25 or later"},
+          Case{"", "01/01/90", "The start date must lie before the end date"},
+          Case{"08/05/99", "08/05/99", "The start date must lie before the end date"},
+          Case{"08/12/99", "08/05/99", "The start date must lie before the end date"}}) {
+        SCOPED_TRACE(refused.Start + " to " + refused.End);
+        running.Dialogs.Messages.clear();
+        EXPECT_FALSE(Run(GoldenFile("quotes/q250.txt"), {std::nullopt, 0, refused.Start, refused.End}));
+        EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, refused.Message, "Quorvex", Icon::Exclamation));
+    }
+}
+
+TEST_F(Analysis, OfPricesWithoutARangeFitsTheirMovingAverage) {
+    std::string text;
+    for (int day = 1; day <= 28; ++day) {
+        text += "01/" + std::to_string(day) + "/02, 5, 5, 5, " + std::to_string(5 + day % 7 * day % 5) +
+                ", 1, 1\r\n";
+    }
+    auto const result = Run(text, {std::nullopt, 2, "", ""});
+    ASSERT_TRUE(result);
+    EXPECT_TRUE(result->HasMovingAverage);
+    EXPECT_FALSE(result->HasResidual);
 }
 
 TEST_F(Analysis, ReportsAMovingAverageLongerThanTheSeries) {

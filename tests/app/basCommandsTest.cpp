@@ -48,6 +48,9 @@ TEST(Commands, CloseEmptiesTheBoxesOfQuotesAndResidualOnly) {
     FileClose(*running.Data, running.Outside);
     EXPECT_EQ(running.Pic2.Operations().size() + running.Pic3.Operations().size(), before);
     EXPECT_EQ(running.Pic1.Operations().at(quotes).What, platform::DrawingOperation::Kind::Clear);
+    // The boxes are prepared while the sixty days still count.
+    auto const& dash = running.Pic1.Operations().at(quotes + 3);
+    EXPECT_NEAR(dash.Coordinates[0], running.Pic1.Width() / 60, 0.01);
     EXPECT_EQ(running.Pic4.Operations().back().What, platform::DrawingOperation::Kind::Line);
 }
 

@@ -29,13 +29,13 @@ void ExpectPolyline(std::vector<DrawingOperation> const& drawn, std::size_t firs
     ASSERT_LE(first + points.size() + 2, drawn.size());
     EXPECT_EQ(drawn[first].What, DrawingOperation::Kind::ForeColour);
     EXPECT_EQ(drawn[first].Drawn, colour);
-    EXPECT_EQ(drawn[first + 1].What, DrawingOperation::Kind::Point);
+    EXPECT_TRUE(tests::IsOperation(tests::OperationJson(drawn[first + 1]),
+                                   {"point", points.at(0).at(0), points.at(0).at(1), colour}));
     for (std::size_t index = 0; index < points.size(); ++index) {
-        auto const& line = drawn[first + 2 + index];
-        EXPECT_EQ(line.What, DrawingOperation::Kind::Line);
-        EXPECT_EQ(line.Drawn, colour);
-        EXPECT_NEAR(line.Coordinates[2], points.at(index).at(0).get<double>(), 0.01);
-        EXPECT_NEAR(line.Coordinates[3], points.at(index).at(1).get<double>(), 0.01);
+        auto const& from = points.at(index == 0 ? 0 : index - 1);
+        auto const& to = points.at(index);
+        EXPECT_TRUE(tests::IsOperation(tests::OperationJson(drawn[first + 2 + index]),
+                                       {"line", from.at(0), from.at(1), to.at(0), to.at(1), colour}));
     }
 }
 
@@ -81,10 +81,12 @@ TEST(CyclePlot, DrawsTheReferencePolylines) {
         RecordingCanvas composite(width, height);
         DrawComposite(composite, curves->CompositeCurve, n);
         ExpectPolyline(composite.Operations(), 0, expected.at("composite_polyline"), CompositeColour);
+        EXPECT_EQ(composite.Operations().size(), static_cast<std::size_t>(n) + 2);
 
         RecordingCanvas residual(width, height);
         DrawResidual(residual, curves->ResidualCurve, n);
         ExpectPolyline(residual.Operations(), 0, expected.at("residual_polyline"), ResidualColour);
+        EXPECT_EQ(residual.Operations().size(), static_cast<std::size_t>(n) + 2);
         ++compared;
     }
     EXPECT_GT(compared, 3);

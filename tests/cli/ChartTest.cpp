@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "RunCompanion.h"
+#include "cli/ChartJson.h"
 #include "support/Golden.h"
 #include "support/TemporaryFolder.h"
 
@@ -41,6 +42,57 @@ TEST(Chart, RecordsOneRedrawOfTheFourBoxes) {
     EXPECT_EQ(kinds["rect"], 3 * 60 + 60);
 }
 
+TEST(Chart, SpellsEveryOperation) {
+    platform::RecordingCanvas box(150, 75.5);
+    box.Clear();
+    box.SetForeColour(platform::Magenta);
+    box.Point(1, 2.5, 0x0000C0);
+    box.LineTo(3, 4, 0xC00000);
+    box.Rectangle(5, 6, 7, 8, platform::Black, platform::Fill::Filled);
+    box.Rectangle(5, 6, 7, 8, platform::Black, platform::Fill::Outline);
+    box.SetFont("Arial", 8, true);
+    box.SetTextPosition(0, 0.25);
+    box.Print("253.02");
+    platform::RecordingCanvas const empty(1, 1);
+    EXPECT_EQ(cli::ChartJson({&box, &empty, &empty, &empty}),
+              R"({"Pic1":{"width":150,"height":75.5,"ops":[["clear"],["fore",16711935],["point",1,2.5,192],)"
+              R"(["line",1,2.5,3,4,12582912],["rect",5,6,7,8,0,true],["rect",5,6,7,8,0,false],)"
+              R"(["font","Arial",8,true],["text_pos",0,0.25],["print","253.02"]]},)"
+              R"("Pic2":{"width":1,"height":1,"ops":[]},"Pic3":{"width":1,"height":1,"ops":[]},)"
+              R"("Pic4":{"width":1,"height":1,"ops":[]}})"
+              "\n");
+}
+
+TEST(Chart, ShowsTheCyclesThatAnalyseTells) {
+    // Weights that a second reading of the grid would scale once more.
+    TemporaryFolder const folder;
+    std::string parameters = "45, 40, 0, 0\r\n";
+    for (int cycle = 2; cycle <= 10; ++cycle) {
+        parameters += "5, " + std::to_string(10 + cycle) + ", 0, 0\r\n";
+    }
+    folder.Write("p.dat", parameters);
+    std::vector<std::string> const options = {GoldenPath("quotes/q060.txt"), "--parameters",
+                                              folder.File("p.dat")};
+    auto with = [&options](std::vector<std::string> arguments, std::vector<std::string> const& more) {
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        return json::parse(RunCompanion(arguments).Output);
+    };
+    auto const composite = with({"analyse"}, {"--json"}).at("CompositeCurve");
+    auto const box = with({"chart"}, {"-o", "-"}).at("Pic3");
+    double const height = box.at("height");
+    std::vector<double> values;
+    for (auto const& operation : box.at("ops")) {
+        if (operation.at(0) == "line" && operation.at(5) == 0x0000C0) {
+            values.push_back((height / 2 - operation.at(4).get<double>()) / (height / 220));
+        }
+    }
+    ASSERT_EQ(values.size(), 60U);
+    for (std::size_t day = 0; day < values.size(); ++day) {
+        EXPECT_NEAR(values[day], composite.at(day).get<double>(), 1e-6);
+    }
+}
+
 TEST(Chart, GoesToStandardOutput) {
     auto const run = RunCompanion({"chart", GoldenPath("quotes/q060.txt"), "-o", "-"});
     EXPECT_EQ(run.ExitStatus, 0);
@@ -54,7 +106,8 @@ TEST(Chart, RefusesOtherFilesAndSizes) {
                                                       {"chart", file, "-o", "-", "--size", "12000"},
                                                       {"chart", file, "-o", "-", "--size", "0x9000"},
                                                       {"chart", file, "-o", "-", "--size", "12000x9000x"},
-                                                      {"chart", file, "-o", "-", "--size", "x"}}) {
+                                                      {"chart", file, "-o", "-", "--size", "x"},
+                                                      {"chart", file, "-o", "-", "--size", "1000x1000"}}) {
         SCOPED_TRACE(testing::PrintToString(arguments));
         EXPECT_EQ(RunCompanion(arguments).ExitStatus, 2);
     }

@@ -13,13 +13,29 @@
 
 namespace quorvex::tests {
 
+namespace {
+
+// The text as one word of the system's shell, which takes nothing in it for anything else.
+std::string Quoted(std::string const& text) {
+#ifdef _WIN32
+    return '"' + text + '"';
+#else
+    return '\'' + text + '\'';
+#endif
+}
+
+} // namespace
+
 CompanionRun RunCompanion(std::vector<std::string> const& arguments) {
     TemporaryFolder const folder;
-    std::string command = '"' + std::string(QUORVEX_COMPANION) + '"';
+    std::string command = Quoted(QUORVEX_COMPANION);
     for (std::string const& argument : arguments) {
-        command += " \"" + argument + '"';
+        command += ' ' + Quoted(argument);
     }
-    command += " >\"" + folder.File("output") + "\" 2>\"" + folder.File("errors") + '"';
+    command += " >" + Quoted(folder.File("output")) + " 2>" + Quoted(folder.File("errors"));
+#ifdef _WIN32
+    command = '"' + command + '"'; // the outermost pair goes to the shell
+#endif
     int const status = std::system(command.c_str());
     CompanionRun run;
 #ifdef _WIN32

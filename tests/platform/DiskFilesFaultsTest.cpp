@@ -148,12 +148,15 @@ TEST(DiskFilesFaults, APipeIsNeitherOfferedNorReplaced) {
     EXPECT_TRUE(std::filesystem::is_fifo(folder.File("pipe.txt")));
 }
 
-TEST(DiskFilesFaults, WhatAKilledProcessLeftIsNotTouched) {
+TEST(DiskFilesFaults, ALinkToAFileThatIsNotThereYetStaysALink) {
     tests::TemporaryFolder const folder;
-    folder.Write(".quorvex-1.tmp", "of another process");
-    EXPECT_EQ(FaultOfReplacing(folder.File("a.txt"), "new"), std::nullopt);
-    EXPECT_EQ(folder.Read(".quorvex-1.tmp"), "of another process");
-    EXPECT_EQ(folder.EntryCount(), 2);
+    std::filesystem::create_directory(folder.File("sub"));
+    std::filesystem::create_symlink("sub/real.txt", folder.File("link.txt"));
+    EXPECT_EQ(FaultOfReplacing(folder.File("link.txt"), "new"), std::nullopt);
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.File("link.txt")));
+    EXPECT_EQ(folder.Read("sub/real.txt"), "new");
+    std::filesystem::create_symlink("loop.txt", folder.File("loop.txt"));
+    EXPECT_EQ(FaultOfReplacing(folder.File("loop.txt"), "new"), Fault::BadFileName);
 }
 
 TEST(DiskFilesFaults, TwoSavesAtOnceDoNotMix) {

@@ -80,6 +80,18 @@ TEST_F(QuoteCommands, ChoosingARefusedFileLeavesNoFileOpen) {
                               "Quorvex Requirements", Icon::Information));
 }
 
+TEST_F(QuoteCommands, AFileThatCannotBeReadLeavesNoneOpen) {
+    files.Contents = {{"C:\\Quotes\\corn.txt", QuoteLines(25)}, {"C:\\Quotes\\bad.txt", QuoteLines(25)}};
+    dialogs.Choices = {"corn.txt", "bad.txt"};
+    Open();
+    ASSERT_TRUE(series->HasQuotes());
+    files.BreakReading = {500, text::Fault::PermissionDenied};
+    Open();
+    EXPECT_TRUE(IsOnlyMessage(dialogs.Messages, "Permission denied", "Quorvex", Icon::None));
+    EXPECT_FALSE(series->HasQuotes());
+    EXPECT_EQ(series->WorkingCount, 0);
+}
+
 TEST_F(QuoteCommands, CloseForgetsNameAndCounts) {
     series = tests::SeriesOf(QuoteLines(30));
     CloseQuoteFile(*series);

@@ -35,14 +35,19 @@ std::optional<std::string> Utf8(std::filesystem::path const& name) {
     }
 }
 
-// A link keeps pointing at its file: the file behind it is the one that is replaced.
-std::filesystem::path BehindLinks(std::filesystem::path const& path) {
+// A link keeps pointing at its file: the file behind it is the one that is replaced, even one that is not
+// there yet.
+std::filesystem::path BehindLinks(std::filesystem::path path) {
+    constexpr int MostLinks = 40;
     std::error_code error;
-    if (!std::filesystem::is_symlink(path, error)) {
-        return path;
+    for (int links = 0; std::filesystem::is_symlink(path, error); ++links) {
+        auto const target = std::filesystem::read_symlink(path, error);
+        if (error || links == MostLinks) {
+            throw RunTimeError(Fault::BadFileName);
+        }
+        path = path.parent_path() / target; // an absolute target stands for itself
     }
-    auto const target = std::filesystem::weakly_canonical(path, error);
-    return error ? path : target;
+    return path;
 }
 
 } // namespace
@@ -52,7 +57,11 @@ std::filesystem::path HostPath(std::string_view path) {
     if constexpr (std::filesystem::path::preferred_separator == '/') {
         std::replace(spelled.begin(), spelled.end(), u8'\\', u8'/');
     }
-    return {spelled};
+    try {
+        return {spelled};
+    } catch (std::system_error const&) {
+        throw RunTimeError(Fault::BadFileName); // bytes that are no UTF-8, on Windows
+    }
 }
 
 std::unique_ptr<text::ByteSource> DiskFiles::OpenForInput(std::string const& path) const {
@@ -79,7 +88,11 @@ void DiskFiles::Replace(std::string const& path, std::string_view content) {
 std::vector<std::string> DiskFiles::List(std::string const& folder, std::string_view pattern) const {
     std::vector<std::string> names;
     std::error_code error;
-    std::filesystem::directory_iterator entry(HostPath(folder), error);
+    std::filesystem::path path;
+    if (text::Trap([&] { path = HostPath(folder); })) {
+        return names;
+    }
+    std::filesystem::directory_iterator entry(path, error);
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
         std::error_code unreadable;
         auto name = Utf8(entry->path().filename());

@@ -4,9 +4,12 @@
 #include "platform/disk/HostArguments.h"
 
 #ifdef _WIN32
-#include <filesystem>
-#include <shellapi.h>
+// The second needs the first.
+// clang-format off
 #include <windows.h>
+#include <shellapi.h>
+// clang-format on
+#include <filesystem>
 #else
 #include <algorithm>
 #endif

@@ -240,9 +240,29 @@ std::filesystem::path WriteTemporaryHostFile(std::filesystem::path const& target
 
 #ifdef _WIN32
 
+Fault FaultOfLastError() {
+    switch (GetLastError()) {
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL:
+        return Fault::DiskFull;
+    case ERROR_PATH_NOT_FOUND:
+        return Fault::PathNotFound;
+    case ERROR_INVALID_NAME:
+    case ERROR_FILENAME_EXCED_RANGE:
+        return Fault::BadFileName;
+    default:
+        return Fault::PermissionDenied;
+    }
+}
+
 void MoveHostFile(std::filesystem::path const& from, std::filesystem::path const& to) {
-    if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0) {
-        throw RunTimeError(GetLastError() == ERROR_DISK_FULL ? Fault::DiskFull : Fault::PermissionDenied);
+    // Replacing keeps what the old file's security allows; moving alone would not.
+    std::error_code ignored;
+    bool const moved = std::filesystem::exists(to, ignored)
+                           ? ReplaceFileW(to.c_str(), from.c_str(), nullptr, 0, nullptr, nullptr) != 0
+                           : MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH) != 0;
+    if (!moved) {
+        throw RunTimeError(FaultOfLastError());
     }
 }
 
