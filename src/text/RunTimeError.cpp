@@ -56,13 +56,6 @@ double Divide(double dividend, double divisor) {
     return RequireFinite(dividend / divisor);
 }
 
-double RequireFinite(double value) {
-    if (!std::isfinite(value)) {
-        throw RunTimeError(Fault::Overflow);
-    }
-    return value;
-}
-
 double SquareRoot(double value) {
     if (value < 0) {
         throw RunTimeError(Fault::InvalidProcedureCall);

@@ -5,6 +5,7 @@
 // may see; a command either ends quietly on it or shows that description.
 #pragma once
 
+#include <cmath>
 #include <exception>
 #include <optional>
 #include <string_view>
@@ -60,7 +61,12 @@ template <class Routine>
 
 // The value itself when it is finite; raises "Overflow" otherwise. Put behind every sum and product that can
 // leave the range of a double, so that no infinity or NaN ever reaches a curve or a message.
-[[nodiscard]] double RequireFinite(double value);
+[[nodiscard]] inline double RequireFinite(double value) {
+    if (!std::isfinite(value)) {
+        throw RunTimeError(Fault::Overflow);
+    }
+    return value;
+}
 
 // The square root. Raises "Invalid procedure call or argument" below zero.
 [[nodiscard]] double SquareRoot(double value);
