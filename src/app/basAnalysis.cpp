@@ -5,15 +5,12 @@
 
 #include "app/basRedraw.h"
 #include "cycles/basCorrel.h"
-#include "cycles/basCurves.h"
 #include "cycles/basParameters.h"
 #include "platform/basMessages.h"
 #include "quotes/basDateRange.h"
 #include "quotes/basDisk.h"
 #include "text/RunTimeError.h"
 #include "text/basDates.h"
-
-#include <memory>
 
 namespace quorvex::app {
 
@@ -60,21 +57,10 @@ void ReadParameters(Program& program, Services& services, std::string const& pat
     platform::RunReported(services.Dialogs, [&] { cycles::WriteGrid(program.Cycles, services.Grid); });
 }
 
-// Whether the moving average can be computed at all; prices without a range, which no chart can show, have
-// one.
-bool IsMovingAverageWhole(Program const& program) {
-    auto const curve = std::make_unique<cycles::QuoteCurve>();
-    return !text::Trap([&] {
-        cycles::ComputeMovingAverage(
-            program.Quotes, cycles::MovingAverageLength(program.Settings.MovingAverageIndex), *curve);
-    });
-}
-
 // Returns whether all cycles were fitted.
 bool FitCycles(Program& program, Services& services, int cycleCount, AnalysisResult& result) {
     if (cycleCount > 1) {
-        RefreshMovingAverage(program, services.Boxes.Pic1);
-        result.HasMovingAverage = IsMovingAverageWhole(program);
+        result.HasMovingAverage = RefreshMovingAverage(program, services.Boxes.Pic1);
     }
     return platform::RunReported(services.Dialogs, [&] {
         cycles::AutomateCycles(cycleCount, program.Quotes.WorkingCount, program.Curves, program.Cycles,

@@ -73,10 +73,21 @@ RedrawFaults DrawCharts(Program& program, ChartBoxes const& boxes) {
     return DrawPrepared(program, boxes);
 }
 
-void RefreshMovingAverage(Program& program, platform::Canvas& box) {
+bool RefreshMovingAverage(Program& program, platform::Canvas& box) {
     static_cast<void>(DrawQuotes(program, box));
-    static_cast<void>(chart::DrawMovingAverage(box, program.Quotes, program.Settings.MovingAverageIndex,
-                                               program.PriceScale, program.Curves.MovingAverageCurve));
+    cycles::QuoteCurve& curve = program.Curves.MovingAverageCurve;
+    std::int16_t length = 0;
+    bool const computed = !text::Trap([&] {
+        length = cycles::MovingAverageLength(program.Settings.MovingAverageIndex);
+        cycles::ComputeMovingAverage(program.Quotes, length, curve);
+    });
+    if (computed) {
+        static_cast<void>(text::Trap([&] {
+            chart::DrawMovingAverageCurve(box, curve, length, program.Quotes.WorkingCount,
+                                          program.PriceScale);
+        }));
+    }
+    return computed;
 }
 
 } // namespace quorvex::app

@@ -28,7 +28,8 @@ RedrawFaults Redraw(Program& program, Services& services);
 RedrawFaults DrawCharts(Program& program, ChartBoxes const& boxes);
 
 // Draws the quote chart and its moving average once more, so that its curve is fresh for a fit. Faults end
-// each quietly.
-void RefreshMovingAverage(Program& program, platform::Canvas& box);
+// each quietly. Returns whether the curve was computed: prices without a range, which no chart can show, have
+// one as well.
+bool RefreshMovingAverage(Program& program, platform::Canvas& box);
 
 } // namespace quorvex::app

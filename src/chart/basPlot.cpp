@@ -139,17 +139,22 @@ std::optional<text::RunTimeError> DrawMovingAverage(platform::Canvas& box, quote
     return text::Trap([&] {
         std::int16_t const length = cycles::MovingAverageLength(movingAverageIndex);
         cycles::ComputeMovingAverage(series, length, movingAverageCurve);
-        if (length == 0) {
-            return;
-        }
-        VerticalScale const prices = ScalePrices(scale, box.Height());
-        double const step = ColumnStep(box, series.WorkingCount);
-        box.SetForeColour(MovingAverageColour);
-        box.Point(step, prices.Y(movingAverageCurve[1]), MovingAverageColour);
-        for (int day = 2; day <= series.WorkingCount; ++day) {
-            box.LineTo(day * step, prices.Y(movingAverageCurve[day]), MovingAverageColour);
-        }
+        DrawMovingAverageCurve(box, movingAverageCurve, length, series.WorkingCount, scale);
     });
+}
+
+void DrawMovingAverageCurve(platform::Canvas& box, cycles::QuoteCurve const& movingAverageCurve,
+                            std::int16_t length, std::int16_t workingCount, quotes::PriceScale const& scale) {
+    if (length == 0) {
+        return;
+    }
+    VerticalScale const prices = ScalePrices(scale, box.Height());
+    double const step = ColumnStep(box, workingCount);
+    box.SetForeColour(MovingAverageColour);
+    box.Point(step, prices.Y(movingAverageCurve[1]), MovingAverageColour);
+    for (int day = 2; day <= workingCount; ++day) {
+        box.LineTo(day * step, prices.Y(movingAverageCurve[day]), MovingAverageColour);
+    }
 }
 
 void DrawPriceLabels(platform::Canvas& box, double top, double bottom, std::string_view currencyFormat) {

@@ -35,6 +35,11 @@ std::optional<text::RunTimeError> DrawMovingAverage(platform::Canvas& box, quote
                                                     quotes::PriceScale const& scale,
                                                     cycles::QuoteCurve& movingAverageCurve);
 
+// Draws the curve, computed with this length, over the working days; nothing for a length of 0. Raises
+// "Division by zero" for a price scale without height.
+void DrawMovingAverageCurve(platform::Canvas& box, cycles::QuoteCurve const& movingAverageCurve,
+                            std::int16_t length, std::int16_t workingCount, quotes::PriceScale const& scale);
+
 // Writes the top, middle and bottom price at the left edge.
 void DrawPriceLabels(platform::Canvas& box, double top, double bottom, std::string_view currencyFormat);
 

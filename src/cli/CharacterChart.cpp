@@ -70,7 +70,8 @@ std::array<std::string, Rows> AxisLabels(app::Program const& program) {
 } // namespace
 
 std::string CharacterChart(app::Program const& program, app::AnalysisResult const& result, int width) {
-    if (!result.HasMovingAverage) {
+    // Prices without a range have a moving average and no place on an axis.
+    if (!result.HasMovingAverage || program.PriceScale.PriceScaleHigh == program.PriceScale.PriceScaleLow) {
         return {};
     }
     auto const labels = AxisLabels(program);

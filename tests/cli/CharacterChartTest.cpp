@@ -78,7 +78,13 @@ TEST(CharacterChart, LeavesOutACompositeBeyondTheAxis) {
     EXPECT_EQ(chart.substr(0, chart.find('+')).find('o'), std::string::npos);
 }
 
-TEST(CharacterChart, IsEmptyWithoutAPriceScale) {
+TEST(CharacterChart, IsEmptyForPricesWithoutARange) {
+    auto const program = RisingProgram();
+    program->PriceScale = {5, 5};
+    EXPECT_EQ(CharacterChart(*program, ResultWith(true), 80), "");
+}
+
+TEST(CharacterChart, IsEmptyWithoutAMovingAverage) {
     EXPECT_EQ(CharacterChart(*RisingProgram(), app::AnalysisResult(), 80), "");
 }
 
