@@ -20,7 +20,7 @@ template <class Curve>
 void DrawCurve(platform::Canvas& box, Curve const& curve, std::int16_t workingCount,
                VerticalScale const& scale, platform::Colour colour) {
     std::int16_t const days = cycles::CurveDays(workingCount);
-    double const step = box.Width() / (days + 1);
+    double const step = ColumnStep(box.Width(), days);
     box.SetForeColour(colour);
     box.Point(step, scale.Y(curve[1]), colour);
     for (int day = 1; day <= days; ++day) {

@@ -26,11 +26,6 @@ constexpr double HalfBody = 50;
 // Half the height of a tick of a bar, in twips.
 constexpr double HalfTick = 5;
 
-// One column is left empty at each end.
-double ColumnStep(platform::Canvas const& box, std::int16_t columns) {
-    return box.Width() / (columns + 1);
-}
-
 void DrawDashes(platform::Canvas& box, double step, double y) {
     constexpr double DashShare = 1.0 / 3;
     if (!(step > 0)) {
@@ -121,7 +116,7 @@ std::optional<text::RunTimeError> DrawQuoteChart(platform::Canvas& box, quotes::
     std::optional<text::RunTimeError> averageFault;
     auto fault = text::Trap([&] {
         scale = ComputePriceScale(series);
-        QuotePlot const plot{box, series, ColumnStep(box, series.WorkingCount),
+        QuotePlot const plot{box, series, ColumnStep(box.Width(), series.WorkingCount),
                              ScalePrices(scale, box.Height())};
         PrepareChart(box, series.WorkingCount);
         box.SetForeColour(Black);
@@ -149,7 +144,7 @@ void DrawMovingAverageCurve(platform::Canvas& box, cycles::QuoteCurve const& mov
         return;
     }
     VerticalScale const prices = ScalePrices(scale, box.Height());
-    double const step = ColumnStep(box, workingCount);
+    double const step = ColumnStep(box.Width(), workingCount);
     box.SetForeColour(MovingAverageColour);
     box.Point(step, prices.Y(movingAverageCurve[1]), MovingAverageColour);
     for (int day = 2; day <= workingCount; ++day) {
@@ -175,7 +170,7 @@ void DrawPriceLabels(platform::Canvas& box, double top, double bottom, std::stri
 void DrawTimeTicks(platform::Canvas& box, std::int16_t workingCount) {
     constexpr double TickWidth = 5;
     std::int16_t const columns = cycles::CurveDays(workingCount);
-    double const step = ColumnStep(box, columns);
+    double const step = ColumnStep(box.Width(), columns);
     double const height = box.Height();
     box.SetForeColour(Black);
     for (int column = 1; column <= columns; ++column) {

@@ -3,6 +3,9 @@
 
 #include "chart/basScale.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace quorvex::chart {
 
 quotes::PriceScale ComputePriceScale(quotes::QuoteSeries const& series) {
@@ -21,6 +24,14 @@ quotes::PriceScale ComputePriceScale(quotes::QuoteSeries const& series) {
     maximum = maximum + Margin * (maximum - minimum);
     minimum = minimum - Margin * (maximum - minimum);
     return {text::RequireFinite(maximum), text::RequireFinite(minimum)};
+}
+
+int ColumnAt(double x, double width, int columns) {
+    double const step = ColumnStep(width, columns);
+    if (!(step > 0)) {
+        return 1;
+    }
+    return static_cast<int>(std::clamp<double>(std::round(x / step), 1, columns));
 }
 
 VerticalScale ScalePrices(quotes::PriceScale const& scale, double height) {

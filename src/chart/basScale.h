@@ -14,6 +14,16 @@ namespace quorvex::chart {
 // then by a tenth of the widened range at the bottom, which is therefore the larger margin.
 [[nodiscard]] quotes::PriceScale ComputePriceScale(quotes::QuoteSeries const& series);
 
+// The distance of two columns in a box of this width, which leaves a column's width empty at each end: column
+// i stands at i times this.
+[[nodiscard]] inline double ColumnStep(double width, int columns) {
+    return width / (columns + 1);
+}
+
+// The column, from 1 on, that stands nearest to the place x; the later one exactly between two. Without a
+// width it is column 1. REQUIRES: one column.
+[[nodiscard]] int ColumnAt(double x, double width, int columns);
+
 // Maps a value to a height in a box: y = Factor x value + Offset, in twips.
 struct VerticalScale {
     double Factor = 0;
