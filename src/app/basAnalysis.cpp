@@ -115,7 +115,8 @@ std::optional<AnalysisResult> Analyse(Program& program, Services& services, Anal
     AnalysisResult result;
     auto const faults = Redraw(program, services);
     Report(faults.Quotes, services.Dialogs);
-    result.HasMovingAverage = !faults.Quotes;
+    Report(faults.MovingAverage, services.Dialogs);
+    result.HasMovingAverage = !faults.Quotes && !faults.MovingAverage;
     if (request.ParameterPath) {
         ReadParameters(program, services, *request.ParameterPath);
     }

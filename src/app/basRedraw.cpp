@@ -13,7 +13,7 @@ namespace quorvex::app {
 
 namespace {
 
-std::optional<text::RunTimeError> DrawQuotes(Program& program, platform::Canvas& box) {
+RedrawFaults DrawQuotes(Program& program, platform::Canvas& box) {
     return chart::DrawQuoteChart(box, program.Quotes, program.Settings, program.PriceScale,
                                  program.Curves.MovingAverageCurve);
 }
@@ -43,8 +43,7 @@ void PrepareCharts(Program const& program, ChartBoxes const& boxes) {
 }
 
 RedrawFaults DrawPrepared(Program& program, ChartBoxes const& boxes) {
-    RedrawFaults faults;
-    faults.Quotes = DrawQuotes(program, boxes.Pic1);
+    RedrawFaults faults = DrawQuotes(program, boxes.Pic1);
     if (cycles::HasActiveCycle(program.Cycles)) {
         faults.Cycles = text::Trap([&] { DrawCyclesAndComposite(program, boxes); });
         if (!faults.Cycles && program.Quotes.HasQuotes()) {

@@ -5,18 +5,13 @@
 #pragma once
 
 #include "app/Program.h"
-#include "text/RunTimeError.h"
-
-#include <optional>
+#include "chart/ChartFaults.h"
 
 namespace quorvex::app {
 
-// What ended each part early; empty where the part ran to its end or had nothing to do.
-struct RedrawFaults {
-    std::optional<text::RunTimeError> Quotes;   // the quote chart: the others follow all the same
-    std::optional<text::RunTimeError> Cycles;   // single cycles and composite: ends the redraw
-    std::optional<text::RunTimeError> Residual; // ends the redraw
-};
+// A fault of the quotes or their moving average ends that part alone; one of the cycles or the residual ends
+// the redraw.
+using RedrawFaults = chart::ChartFaults;
 
 // Prepares the four boxes, reads the grid, and computes and draws the quote chart, the cycles, the composite
 // and the residual, and the time ticks of all four. Without quotes the boxes of quotes and residual stay

@@ -107,24 +107,25 @@ void PrepareChart(platform::Canvas& box, std::int16_t workingCount) {
     DrawDashes(box, step, height * 3 / 4);
 }
 
-std::optional<text::RunTimeError> DrawQuoteChart(platform::Canvas& box, quotes::QuoteSeries const& series,
-                                                 prefs::Settings const& settings, quotes::PriceScale& scale,
-                                                 cycles::QuoteCurve& movingAverageCurve) {
+ChartFaults DrawQuoteChart(platform::Canvas& box, quotes::QuoteSeries const& series,
+                           prefs::Settings const& settings, quotes::PriceScale& scale,
+                           cycles::QuoteCurve& movingAverageCurve) {
+    ChartFaults faults;
     if (!series.HasQuotes()) {
-        return std::nullopt;
+        return faults;
     }
-    std::optional<text::RunTimeError> averageFault;
-    auto fault = text::Trap([&] {
+    faults.Quotes = text::Trap([&] {
         scale = ComputePriceScale(series);
         QuotePlot const plot{box, series, ColumnStep(box.Width(), series.WorkingCount),
                              ScalePrices(scale, box.Height())};
         PrepareChart(box, series.WorkingCount);
         box.SetForeColour(Black);
         DrawQuotes(plot, settings.ChartType);
-        averageFault = DrawMovingAverage(box, series, settings.MovingAverageIndex, scale, movingAverageCurve);
+        faults.MovingAverage =
+            DrawMovingAverage(box, series, settings.MovingAverageIndex, scale, movingAverageCurve);
         DrawPriceLabels(box, scale.PriceScaleHigh, scale.PriceScaleLow, settings.CurrencyFormat);
     });
-    return fault ? fault : averageFault;
+    return faults;
 }
 
 std::optional<text::RunTimeError> DrawMovingAverage(platform::Canvas& box, quotes::QuoteSeries const& series,

@@ -4,6 +4,7 @@
 // Draws what the four chart boxes have in common, and the quote chart.
 #pragma once
 
+#include "chart/ChartFaults.h"
 #include "cycles/CycleCurves.h"
 #include "platform/Canvas.h"
 #include "prefs/Settings.h"
@@ -22,14 +23,15 @@ namespace quorvex::chart {
 void PrepareChart(platform::Canvas& box, std::int16_t workingCount);
 
 // Draws the quotes in the style of the chart type with moving average and price labels, and leaves the price
-// scale and the moving average's curve. Without a quote file nothing happens. A fault, such as of prices
-// without a range, ends the drawing where it stands and comes back.
-std::optional<text::RunTimeError> DrawQuoteChart(platform::Canvas& box, quotes::QuoteSeries const& series,
-                                                 prefs::Settings const& settings, quotes::PriceScale& scale,
-                                                 cycles::QuoteCurve& movingAverageCurve);
+// scale and the moving average's curve. Without a quote file nothing happens. A fault of the quotes, such as
+// prices without a range, ends the drawing where it stands; one of the moving average ends that alone. Both
+// come back.
+ChartFaults DrawQuoteChart(platform::Canvas& box, quotes::QuoteSeries const& series,
+                           prefs::Settings const& settings, quotes::PriceScale& scale,
+                           cycles::QuoteCurve& movingAverageCurve);
 
-// Computes the moving average's curve and, unless its length is 0, draws it on the price scale. Faults as
-// above.
+// Computes the moving average's curve and, unless its length is 0, draws it on the price scale. A fault ends
+// the drawing and comes back.
 std::optional<text::RunTimeError> DrawMovingAverage(platform::Canvas& box, quotes::QuoteSeries const& series,
                                                     std::string_view movingAverageIndex,
                                                     quotes::PriceScale const& scale,

@@ -77,6 +77,16 @@ TEST(Redraw, PricesWithoutARangeLeaveTheMovingAverageAsItWas) {
     EXPECT_TRUE(IsClose(running.Data->Curves.CompositeCurve[5], 100));
 }
 
+TEST(Redraw, AMovingAverageWithoutALengthIsNoFaultOfTheQuotes) {
+    RunningProgram running;
+    running.Open("q.txt", QuoteLines(30));
+    running.Data->Settings.MovingAverageIndex = "99999";
+    auto const faults = Redraw(*running.Data, running.Outside);
+    EXPECT_FALSE(faults.Quotes);
+    ASSERT_TRUE(faults.MovingAverage);
+    EXPECT_EQ(faults.MovingAverage->Description(), "Overflow");
+}
+
 TEST(Redraw, ACycleThatOverflowsIsAFaultOfTheCycles) {
     RunningProgram running;
     running.Data->Cycles.Cycles[1].Weight = 1;

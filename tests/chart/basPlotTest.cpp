@@ -30,8 +30,14 @@ public:
         settings.CurrencyFormat = currencyFormat;
     }
 
-    std::optional<text::RunTimeError> Draw(platform::Canvas& box) {
+    ChartFaults Draw(platform::Canvas& box) {
         return DrawQuoteChart(box, *series, settings, scale, movingAverage);
+    }
+
+    // Whether nothing ended the drawing early.
+    bool DrawWhole(platform::Canvas& box) {
+        auto const faults = Draw(box);
+        return !faults.Quotes && !faults.MovingAverage;
     }
 
     std::unique_ptr<quotes::QuoteSeries> series;
@@ -58,7 +64,7 @@ TEST(QuoteChart, DrawsEveryReferenceFileInThreeStyles) {
             chart.settings.ChartType = type;
             chart.settings.MovingAverageIndex = expected.at("moving_average_index");
             RecordingCanvas box(expected.at("box").at(0), expected.at("box").at(1));
-            EXPECT_FALSE(chart.Draw(box));
+            EXPECT_TRUE(chart.DrawWhole(box));
             EXPECT_TRUE(tests::IsClose(chart.scale.PriceScaleHigh, expected.at("price_scale").at("high")));
             EXPECT_TRUE(tests::IsClose(chart.scale.PriceScaleLow, expected.at("price_scale").at("low")));
 
@@ -122,7 +128,7 @@ TEST(QuoteChart, DrawsTheSingleReferenceCases) {
             QuoteChart chart("q025.txt");
             chart.settings.ChartType = "Line Chart";
             chart.settings.MovingAverageIndex = label.substr(label.rfind(' ') + 1);
-            EXPECT_FALSE(chart.Draw(box));
+            EXPECT_TRUE(chart.DrawWhole(box));
         } else {
             continue;
         }
@@ -139,7 +145,7 @@ TEST(QuoteChart, OfPricesWithoutARangeLeavesTheBoxAsItIs) {
         chart.series->Working[day].Low = 100;
     }
     RecordingCanvas box(7000, 2500);
-    auto const error = chart.Draw(box);
+    auto const error = chart.Draw(box).Quotes;
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Description(), "Division by zero");
     EXPECT_TRUE(box.Operations().empty());
@@ -151,7 +157,7 @@ TEST(QuoteChart, WithoutAFileIsNotDrawn) {
     QuoteChart chart("q025.txt");
     chart.series->QuoteFileName.clear();
     RecordingCanvas box(7000, 2500);
-    EXPECT_FALSE(chart.Draw(box));
+    EXPECT_TRUE(chart.DrawWhole(box));
     EXPECT_TRUE(box.Operations().empty());
 }
 
@@ -161,7 +167,7 @@ TEST(QuoteChart, DrawsTheLineChartForAnyOtherType) {
         QuoteChart chart("q025.txt");
         chart.settings.ChartType = type;
         RecordingCanvas box(7000, 2500);
-        EXPECT_FALSE(chart.Draw(box));
+        EXPECT_TRUE(chart.DrawWhole(box));
         counts.push_back(box.Operations().size());
     }
     EXPECT_EQ(counts[0], counts[1]);
@@ -174,7 +180,7 @@ TEST(QuoteChart, DrawsAnUnchangedDayAsAHollowCandleWithoutHeight) {
     chart.series->Working[1].Open = chart.series->Working[1].Close;
     chart.series->Working[2].Open = chart.series->Working[2].Close + 1;
     RecordingCanvas box(7000, 2500);
-    EXPECT_FALSE(chart.Draw(box));
+    EXPECT_TRUE(chart.DrawWhole(box));
     std::vector<DrawingOperation> rectangles;
     std::copy_if(box.Operations().begin(), box.Operations().end(), std::back_inserter(rectangles),
                  [](auto const& operation) { return operation.What == DrawingOperation::Kind::Rectangle; });
@@ -187,7 +193,7 @@ TEST(QuoteChart, HasNoMagentaCurveForAnIndexOfZero) {
     QuoteChart chart("q025.txt");
     chart.settings.MovingAverageIndex = "0";
     RecordingCanvas box(7000, 2500);
-    EXPECT_FALSE(chart.Draw(box));
+    EXPECT_TRUE(chart.DrawWhole(box));
     for (auto const& operation : box.Operations()) {
         EXPECT_NE(operation.Drawn, platform::Magenta);
     }
@@ -198,16 +204,17 @@ TEST(QuoteChart, GoesOnWithItsLabelsWhenTheMovingAverageFails) {
     QuoteChart chart("q025.txt");
     chart.settings.MovingAverageIndex = "1001";
     RecordingCanvas box(7000, 2500);
-    auto const error = chart.Draw(box);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->Description(), "Subscript out of range");
+    auto const faults = chart.Draw(box);
+    EXPECT_FALSE(faults.Quotes);
+    ASSERT_TRUE(faults.MovingAverage);
+    EXPECT_EQ(faults.MovingAverage->Description(), "Subscript out of range");
     EXPECT_EQ(box.Operations().back().What, DrawingOperation::Kind::Print);
 }
 
 TEST(QuoteChart, FillsTheMovingAverageOfASeriesOfItsOwnLength) {
     QuoteChart chart("q025.txt");
     RecordingCanvas box(7000, 2500);
-    EXPECT_FALSE(chart.Draw(box));
+    EXPECT_TRUE(chart.DrawWhole(box));
     EXPECT_FALSE(DrawMovingAverage(box, *chart.series, "25", chart.scale, chart.movingAverage));
     EXPECT_EQ(chart.movingAverage[1], chart.series->Working[1].Close);
     EXPECT_EQ(chart.movingAverage[25], chart.series->Working[25].Close);
@@ -217,7 +224,7 @@ TEST(QuoteChart, EndsAtAPriceBeyondEveryHeight) {
     QuoteChart chart("q025.txt");
     chart.series->Working[3].Open = 1e308;
     RecordingCanvas box(7000, 2500);
-    auto const error = chart.Draw(box);
+    auto const error = chart.Draw(box).Quotes;
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Description(), "Overflow");
 }
