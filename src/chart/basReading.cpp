@@ -1,0 +1,281 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "chart/basReading.h"
+
+#include "cycles/basCurves.h"
+#include "text/RunTimeError.h"
+#include "text/basFormats.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+namespace quorvex::chart {
+
+namespace {
+
+using Row = ChartReading::Row;
+
+constexpr std::string_view CycleUnits = "##0.0";
+constexpr std::string_view WholeNumbers = "##0";
+
+std::string Join(std::initializer_list<std::string_view> parts) {
+    std::string text;
+    for (std::string_view const part : parts) {
+        text += part;
+    }
+    return text;
+}
+
+std::string Count(int count, std::string_view noun) {
+    return Join({std::to_string(count), " ", noun, count == 1 ? "" : "s"});
+}
+
+bool HasWorkingDays(quotes::QuoteSeries const& series) {
+    return series.HasQuotes() && series.WorkingCount > 0;
+}
+
+std::vector<std::string> NameDays(quotes::QuoteSeries const& series) {
+    int const count = cycles::CurveDays(series.WorkingCount);
+    std::vector<std::string> days;
+    days.reserve(static_cast<std::size_t>(count));
+    for (int day = 1; day <= count; ++day) {
+        days.push_back(HasWorkingDays(series) ? series.Working[day].Date : "Day " + std::to_string(day));
+    }
+    return days;
+}
+
+// "250 days, 11/06/18 to 11/05/19", or "100 days" without quotes.
+std::string DescribeSpan(quotes::QuoteSeries const& series) {
+    int const count = cycles::CurveDays(series.WorkingCount);
+    std::string days = Count(count, "day");
+    if (!HasWorkingDays(series)) {
+        return days;
+    }
+    std::string const& first = series.Working[1].Date;
+    return count == 1 ? Join({days, ", ", first})
+                      : Join({days, ", ", first, " to ", series.Working[count].Date});
+}
+
+template <class ValueOfDay>
+Row MakeRow(std::string name, int days, ValueOfDay valueOfDay) {
+    Row row{std::move(name), {}};
+    row.Values.reserve(static_cast<std::size_t>(days));
+    for (int day = 1; day <= days; ++day) {
+        row.Values.push_back(text::RequireFinite(valueOfDay(day)));
+    }
+    return row;
+}
+
+double Lowest(Row const& row) {
+    return *std::min_element(row.Values.begin(), row.Values.end());
+}
+
+double Highest(Row const& row) {
+    return *std::max_element(row.Values.begin(), row.Values.end());
+}
+
+// How the style of the quote chart is read. What a line chart shows of the quotes is their closes.
+struct QuoteStyle {
+    std::string_view Name;
+    bool ClosesAlone = false;
+};
+
+QuoteStyle StyleOf(std::string_view chartType) {
+    if (chartType == "Daily Bar Chart") {
+        return {"Daily bar chart", false};
+    }
+    if (chartType == "Candlestick Chart") {
+        return {"Candlestick chart", false};
+    }
+    return {"Line chart", true};
+}
+
+// Adds the moving average to what is read of the quotes, unless its length is 0.
+void ReadMovingAverage(ChartReading& reading, ChartContents const& contents,
+                       std::optional<text::RunTimeError> fault) {
+    std::int16_t length = 0;
+    if (!fault) {
+        fault =
+            text::Trap([&] { length = cycles::MovingAverageLength(contents.Settings.MovingAverageIndex); });
+    }
+    if (fault) {
+        reading.Description += Join({" The moving average could not be drawn: ", fault->Description(), "."});
+    } else if (length != 0) {
+        Row average = MakeRow("Moving average", contents.Series.WorkingCount,
+                              [&](int day) { return contents.Curves.MovingAverageCurve[day]; });
+        // Every length below 2 gives the closes themselves.
+        reading.Description +=
+            Join({" ", std::to_string(std::max<int>(length, 1)), "-day moving average, last value ",
+                  text::FormatNumber(average.Values.back(), reading.NumberFormat), "."});
+        reading.Rows.push_back(std::move(average));
+    }
+}
+
+void ReadQuotes(ChartReading& reading, ChartContents const& contents, ChartFaults const& faults) {
+    quotes::QuoteSeries const& series = contents.Series;
+    QuoteStyle const style = StyleOf(contents.Settings.ChartType);
+    reading.NumberFormat = contents.Settings.CurrencyFormat;
+    auto row = [&series](char const* name, double quotes::QuoteRecord::*price) {
+        return MakeRow(name, series.WorkingCount, [&](int day) { return series.Working[day].*price; });
+    };
+    Row const high = row("High", &quotes::QuoteRecord::High);
+    Row const low = row("Low", &quotes::QuoteRecord::Low);
+    Row const close = row("Close", &quotes::QuoteRecord::Close);
+    text::NumberFormat const price(reading.NumberFormat);
+    std::string_view const noun = style.ClosesAlone ? " close" : "";
+    reading.Description = Join({style.Name, " of ", DescribeSpan(series), ". Lowest", noun, " ",
+                                price.Format(Lowest(style.ClosesAlone ? close : low)), ", highest", noun, " ",
+                                price.Format(Highest(style.ClosesAlone ? close : high)), ", last close ",
+                                price.Format(close.Values.back()), "."});
+    if (style.ClosesAlone) {
+        reading.Rows = {close};
+    } else {
+        reading.Rows = {row("Open", &quotes::QuoteRecord::Open), high, low, close};
+    }
+    ReadMovingAverage(reading, contents, faults.MovingAverage);
+}
+
+void ReadCycles(ChartReading& reading, ChartContents const& contents) {
+    text::NumberFormat const whole(WholeNumbers);
+    std::string parameters;
+    for (int index = 1; index <= cycles::CycleCount; ++index) {
+        cycles::CycleRecord const& cycle = contents.Cycles.Cycles[index];
+        if (cycle.IsActive()) {
+            std::string const name = "Cycle " + std::to_string(index);
+            parameters += Join({name, ": weight ", whole.Format(cycle.Weight), ", period ",
+                                whole.Format(cycle.Period), ". "});
+            reading.Rows.push_back(MakeRow(name, cycles::CurveDays(contents.Series.WorkingCount),
+                                           [&](int day) { return cycle.Values[day]; }));
+        }
+    }
+    double low = Lowest(reading.Rows.front());
+    double high = Highest(reading.Rows.front());
+    for (Row const& row : reading.Rows) {
+        low = std::min(low, Lowest(row));
+        high = std::max(high, Highest(row));
+    }
+    text::NumberFormat const units(CycleUnits);
+    reading.Description = Join({Count(static_cast<int>(reading.Rows.size()), "component cycle"), " over ",
+                                DescribeSpan(contents.Series), ". ", parameters, "Lowest ", units.Format(low),
+                                ", highest ", units.Format(high), "."});
+}
+
+// Reads composite or residual.
+template <class Curve>
+void ReadSingleCurve(ChartReading& reading, std::string_view title, std::string name,
+                     quotes::QuoteSeries const& series, Curve const& curve) {
+    Row row =
+        MakeRow(std::move(name), cycles::CurveDays(series.WorkingCount), [&](int day) { return curve[day]; });
+    text::NumberFormat const units(CycleUnits);
+    reading.Description =
+        Join({title, " over ", DescribeSpan(series), ". Lowest ", units.Format(Lowest(row)), ", highest ",
+              units.Format(Highest(row)), ", last value ", units.Format(row.Values.back()), "."});
+    reading.Rows.push_back(std::move(row));
+}
+
+// Reads a chart that was drawn to its end.
+ChartReading ReadDrawing(ChartKind kind, ChartContents const& contents, ChartFaults const& faults) {
+    ChartReading reading;
+    reading.Days = NameDays(contents.Series);
+    reading.NumberFormat = CycleUnits;
+    switch (kind) {
+    case ChartKind::Quotes:
+        ReadQuotes(reading, contents, faults);
+        break;
+    case ChartKind::Cycles:
+        ReadCycles(reading, contents);
+        break;
+    case ChartKind::Composite:
+        ReadSingleCurve(reading, "Composite estimate cycle", "Composite", contents.Series,
+                        contents.Curves.CompositeCurve);
+        break;
+    case ChartKind::Residual:
+        ReadSingleCurve(reading, "Residual, moving average minus composite cycle,", "Residual",
+                        contents.Series, contents.Curves.ResidualCurve);
+        break;
+    }
+    return reading;
+}
+
+// Why there was nothing to draw; empty when there was something.
+std::string_view ReasonOfEmptiness(ChartKind kind, ChartContents const& contents) {
+    bool const needsQuotes = kind == ChartKind::Quotes || kind == ChartKind::Residual;
+    if (needsQuotes && !contents.Series.HasQuotes()) {
+        return "No quote file is open.";
+    }
+    if (needsQuotes && !HasWorkingDays(contents.Series)) {
+        return "There are no quotes to show.";
+    }
+    if (kind != ChartKind::Quotes && !cycles::HasActiveCycle(contents.Cycles)) {
+        return "No cycle is active.";
+    }
+    return {};
+}
+
+std::optional<text::RunTimeError> const& FaultOf(ChartKind kind, ChartFaults const& faults) {
+    switch (kind) {
+    case ChartKind::Quotes:
+        return faults.Quotes;
+    case ChartKind::Residual:
+        return faults.Cycles ? faults.Cycles : faults.Residual;
+    default:
+        return faults.Cycles;
+    }
+}
+
+std::string_view SubjectOf(ChartKind kind) {
+    switch (kind) {
+    case ChartKind::Quotes:
+        return "The quotes";
+    case ChartKind::Cycles:
+        return "The cycles";
+    case ChartKind::Composite:
+        return "The composite estimate cycle";
+    default:
+        return "The residual";
+    }
+}
+
+ChartReading MakeEmptyReading(std::string description) {
+    ChartReading reading;
+    reading.Description = std::move(description);
+    return reading;
+}
+
+} // namespace
+
+ChartReading ReadChart(ChartKind kind, ChartContents const& contents, ChartFaults const& faults) {
+    if (auto const reason = ReasonOfEmptiness(kind, contents); !reason.empty()) {
+        return MakeEmptyReading(std::string(reason));
+    }
+    ChartReading reading;
+    auto fault = FaultOf(kind, faults);
+    if (!fault) {
+        fault = text::Trap([&] { reading = ReadDrawing(kind, contents, faults); });
+    }
+    if (fault) {
+        return MakeEmptyReading(Join({SubjectOf(kind), " could not be drawn: ", fault->Description(), "."}));
+    }
+    return reading;
+}
+
+std::string DescribeDay(ChartReading const& reading, int day) {
+    if (day < 1 || static_cast<std::size_t>(day) > reading.Days.size()) {
+        return {};
+    }
+    auto const index = static_cast<std::size_t>(day - 1);
+    text::NumberFormat const format(reading.NumberFormat);
+    std::string text = reading.Days[index];
+    for (Row const& row : reading.Rows) {
+        text += Join({"\n", row.Name, ": ", format.Format(row.Values[index])});
+    }
+    return text;
+}
+
+} // namespace quorvex::chart

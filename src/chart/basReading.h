@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// Says in words what the chart boxes show: as tool tip for one day, and as description of a whole chart for
+// people who do not see it.
+#pragma once
+
+#include "chart/ChartFaults.h"
+#include "cycles/CycleCurves.h"
+#include "cycles/CycleParameterSet.h"
+#include "prefs/Settings.h"
+#include "quotes/QuoteSeries.h"
+
+#include <string>
+#include <vector>
+
+namespace quorvex::chart {
+
+enum class ChartKind { Quotes, Cycles, Composite, Residual };
+
+// What the charts are drawn from.
+struct ChartContents {
+    quotes::QuoteSeries const& Series;
+    prefs::Settings const& Settings;
+    cycles::CycleParameterSet const& Cycles;
+    cycles::CycleCurves const& Curves;
+};
+
+// What one box shows, copied when it was drawn: the data change while a drawing stays in its box, as the
+// cycles do when the quote file is closed. A box without a drawing has a description and no days.
+struct ChartReading {
+    // One number of every day.
+    struct Row {
+        std::string Name;
+        std::vector<double> Values;
+    };
+
+    std::string Description;       // one paragraph
+    std::vector<std::string> Days; // the date of each day, or "Day 17" without quotes
+    std::vector<Row> Rows;
+    std::string NumberFormat; // of all rows
+};
+
+// Reads one box that was just drawn, prepared or emptied. The contents are those that it was drawn from, the
+// faults those of that drawing; whatever a fault left incomplete is said to be missing. Raises no fault.
+[[nodiscard]] ChartReading ReadChart(ChartKind kind, ChartContents const& contents,
+                                     ChartFaults const& faults);
+
+// The tool tip of a day, counted from 1: the day and then each value drawn there, one to the line. Empty for
+// a day that the box does not show.
+[[nodiscard]] std::string DescribeDay(ChartReading const& reading, int day);
+
+} // namespace quorvex::chart
