@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/Canvas.h"
+#include "platform/NominalFont.h"
 
 namespace quorvex::platform {
 
@@ -28,12 +29,18 @@ public:
 
     void SetTextPosition(double, double) override {}
 
-    void SetFont(std::string_view, int, bool) override {}
+    void SetFont(std::string_view, int size, bool) override { font_.Size = size; }
 
     void Print(std::string_view) override {}
 
+    [[nodiscard]] double TextWidth(std::string_view text) const override { return font_.Width(text); }
+
+    [[nodiscard]] double TextHeight() const override { return font_.Height(); }
+
 private:
     static constexpr double Side = 1000;
+
+    NominalFont font_;
 };
 
 } // namespace quorvex::platform

@@ -53,6 +53,10 @@ public:
     virtual void SetFont(std::string_view name, int size, bool bold) = 0;
 
     virtual void Print(std::string_view text) = 0;
+
+    // How wide the text and how high a line is in the font that is set. Measuring draws nothing.
+    [[nodiscard]] virtual double TextWidth(std::string_view text) const = 0;
+    [[nodiscard]] virtual double TextHeight() const = 0;
 };
 
 } // namespace quorvex::platform

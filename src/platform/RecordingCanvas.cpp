@@ -41,6 +41,7 @@ void RecordingCanvas::SetTextPosition(double x, double y) {
 
 void RecordingCanvas::SetFont(std::string_view name, int size, bool bold) {
     operations_.push_back({Kind::Font, {static_cast<double>(size)}, Black, bold, std::string(name)});
+    font_.Size = size;
 }
 
 void RecordingCanvas::Print(std::string_view text) {

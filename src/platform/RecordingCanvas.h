@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/Canvas.h"
+#include "platform/NominalFont.h"
 
 #include <array>
 #include <string>
@@ -22,7 +23,7 @@ struct DrawingOperation {
     std::string Text;  // of a font its name
 };
 
-// A canvas that keeps what it was asked to draw.
+// A canvas that keeps what it was asked to draw. Text has the measures of a nominal font.
 class RecordingCanvas final : public Canvas {
 public:
     RecordingCanvas(double width, double height) : width_(width), height_(height) {}
@@ -41,6 +42,10 @@ public:
     void SetFont(std::string_view name, int size, bool bold) override;
     void Print(std::string_view text) override;
 
+    [[nodiscard]] double TextWidth(std::string_view text) const override { return font_.Width(text); }
+
+    [[nodiscard]] double TextHeight() const override { return font_.Height(); }
+
     [[nodiscard]] std::vector<DrawingOperation> const& Operations() const { return operations_; }
 
 private:
@@ -48,6 +53,7 @@ private:
     double height_;
     double x_ = 0;
     double y_ = 0;
+    NominalFont font_;
     std::vector<DrawingOperation> operations_;
 };
 

@@ -25,6 +25,29 @@ TEST(RecordingCanvas, DrawsALineToAPointFromTheCurrentOne) {
     EXPECT_EQ(drawn[4].Coordinates, (std::array<double, 4>{9, 10, 11, 12}));
 }
 
+TEST(RecordingCanvas, MeasuresTextInANominalFontWithoutRecordingIt) {
+    RecordingCanvas canvas(100, 50);
+    EXPECT_NEAR(canvas.TextWidth("12.5"), 4 * 88, 0.01);
+    EXPECT_NEAR(canvas.TextHeight(), 184, 0.01);
+    EXPECT_TRUE(canvas.Operations().empty());
+    canvas.SetFont("Arial", 16, true);
+    EXPECT_NEAR(canvas.TextWidth("12.5"), 8 * 88, 0.01);
+    EXPECT_NEAR(canvas.TextHeight(), 368, 0.01);
+    EXPECT_EQ(canvas.TextWidth(""), 0);
+    EXPECT_EQ(canvas.Operations().size(), 1U);
+}
+
+TEST(BlankCanvas, MeasuresTextAsARecordingCanvasDoes) {
+    RecordingCanvas recording(100, 50);
+    BlankCanvas blank;
+    for (int const size : {8, 12}) {
+        recording.SetFont("Arial", size, false);
+        blank.SetFont("Arial", size, false);
+        EXPECT_EQ(blank.TextWidth("Forecast"), recording.TextWidth("Forecast"));
+        EXPECT_EQ(blank.TextHeight(), recording.TextHeight());
+    }
+}
+
 TEST(BlankCanvas, HasASizeToDrawOn) {
     BlankCanvas const canvas;
     EXPECT_GT(canvas.Width(), 0);
