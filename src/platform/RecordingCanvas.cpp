@@ -7,7 +7,16 @@ namespace quorvex::platform {
 
 using Kind = DrawingOperation::Kind;
 
+void RecordingCanvas::Resize(double width, double height) {
+    width_ = width;
+    height_ = height;
+}
+
 void RecordingCanvas::Clear() {
+    ++clearCount_;
+    if (kept_ == Keep::SinceClear) {
+        operations_.clear();
+    }
     operations_.push_back({Kind::Clear, {}, Black, false, {}});
 }
 

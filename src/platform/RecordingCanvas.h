@@ -23,10 +23,20 @@ struct DrawingOperation {
     std::string Text;  // of a font its name
 };
 
+// What of it a recording keeps.
+enum class Keep { Everything, SinceClear };
+
+// A canvas that keeps what it was asked to draw.
 // A canvas that keeps what it was asked to draw. Text has the measures of a nominal font.
 class RecordingCanvas final : public Canvas {
 public:
-    RecordingCanvas(double width, double height) : width_(width), height_(height) {}
+    RecordingCanvas(double width, double height, Keep kept = Keep::Everything)
+        : kept_(kept),
+          width_(width),
+          height_(height) {}
+
+    // The size for what is drawn from now on.
+    void Resize(double width, double height);
 
     [[nodiscard]] double Width() const override { return width_; }
 
@@ -42,6 +52,9 @@ public:
     void SetFont(std::string_view name, int size, bool bold) override;
     void Print(std::string_view text) override;
 
+    // How often it was cleared: another number means another drawing.
+    [[nodiscard]] int ClearCount() const { return clearCount_; }
+
     [[nodiscard]] double TextWidth(std::string_view text) const override { return font_.Width(text); }
 
     [[nodiscard]] double TextHeight() const override { return font_.Height(); }
@@ -49,6 +62,8 @@ public:
     [[nodiscard]] std::vector<DrawingOperation> const& Operations() const { return operations_; }
 
 private:
+    Keep kept_;
+    int clearCount_ = 0;
     double width_;
     double height_;
     double x_ = 0;

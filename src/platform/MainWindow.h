@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <string_view>
+
+namespace quorvex::platform {
+
+// The windows that commands open.
+enum class SecondaryWindow { Forecast };
+
+// What commands ask of the program's one top-level window.
+class MainWindow {
+public:
+    MainWindow() = default;
+    MainWindow(MainWindow const&) = delete;
+    MainWindow& operator=(MainWindow const&) = delete;
+    virtual ~MainWindow() = default;
+
+    virtual void SetCaption(std::string_view caption) = 0;
+
+    // Puts the controls where the window's size wants them.
+    virtual void LayOut() = 0;
+
+    // Shows the window and waits until it is closed.
+    virtual void Open(SecondaryWindow window) = 0;
+
+    // Ends the program as soon as the running command is over, without a question.
+    virtual void End() = 0;
+};
+
+// For runs without a window.
+class NoMainWindow final : public MainWindow {
+public:
+    void SetCaption(std::string_view) override {}
+
+    void LayOut() override {}
+
+    void Open(SecondaryWindow) override {}
+
+    void End() override {}
+};
+
+} // namespace quorvex::platform
