@@ -27,7 +27,9 @@ void WholeAnalysis(benchmark::State& state) {
     platform::disk::DiskFiles files;
     platform::NoPendingMessages pending;
     platform::BlankCanvas box;
-    app::Services services{grid, {box, box, box, box}, dialogs, files, pending};
+    platform::NoLauncher launcher;
+    platform::NoMainWindow window;
+    app::Services services{grid, {box, box, box, box}, dialogs, files, pending, launcher, window};
     app::AnalysisRequest request;
     request.AutomatedCycles = 3;
     app::StartUp(*program, grid, file.Folder());

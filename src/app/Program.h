@@ -4,12 +4,15 @@
 // The program-wide data.
 #pragma once
 
+#include "chart/ChartFaults.h"
 #include "cycles/CycleCurves.h"
 #include "cycles/CycleParameterSet.h"
 #include "cycles/ParameterGrid.h"
 #include "platform/Canvas.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
+#include "platform/Launcher.h"
+#include "platform/MainWindow.h"
 #include "platform/PendingMessages.h"
 #include "prefs/Settings.h"
 #include "quotes/PriceScale.h"
@@ -29,7 +32,8 @@ struct Program {
     cycles::CycleParameterSet Cycles;
     cycles::CycleCurves Curves;
     quotes::PriceScale PriceScale;
-    std::string ProgramFolder; // of the executable
+    chart::ChartFaults Faults; // of the last redraw
+    std::string ProgramFolder; // where the program keeps its files
 };
 
 // The four chart boxes.
@@ -47,6 +51,8 @@ struct Services {
     platform::Dialogs& Dialogs;
     platform::Files& Files;
     platform::PendingMessages& Pending;
+    platform::Launcher& Launcher;
+    platform::MainWindow& Window;
 };
 
 // Brings the program to its state after start-up: default settings, zeros in the grid.

@@ -27,6 +27,7 @@ void FileClose(Program& program, Services& services) {
     chart::PrepareChart(services.Boxes.Pic1, program.Quotes.WorkingCount);
     chart::PrepareChart(services.Boxes.Pic4, program.Quotes.WorkingCount);
     quotes::CloseQuoteFile(program.Quotes);
+    services.Window.SetCaption(Caption(program));
 }
 
 void FileSaveAs(Program& program, Services& services) {
@@ -34,6 +35,14 @@ void FileSaveAs(Program& program, Services& services) {
         quotes::SaveQuoteFileAs(program.Quotes, program.Settings, services.Files, services.Dialogs);
         Redraw(program, services);
     });
+}
+
+void FilePrintSetup(Program&, Services& services) {
+    platform::RunReported(services.Dialogs, [&] { services.Launcher.Start(platform::ControlPanel); });
+}
+
+void FileExit(Program&, Services& services) {
+    services.Window.End();
 }
 
 void ParametersNew(Program& program, Services& services) {
@@ -55,7 +64,7 @@ void ParametersOpen(Program& program, Services& services) {
     Redraw(program, services);
 }
 
-void ParametersSave(Services& services) {
+void ParametersSave(Program&, Services& services) {
     platform::RunReported(services.Dialogs, [&] { cycles::SaveParameters(services.Grid, services.Dialogs); });
 }
 
@@ -63,6 +72,8 @@ void ParametersSaveAs(Program& program, Services& services) {
     platform::RunReported(services.Dialogs,
                           [&] { cycles::SaveParametersAs(program.Cycles, services.Grid, services.Dialogs); });
 }
+
+void ParametersPrint(Program&, Services&) {}
 
 void ParametersAutomate(int cycleCount, Program& program, Services& services) {
     if (!quotes::RequireQuotes(program.Quotes, services.Dialogs)) {
@@ -91,14 +102,28 @@ void Correlation(Program& program, Services& services) {
     });
 }
 
-bool RequireForecast(Program const& program, Services& services) {
+void Refresh(Program& program, Services& services) {
+    Redraw(program, services);
+}
+
+void Forecast(Program& program, Services& services) {
     if (!quotes::RequireQuotes(program.Quotes, services.Dialogs)) {
-        return false;
+        return;
     }
-    bool enough = false;
-    platform::RunReported(services.Dialogs,
-                          [&] { enough = cycles::RequireForecastWeights(services.Grid, services.Dialogs); });
-    return enough;
+    platform::RunReported(services.Dialogs, [&] {
+        if (cycles::RequireForecastWeights(services.Grid, services.Dialogs)) {
+            services.Window.Open(platform::SecondaryWindow::Forecast);
+        }
+    });
+}
+
+void HelpUserManual(Program&, Services& services) {
+    services.Dialogs.Show({"The trader is encouraged to print the User Manual using \n"
+                           "Microsoft Word 2000. The document can be found at\n"
+                           "the following location:\n"
+                           "\n"
+                           "   C:\\Veltrano\\Quorvex\\Quorvex-UserManual.doc\n",
+                           "Quorvex - Help"});
 }
 
 } // namespace quorvex::app

@@ -17,10 +17,18 @@ void FileClose(Program& program, Services& services);
 
 void FileSaveAs(Program& program, Services& services);
 
+// Starts the system's printer settings.
+void FilePrintSetup(Program& program, Services& services);
+
+void FileExit(Program& program, Services& services);
+
 void ParametersNew(Program& program, Services& services);
 void ParametersOpen(Program& program, Services& services);
-void ParametersSave(Services& services);
+void ParametersSave(Program& program, Services& services);
 void ParametersSaveAs(Program& program, Services& services);
+
+// Nothing: the item is there and has no action.
+void ParametersPrint(Program& program, Services& services);
 
 // Fits 1, 2 or 3 cycles to the moving average and takes them up from the grid.
 void ParametersAutomate(int cycleCount, Program& program, Services& services);
@@ -28,7 +36,12 @@ void ParametersAutomate(int cycleCount, Program& program, Services& services);
 // Reports the correlation of composite and moving average.
 void Correlation(Program& program, Services& services);
 
-// Whether there is something to forecast; when not, tells the user.
-[[nodiscard]] bool RequireForecast(Program const& program, Services& services);
+void Refresh(Program& program, Services& services);
+
+// Opens the forecast window when there is something to forecast; when not, tells the user.
+void Forecast(Program& program, Services& services);
+
+// Tells where the manual is.
+void HelpUserManual(Program& program, Services& services);
 
 } // namespace quorvex::app

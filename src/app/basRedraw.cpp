@@ -6,6 +6,7 @@
 #include "chart/basCyclePlot.h"
 #include "chart/basPlot.h"
 #include "cycles/basCurves.h"
+#include "platform/basMessages.h"
 
 #include <array>
 
@@ -13,7 +14,7 @@ namespace quorvex::app {
 
 namespace {
 
-RedrawFaults DrawQuotes(Program& program, platform::Canvas& box) {
+chart::ChartFaults DrawQuotes(Program& program, platform::Canvas& box) {
     return chart::DrawQuoteChart(box, program.Quotes, program.Settings, program.PriceScale,
                                  program.Curves.MovingAverageCurve);
 }
@@ -42,8 +43,8 @@ void PrepareCharts(Program const& program, ChartBoxes const& boxes) {
     }
 }
 
-RedrawFaults DrawPrepared(Program& program, ChartBoxes const& boxes) {
-    RedrawFaults faults = DrawQuotes(program, boxes.Pic1);
+chart::ChartFaults DrawPrepared(Program& program, ChartBoxes const& boxes) {
+    chart::ChartFaults faults = DrawQuotes(program, boxes.Pic1);
     if (cycles::HasActiveCycle(program.Cycles)) {
         faults.Cycles = text::Trap([&] { DrawCyclesAndComposite(program, boxes); });
         if (!faults.Cycles && program.Quotes.HasQuotes()) {
@@ -61,13 +62,24 @@ RedrawFaults DrawPrepared(Program& program, ChartBoxes const& boxes) {
 
 } // namespace
 
-RedrawFaults Redraw(Program& program, Services& services) {
-    PrepareCharts(program, services.Boxes);
-    cycles::ReadGrid(services.Grid, program.Cycles, services.Pending);
-    return DrawPrepared(program, services.Boxes);
+std::string Caption(Program const& program) {
+    std::string caption(platform::ApplicationTitle);
+    if (program.Quotes.HasQuotes()) {
+        caption += " - [" + program.Settings.DataPath + program.Quotes.QuoteFileName + "]";
+    }
+    return caption;
 }
 
-RedrawFaults DrawCharts(Program& program, ChartBoxes const& boxes) {
+chart::ChartFaults const& Redraw(Program& program, Services& services) {
+    services.Window.SetCaption(Caption(program));
+    services.Window.LayOut();
+    PrepareCharts(program, services.Boxes);
+    cycles::ReadGrid(services.Grid, program.Cycles, services.Pending);
+    program.Faults = DrawPrepared(program, services.Boxes);
+    return program.Faults;
+}
+
+chart::ChartFaults DrawCharts(Program& program, ChartBoxes const& boxes) {
     PrepareCharts(program, boxes);
     return DrawPrepared(program, boxes);
 }

@@ -14,7 +14,8 @@ AnalysisSession::AnalysisSession(AnalysisOptions const& options) : request_(opti
 
 std::optional<app::AnalysisResult> AnalysisSession::Analyse() {
     platform::BlankCanvas blank;
-    app::Services services{grid_, {blank, blank, blank, blank}, dialogs_, files_, pending_};
+    app::Services services{grid_,  {blank, blank, blank, blank}, dialogs_, files_, pending_, launcher_,
+                           window_};
     return app::Analyse(*program_, services, request_);
 }
 

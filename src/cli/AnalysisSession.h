@@ -45,6 +45,8 @@ private:
     ConsoleDialogs dialogs_;
     platform::disk::DiskFiles files_;
     platform::NoPendingMessages pending_;
+    platform::NoLauncher launcher_;
+    platform::NoMainWindow window_;
 };
 
 } // namespace quorvex::cli

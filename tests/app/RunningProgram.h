@@ -6,6 +6,7 @@
 #include "app/Program.h"
 #include "platform/RecordingCanvas.h"
 #include "platform/fake/MemoryFiles.h"
+#include "platform/fake/RecordingWindow.h"
 #include "platform/fake/ScriptedDialogs.h"
 
 #include <memory>
@@ -33,7 +34,9 @@ public:
     platform::RecordingCanvas Pic2{7000, 1500};
     platform::RecordingCanvas Pic3{7000, 1500};
     platform::RecordingCanvas Pic4{7000, 1500};
-    Services Outside{Grid, {Pic1, Pic2, Pic3, Pic4}, Dialogs, Files, Pending};
+    platform::fake::RecordingLauncher Launcher;
+    platform::fake::RecordingWindow Window;
+    Services Outside{Grid, {Pic1, Pic2, Pic3, Pic4}, Dialogs, Files, Pending, Launcher, Window};
 };
 
 } // namespace quorvex::app

@@ -8,6 +8,7 @@
 #include "support/Messages.h"
 #include "support/QuoteTexts.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace quorvex::app {
@@ -99,8 +100,9 @@ TEST(Commands, WithoutQuotesAnalysesOnlyAskForThem) {
         } else if (command == 3) {
             Correlation(*running.Data, running.Outside);
         } else {
-            EXPECT_FALSE(RequireForecast(*running.Data, running.Outside));
+            Forecast(*running.Data, running.Outside);
         }
+        EXPECT_TRUE(running.Window.Opened.empty());
         EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, NoQuotes, "Quorvex", Icon::Information));
         EXPECT_EQ(running.Grid.Text(cycles::Parameter::Weight, 1), "50");
     }
@@ -211,13 +213,15 @@ TEST(Commands, CorrelationOfFlatPricesShowsTheDivision) {
 TEST(Commands, ForecastNeedsWeights) {
     RunningProgram running;
     running.Open("corn.txt", QuoteLines(30));
-    EXPECT_FALSE(RequireForecast(*running.Data, running.Outside));
+    Forecast(*running.Data, running.Outside);
+    EXPECT_TRUE(running.Window.Opened.empty());
     EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages,
                               "Insufficient cycle parameters data to create forecast values", "Quorvex",
                               Icon::Exclamation));
     running.Dialogs.Messages.clear();
     running.TypeCycle(1, "50", "20");
-    EXPECT_TRUE(RequireForecast(*running.Data, running.Outside));
+    Forecast(*running.Data, running.Outside);
+    EXPECT_THAT(running.Window.Opened, testing::ElementsAre(platform::SecondaryWindow::Forecast));
     EXPECT_TRUE(running.Dialogs.Messages.empty());
 }
 
@@ -242,7 +246,7 @@ TEST(Commands, ParametersTooLargeForTheGridShowTheOverflow) {
 TEST(Commands, SaveAndSaveAsOfParametersWriteNoFile) {
     RunningProgram running;
     running.TypeCycle(1, "50", "20");
-    ParametersSave(running.Outside);
+    ParametersSave(*running.Data, running.Outside);
     EXPECT_TRUE(running.Dialogs.Messages.empty());
     running.Dialogs.Texts = {"mine.dat"};
     ParametersSaveAs(*running.Data, running.Outside);
@@ -261,16 +265,83 @@ TEST(Commands, AWeightThatOverflowsIsReportedByEveryCommandThatSumsTheGrid) {
             ParametersNew(*running.Data, running.Outside);
             break;
         case 1:
-            ParametersSave(running.Outside);
+            ParametersSave(*running.Data, running.Outside);
             break;
         case 2:
             ParametersSaveAs(*running.Data, running.Outside);
             break;
         default:
-            EXPECT_FALSE(RequireForecast(*running.Data, running.Outside));
+            Forecast(*running.Data, running.Outside);
         }
         EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Overflow", "Quorvex", Icon::None));
     }
+}
+
+TEST(Commands, PrintSetupStartsTheControlPanel) {
+    RunningProgram running;
+    FilePrintSetup(*running.Data, running.Outside);
+    EXPECT_THAT(running.Launcher.Started, testing::ElementsAre("CONTROL.EXE"));
+    EXPECT_TRUE(running.Dialogs.Messages.empty());
+}
+
+TEST(Commands, PrintSetupShowsThatThereIsNoneToStart) {
+    RunningProgram running;
+    running.Launcher.HasPrograms = false;
+    FilePrintSetup(*running.Data, running.Outside);
+    EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "File not found", "Quorvex", Icon::None));
+}
+
+TEST(Commands, ExitEndsWithoutAQuestion) {
+    RunningProgram running;
+    running.Open("corn.txt", QuoteLines(30));
+    running.TypeCycle(1, "50", "20");
+    running.Window.Calls.clear();
+    FileExit(*running.Data, running.Outside);
+    EXPECT_THAT(running.Window.Calls, testing::ElementsAre("end"));
+    EXPECT_TRUE(running.Dialogs.Messages.empty());
+}
+
+TEST(Commands, TheUserManualIsAMessage) {
+    RunningProgram running;
+    HelpUserManual(*running.Data, running.Outside);
+    EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages,
+                              "The trader is encouraged to print the User Manual using \n"
+                              "Microsoft Word 2000. The document can be found at\n"
+                              "the following location:\n\n"
+                              "   C:\\Veltrano\\Quorvex\\Quorvex-UserManual.doc\n",
+                              "Quorvex - Help", Icon::None));
+    EXPECT_TRUE(running.Window.Calls.empty());
+}
+
+TEST(Commands, PrintingParametersDoesNothing) {
+    RunningProgram running;
+    running.Open("corn.txt", QuoteLines(30));
+    running.TypeCycle(1, "50", "20");
+    auto const drawn = running.Pic1.Operations().size();
+    running.Window.Calls.clear();
+    ParametersPrint(*running.Data, running.Outside);
+    EXPECT_TRUE(running.Dialogs.Messages.empty());
+    EXPECT_TRUE(running.Window.Calls.empty());
+    EXPECT_TRUE(running.Launcher.Started.empty());
+    EXPECT_EQ(running.Pic1.Operations().size(), drawn);
+}
+
+TEST(Commands, CloseAndOpenSetTheCaption) {
+    RunningProgram running;
+    running.Open("corn.txt", QuoteLines(30));
+    EXPECT_EQ(running.Window.Caption, "Quorvex - [C:\\Quorvex\\corn.txt]");
+    FileClose(*running.Data, running.Outside);
+    EXPECT_EQ(running.Window.Caption, "Quorvex");
+}
+
+TEST(Commands, RefreshTakesUpWhatWasTyped) {
+    RunningProgram running;
+    running.TypeCycle(1, "1", "12.6");
+    running.TypeCycle(2, "3", "30");
+    Refresh(*running.Data, running.Outside);
+    EXPECT_EQ(running.Grid.Text(cycles::Parameter::Weight, 1), "25");
+    EXPECT_EQ(running.Grid.Text(cycles::Parameter::Period, 1), "13");
+    EXPECT_EQ(running.Data->Cycles.Cycles[2].Weight, 75);
 }
 
 } // namespace

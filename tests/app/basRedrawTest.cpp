@@ -14,6 +14,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
+#include <string>
 #include <vector>
 
 namespace quorvex::app {
@@ -136,6 +138,74 @@ TEST(Redraw, EndsWithTheFaultOfACycle) {
     running.Data->Cycles.Cycles[1].Period = 1e-320;
     Redraw(*running.Data, running.Outside);
     EXPECT_NE(LastDrawing(running.Pic1).back().What, platform::DrawingOperation::Kind::Rectangle);
+}
+
+// Looks at the boxes whenever the redraw asks for something.
+class Observer final : public platform::MainWindow, public platform::PendingMessages {
+public:
+    explicit Observer(RunningProgram const& running) : running_(running) {}
+
+    void SetCaption(std::string_view caption) override { Note("caption " + std::string(caption)); }
+
+    void LayOut() override { Note("layout"); }
+
+    void Process() override { Note("messages"); }
+
+    void Open(platform::SecondaryWindow) override { Note("open"); }
+
+    void End() override { Note("end"); }
+
+    std::vector<std::string> Notes;
+
+private:
+    void Note(std::string what) {
+        for (auto const* box : {&running_.Pic1, &running_.Pic2, &running_.Pic3, &running_.Pic4}) {
+            what += box->Operations().empty() ? " -" : " " + KindsOf(*box);
+        }
+        Notes.push_back(what);
+    }
+
+    // "prepared" while nothing but the reference lines is there.
+    static std::string KindsOf(platform::RecordingCanvas const& box) {
+        bool const isPrepared =
+            std::ranges::all_of(box.Operations(), [](platform::DrawingOperation const& operation) {
+                using Kind = platform::DrawingOperation::Kind;
+                return operation.What == Kind::Clear || operation.What == Kind::ForeColour ||
+                       operation.What == Kind::Line;
+            });
+        return isPrepared ? "prepared" : "drawn";
+    }
+
+    RunningProgram const& running_;
+};
+
+TEST(Redraw, SetsTheCaptionLaysOutAndPreparesBeforeItReadsTheGrid) {
+    RunningProgram running;
+    running.TypeCycle(1, "50", "20");
+    Observer observer(running);
+    Services services{running.Grid, running.Outside.Boxes, running.Dialogs, running.Files,
+                      observer,     running.Launcher,      observer};
+    Redraw(*running.Data, services);
+    EXPECT_EQ(observer.Notes, (std::vector<std::string>{"caption Quorvex - - - -", "layout - - - -",
+                                                        "messages prepared prepared prepared prepared"}));
+}
+
+TEST(Redraw, TheProgramKeepsItsFaults) {
+    RunningProgram running;
+    running.Open("q.txt", QuoteLines(30));
+    EXPECT_FALSE(running.Data->Faults.MovingAverage);
+    running.Data->Settings.MovingAverageIndex = "999";
+    Redraw(*running.Data, running.Outside);
+    ASSERT_TRUE(running.Data->Faults.MovingAverage);
+    EXPECT_EQ(running.Data->Faults.MovingAverage->Description(), "Subscript out of range");
+}
+
+TEST(Redraw, TheCaptionNamesFolderAndFile) {
+    auto const program = std::make_unique<Program>();
+    program->Settings.DataPath = "/home/ann/quotes/";
+    EXPECT_EQ(Caption(*program), "Quorvex");
+    program->Quotes.QuoteFileName = "corn.txt";
+    EXPECT_EQ(Caption(*program), "Quorvex - [/home/ann/quotes/corn.txt]");
 }
 
 } // namespace

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "app/MenuTable.h"
+
+#include "app/basCommands.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quorvex::app {
+
+namespace {
+
+template <int CycleCount>
+void Automate(Program& program, Services& services) {
+    ParametersAutomate(CycleCount, program, services);
+}
+
+constexpr auto Menu = std::to_array<MenuRow>({
+    {"mnuFile", "&File", ""},
+    {"mnuFileOpen", "&Open", "mnuFile", FileOpen},
+    {"mnuFileClose", "&Close", "mnuFile", FileClose},
+    {"Sep1000", SeparatorCaption, "mnuFile"},
+    {"mnuFileEdit", "&Edit", "mnuFile"},
+    {"mnuFileSaveAs", "Save &As...", "mnuFile", FileSaveAs},
+    {"Sep2000", SeparatorCaption, "mnuFile"},
+    {"mnuFileConvert", "&Con&vert", "mnuFile"},
+    {"mnuFileConvertCSI", "Commodity Systems, Inc.", "mnuFileConvert"},
+    {"mnuFileConvertBARCHART", "Barchart", "mnuFileConvert"},
+    {"mnuSep393", SeparatorCaption, "mnuFileConvert"},
+    {"mnuFileConvertCustom", "Custom", "mnuFileConvert"},
+    {"Sep3000", SeparatorCaption, "mnuFile"},
+    {"mnuFilePrint", "&Print", "mnuFile"},
+    {"mnuFilePrintSetup", "Print Set&up", "mnuFile", FilePrintSetup},
+    {"mnuFileSep", SeparatorCaption, "mnuFile"},
+    {"mnuFileProperties", "P&roperties", "mnuFile"},
+    {"mnuFileSep7", SeparatorCaption, "mnuFile"},
+    {"mnuFileExit", "E&xit", "mnuFile", FileExit},
+    {"mnuParameters", "&Parameters", ""},
+    {"mnuParametersNew", "&New", "mnuParameters", ParametersNew},
+    {"mnuParametersOpen", "&Open", "mnuParameters", ParametersOpen},
+    {"mnuParametersSep11", SeparatorCaption, "mnuParameters"},
+    {"mnuParametersSave", "&Save", "mnuParameters", ParametersSave},
+    {"mnuParametersSaveAs", "Save &As...", "mnuParameters", ParametersSaveAs},
+    {"mnuQuotesSep1", SeparatorCaption, "mnuParameters"},
+    {"mnuParametersAutomate", "&Automate", "mnuParameters"},
+    {"mnuParametersAutomate1", "&One Cycle", "mnuParametersAutomate", &Automate<1>},
+    {"mnuParametersAutomate2", "&Two Cycles", "mnuParametersAutomate", &Automate<2>},
+    {"mnuParametersAutomate3", "T&hree Cycles", "mnuParametersAutomate", &Automate<3>},
+    {"mnuQuotesSep2", SeparatorCaption, "mnuParameters"},
+    {"mnuParametersPrint", "&Print", "mnuParameters", ParametersPrint},
+    {"mnuRefresh", "&Refresh", "", Refresh},
+    {"mnuForecast", "F&orecast", "", Forecast},
+    {"mnuCorrelation", "&Correlation", "", Correlation},
+    {"mnuPreferences", "Pr&eferences", ""},
+    {"mnuLegend", "&Legend", ""},
+    {"mnuHelp", "&Help", ""},
+    {"mnuHelpReadMe", "&Read Me", "mnuHelp"},
+    {"mnuHelpQuickStart", "&Quick Start", "mnuHelp"},
+    {"mnuHelpUserManual", "&User Manual", "mnuHelp", HelpUserManual},
+    {"mnuHelpSep11", SeparatorCaption, "mnuHelp"},
+    {"mnuHelpIndex", "&Index", "mnuHelp"},
+    {"mnuHelpCommoditySymbols", "&Commodity Symbols", "mnuHelp"},
+    {"mnuHelpSep", SeparatorCaption, "mnuHelp"},
+    {"mnuHelpAbout", "&About Quorvex", "mnuHelp"},
+});
+
+constexpr auto Tools = std::to_array<ToolRow>({
+    {"imgOpen", "Open", "mnuFileOpen"},
+    {"imgClose", "Close", "mnuFileClose"},
+    {"imgEdit", "Edit", "mnuFileEdit"},
+    {"imgConvert", "Convert", "mnuFileConvertCustom"},
+    {"imgPrint", "Print", "mnuFilePrint"},
+    {"imgProperties", "Properties", "mnuFileProperties"},
+});
+
+} // namespace
+
+std::span<MenuRow const> MenuTable() {
+    return Menu;
+}
+
+MenuRow const& MenuRowNamed(std::string_view name) {
+    return *std::ranges::find(Menu, name, &MenuRow::Name);
+}
+
+std::span<ToolRow const> ToolTable() {
+    return Tools;
+}
+
+} // namespace quorvex::app
