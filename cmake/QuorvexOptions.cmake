@@ -1,6 +1,7 @@
 # What every target is compiled with.
 
 option(QUORVEX_TESTS "Build the tests" ON)
+option(QUORVEX_WINDOW "Build the window and the companion's pictures, when there is Qt" ON)
 option(QUORVEX_BENCH "Build the benchmarks" OFF)
 option(QUORVEX_FUZZ "Build the fuzz targets (clang only)" OFF)
 option(QUORVEX_COVERAGE "Instrument for gcov" OFF)

@@ -3,8 +3,8 @@
 # forwarding header for each header that it lists. An include that the target's edges do not allow fails to
 # compile, and an edge that points upwards does not configure.
 
-# add_core(<name> LEVEL <n> FILES <sources and headers> [USES <lower cores>])
-function(add_core name)
+# Checks the edges of a target and adds it with its forwarding headers.
+function(add_level_target name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "LEVEL" "FILES;USES")
     foreach(used IN LISTS arg_USES)
         if(NOT TARGET quorvex_${used})
@@ -35,8 +35,42 @@ function(add_core name)
     foreach(used IN LISTS arg_USES)
         target_link_libraries(quorvex_${name} PUBLIC quorvex_${used})
     endforeach()
+endfunction()
+
+# add_core(<name> LEVEL <n> FILES <sources and headers> [USES <lower cores>]): sees neither Qt nor a window.
+function(add_core name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "LEVEL" "FILES;USES")
+    foreach(used IN LISTS arg_USES)
+        get_property(usedWindows GLOBAL PROPERTY QUORVEX_WINDOWS)
+        if(used IN_LIST usedWindows)
+            message(FATAL_ERROR "${name} is a core and may not use the windows of ${used}.")
+        endif()
+    endforeach()
+    add_level_target(${name} LEVEL ${arg_LEVEL} FILES ${arg_FILES} USES ${arg_USES})
     set_property(GLOBAL APPEND PROPERTY QUORVEX_CORES ${name})
 endfunction()
+
+# add_windows(<name> LEVEL <n> FILES <sources, headers and .ui files> [USES <cores, platform_qt>] [EVERY_WINDOW]):
+# a target that uses Qt, for builds that have it. Windows of one subsystem do not know those of another; only a target
+# that says EVERY_WINDOW does.
+function(add_windows name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "EVERY_WINDOW" "LEVEL" "FILES;USES")
+    get_property(usedWindows GLOBAL PROPERTY QUORVEX_WINDOWS)
+    foreach(used IN LISTS arg_USES)
+        if(used IN_LIST usedWindows AND NOT used MATCHES "^platform_" AND NOT arg_EVERY_WINDOW)
+            message(FATAL_ERROR "${name} may not use the windows of another subsystem (${used}).")
+        endif()
+    endforeach()
+    add_level_target(${name} LEVEL ${arg_LEVEL} FILES ${arg_FILES} USES ${arg_USES})
+    set_target_properties(quorvex_${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+    target_link_libraries(quorvex_${name} PUBLIC Qt6::Widgets)
+    target_compile_definitions(quorvex_${name} PUBLIC
+        QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+    set_property(GLOBAL APPEND PROPERTY QUORVEX_WINDOWS ${name})
+endfunction()
+
+# The machine that runs the tests is taken to be in another time zone and to write a decimal comma.
+set(QUORVEX_TEST_ENVIRONMENT TZ=Asia/Kathmandu LC_ALL=de_DE.UTF-8 LOCPATH=${PROJECT_BINARY_DIR}/locale)
 
 # add_core_test(<core> FILES <sources> [USES <more cores>]): the tests of one core, linked to that core alone.
 function(add_core_test core)
@@ -47,8 +81,24 @@ function(add_core_test core)
     foreach(used IN LISTS arg_USES)
         target_link_libraries(${target} PRIVATE quorvex_${used})
     endforeach()
-    # The machine that runs the tests is taken to be in another time zone and to write a decimal comma.
     gtest_discover_tests(${target} TEST_PREFIX "${core}." DISCOVERY_TIMEOUT 60
-        PROPERTIES TIMEOUT 300 ENVIRONMENT
-        "TZ=Asia/Kathmandu;LC_ALL=de_DE.UTF-8;LOCPATH=${PROJECT_BINARY_DIR}/locale")
+        PROPERTIES TIMEOUT 300 ENVIRONMENT "${QUORVEX_TEST_ENVIRONMENT}")
+endfunction()
+
+# add_windows_test(<name> FILES <sources> [USES <more targets>] [ENVIRONMENT <NAME=value>...]): a program of Qt Test that
+# drives windows on a platform without a display.
+function(add_windows_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FILES;USES;ENVIRONMENT")
+    set(target test_${name})
+    add_executable(${target} ${arg_FILES})
+    set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    target_link_libraries(${target} PRIVATE quorvex_test_windows quorvex_options)
+    foreach(used IN LISTS arg_USES)
+        target_link_libraries(${target} PRIVATE quorvex_${used})
+    endforeach()
+    add_test(NAME windows.${name} COMMAND ${target})
+    set(leaks ${PROJECT_SOURCE_DIR}/tests/windows/lsan.supp) # of libraries that are not the program's own
+    # No test prints on a printer of the machine.
+    set_tests_properties(windows.${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
+        "${QUORVEX_TEST_ENVIRONMENT};QT_QPA_PLATFORM=offscreen;CUPS_SERVER=/nowhere;LSAN_OPTIONS=suppressions=${leaks}:print_suppressions=0;${arg_ENVIRONMENT}")
 endfunction()

@@ -1,4 +1,5 @@
-# Every include names its subsystem: a path with ".." would go around the include folders of the targets.
+# Every include names its subsystem, but for what is made of a window's .ui file: a path with ".." would go around
+# the include folders of the targets.
 file(GLOB_RECURSE sources ${QUORVEX_SOURCE}/*.cpp ${QUORVEX_SOURCE}/*.h)
 list(LENGTH sources count)
 if(count EQUAL 0)
@@ -7,7 +8,7 @@ endif()
 foreach(source IN LISTS sources)
     file(STRINGS ${source} lines REGEX "^#include \"")
     foreach(line IN LISTS lines)
-        if(line MATCHES "\\.\\./" OR NOT line MATCHES "\"[a-z]+/")
+        if(line MATCHES "\\.\\./" OR NOT line MATCHES "\"([a-z]+/|ui_[A-Za-z]+\\.h)")
             message(SEND_ERROR "${source}: ${line}")
         endif()
     endforeach()

@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/qt/QtDialogs.h"
+
+#include "platform/basMessages.h"
+#include "platform/qt/QtTexts.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QScreen>
+#include <exception>
+#include <new>
+
+namespace quorvex::platform::qt {
+
+namespace {
+
+QWidget* TopmostOf(QWidget& window) {
+    QWidget* const dialog = QApplication::activeModalWidget();
+    return dialog != nullptr ? dialog : &window;
+}
+
+QMessageBox::Icon IconOf(Icon icon) {
+    switch (icon) {
+    case Icon::Information:
+        return QMessageBox::Information;
+    case Icon::Exclamation:
+        return QMessageBox::Warning;
+    case Icon::Critical:
+        return QMessageBox::Critical;
+    case Icon::Question:
+        return QMessageBox::Question;
+    case Icon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+Answer AnswerOf(int button, Buttons offered) {
+    switch (button) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    case QMessageBox::Ok:
+        return Answer::Ok;
+    default:
+        return offered == Buttons::Ok ? Answer::Ok : Answer::Cancel;
+    }
+}
+
+} // namespace
+
+Answer ShowMessageBox(QWidget& window, Message const& message) {
+    QMessageBox box(TopmostOf(window));
+    box.setObjectName(QStringLiteral("MessageBox"));
+    box.setWindowTitle(ToQt(message.Title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(ToQt(message.Text));
+    box.setIcon(IconOf(message.Shown));
+    if (message.Offered == Buttons::Ok) {
+        box.setStandardButtons(QMessageBox::Ok);
+    } else {
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+        box.setDefaultButton(QMessageBox::Yes);
+    }
+    return AnswerOf(box.exec(), message.Offered);
+}
+
+std::string AskInputBox(QWidget& window, Question const& question) {
+    QInputDialog box(TopmostOf(window));
+    box.setObjectName(QStringLiteral("InputBox"));
+    box.setInputMode(QInputDialog::TextInput);
+    box.setWindowTitle(ToQt(question.Title));
+    box.setLabelText(ToQt(question.Prompt));
+    box.setTextValue(ToQt(question.Default));
+    constexpr QSize UsualSize(360, 0); // names are long
+    box.resize(box.sizeHint().expandedTo(UsualSize));
+    if (auto* edit = box.findChild<QLineEdit*>()) {
+        edit->setAccessibleName(box.labelText());
+    }
+    return box.exec() == QDialog::Accepted ? FromQt(box.textValue()) : std::string();
+}
+
+void RunGuarded(QWidget& window, std::function<void()> const& routine) {
+    Message message;
+    try {
+        routine();
+        return;
+    } catch (text::RunTimeError const& error) {
+        message = ErrorMessage(error);
+    } catch (std::bad_alloc const&) {
+        message = {"Out of memory", std::string(ApplicationTitle), Icon::Critical};
+    } catch (std::exception const& error) {
+        message = {error.what(), std::string(ApplicationTitle), Icon::Critical};
+    }
+    ShowMessageBox(window, message);
+}
+
+void CloseMenus() {
+    while (QWidget* menu = QApplication::activePopupWidget()) {
+        menu->close();
+    }
+}
+
+void SetProgramFont() {
+    constexpr int PointSize = 9;
+    QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans"));
+    QApplication::setFont(QFont(QStringLiteral("Arial"), PointSize));
+}
+
+void CentreForm(QWidget& window) {
+    QRect const screen = window.screen()->availableGeometry();
+    QSize const size = window.frameGeometry().size();
+    window.move(screen.left() + (screen.width() - size.width()) / 2,
+                screen.top() + (screen.height() - size.height()) / 2);
+}
+
+} // namespace quorvex::platform::qt

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/Dialogs.h"
+
+#include <QWidget>
+#include <functional>
+
+namespace quorvex::platform::qt {
+
+// A message box over the window that the user is in, which is the given one or a dialog of it.
+Answer ShowMessageBox(QWidget& window, Message const& message);
+
+// An input box, likewise; the empty text when it was cancelled.
+[[nodiscard]] std::string AskInputBox(QWidget& window, Question const& question);
+
+// Runs the routine so that no exception reaches Qt's event loop: what ended it is shown.
+void RunGuarded(QWidget& window, std::function<void()> const& routine);
+
+// Closes every menu that is open. An item that assistive technology chooses leaves its menu open.
+void CloseMenus();
+
+// Makes Arial the font of all windows, with Liberation Sans as its stand-in.
+void SetProgramFont();
+
+// Puts the window into the middle of the screen that it is on.
+void CentreForm(QWidget& window);
+
+} // namespace quorvex::platform::qt

@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/qt/QtPictureEncoder.h"
+
+#include "platform/qt/Painting.h"
+
+#include <QBuffer>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+#include <cmath>
+#include <memory>
+
+namespace quorvex::platform::qt {
+
+namespace {
+
+constexpr int TwipsPerInch = 1440;
+constexpr int PixelsPerInch = 96;
+constexpr int PointsPerInch = 72;
+
+// Fonts need an application.
+std::unique_ptr<QGuiApplication> StartApplicationWithoutDisplay() {
+    if (QCoreApplication::instance() != nullptr) {
+        return nullptr;
+    }
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    static int count = 1;
+    static char name[] = "quorvex-cli";
+    static char* arguments[] = {name, nullptr};
+    return std::make_unique<QGuiApplication>(count, arguments);
+}
+
+QSize PixelSize(PictureSheet const& sheet) {
+    return {static_cast<int>(std::ceil(sheet.Width / TwipsPerPixel)),
+            static_cast<int>(std::ceil(sheet.Height / TwipsPerPixel))};
+}
+
+void PaintBorder(QPainter& painter, QRectF const& box, bool onPixels) {
+    constexpr Colour BorderColour = 0x808080;
+    painter.setPen(QPen(ToQt(BorderColour), onPixels ? 0 : 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(onPixels ? box.adjusted(0, 0, -1, -1) : box);
+}
+
+void PaintSheet(QPainter& painter, PictureSheet const& sheet, PaintScale scale) {
+    painter.fillRect(QRectF(0, 0, sheet.Width * scale.UnitsPerTwip, sheet.Height * scale.UnitsPerTwip),
+                     Qt::white);
+    for (PlacedDrawing const& placed : sheet.Drawings) {
+        QPointF corner(placed.Left * scale.UnitsPerTwip, placed.Top * scale.UnitsPerTwip);
+        QSizeF size(placed.Drawing->Width() * scale.UnitsPerTwip,
+                    placed.Drawing->Height() * scale.UnitsPerTwip);
+        if (scale.OnPixels) {
+            corner = corner.toPoint();
+            size = size.toSize();
+        }
+        painter.save();
+        painter.translate(corner);
+        painter.setClipRect(QRectF(QPointF(), size));
+        PaintDrawing(painter, *placed.Drawing, scale);
+        painter.setClipping(false);
+        PaintBorder(painter, QRectF(QPointF(), size), scale.OnPixels);
+        painter.restore();
+    }
+}
+
+void WritePng(PictureSheet const& sheet, QBuffer& output) {
+    constexpr double InchesPerMetre = 1000 / 25.4;
+    QImage image(PixelSize(sheet), QImage::Format_RGB32);
+    image.setDotsPerMeterX(static_cast<int>(std::lround(PixelsPerInch * InchesPerMetre)));
+    image.setDotsPerMeterY(image.dotsPerMeterX());
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    PaintSheet(painter, sheet, {1 / TwipsPerPixel, true});
+    painter.end();
+    image.save(&output, "PNG");
+}
+
+void WriteSvg(PictureSheet const& sheet, QBuffer& output) {
+    QSvgGenerator generator;
+    generator.setOutputDevice(&output);
+    generator.setResolution(PixelsPerInch);
+    generator.setSize(PixelSize(sheet));
+    generator.setViewBox(QRectF(0, 0, sheet.Width / TwipsPerPixel, sheet.Height / TwipsPerPixel));
+    generator.setTitle(QStringLiteral("Quorvex"));
+    QPainter painter(&generator);
+    PaintSheet(painter, sheet, {1 / TwipsPerPixel, false});
+}
+
+void WritePdf(PictureSheet const& sheet, QBuffer& output) {
+    QPdfWriter writer(&output);
+    writer.setTitle(QStringLiteral("Quorvex"));
+    writer.setResolution(PixelsPerInch);
+    QSizeF const points(sheet.Width * PointsPerInch / TwipsPerInch,
+                        sheet.Height * PointsPerInch / TwipsPerInch);
+    writer.setPageSize(QPageSize(points, QPageSize::Point, {}, QPageSize::ExactMatch));
+    writer.setPageMargins(QMarginsF());
+    QPainter painter(&writer);
+    PaintSheet(painter, sheet, {1 / TwipsPerPixel, false});
+}
+
+} // namespace
+
+std::string QtPictureEncoder::Encode(PictureSheet const& sheet, PictureKind kind) {
+    auto const application = StartApplicationWithoutDisplay();
+    QBuffer output;
+    output.open(QIODevice::WriteOnly);
+    switch (kind) {
+    case PictureKind::Png:
+        WritePng(sheet, output);
+        break;
+    case PictureKind::Svg:
+        WriteSvg(sheet, output);
+        break;
+    case PictureKind::Pdf:
+        WritePdf(sheet, output);
+        break;
+    }
+    return output.data().toStdString();
+}
+
+} // namespace quorvex::platform::qt
