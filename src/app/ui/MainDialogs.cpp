@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "app/ui/MainDialogs.h"
+
+#include "cycles/ui/frmParameter.h"
+#include "platform/qt/QtDialogs.h"
+#include "quotes/ui/frmQuotes.h"
+
+namespace quorvex::app::ui {
+
+namespace {
+
+template <class Chooser>
+std::optional<std::string> Choose(QPointer<Chooser>& chooser, QWidget& window,
+                                  std::span<std::string const> names) {
+    if (chooser.isNull()) {
+        chooser = new Chooser(&window);
+    }
+    return chooser->Choose(names);
+}
+
+} // namespace
+
+platform::Answer MainDialogs::Show(platform::Message const& message) {
+    return platform::qt::ShowMessageBox(window_, message);
+}
+
+std::string MainDialogs::Ask(platform::Question const& question) {
+    return platform::qt::AskInputBox(window_, question);
+}
+
+std::optional<std::string> MainDialogs::ChooseQuoteFile(std::span<std::string const> names) {
+    return Choose(quotes_, window_, names);
+}
+
+std::optional<std::string> MainDialogs::ChooseParameterFile(std::span<std::string const> names) {
+    return Choose(parameter_, window_, names);
+}
+
+} // namespace quorvex::app::ui

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "app/ui/basResources.h"
+
+#include "platform/qt/QtTexts.h"
+
+#include <QDir>
+#include <QFile>
+
+// Outside of every namespace, as the resource compiler wants it.
+static void InitialiseResources() {
+    Q_INIT_RESOURCE(Quorvex);
+}
+
+namespace quorvex::app::ui {
+
+void LoadResources() {
+    InitialiseResources();
+}
+
+void FillProgramFolder(std::string const& folder, platform::Files& files) {
+    QDir const samples(QStringLiteral(":/samples"));
+    for (QString const& name : samples.entryList(QDir::Files)) {
+        QFile sample(samples.filePath(name));
+        if (sample.open(QIODevice::ReadOnly)) {
+            files.Replace(folder + platform::qt::FromQt(name), sample.readAll().toStdString());
+        }
+    }
+}
+
+} // namespace quorvex::app::ui

@@ -1,0 +1,187 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "app/ui/frmMain.h"
+
+#include "app/basRedraw.h"
+#include "app/layout/basLayout.h"
+#include "app/ui/MenuBar.h"
+#include "app/ui/basPlacing.h"
+#include "cycles/ui/frmForecast.h"
+#include "platform/qt/Painting.h"
+#include "platform/qt/QtDialogs.h"
+#include "platform/qt/QtTexts.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QScreen>
+#include <utility>
+
+namespace quorvex::app::ui {
+
+namespace {
+
+using platform::qt::ToQt;
+using platform::qt::TwipsPerPixel;
+
+constexpr QSize InitialSize(1100, 800);
+
+// The frame that the layout counts into the size of the window, whatever the system's own is, in twips.
+constexpr double FrameWidth = 120;
+constexpr double FrameHeight = 690;
+
+struct BoxRow {
+    chart::ChartKind Kind;
+    char const* Name;
+    char const* AccessibleName;
+};
+
+constexpr std::array<BoxRow, 4> BoxTable = {{
+    {chart::ChartKind::Quotes, "Pic1", "Daily quotes chart"},
+    {chart::ChartKind::Cycles, "Pic2", "Component cycles chart"},
+    {chart::ChartKind::Composite, "Pic3", "Composite estimate cycle chart"},
+    {chart::ChartKind::Residual, "Pic4", "Residual chart"},
+}};
+
+} // namespace
+
+frmMain::frmMain(Program& program, std::string_view programFolder, platform::Files& files,
+                 platform::Launcher& launcher)
+    : program_(program),
+      files_(files),
+      client_(new QWidget(this)),
+      dialogs_(*this) {
+    setObjectName(QStringLiteral("frmMain"));
+    auto const run = [this](MenuRow const& row) { Run(row); };
+    FillMenuBar(*menuBar(), run);
+    client_->installEventFilter(this);
+    setCentralWidget(client_);
+    toolStrip_ = MakeToolStrip(*client_, run);
+    grid_ = std::make_unique<GridPanel>(*client_);
+    AddBoxes();
+    services_ =
+        std::make_unique<Services>(Services{*grid_, Boxes(), dialogs_, files, pending_, launcher, *this});
+    resize(InitialSize.boundedTo(screen()->availableSize()));
+    platform::qt::CentreForm(*this);
+    StartUp(program, *grid_, programFolder);
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::AddBoxes() {
+    for (std::size_t index = 0; index < BoxCount; ++index) {
+        BoxRow const& row = BoxTable.at(index);
+        auto* box = new platform::qt::PictureBox(client_);
+        box->setObjectName(QString::fromLatin1(row.Name));
+        box->setAccessibleName(QString::fromLatin1(row.AccessibleName));
+        box->OfferSaving(files_, dialogs_, box->accessibleName());
+        boxes_.at(index) = box;
+        readings_.at(index) = std::make_unique<ChartReadings>(box->Drawing());
+        box->SetReadings(readings_.at(index).get());
+    }
+}
+
+ChartBoxes frmMain::Boxes() {
+    return {boxes_[0]->Drawing(), boxes_[1]->Drawing(), boxes_[2]->Drawing(), boxes_[3]->Drawing()};
+}
+
+void frmMain::Run(MenuRow const& row) {
+    platform::qt::CloseMenus();
+    RunUndisturbed([&] { row.Run(program_, *services_); });
+}
+
+void frmMain::RunUndisturbed(std::function<void()> const& routine) {
+    bool const wasBusy = std::exchange(isBusy_, true);
+    platform::qt::RunGuarded(*this, routine);
+    isBusy_ = wasBusy;
+    ShowDrawings();
+    RedrawWhenFree();
+}
+
+void frmMain::RequestRedraw() {
+    isRedrawWanted_ = true;
+    RedrawWhenFree();
+}
+
+void frmMain::RedrawWhenFree() {
+    while (isRedrawWanted_ && !isBusy_ && isVisible()) {
+        isRedrawWanted_ = false;
+        isBusy_ = true;
+        // Messages that are worked off half-way must not show the boxes half drawn.
+        client_->setUpdatesEnabled(false);
+        platform::qt::RunGuarded(*this, [&] { Redraw(program_, *services_); });
+        ShowDrawings();
+        client_->setUpdatesEnabled(true);
+        isBusy_ = false;
+    }
+}
+
+void frmMain::ShowDrawings() {
+    chart::ChartContents const contents{program_.Quotes, program_.Settings, program_.Cycles, program_.Curves};
+    for (std::size_t index = 0; index < BoxCount; ++index) {
+        platform::qt::PictureBox& box = *boxes_.at(index);
+        if (box.ShowDrawing()) {
+            auto reading = chart::ReadChart(BoxTable.at(index).Kind, contents, program_.Faults);
+            box.setAccessibleDescription(ToQt(reading.Description));
+            readings_.at(index)->Take(std::move(reading));
+        }
+    }
+}
+
+bool frmMain::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate) {
+        RequestRedraw();
+    }
+    return QMainWindow::event(event);
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == client_ && event->type() == QEvent::Resize) {
+        RequestRedraw();
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    event->accept();
+    End();
+}
+
+void frmMain::SetCaption(std::string_view caption) {
+    setWindowTitle(ToQt(caption));
+}
+
+void frmMain::LayOut() {
+    double const width = client_->width() * TwipsPerPixel + FrameWidth;
+    double const height = client_->height() * TwipsPerPixel + FrameHeight;
+    auto const layout = layout::LayoutMainWindow(width, height, layout::IconStripHeight);
+    toolStrip_->setGeometry(PixelsOf({0, 0, layout.IconStripWidth, layout::IconStripHeight}));
+    grid_->Place(layout.Grid);
+    for (std::size_t index = 0; index < BoxCount; ++index) {
+        layout::Rectangle const& place = layout.Charts.at(index);
+        boxes_.at(index)->setGeometry(PixelsOf(place));
+        boxes_.at(index)->Drawing().Resize(place.Width, place.Height);
+    }
+}
+
+void frmMain::Open(platform::SecondaryWindow window) {
+    ShowDrawings();
+    // The window stays open as long as the user likes; meanwhile this one may change its size.
+    bool const wasBusy = std::exchange(isBusy_, false);
+    switch (window) {
+    case platform::SecondaryWindow::Forecast:
+        if (forecast_ == nullptr) {
+            forecast_ = new cycles::ui::frmForecast(this, program_.Quotes, program_.Cycles, program_.Settings,
+                                                    files_, dialogs_);
+        }
+        forecast_->RunModal();
+        break;
+    }
+    isBusy_ = wasBusy;
+}
+
+void frmMain::End() {
+    QCoreApplication::exit();
+}
+
+} // namespace quorvex::app::ui

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "app/MenuTable.h"
+#include "app/Program.h"
+#include "app/ui/ChartReadings.h"
+#include "app/ui/GridPanel.h"
+#include "app/ui/MainDialogs.h"
+#include "platform/MainWindow.h"
+#include "platform/qt/PictureBox.h"
+#include "platform/qt/QtPendingMessages.h"
+
+#include <QMainWindow>
+#include <array>
+#include <functional>
+#include <memory>
+
+namespace quorvex::cycles::ui {
+class frmForecast;
+}
+
+namespace quorvex::app::ui {
+
+// The program's one top-level window: menu, tool strip, parameter grid and the four charts. It owns no data:
+// its commands work on the program, and every activation, every change of size and every command that changes
+// data draws all charts anew.
+class frmMain final : public QMainWindow, private platform::MainWindow {
+    Q_OBJECT
+
+public:
+    // Starts the program up. All must outlive the window.
+    frmMain(Program& program, std::string_view programFolder, platform::Files& files,
+            platform::Launcher& launcher);
+    ~frmMain() override;
+
+    // Runs the command of a menu item as if it had been chosen.
+    void Run(MenuRow const& row);
+
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    static constexpr std::size_t BoxCount = 4;
+
+    void AddBoxes();
+
+    // Draws everything anew now or, while a command or another redraw is running, after it.
+    void RequestRedraw();
+    void RedrawWhenFree();
+
+    // Makes the boxes show and tell what was drawn since the last time.
+    void ShowDrawings();
+
+    // Runs the routine while no redraw may come between, then the redraw that was asked for meanwhile.
+    void RunUndisturbed(std::function<void()> const& routine);
+
+    // platform::MainWindow
+    void SetCaption(std::string_view caption) override;
+    void LayOut() override;
+    void Open(platform::SecondaryWindow window) override;
+    void End() override;
+
+    [[nodiscard]] ChartBoxes Boxes();
+
+    Program& program_;
+    platform::Files& files_;
+    QWidget* client_;
+    QWidget* toolStrip_ = nullptr;
+    std::unique_ptr<GridPanel> grid_;
+    std::array<std::unique_ptr<ChartReadings>, BoxCount> readings_;
+    std::array<platform::qt::PictureBox*, BoxCount> boxes_{};
+    MainDialogs dialogs_;
+    platform::qt::QtPendingMessages pending_;
+    cycles::ui::frmForecast* forecast_ = nullptr; // belongs to this window
+    std::unique_ptr<Services> services_;
+    bool isBusy_ = false;
+    bool isRedrawWanted_ = false;
+};
+
+} // namespace quorvex::app::ui

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// The window of Quorvex.
+
+#include "app/Program.h"
+#include "app/ui/basResources.h"
+#include "app/ui/frmMain.h"
+#include "platform/basMessages.h"
+#include "platform/disk/DiskFiles.h"
+#include "platform/qt/ProgramPlace.h"
+#include "platform/qt/QtDialogs.h"
+#include "platform/qt/QtLauncher.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QIcon>
+#include <memory>
+
+int main(int argc, char** argv) {
+    namespace qt = quorvex::platform::qt;
+    QApplication application(argc, argv);
+    quorvex::app::ui::LoadResources();
+    QApplication::setApplicationName(QStringLiteral("Quorvex"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/Quorvex.svg")));
+    qt::SetProgramFont();
+
+    quorvex::platform::disk::DiskFiles files;
+    qt::QtLauncher launcher;
+    auto const program = std::make_unique<quorvex::app::Program>();
+    qt::ProgramPlace place;
+    QWidget desktop; // for messages before there is a window
+    qt::RunGuarded(desktop, [&] {
+        place = qt::FindProgramPlace();
+        if (place.IsNew) {
+            quorvex::app::ui::FillProgramFolder(place.Folder, files);
+        }
+        qt::EnterFolder(place.Folder);
+    });
+
+    quorvex::app::ui::frmMain window(*program, place.Folder, files, launcher);
+    window.show();
+    return QApplication::exec();
+}
