@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/qt/ProgramPlace.h"
+
+#include "app/ui/basResources.h"
+#include "platform/disk/DiskFiles.h"
+#include "platform/qt/QtTexts.h"
+#include "support/TemporaryFolder.h"
+#include "text/RunTimeError.h"
+#include "windows/WindowTest.h"
+
+#include <QDir>
+#include <filesystem>
+
+#ifdef Q_OS_UNIX
+#include "support/AsOrdinaryUser.h"
+#endif
+
+namespace quorvex::tests {
+
+using namespace Qt::StringLiterals;
+using platform::qt::PlaceOf;
+using platform::qt::ToQt;
+
+class ProgramPlaceTest final : public WindowTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+
+    void AFolderThatCanBeWrittenIsTheProgramsPlace() {
+        TemporaryFolder folder;
+        auto const place = PlaceOf(folder.File("Quorvex.exe"), folder.File("own"));
+        QCOMPARE(place.Folder, folder.Text());
+        QCOMPARE(place.ExecutableName, std::string("Quorvex"));
+        QVERIFY(!place.IsNew);
+        QCOMPARE(folder.EntryCount(), 0); // trying left nothing behind
+    }
+
+    void OnlyTheExtensionIsTakenOffTheExecutablesName() {
+        TemporaryFolder folder;
+        QCOMPARE(PlaceOf(folder.File("Quorvex-2.0.exe"), {}).ExecutableName, std::string("Quorvex-2.0"));
+        QCOMPARE(PlaceOf(folder.File("Quorvex"), {}).ExecutableName, std::string("Quorvex"));
+    }
+
+#ifdef Q_OS_UNIX
+    void AFolderThatCannotBeWrittenGivesWayToOneOfTheUsersOwn() {
+        TemporaryFolder installed;
+        TemporaryFolder home;
+        std::filesystem::permissions(installed.Path(), std::filesystem::perms(0555));
+        std::filesystem::permissions(home.Path(), std::filesystem::perms(0777));
+        AsOrdinaryUser const user;
+        auto const first = PlaceOf(installed.File("Quorvex"), home.File("data/Quorvex"));
+        QCOMPARE(first.Folder, home.File("data/Quorvex/"));
+        QCOMPARE(first.ExecutableName, std::string("Quorvex"));
+        QVERIFY(first.IsNew);
+        QVERIFY(std::filesystem::is_directory(home.File("data/Quorvex")));
+        auto const second = PlaceOf(installed.File("Quorvex"), home.File("data/Quorvex"));
+        QCOMPARE(second.Folder, first.Folder);
+        QVERIFY(!second.IsNew);
+    }
+
+    void AFolderThatCannotBeMadeIsAFault() {
+        TemporaryFolder installed;
+        installed.Write("file", "");
+        std::filesystem::permissions(installed.Path(), std::filesystem::perms(0555));
+        AsOrdinaryUser const user;
+        QString description;
+        try {
+            static_cast<void>(PlaceOf(installed.File("Quorvex"), installed.File("file/own")));
+        } catch (text::RunTimeError const& error) {
+            description = ToQt(error.Description());
+        }
+        QCOMPARE(description, u"Path not found"_s);
+    }
+#endif
+
+    void TheRunningProgramStandsInItsOwnFolder() {
+        auto const place = platform::qt::FindProgramPlace();
+        QCOMPARE(ToQt(place.Folder), QDir::toNativeSeparators(QCoreApplication::applicationDirPath() + u'/'));
+        QCOMPARE(place.ExecutableName, std::string("test_ProgramPlace"));
+    }
+
+    void TheFolderBecomesTheCurrentOne() {
+        TemporaryFolder folder;
+        QString const before = QDir::currentPath();
+        platform::qt::EnterFolder(folder.Text());
+        QString const entered = QDir::currentPath();
+        QDir::setCurrent(before);
+        QCOMPARE(entered, QDir(ToQt(folder.Text())).canonicalPath());
+    }
+
+    void ANewFolderGetsTheSamples() {
+        app::ui::LoadResources();
+        TemporaryFolder folder;
+        platform::disk::DiskFiles files;
+        app::ui::FillProgramFolder(folder.Text(), files);
+        QVERIFY(!files.List(folder.Text(), "*.txt").empty());
+        QVERIFY(!files.List(folder.Text(), "*.dat").empty());
+        for (QString const& name : QDir(u":/samples"_s).entryList(QDir::Files)) {
+            QFile sample(u":/samples/"_s + name);
+            QVERIFY(sample.open(QIODevice::ReadOnly));
+            QCOMPARE(folder.Read(name.toStdString()), sample.readAll().toStdString());
+        }
+    }
+};
+
+} // namespace quorvex::tests
+
+int main(int argc, char** argv) {
+    return quorvex::tests::RunWindowTest<quorvex::tests::ProgramPlaceTest>(argc, argv);
+}
+
+#include "ProgramPlaceTest.moc"

@@ -1,0 +1,250 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "support/Golden.h"
+#include "support/QuoteTexts.h"
+#include "windows/RunningWindow.h"
+#include "windows/WindowTest.h"
+
+#include <QListWidget>
+#include <QSignalSpy>
+#include <QTimer>
+
+namespace quorvex::tests {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString CaptionOf(RunningWindow const& main, QString const& name) {
+    return u"Quorvex - [%1%2]"_s.arg(QString::fromStdString(main.Folder.Text()), name);
+}
+
+// Runs the event loop until the deed has ended it. Returns the exit code, -1 when nothing ended it.
+int RunUntilEnded(std::function<void()> const& deed) {
+    constexpr int Patience = 3000;
+    QTimer::singleShot(0, qApp, deed);
+    QTimer::singleShot(Patience, qApp, [] { QCoreApplication::exit(-1); });
+    return QApplication::exec();
+}
+
+} // namespace
+
+class frmMainFileTest final : public WindowTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+
+    void OpenWithoutFilesTellsThatThereAreNone() {
+        RunningWindow main;
+        main.Folder.Write("mine.dat", "1, 2, 3, 4\r\n");
+        main.Choose("mnuFileOpen");
+        QCOMPARE(main.Answers.Shown(), QStringList(OkMessage(u"Quorvex"_s, u"exclamation"_s,
+                                                             u"Cannot find daily quote text files."_s)));
+        QCOMPARE(main.Window->windowTitle(), u"Quorvex"_s);
+    }
+
+    void OpenDrawsTheChosenFile() {
+        RunningWindow main;
+        QImage const before = main.Picture(1);
+        main.Folder.Write("other.TXT", "");
+        main.OpenQuotes("q060.txt");
+        QVERIFY(main.Answers.IsDone());
+        QCOMPARE(main.Window->windowTitle(), CaptionOf(main, u"q060.txt"_s));
+        QCOMPARE(main.Data->Quotes.WorkingCount, 60);
+        QVERIFY(main.Picture(1) != before);
+        QVERIFY(main.Box(1).accessibleDescription().startsWith(u"Daily bar chart of 60 days, "));
+    }
+
+    void OpenListsTheFilesInTheOrderOfTheFileSystem() {
+        RunningWindow main;
+        for (char const* name : {"b.txt", "a.TXT", "c.Txt", "none.dat"}) {
+            main.Folder.Write(name, "");
+        }
+        QStringList offered;
+        main.Answers.Next([&offered](QWidget& window) {
+            auto const* list = window.findChild<QListWidget*>(u"lstFiles"_s);
+            for (int row = 0; row < list->count(); ++row) {
+                offered.append(list->item(row)->text());
+            }
+            ClickButton(window, u"cmdCancel"_s);
+        });
+        main.Choose("mnuFileOpen");
+        QStringList expected;
+        for (std::string const& name : main.Files.List(main.Folder.Text(), "*.txt")) {
+            expected.append(QString::fromStdString(name));
+        }
+        QCOMPARE(offered, expected);
+        QCOMPARE(offered.size(), 3);
+    }
+
+    void ACancelledOpenLeavesNoFileOpen() {
+        RunningWindow main;
+        main.OpenQuotes("q060.txt");
+        main.Answers.Escape();
+        main.Choose("mnuFileOpen");
+        QCOMPARE(main.Answers.Shown(), QStringList(u"frmQuotes"_s));
+        QCOMPARE(main.Window->windowTitle(), u"Quorvex"_s);
+        QCOMPARE(main.Box(1).accessibleDescription(), u"No quote file is open."_s);
+    }
+
+    void FewerThanTwentyFiveLinesAreRefused() {
+        RunningWindow main;
+        main.Folder.Write("few24.txt", GoldenFile("quotes/few24.txt"));
+        main.Answers.Choose(u"few24.txt"_s);
+        main.Choose("mnuFileOpen");
+        QCOMPARE(main.Answers.Shown(),
+                 QStringList({u"frmQuotes"_s,
+                              OkMessage(u"Quorvex Requirements"_s, u"information"_s,
+                                        u"A minimum of 25 daily quotes is required to perform cyclical "
+                                        u"analysis"_s)}));
+        QCOMPARE(main.Window->windowTitle(), u"Quorvex"_s);
+        QCOMPARE(main.Box(1).accessibleDescription(), u"No quote file is open."_s);
+    }
+
+    void TwentyFiveLinesAreEnough() {
+        RunningWindow main;
+        main.OpenQuotes("q025.txt");
+        QCOMPARE(main.Data->Quotes.QuoteCount, 25);
+        QCOMPARE(main.Window->windowTitle(), CaptionOf(main, u"q025.txt"_s));
+    }
+
+    void AFileThatWentMeanwhileShowsTheDescription() {
+        RunningWindow main;
+        main.Folder.Write("gone.txt", QuoteLines(30));
+        main.Answers.Next([&main](QWidget& window) {
+            std::filesystem::remove(main.Folder.File("gone.txt"));
+            auto* list = window.findChild<QListWidget*>(u"lstFiles"_s);
+            list->setCurrentRow(0);
+            QTest::keyClick(list, Qt::Key_Return);
+        });
+        main.Choose("mnuFileOpen");
+        QCOMPARE(main.Answers.Shown(),
+                 QStringList({u"frmQuotes"_s, OkMessage(u"Quorvex"_s, u"none"_s, u"File not found"_s)}));
+        QCOMPARE(main.Window->windowTitle(), u"Quorvex"_s);
+    }
+
+    void SaveAsWritesTheQuotesUnderTheNewName() {
+        RunningWindow main;
+        main.OpenQuotes("corn.txt", QuoteLines(30));
+        main.Answers.Type(u"  copy.TXT "_s);
+        main.Choose("mnuFileSaveAs");
+        QCOMPARE(main.Answers.Shown(), QStringList(u"Save As...|Save corn.txt As...|corn.txt"_s));
+        QCOMPARE(main.Folder.Read("copy.TXT"), QuoteLines(30));
+        QCOMPARE(main.Window->windowTitle(), CaptionOf(main, u"copy.TXT"_s));
+    }
+
+    void SaveAsRefusesABadName_data() {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("too short") << u".txt"_s;
+        QTest::newRow("another extension") << u"quotes.csv"_s;
+        QTest::newRow("no extension") << u"abc"_s;
+        QTest::newRow("three letters with a point") << u"q.tx"_s;
+        QTest::newRow("nothing") << QString();
+    }
+
+    void SaveAsRefusesABadName() {
+        QFETCH(QString, name);
+        RunningWindow main;
+        main.OpenQuotes("corn.txt", QuoteLines(30));
+        main.Answers.Type(name);
+        main.Choose("mnuFileSaveAs");
+        QCOMPARE(main.Answers.Shown().mid(1),
+                 QStringList(OkMessage(u"Quorvex"_s, u"critical"_s, u"Invalid data file name"_s)));
+        QCOMPARE(main.Folder.EntryCount(), 1);
+        QCOMPARE(main.Window->windowTitle(), CaptionOf(main, u"corn.txt"_s));
+    }
+
+    void ACancelledSaveAsIsABadName() {
+        RunningWindow main;
+        main.OpenQuotes("corn.txt", QuoteLines(30));
+        main.Answers.Escape();
+        main.Choose("mnuFileSaveAs");
+        QCOMPARE(main.Answers.Shown().mid(1),
+                 QStringList(OkMessage(u"Quorvex"_s, u"critical"_s, u"Invalid data file name"_s)));
+        QCOMPARE(main.Folder.EntryCount(), 1);
+    }
+
+    void SaveAsShowsWhyItCouldNotWrite() {
+        RunningWindow main;
+        main.OpenQuotes("corn.txt", QuoteLines(30));
+        main.Answers.Type(u"nowhere/corn.txt"_s);
+        main.Choose("mnuFileSaveAs");
+        QCOMPARE(main.Answers.Shown().mid(1),
+                 QStringList(OkMessage(u"Quorvex"_s, u"none"_s, u"Path not found"_s)));
+        QCOMPARE(main.Window->windowTitle(), CaptionOf(main, u"corn.txt"_s));
+    }
+
+    void CloseEmptiesTheBoxesOfQuotesAndResidualOnly() {
+        RunningWindow main;
+        main.OpenQuotes("q250.txt");
+        main.Choose("mnuParametersAutomate3");
+        std::array<QImage, 4> const before = {main.Picture(1), main.Picture(2), main.Picture(3),
+                                              main.Picture(4)};
+        main.Choose("mnuFileClose");
+        QVERIFY(main.Answers.Shown().isEmpty());
+        QCOMPARE(main.Window->windowTitle(), u"Quorvex"_s);
+        QVERIFY(main.Picture(1) != before[0]);
+        QCOMPARE(main.Picture(2), before[1]);
+        QCOMPARE(main.Picture(3), before[2]);
+        QVERIFY(main.Picture(4) != before[3]);
+        QCOMPARE(main.Box(1).accessibleDescription(), u"No quote file is open."_s);
+        QVERIFY(main.Box(2).accessibleDescription().startsWith(u"3 component cycles over 250 days"));
+        QVERIFY(main.Box(3).accessibleDescription().startsWith(u"Composite estimate cycle over 250 days"));
+        QCOMPARE(main.Box(4).accessibleDescription(), u"No quote file is open."_s);
+        // Nothing but the three reference lines is left: the middle one goes from edge to edge.
+        QImage const empty = main.Picture(1);
+        QCOMPARE(empty.pixelColor(empty.width() / 3, empty.height() / 8), QColor(Qt::white));
+        QCOMPARE(empty.pixelColor(empty.width() / 3, empty.height() - 2), QColor(Qt::white));
+    }
+
+    void CloseWithoutAFileDoesNoHarm() {
+        RunningWindow main;
+        main.Choose("mnuFileClose");
+        QCOMPARE(main.Window->windowTitle(), u"Quorvex"_s);
+        QVERIFY(main.Answers.Shown().isEmpty());
+    }
+
+    void PrintSetupStartsTheControlPanel() {
+        RunningWindow main;
+        main.Choose("mnuFilePrintSetup");
+        QCOMPARE(main.Launcher.Started, std::vector<std::string>{"CONTROL.EXE"});
+        QVERIFY(main.Answers.Shown().isEmpty());
+    }
+
+    void PrintSetupTellsThatThereIsNothingToStart() {
+        RunningWindow main;
+        main.Launcher.HasPrograms = false;
+        main.Choose("mnuFilePrintSetup");
+        QCOMPARE(main.Answers.Shown(), QStringList(OkMessage(u"Quorvex"_s, u"none"_s, u"File not found"_s)));
+    }
+
+    void ExitEndsAtOnceWithoutAQuestion() {
+        RunningWindow main;
+        main.OpenQuotes("q060.txt");
+        main.Choose("mnuParametersAutomate1");
+        main.TypeInto(1, 2, u"30"_s);
+        QSignalSpy const ended(qApp, &QCoreApplication::aboutToQuit);
+        QCOMPARE(RunUntilEnded([&main] { main.Item(u"mnuFileExit"_s).trigger(); }), 0);
+        QCOMPARE(ended.size(), 1);
+        QVERIFY(main.Answers.Shown().isEmpty());
+        QCOMPARE(main.Folder.EntryCount(), 1);
+    }
+
+    void ClosingTheWindowEndsAtOnceWithoutAQuestion() {
+        RunningWindow main;
+        main.OpenQuotes("q060.txt");
+        main.TypeInto(1, 2, u"30"_s);
+        QCOMPARE(RunUntilEnded([&main] { main.Window->close(); }), 0);
+        QVERIFY(main.Answers.Shown().isEmpty());
+        QCOMPARE(main.Folder.EntryCount(), 1);
+    }
+};
+
+} // namespace quorvex::tests
+
+int main(int argc, char** argv) {
+    return quorvex::tests::RunWindowTest<quorvex::tests::frmMainFileTest>(argc, argv);
+}
+
+#include "frmMainFileTest.moc"
