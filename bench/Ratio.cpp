@@ -15,7 +15,11 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::size_t Rounds = 501;
+constexpr std::size_t MostRounds = 501;
+constexpr std::size_t FewestRounds = 21;
+
+// Slow work gets fewer rounds.
+constexpr std::chrono::seconds LongestMeasurement(4);
 
 // Long enough for the clock, short enough to fall between two disturbances.
 constexpr std::chrono::duration<double> ShortestTurn = std::chrono::microseconds(500);
@@ -36,19 +40,20 @@ int TimesInOneTurn(Work const& work) {
     return times;
 }
 
+} // namespace
+
 double Median(std::vector<double> values) {
     auto const middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
     std::nth_element(values.begin(), middle, values.end());
     return *middle;
 }
 
-} // namespace
-
 double MeasureRatio(Work const& work, Work const& baseline) {
     int const workTimes = TimesInOneTurn(work);
     int const baselineTimes = TimesInOneTurn(baseline);
     std::vector<double> ratios;
-    for (std::size_t round = 0; round < Rounds; ++round) {
+    auto const end = Clock::now() + LongestMeasurement;
+    for (std::size_t round = 0; round < FewestRounds || (round < MostRounds && Clock::now() < end); ++round) {
         // Neither always comes first, so that a clock rate that drifts favours neither.
         bool const workFirst = round % 2 == 0;
         auto const first = workFirst ? TimeOf(work, workTimes) : TimeOf(baseline, baselineTimes);

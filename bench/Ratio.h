@@ -4,8 +4,12 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 namespace quorvex::bench {
+
+// The middle one, of an even number the upper. REQUIRES: one value.
+[[nodiscard]] double Median(std::vector<double> values);
 
 using Work = std::function<void()>;
 

@@ -3,11 +3,27 @@
 
 #pragma once
 
+#include <sstream>
 #include <string>
 
 namespace quorvex::bench {
 
-// Measures the ratios that have a target and puts them into a table, one a line.
-[[nodiscard]] std::string MeasuredRatioTable();
+// What was measured, one ratio a line, beside its target.
+class RatioTable {
+public:
+    RatioTable();
+
+    // A ratio that explains the one above it.
+    void Add(std::string const& what, double ratio);
+
+    void Add(std::string const& what, double ratio, double target);
+
+    [[nodiscard]] std::string Text() const { return text_.str(); }
+
+private:
+    std::ostream& Row(std::string const& what, std::string const& ratio);
+
+    std::ostringstream text_;
+};
 
 } // namespace quorvex::bench

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 // Times the display-free routines, each beside the least work that it could be done with, and ends with a
-// table of the ratios that have a target.
+// table of the ratios that have a target, those of the window included.
 
+#include "CoreRatios.h"
 #include "RatioTable.h"
+#include "WindowRatios.h"
 
 #include <benchmark/benchmark.h>
 
@@ -19,7 +21,10 @@ int main(int argc, char** argv) {
         }
         benchmark::RunSpecifiedBenchmarks();
         benchmark::Shutdown();
-        std::cout << '\n' << quorvex::bench::MeasuredRatioTable();
+        quorvex::bench::RatioTable table;
+        quorvex::bench::AddCoreRatios(table);
+        quorvex::bench::AddWindowRatios(table, argc, argv);
+        std::cout << '\n' << table.Text();
     } catch (std::exception const& error) {
         std::cerr << error.what() << '\n';
         return 1;

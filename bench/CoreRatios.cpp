@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "CoreRatios.h"
+
+#include "CycleWork.h"
+#include "QuoteWork.h"
+#include "Ratio.h"
+
+namespace quorvex::bench {
+
+void AddCoreRatios(RatioTable& table) {
+    constexpr double ReadingTarget = 2;
+    constexpr double FitTarget = 1.5;
+    QuoteWork quotes;
+    CycleWork cycles;
+    auto const pass = [&] { quotes.ParseNumbers(); };
+    table.Add("reading a 500-day quote file / one std::from_chars pass",
+              MeasureRatio([&] { quotes.Load(); }, pass), ReadingTarget);
+    table.Add("    the same from memory", MeasureRatio([&] { quotes.ReadText(); }, pass));
+    table.Add("three-cycle fit over 500 days / its sines and cosines",
+              MeasureRatio([&] { cycles.FitThreeCycles(); }, [&] { cycles.ComputeSinesAndCosines(); }),
+              FitTarget);
+}
+
+} // namespace quorvex::bench
