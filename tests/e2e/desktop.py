@@ -1,0 +1,160 @@
+# SPDX-FileCopyrightText: 2026 The Quorvex developers
+# SPDX-License-Identifier: MIT
+
+"""A desktop of the test's own: screen, window manager, session bus, accessibility bus."""
+
+import configparser
+import os
+import shutil
+import subprocess
+import tempfile
+
+from accessible import AccessibilityBus
+from waiting import wait_for
+
+A11Y_SERVICE = "/usr/share/dbus-1/services/org.a11y.Bus.service"
+
+BUS_CONFIGURATION = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
+ "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
+<busconfig>
+  <type>session</type>
+  <listen>unix:path={folder}/bus</listen>
+  <auth>EXTERNAL</auth>
+  <servicedir>{services}</servicedir>
+  <policy context="default">
+    <allow user="*"/>
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+</busconfig>
+"""
+
+# Permissions bind ordinary users only, and programs are run by them: an administrator's tests run as nobody.
+ORDINARY_USER = 65534
+
+
+class Desktop:
+    """Runs from its construction until close()."""
+
+    def __init__(self, width=1280, height=1024):
+        self._processes = []
+        self.user = ORDINARY_USER if os.geteuid() == 0 else None
+        self.folder = tempfile.mkdtemp(prefix="quorvex-desktop-")
+        os.chmod(self.folder, 0o755)
+        try:
+            self._start(width, height)
+        except BaseException:
+            self.close()
+            raise
+
+    def _start(self, width, height):
+        self.environment = self._make_environment()
+        self.environment["DISPLAY"] = self._start_screen(width, height)
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_bus()
+        self.start(["openbox", "--sm-disable"], "openbox")
+        wait_for(lambda: self.xdotool("get_num_desktops", check=False).returncode == 0, "the window manager")
+        self.bus = AccessibilityBus(self.environment["DBUS_SESSION_BUS_ADDRESS"])
+
+    def _make_environment(self):
+        """Little of the environment outside: neither its desktop nor its settings."""
+        kept = ("PATH", "LANG", "LC_ALL", "LOCPATH", "TZ", "ASAN_OPTIONS", "UBSAN_OPTIONS")
+        environment = {name: os.environ[name] for name in kept if name in os.environ}
+        for variable, name in (("HOME", "home"), ("XDG_RUNTIME_DIR", "runtime"), ("XDG_DATA_HOME", "data"),
+                               ("XDG_CONFIG_HOME", "config"), ("XDG_CACHE_HOME", "cache"), ("TMPDIR", "tmp")):
+            environment[variable] = self.make_folder(name)
+        return environment
+
+    def make_folder(self, name):
+        """An empty folder that belongs to the user of the desktop."""
+        folder = os.path.join(self.folder, name)
+        os.mkdir(folder, 0o700)
+        self.hand_over(folder)
+        return folder
+
+    def hand_over(self, path):
+        """Makes the file or folder one of the user of the desktop."""
+        if self.user is not None:
+            os.chown(path, self.user, self.user)
+
+    def start(self, command, name, **options):
+        """Starts a program on this desktop; its output goes into files of this name in the desktop's folder."""
+        ownership = {} if self.user is None else {"user": self.user, "group": self.user, "extra_groups": []}
+        options.setdefault("env", self.environment)
+        with open(self.output_file(name), "wb") as output, open(self.error_file(name), "wb") as errors:
+            process = subprocess.Popen(command, cwd=self.folder, stdin=subprocess.DEVNULL, stdout=output,
+                                       stderr=errors, **ownership, **options)
+        self._processes.append(process)
+        return process
+
+    def output_file(self, name):
+        return os.path.join(self.folder, name + ".out")
+
+    def error_file(self, name):
+        return os.path.join(self.folder, name + ".err")
+
+    def errors_of(self, name):
+        with open(self.error_file(name), encoding="utf-8", errors="replace") as file:
+            return file.read()
+
+    def _start_screen(self, width, height):
+        return ":" + self._start_announcing("Xvfb", lambda number: [
+            "Xvfb", "-displayfd", str(number), "-screen", "0", f"{width}x{height}x24", "-dpi", "96",
+            "-nolisten", "tcp", "-noreset"])
+
+    def _start_bus(self):
+        services = os.path.join(self.folder, "services")
+        os.mkdir(services)
+        service = configparser.ConfigParser()
+        service.optionxform = str
+        service.read(A11Y_SERVICE)
+        service.remove_option("D-BUS Service", "SystemdService")
+        with open(os.path.join(services, "org.a11y.Bus.service"), "w", encoding="utf-8") as file:
+            service.write(file, space_around_delimiters=False)
+        configuration = os.path.join(self.folder, "bus.conf")
+        with open(configuration, "w", encoding="utf-8") as file:
+            file.write(BUS_CONFIGURATION.format(folder=self.make_folder("session"), services=services))
+        return self._start_announcing("dbus-daemon", lambda number: [
+            "dbus-daemon", "--config-file", configuration, "--nofork", "--nopidfile", f"--print-address={number}"])
+
+    def _start_announcing(self, name, command):
+        """Starts a server that writes where it is reached to a descriptor, once it is. Returns what it wrote."""
+        reading, writing = os.pipe()
+        try:
+            self.start(command(writing), name, pass_fds=[writing])
+        finally:
+            os.close(writing)
+        with os.fdopen(reading) as lines:
+            line = lines.readline().strip()  # ends without a line when the server does
+        if not line:
+            raise AssertionError(f"{name} did not start: " + self.errors_of(name))
+        return line
+
+    def xdotool(self, *arguments, check=True):
+        return subprocess.run(["xdotool", *arguments], env=self.environment, check=check, capture_output=True,
+                              text=True, timeout=30)
+
+    def press(self, *keys):
+        """Presses keys, or chords such as alt+f, one after the other, whoever has the focus."""
+        self.xdotool("key", *keys)
+
+    def type(self, text):
+        self.xdotool("type", text)
+
+    def click(self, accessible, button=1):
+        left, top, width, height = accessible.extents()
+        self.xdotool("mousemove", str(left + width // 2), str(top + height // 2), "click", str(button))
+
+    def close(self):
+        """Ends everything that was started, the last first."""
+        if hasattr(self, "bus"):
+            self.bus.close()
+        for process in reversed(self._processes):
+            if process.poll() is None:
+                process.terminate()
+            try:
+                process.wait(10)
+            except subprocess.TimeoutExpired:
+                process.kill()
+                process.wait()
+        shutil.rmtree(self.folder, ignore_errors=True)

@@ -1,0 +1,174 @@
+# SPDX-FileCopyrightText: 2026 The Quorvex developers
+# SPDX-License-Identifier: MIT
+
+"""The program on a desktop of its own, and the tests' view of it."""
+
+import glob
+import json
+import os
+import shutil
+import subprocess
+import tempfile
+import unittest
+
+from desktop import Desktop
+from waiting import Gone, wait_for
+
+EXECUTABLE = os.environ["QUORVEX_PROGRAM"]
+COMPANION = os.environ["QUORVEX_COMPANION"]
+SAMPLES = os.environ["QUORVEX_SAMPLES"]
+PARAMETERS = ("Weight", "Period", "Shift", "Decay")
+CYCLES = range(1, 11)
+CHARTS = ("Daily quotes chart", "Component cycles chart", "Composite estimate cycle chart", "Residual chart")
+
+
+class Program:
+    """A running Quorvex."""
+
+    def __init__(self, desktop, executable):
+        self._desktop = desktop
+        leaks = os.path.join(os.path.dirname(os.path.abspath(__file__)), "leaks.supp")
+        environment = dict(desktop.environment, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+                           LSAN_OPTIONS=f"suppressions={leaks}:print_suppressions=0")
+        self.process = desktop.start([executable], "Quorvex", env=environment)
+        self.root = wait_for(self._find_root, "the program on the accessibility bus")
+        self.main = wait_for(self.root.children, "the main window")[0]
+        wait_for(lambda: self.main.has("active"), "the main window's activation")
+
+    def _find_root(self):
+        if self.process.poll() is not None:
+            raise AssertionError("The program ended at its start: " + self.errors())
+        return self._desktop.bus.root_of(self.process.pid)
+
+    def errors(self):
+        return self._desktop.errors_of("Quorvex")
+
+    # Windows and menus
+
+    def window(self, title):
+        """The window of this title over the main one, once it is the active one."""
+        def find():
+            for window in self.root.children():
+                if window != self.main and window.name == title and window.has("active"):
+                    return window
+            raise Gone("the windows are " + ", ".join(repr(window.name) for window in self.root.children()))
+        return wait_for(find, f"the window {title!r}")
+
+    def wait_for_main(self):
+        """Waits until the main window is the active one again, with no dialog left over it."""
+        wait_for(lambda: self.main.has("active") and not self.showing_dialogs(), "the main window on its own")
+
+    def showing_dialogs(self):
+        return [window for window in self.root.children() if window != self.main and window.has("showing")]
+
+    def choose(self, *names, window=None):
+        """Opens a menu after the other and chooses the item at the end."""
+        inside = (window or self.main).find("menu bar")
+        for name in names[:-1]:
+            item = wait_for(lambda: self._item(inside, name), f"the menu {name!r}")
+            item.act("ShowMenu")
+            inside = item.children()[0]
+        wait_for(lambda: self._item(inside, names[-1]), f"the menu item {names[-1]!r}").act()
+
+    @staticmethod
+    def _item(menu, name):
+        return next((item for item in menu.children() if item.name == name and item.has("showing", "enabled")), None)
+
+    def press_button(self, window, name):
+        window.find("push button", name).act()
+
+    def answer(self, title, button):
+        """Presses a button of the message box of this title. Returns the box's text."""
+        box = self.window(title)
+        text = "\n".join(label.name for label in box.find_all("label") if label.name)
+        self.press_button(box, button)
+        return text
+
+    # Main window
+
+    def cell(self, cycle, parameter):
+        return self.main.find("text", f"Cycle {cycle} {parameter}")
+
+    def grid(self):
+        """The texts of the grid, a list for each cycle."""
+        cells = {cell.name: cell for cell in self.main.find_all("text")}
+        return [[cells[f"Cycle {cycle} {parameter}"].text for parameter in PARAMETERS] for cycle in CYCLES]
+
+    def chart(self, name):
+        return self.main.find("chart", name)
+
+    def chart_descriptions(self):
+        return [self.chart(name).description for name in CHARTS]
+
+    def open_quotes(self, name):
+        self.choose("File", "Open")
+        self.choose_file("Open Quote File", name)
+        self.wait_for_main()
+
+    def open_parameters(self, name):
+        self.choose("Parameters", "Open")
+        self.choose_file("Open Cycle Parameter File", name)
+        self.wait_for_main()
+
+    def choose_file(self, title, name):
+        chooser = self.window(title)
+        self._desktop.click(wait_for(lambda: chooser.find("list item", name), f"{name} in the list"))
+        wait_for(lambda: chooser.find("push button", "OK").has("enabled"), "an OK button that can be used")
+        self.press_button(chooser, "OK")
+
+    def end(self):
+        """Waits for the program's end. Returns its exit status."""
+        return self.process.wait(30)
+
+
+class Session(unittest.TestCase):
+    """Tests of programs that start with nothing but the sample files in their folder."""
+
+    SCREEN = (1280, 1024)
+
+    @classmethod
+    def setUpClass(cls):
+        cls.desktop = Desktop(*cls.SCREEN)
+        cls.addClassCleanup(cls.desktop.close)
+
+    def setUp(self):
+        self.folder = tempfile.mkdtemp(prefix="program-", dir=self.desktop.folder)
+        self.desktop.hand_over(self.folder)
+
+    def install(self, samples=True):
+        """Puts the program into the test's folder. Returns the path of its executable."""
+        executable = shutil.copy2(EXECUTABLE, self.folder)
+        os.chmod(executable, 0o755)
+        if samples:
+            for sample in glob.glob(os.path.join(SAMPLES, "*")):
+                self.desktop.hand_over(shutil.copy2(sample, self.folder))
+        return executable
+
+    def start(self, executable=None):
+        self.program = Program(self.desktop, executable or self.install())
+        self.addCleanup(self._stop, self.program)
+        return self.program
+
+    @staticmethod
+    def _stop(program):
+        if program.process.poll() is None:
+            program.process.kill()
+            program.process.wait()
+
+    def require_end(self, program):
+        """The program ends as one without a fault: with status 0, having complained about nothing."""
+        status = program.end()
+        self.assertEqual(program.errors(), "", "on standard error")
+        self.assertEqual(status, 0)
+
+    def analyse(self, *arguments):
+        """What the companion finds in the Wheat sample."""
+        command = [COMPANION, "analyse", os.path.join(SAMPLES, "Wheat.txt"), *arguments, "--json"]
+        return json.loads(subprocess.run(command, check=True, capture_output=True, timeout=60).stdout)
+
+    def wait_until_equal(self, get, expected, what):
+        """Waits until the routine gives the value; when it does not, shows the difference."""
+        try:
+            wait_for(lambda: get() == expected, what, seconds=10)
+        except AssertionError:
+            self.assertEqual(get(), expected, what)
