@@ -3,6 +3,8 @@
 
 #include "text/basTexts.h"
 
+#include "text/Characters.h"
+
 #include <cstddef>
 
 namespace quorvex::text {
@@ -31,6 +33,16 @@ std::string_view Trim(std::string_view text) {
         return {};
     }
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string_view TrimBlanksAndTabs(std::string_view text) {
+    while (!text.empty() && IsBlank(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && IsBlank(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
 }
 
 bool IsNameWithExtension(std::string_view name, std::string_view extension) {

@@ -68,6 +68,15 @@ TEST(IsNameWithExtension, NeedsOneCharacterInFrontOfTheDot) {
     EXPECT_FALSE(IsNameWithExtension("cycles.txt", ".DAT"));
 }
 
+TEST(TrimBlanksAndTabs, LeavesAPartOfTheText) {
+    EXPECT_EQ(TrimBlanksAndTabs(" \t a\tb \t"), "a\tb");
+    EXPECT_EQ(TrimBlanksAndTabs("\r\nx\v"), "\r\nx\v");
+    std::string_view const blank = " \t ";
+    std::string_view const nothing = TrimBlanksAndTabs(blank);
+    EXPECT_TRUE(nothing.empty());
+    EXPECT_TRUE(nothing.data() >= blank.data() && nothing.data() <= blank.data() + blank.size());
+}
+
 } // namespace
 
 } // namespace quorvex::text
