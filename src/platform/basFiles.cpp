@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/basFiles.h"
+
+#include "text/RunTimeError.h"
+
+#include <array>
+#include <cstddef>
+
+namespace quorvex::platform {
+
+std::string ReadWholeFile(Files const& files, std::string const& path) {
+    constexpr std::size_t BufferSize = 4096;
+    std::array<char, BufferSize> buffer{};
+    std::string content;
+    auto const source = files.OpenForInput(path);
+    while (std::size_t const count = source->Read(buffer)) {
+        content.append(buffer.data(), count);
+    }
+    return content;
+}
+
+std::string ReadFileIfThere(Files const& files, std::string const& path) {
+    std::string content;
+    auto const error = text::Trap([&] { content = ReadWholeFile(files, path); });
+    if (error && error->Kind() != text::Fault::FileNotFound) {
+        throw text::RunTimeError(error->Kind());
+    }
+    return content;
+}
+
+} // namespace quorvex::platform

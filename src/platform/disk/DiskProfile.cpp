@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/disk/DiskProfile.h"
+
+#include "platform/basFiles.h"
+#include "platform/basProfileTexts.h"
+#include "platform/disk/basIniText.h"
+#include "text/RunTimeError.h"
+
+#include <utility>
+
+namespace quorvex::platform::disk {
+
+DiskProfile::DiskProfile(std::string path, Files& files) : path_(std::move(path)), files_(files) {}
+
+std::string DiskProfile::ReadString(std::string_view section, std::string_view key,
+                                    std::string_view defaultText) const {
+    std::string file;
+    if (text::Trap([&] { file = ReadWholeFile(files_, path_); })) {
+        return std::string(defaultText);
+    }
+    auto const value = FindIniValue(file, section, key);
+    return std::string(value ? CutProfileText(BareProfileText(*value)) : defaultText);
+}
+
+void DiskProfile::WriteStrings(std::string_view section, std::span<ProfileEntry const> entries) {
+    // A file that is there and cannot be read must not be taken for an empty one.
+    std::string file = ReadFileIfThere(files_, path_);
+    for (ProfileEntry const& entry : entries) {
+        RequireProfileValue(entry.Value);
+        SetIniValue(file, section, entry.Key, entry.Value);
+    }
+    files_.Replace(path_, file);
+}
+
+} // namespace quorvex::platform::disk

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/basFiles.h"
+
+#include "platform/fake/MemoryFiles.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvex::platform {
+namespace {
+
+TEST(ReadWholeFile, ReadsEveryByte) {
+    fake::MemoryFiles files;
+    for (std::size_t const size : {0U, 1U, 4095U, 4096U, 4097U, 20'000U}) {
+        files.Contents["a.txt"] = std::string(size, 'a') + std::string("\0\r\n", 3);
+        EXPECT_EQ(ReadWholeFile(files, "a.txt"), files.Contents["a.txt"]);
+    }
+}
+
+TEST(ReadWholeFile, RaisesEveryFault) {
+    fake::MemoryFiles files;
+    EXPECT_THROW(static_cast<void>(ReadWholeFile(files, "a.txt")), text::RunTimeError);
+    files.Contents["a.txt"] = "hello";
+    files.BreakReading = {2, text::Fault::PermissionDenied};
+    EXPECT_THROW(static_cast<void>(ReadWholeFile(files, "a.txt")), text::RunTimeError);
+}
+
+TEST(ReadFileIfThere, ToleratesAMissingFileAlone) {
+    fake::MemoryFiles files;
+    EXPECT_EQ(ReadFileIfThere(files, "a.txt"), "");
+    files.Contents["a.txt"] = "hello";
+    EXPECT_EQ(ReadFileIfThere(files, "a.txt"), "hello");
+    files.BreakReading = {2, text::Fault::PermissionDenied};
+    EXPECT_THROW(static_cast<void>(ReadFileIfThere(files, "a.txt")), text::RunTimeError);
+}
+
+} // namespace
+} // namespace quorvex::platform
