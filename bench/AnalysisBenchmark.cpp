@@ -26,13 +26,13 @@ void WholeAnalysis(benchmark::State& state) {
     SilentDialogs dialogs;
     platform::disk::DiskFiles files;
     platform::NoPendingMessages pending;
-    platform::BlankCanvas box;
     platform::NoLauncher launcher;
     platform::NoMainWindow window;
+    platform::BlankCanvas box;
     app::Services services{grid, {box, box, box, box}, dialogs, files, pending, launcher, window};
     app::AnalysisRequest request;
     request.AutomatedCycles = 3;
-    app::StartUp(*program, grid, file.Folder());
+    app::StartUp(*program, grid, platform::NoProfile(), file.Folder());
     program->Quotes.QuoteFileName = TemporaryQuoteFile::Name;
     for ([[maybe_unused]] auto const _ : state) {
         auto const result = app::Analyse(*program, services, request);

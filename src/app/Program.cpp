@@ -3,12 +3,15 @@
 
 #include "app/Program.h"
 
+#include "prefs/basProfiles.h"
+
 namespace quorvex::app {
 
-void StartUp(Program& program, cycles::ParameterGrid& grid, std::string_view programFolder) {
+void StartUp(Program& program, cycles::ParameterGrid& grid, platform::Profile const& profile,
+             std::string_view programFolder) {
     program.ProgramFolder = programFolder;
-    program.Settings = prefs::DefaultSettings(programFolder);
     cycles::ClearGrid(grid);
+    prefs::ReadProfile(program.Settings, profile, programFolder);
 }
 
 } // namespace quorvex::app

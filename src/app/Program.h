@@ -14,6 +14,7 @@
 #include "platform/Launcher.h"
 #include "platform/MainWindow.h"
 #include "platform/PendingMessages.h"
+#include "platform/Profile.h"
 #include "prefs/Settings.h"
 #include "quotes/PriceScale.h"
 #include "quotes/QuoteSeries.h"
@@ -55,7 +56,9 @@ struct Services {
     platform::MainWindow& Window;
 };
 
-// Brings the program to its state after start-up: default settings, zeros in the grid.
-void StartUp(Program& program, cycles::ParameterGrid& grid, std::string_view programFolder);
+// Brings the program to its state after start-up: zeros in the grid, the settings of the profile, the
+// defaults of the program folder for those that it does not have.
+void StartUp(Program& program, cycles::ParameterGrid& grid, platform::Profile const& profile,
+             std::string_view programFolder);
 
 } // namespace quorvex::app

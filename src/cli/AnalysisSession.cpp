@@ -8,7 +8,8 @@
 namespace quorvex::cli {
 
 AnalysisSession::AnalysisSession(AnalysisOptions const& options) : request_(options.Request) {
-    app::StartUp(*program_, grid_, "./");
+    // Every run is to give the same, whatever the user prefers in the window.
+    app::StartUp(*program_, grid_, platform::NoProfile(), "./");
     TakeAnalysisOptions(options, *program_);
 }
 

@@ -11,11 +11,23 @@
 #include "platform/qt/ProgramPlace.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtLauncher.h"
+#include "prefs/basProfiles.h"
+#ifdef _WIN32
+#include "platform/windows/WindowsProfile.h"
+#else
+#include "platform/disk/DiskProfile.h"
+#endif
 
 #include <QApplication>
 #include <QFont>
 #include <QIcon>
 #include <memory>
+
+#ifdef _WIN32
+using HostProfile = quorvex::platform::windows::WindowsProfile;
+#else
+using HostProfile = quorvex::platform::disk::DiskProfile;
+#endif
 
 int main(int argc, char** argv) {
     namespace qt = quorvex::platform::qt;
@@ -38,7 +50,8 @@ int main(int argc, char** argv) {
         qt::EnterFolder(place.Folder);
     });
 
-    quorvex::app::ui::frmMain window(*program, place.Folder, files, launcher);
+    HostProfile const profile(quorvex::prefs::ProfileFileName(place.Folder, place.ExecutableName), files);
+    quorvex::app::ui::frmMain window(*program, place.Folder, profile, files, launcher);
     window.show();
     return QApplication::exec();
 }

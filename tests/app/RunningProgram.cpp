@@ -5,10 +5,13 @@
 
 #include "app/basCommands.h"
 
+#include <utility>
+
 namespace quorvex::app {
 
-RunningProgram::RunningProgram() {
-    StartUp(*Data, Grid, "C:\\Quorvex");
+RunningProgram::RunningProgram(std::vector<platform::fake::MemoryProfile::Entry> settings) {
+    Profile.Entries = std::move(settings);
+    StartUp(*Data, Grid, Profile, "C:\\Quorvex");
 }
 
 void RunningProgram::Open(std::string const& name, std::string const& text) {

@@ -6,18 +6,21 @@
 #include "app/Program.h"
 #include "platform/RecordingCanvas.h"
 #include "platform/fake/MemoryFiles.h"
+#include "platform/fake/MemoryProfile.h"
 #include "platform/fake/RecordingWindow.h"
 #include "platform/fake/ScriptedDialogs.h"
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace quorvex::app {
 
 // A started program in a world of the test's own: files in memory, scripted dialogs, a grid of texts.
 class RunningProgram {
 public:
-    RunningProgram();
+    // The settings are what its INI file holds.
+    explicit RunningProgram(std::vector<platform::fake::MemoryProfile::Entry> settings = {});
 
     // Puts the file into the data folder and opens it through the chooser.
     void Open(std::string const& name, std::string const& text);
@@ -28,6 +31,7 @@ public:
     std::unique_ptr<Program> Data = std::make_unique<Program>();
     cycles::TextGrid Grid;
     platform::fake::MemoryFiles Files;
+    platform::fake::MemoryProfile Profile;
     platform::fake::ScriptedDialogs Dialogs;
     platform::NoPendingMessages Pending;
     platform::RecordingCanvas Pic1{7000, 2500};

@@ -6,6 +6,7 @@
 #include "app/Program.h"
 #include "app/ui/frmMain.h"
 #include "platform/disk/DiskFiles.h"
+#include "platform/fake/MemoryProfile.h"
 #include "platform/fake/RecordingWindow.h"
 #include "platform/qt/PictureBox.h"
 #include "support/TemporaryFolder.h"
@@ -52,6 +53,7 @@ public:
     TemporaryFolder Folder;
     platform::disk::DiskFiles Files;
     platform::fake::RecordingLauncher Launcher;
+    platform::fake::MemoryProfile Profile;
     std::unique_ptr<app::Program> Data = std::make_unique<app::Program>();
     std::unique_ptr<app::ui::frmMain> Window;
     ModalAnswers Answers;

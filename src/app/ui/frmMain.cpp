@@ -45,8 +45,8 @@ constexpr std::array<BoxRow, 4> BoxTable = {{
 
 } // namespace
 
-frmMain::frmMain(Program& program, std::string_view programFolder, platform::Files& files,
-                 platform::Launcher& launcher)
+frmMain::frmMain(Program& program, std::string_view programFolder, platform::Profile const& profile,
+                 platform::Files& files, platform::Launcher& launcher)
     : program_(program),
       files_(files),
       client_(new QWidget(this)),
@@ -63,7 +63,7 @@ frmMain::frmMain(Program& program, std::string_view programFolder, platform::Fil
         std::make_unique<Services>(Services{*grid_, Boxes(), dialogs_, files, pending_, launcher, *this});
     resize(InitialSize.boundedTo(screen()->availableSize()));
     platform::qt::CentreForm(*this);
-    StartUp(program, *grid_, programFolder);
+    StartUp(program, *grid_, profile, programFolder);
 }
 
 frmMain::~frmMain() = default;

@@ -31,8 +31,8 @@ class frmMain final : public QMainWindow, private platform::MainWindow {
 
 public:
     // Starts the program up. All must outlive the window.
-    frmMain(Program& program, std::string_view programFolder, platform::Files& files,
-            platform::Launcher& launcher);
+    frmMain(Program& program, std::string_view programFolder, platform::Profile const& profile,
+            platform::Files& files, platform::Launcher& launcher);
     ~frmMain() override;
 
     // Runs the command of a menu item as if it had been chosen.
