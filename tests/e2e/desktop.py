@@ -37,7 +37,9 @@ ORDINARY_USER = 65534
 class Desktop:
     """Runs from its construction until close()."""
 
-    def __init__(self, width=1280, height=1024):
+    def __init__(self, width=1280, height=1024, scale=1):
+        """A screen of this size in pixels, so many of which make one of a program's."""
+        self.scale = scale
         self._processes = []
         self.user = ORDINARY_USER if os.geteuid() == 0 else None
         self.folder = tempfile.mkdtemp(prefix="quorvex-desktop-")
@@ -60,6 +62,7 @@ class Desktop:
         """Little of the environment outside: neither its desktop nor its settings."""
         kept = ("PATH", "LANG", "LC_ALL", "LOCPATH", "TZ", "ASAN_OPTIONS", "UBSAN_OPTIONS")
         environment = {name: os.environ[name] for name in kept if name in os.environ}
+        environment["QT_SCALE_FACTOR"] = str(self.scale)
         for variable, name in (("HOME", "home"), ("XDG_RUNTIME_DIR", "runtime"), ("XDG_DATA_HOME", "data"),
                                ("XDG_CONFIG_HOME", "config"), ("XDG_CACHE_HOME", "cache"), ("TMPDIR", "tmp")):
             environment[variable] = self.make_folder(name)
@@ -143,7 +146,8 @@ class Desktop:
 
     def click(self, accessible, button=1):
         left, top, width, height = accessible.extents()
-        self.xdotool("mousemove", str(left + width // 2), str(top + height // 2), "click", str(button))
+        place = [str(self.scale * (left + width // 2)), str(self.scale * (top + height // 2))]
+        self.xdotool("mousemove", *place, "click", str(button))
 
     def close(self):
         """Ends everything that was started, the last first."""

@@ -1,0 +1,89 @@
+# SPDX-FileCopyrightText: 2026 The Quorvex developers
+# SPDX-License-Identifier: MIT
+
+"""Takes the pictures of the README from the real program. The folder for them is the one argument."""
+
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+
+from desktop import Desktop
+from session import SAMPLES, EXECUTABLE, Program
+from waiting import wait_for
+
+# Name, size of the window in pixels of the screen, scale.
+SIZES = (("", 1100, 800, 1), ("-1920x1080", 1920, 1080, 1), ("-3840x2160", 3840, 2160, 2))
+CHART_TYPES = (("bars", "Daily Bar Chart"), ("candlesticks", "Candlestick Chart"), ("line", "Line Chart"))
+
+
+class Studio:
+    """The program with three fitted cycles on a real contract, on a screen of its own."""
+
+    def __init__(self, width, height, scale, chart_type):
+        self.desktop = Desktop(width + 40, height + 80, scale)
+        folder = tempfile.mkdtemp(prefix="Quorvex-", dir=self.desktop.folder)
+        self.desktop.hand_over(folder)
+        executable = shutil.copy2(EXECUTABLE, folder)
+        for sample in os.listdir(SAMPLES):
+            self.desktop.hand_over(shutil.copy2(os.path.join(SAMPLES, sample), folder))
+        with open(os.path.join(folder, "Quorvex.INI"), "w", encoding="ascii", newline="\r\n") as settings:
+            settings.write(f"[Globals]\nChartType={chart_type}\n")
+        self.program = Program(self.desktop, executable)
+        self.resize(width, height)
+
+    def resize(self, width, height):
+        """Gives the window's client area, menu bar included, this size."""
+        identifier = self.window_number("Quorvex")
+        self.desktop.xdotool("windowsize", "--sync", identifier, str(width), str(height))
+        self.desktop.xdotool("windowmove", "--sync", identifier, "10", "40")
+
+    def window_number(self, title):
+        found = wait_for(lambda: self.desktop.xdotool("search", "--onlyvisible", "--name", f"^{title}", check=False)
+                         .stdout.split(), f"the window {title!r} on the screen")
+        return found[-1]
+
+    def analyse(self):
+        self.program.choose("File", "Open")
+        self.program.choose_file("Open Quote File", "Wheat.txt")
+        self.program.wait_for_main()
+        self.program.choose("Parameters", "Automate", "Three Cycles")
+        wait_for(lambda: self.program.cell(3, "Weight").text != "0", "three fitted cycles")
+
+    def take(self, title, path):
+        """A picture of the window alone, without the window manager's frame."""
+        subprocess.run(["import", "-window", self.window_number(title), path], env=self.desktop.environment,
+                       check=True)
+
+    def close(self):
+        self.desktop.close()
+
+
+def take_main_windows(folder):
+    for size_name, width, height, scale in SIZES:
+        for chart_name, chart_type in CHART_TYPES:
+            studio = Studio(width, height, scale, chart_type)
+            try:
+                studio.analyse()
+                studio.take("Quorvex", os.path.join(folder, f"main-{chart_name}{size_name}.png"))
+                if size_name == "" and chart_name == "bars":
+                    take_dialogs(studio, folder)
+            finally:
+                studio.close()
+
+
+def take_dialogs(studio, folder):
+    program = studio.program
+    program.choose("Correlation")
+    program.window("Quorvex - Coefficient of Correlation")
+    studio.take("Quorvex - Coefficient", os.path.join(folder, "correlation.png"))
+    program.answer("Quorvex - Coefficient of Correlation", "OK")
+    program.wait_for_main()
+    program.choose("Forecast")
+    program.window("Quorvex Forecast - [Wheat.txt]")
+    studio.take("Quorvex Forecast", os.path.join(folder, "forecast.png"))
+
+
+if __name__ == "__main__":
+    take_main_windows(os.path.abspath(sys.argv[1]))
