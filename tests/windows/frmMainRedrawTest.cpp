@@ -4,6 +4,8 @@
 #include "windows/RunningWindow.h"
 #include "windows/WindowTest.h"
 
+#include <QMenuBar>
+#include <QTimer>
 #include <functional>
 
 Q_DECLARE_METATYPE(std::function<void(quorvex::tests::RunningWindow&)>)
@@ -125,6 +127,20 @@ private Q_SLOTS:
         QVERIFY(main.Picture(1).height() > before.height());
         QCOMPARE(main.Box(1).Drawing().Width(),
                  main.Window->centralWidget()->width() * 15 * 0.97 + 120 * 0.97);
+    }
+
+    // As when the edge of the window is dragged faster than the charts are drawn.
+    void ASizeThatComesWhileTheChartsAreDrawnIsTheOneThatStays() {
+        RunningWindow main;
+        main.OpenQuotes("q060.txt");
+        TypeWeights(main, {u"1"_s, u"3"_s}); // with weights a redraw lets waiting sizes through
+        QSize const last(640, 480);
+        QTimer::singleShot(0, main.Window.get(), [&] { main.Window->resize(last); });
+        main.Window->resize(300, 400);
+        QTRY_COMPARE(main.Window->size(), last);
+        QTRY_COMPARE(main.Picture(1).size(), main.Box(1).size());
+        QCOMPARE(main.Window->menuBar()->width(), last.width());
+        QCOMPARE(main.Window->centralWidget()->width(), last.width());
     }
 
     void TheSameSizeGivesTheSamePictures() {

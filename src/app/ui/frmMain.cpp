@@ -103,6 +103,15 @@ void frmMain::RequestRedraw() {
     RedrawWhenFree();
 }
 
+void frmMain::FollowSize() {
+    if (!isBusy_ && isVisible()) {
+        LayOut();
+    }
+    isRedrawWanted_ = true;
+    QMetaObject::invokeMethod(
+        this, [this] { RedrawWhenFree(); }, Qt::QueuedConnection);
+}
+
 void frmMain::RedrawWhenFree() {
     while (isRedrawWanted_ && !isBusy_ && isVisible()) {
         isRedrawWanted_ = false;
@@ -137,7 +146,7 @@ bool frmMain::event(QEvent* event) {
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     if (watched == client_ && event->type() == QEvent::Resize) {
-        RequestRedraw();
+        FollowSize();
     }
     return QMainWindow::eventFilter(watched, event);
 }

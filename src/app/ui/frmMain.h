@@ -52,6 +52,11 @@ private:
     void RequestRedraw();
     void RedrawWhenFree();
 
+    // Puts everything into its place now and draws it anew as soon as Qt is done with the event: a redraw
+    // lets further sizes through, and the layout that is at work on this one must not go on with it after
+    // those.
+    void FollowSize();
+
     // Makes the boxes show and tell what was drawn since the last time.
     void ShowDrawings();
 
