@@ -24,8 +24,11 @@ void FileOpen(Program& program, Services& services) {
 }
 
 void FileClose(Program& program, Services& services) {
-    chart::PrepareChart(services.Boxes.Pic1, program.Quotes.WorkingCount);
-    chart::PrepareChart(services.Boxes.Pic4, program.Quotes.WorkingCount);
+    // A fault of a drawing ends it quietly; the file is closed all the same.
+    static_cast<void>(text::Trap([&] {
+        chart::PrepareChart(services.Boxes.Pic1, program.Quotes.WorkingCount);
+        chart::PrepareChart(services.Boxes.Pic4, program.Quotes.WorkingCount);
+    }));
     quotes::CloseQuoteFile(program.Quotes);
     services.Window.SetCaption(Caption(program));
 }

@@ -71,11 +71,13 @@ std::string Caption(Program const& program) {
 }
 
 chart::ChartFaults const& Redraw(Program& program, Services& services) {
-    services.Window.SetCaption(Caption(program));
-    services.Window.LayOut();
-    PrepareCharts(program, services.Boxes);
-    cycles::ReadGrid(services.Grid, program.Cycles, services.Pending);
-    program.Faults = DrawPrepared(program, services.Boxes);
+    static_cast<void>(text::Trap([&] {
+        services.Window.SetCaption(Caption(program));
+        services.Window.LayOut();
+        PrepareCharts(program, services.Boxes);
+        cycles::ReadGrid(services.Grid, program.Cycles, services.Pending);
+        program.Faults = DrawPrepared(program, services.Boxes);
+    }));
     return program.Faults;
 }
 

@@ -40,13 +40,11 @@ int main(int argc, char** argv) {
     quorvex::platform::disk::DiskFiles files;
     qt::QtLauncher launcher;
     auto const program = std::make_unique<quorvex::app::Program>();
-    qt::ProgramPlace place;
+    qt::ProgramPlace place = qt::ExecutablePlace();
     QWidget desktop; // for messages before there is a window
     qt::RunGuarded(desktop, [&] {
-        place = qt::FindProgramPlace();
-        if (place.IsNew) {
-            quorvex::app::ui::FillProgramFolder(place.Folder, files);
-        }
+        place = qt::FindProgramPlace(
+            [&](std::string const& folder) { quorvex::app::ui::FillProgramFolder(folder, files); });
         qt::EnterFolder(place.Folder);
     });
 

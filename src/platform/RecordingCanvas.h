@@ -26,7 +26,6 @@ struct DrawingOperation {
 // What of it a recording keeps.
 enum class Keep { Everything, SinceClear };
 
-// A canvas that keeps what it was asked to draw.
 // A canvas that keeps what it was asked to draw. Text has the measures of a nominal font.
 class RecordingCanvas final : public Canvas {
 public:

@@ -190,6 +190,69 @@ TEST(Redraw, SetsTheCaptionLaysOutAndPreparesBeforeItReadsTheGrid) {
                                                         "messages prepared prepared prepared prepared"}));
 }
 
+// Notes its name in a log that all boxes share, once for each stretch of drawing.
+class LoggingCanvas final : public platform::Canvas {
+public:
+    LoggingCanvas(std::string name, std::vector<std::string>& log) : name_(std::move(name)), log_(log) {}
+
+    [[nodiscard]] double Width() const override { return 7000; }
+
+    [[nodiscard]] double Height() const override { return 2500; }
+
+    [[nodiscard]] double TextWidth(std::string_view) const override { return 0; }
+
+    [[nodiscard]] double TextHeight() const override { return 0; }
+
+    void Clear() override { Note("clear"); }
+
+    void SetForeColour(platform::Colour) override {}
+
+    void Point(double, double, platform::Colour) override { Note("draw"); }
+
+    void Line(double, double, double, double, platform::Colour) override {}
+
+    void LineTo(double, double, platform::Colour) override { Note("draw"); }
+
+    // What stands on the lower edge is a tick.
+    void Rectangle(double, double y, double, double, platform::Colour, platform::Fill) override {
+        Note(y == Height() ? "ticks" : "draw");
+    }
+
+    void SetTextPosition(double, double) override {}
+
+    void SetFont(std::string_view, int, bool) override {}
+
+    void Print(std::string_view) override { Note("labels"); }
+
+private:
+    void Note(std::string const& what) {
+        std::string const note = name_ + " " + what;
+        if (log_.empty() || log_.back() != note) {
+            log_.push_back(note);
+        }
+    }
+
+    std::string name_;
+    std::vector<std::string>& log_;
+};
+
+TEST(Redraw, DrawsTheBoxesInTheirOrder) {
+    RunningProgram running;
+    running.Open("q.txt", tests::GoldenFile("quotes/q060.txt"));
+    running.TypeCycle(1, "50", "20");
+    std::vector<std::string> log;
+    LoggingCanvas one("1", log);
+    LoggingCanvas two("2", log);
+    LoggingCanvas three("3", log);
+    LoggingCanvas four("4", log);
+    Services services{running.Grid,    {one, two, three, four}, running.Dialogs, running.Files,
+                      running.Pending, running.Launcher,        running.Window};
+    Redraw(*running.Data, services);
+    EXPECT_EQ(log, (std::vector<std::string>{"1 clear", "2 clear", "3 clear", "4 clear", //
+                                             "1 clear", "1 draw", "1 labels", "2 draw", "3 draw", "4 draw",
+                                             "1 ticks", "2 ticks", "3 ticks", "4 ticks"}));
+}
+
 TEST(Redraw, TheProgramKeepsItsFaults) {
     RunningProgram running;
     running.Open("q.txt", QuoteLines(30));

@@ -12,7 +12,7 @@
 
 #include <QDir>
 #include <filesystem>
-
+#include <fstream>
 #ifdef Q_OS_UNIX
 #include "support/AsOrdinaryUser.h"
 #endif
@@ -30,17 +30,20 @@ private Q_SLOTS:
 
     void AFolderThatCanBeWrittenIsTheProgramsPlace() {
         TemporaryFolder folder;
-        auto const place = PlaceOf(folder.File("Quorvex.exe"), folder.File("own"));
+        auto const place = PlaceOf(folder.File("Quorvex.exe"), folder.File("own"), {});
         QCOMPARE(place.Folder, folder.Text());
         QCOMPARE(place.ExecutableName, std::string("Quorvex"));
-        QVERIFY(!place.IsNew);
         QCOMPARE(folder.EntryCount(), 0); // trying left nothing behind
     }
 
     void OnlyTheExtensionIsTakenOffTheExecutablesName() {
         TemporaryFolder folder;
-        QCOMPARE(PlaceOf(folder.File("Quorvex-2.0.exe"), {}).ExecutableName, std::string("Quorvex-2.0"));
-        QCOMPARE(PlaceOf(folder.File("Quorvex"), {}).ExecutableName, std::string("Quorvex"));
+        auto const nameOf = [&](char const* file) {
+            return PlaceOf(folder.File(file), {}, {}).ExecutableName;
+        };
+        QCOMPARE(nameOf("Quorvex-2.0.exe"), std::string("Quorvex-2.0"));
+        QCOMPARE(nameOf("Quorvex-2.0"), std::string("Quorvex-2.0"));
+        QCOMPARE(nameOf("QUORVEX.EXE"), std::string("QUORVEX"));
     }
 
 #ifdef Q_OS_UNIX
@@ -50,14 +53,41 @@ private Q_SLOTS:
         std::filesystem::permissions(installed.Path(), std::filesystem::perms(0555));
         std::filesystem::permissions(home.Path(), std::filesystem::perms(0777));
         AsOrdinaryUser const user;
-        auto const first = PlaceOf(installed.File("Quorvex"), home.File("data/Quorvex"));
+        int fillings = 0;
+        auto const place = [&] {
+            return PlaceOf(installed.File("Quorvex"), home.File("data/Quorvex"),
+                           [&](std::string const& folder) {
+                               ++fillings;
+                               std::ofstream(folder + "sample.txt") << "quotes";
+                           });
+        };
+        auto const first = place();
         QCOMPARE(first.Folder, home.File("data/Quorvex/"));
         QCOMPARE(first.ExecutableName, std::string("Quorvex"));
-        QVERIFY(first.IsNew);
-        QVERIFY(std::filesystem::is_directory(home.File("data/Quorvex")));
-        auto const second = PlaceOf(installed.File("Quorvex"), home.File("data/Quorvex"));
-        QCOMPARE(second.Folder, first.Folder);
-        QVERIFY(!second.IsNew);
+        QVERIFY(std::filesystem::exists(home.File("data/Quorvex/sample.txt")));
+        QCOMPARE(place().Folder, first.Folder);
+        QCOMPARE(fillings, 1);
+    }
+
+    void AFirstStartThatFailsIsTriedAgain() {
+        TemporaryFolder installed;
+        TemporaryFolder home;
+        std::filesystem::permissions(installed.Path(), std::filesystem::perms(0555));
+        std::filesystem::permissions(home.Path(), std::filesystem::perms(0777));
+        AsOrdinaryUser const user;
+        auto const place = [&](bool isFull) {
+            return PlaceOf(installed.File("Quorvex"), home.File("Quorvex"), [&](std::string const& folder) {
+                std::ofstream(folder + "first.txt") << "quotes";
+                if (isFull) {
+                    throw text::RunTimeError(text::Fault::DiskFull);
+                }
+            });
+        };
+        QVERIFY_THROWS_EXCEPTION(text::RunTimeError, static_cast<void>(place(true)));
+        QVERIFY(!std::filesystem::exists(home.File("Quorvex")));
+        QCOMPARE(place(false).Folder, home.File("Quorvex/"));
+        QVERIFY(std::filesystem::exists(home.File("Quorvex/first.txt")));
+        QCOMPARE(home.EntryCount(), 1);
     }
 
     void AFolderThatCannotBeMadeIsAFault() {
@@ -67,7 +97,8 @@ private Q_SLOTS:
         AsOrdinaryUser const user;
         QString description;
         try {
-            static_cast<void>(PlaceOf(installed.File("Quorvex"), installed.File("file/own")));
+            static_cast<void>(
+                PlaceOf(installed.File("Quorvex"), installed.File("file/own"), [](auto const&) {}));
         } catch (text::RunTimeError const& error) {
             description = ToQt(error.Description());
         }
@@ -76,7 +107,7 @@ private Q_SLOTS:
 #endif
 
     void TheRunningProgramStandsInItsOwnFolder() {
-        auto const place = platform::qt::FindProgramPlace();
+        auto const place = platform::qt::FindProgramPlace({});
         QCOMPARE(ToQt(place.Folder), QDir::toNativeSeparators(QCoreApplication::applicationDirPath() + u'/'));
         QCOMPARE(place.ExecutableName, std::string("test_ProgramPlace"));
     }

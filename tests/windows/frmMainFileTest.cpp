@@ -88,6 +88,22 @@ private Q_SLOTS:
         QCOMPARE(main.Box(1).accessibleDescription(), u"No quote file is open."_s);
     }
 
+    // Assistive technology can choose items that keys and mouse cannot reach.
+    void AnItemChosenWhileADialogIsOpenDoesNothing() {
+        RunningWindow main;
+        main.OpenQuotes("q060.txt");
+        main.Answers.Next([&main](QWidget& window) {
+            main.Item(u"mnuFileClose"_s).trigger();
+            main.Item(u"mnuFileOpen"_s).trigger();
+            QTest::keyClick(&window, Qt::Key_Escape);
+        });
+        main.Answers.NextMessage([](QWidget& window) { QTest::keyClick(&window, Qt::Key_Return); });
+        main.Choose("mnuFileSaveAs");
+        QCOMPARE(main.Answers.Shown().size(), 2); // the box and the message that no name is no good
+        QCOMPARE(main.Data->Quotes.QuoteFileName, std::string("q060.txt"));
+        QCOMPARE(main.Data->Quotes.WorkingCount, 60);
+    }
+
     void FewerThanTwentyFiveLinesAreRefused() {
         RunningWindow main;
         main.Folder.Write("few24.txt", GoldenFile("quotes/few24.txt"));

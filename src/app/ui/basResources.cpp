@@ -23,9 +23,8 @@ void FillProgramFolder(std::string const& folder, platform::Files& files) {
     QDir const samples(QStringLiteral(":/samples"));
     for (QString const& name : samples.entryList(QDir::Files)) {
         QFile sample(samples.filePath(name));
-        if (sample.open(QIODevice::ReadOnly)) {
-            files.Replace(folder + platform::qt::FromQt(name), sample.readAll().toStdString());
-        }
+        sample.open(QIODevice::ReadOnly); // it is a part of the executable
+        files.Replace(folder + platform::qt::FromQt(name), sample.readAll().toStdString());
     }
 }
 

@@ -12,6 +12,7 @@
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtTexts.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QScreen>
@@ -66,7 +67,11 @@ frmMain::frmMain(Program& program, std::string_view programFolder, platform::Pro
     StartUp(program, *grid_, profile, programFolder);
 }
 
-frmMain::~frmMain() = default;
+frmMain::~frmMain() {
+    for (platform::qt::PictureBox* box : boxes_) {
+        box->SetReadings(nullptr); // which go before the boxes do
+    }
+}
 
 void frmMain::AddBoxes() {
     for (std::size_t index = 0; index < BoxCount; ++index) {
@@ -87,15 +92,26 @@ ChartBoxes frmMain::Boxes() {
 
 void frmMain::Run(MenuRow const& row) {
     platform::qt::CloseMenus();
-    RunUndisturbed([&] { row.Run(program_, *services_); });
+    // Keys and mouse do not come through while a dialog is open or a command runs; assistive technology does.
+    if (!isBusy_ && QApplication::activeModalWidget() == nullptr) {
+        RunUndisturbed([&] { row.Run(program_, *services_); });
+    }
 }
 
 void frmMain::RunUndisturbed(std::function<void()> const& routine) {
-    bool const wasBusy = std::exchange(isBusy_, true);
-    platform::qt::RunGuarded(*this, routine);
-    isBusy_ = wasBusy;
-    ShowDrawings();
+    {
+        auto const busy = BeBusy(true);
+        platform::qt::RunGuarded(*this, [&] {
+            auto const shown = qScopeGuard([this] { ShowDrawings(); });
+            routine();
+        });
+    }
     RedrawWhenFree();
+}
+
+frmMain::BusyMark frmMain::BeBusy(bool isBusy) {
+    bool const wasBusy = std::exchange(isBusy_, isBusy);
+    return BusyMark([this, wasBusy] { isBusy_ = wasBusy; });
 }
 
 void frmMain::RequestRedraw() {
@@ -115,13 +131,20 @@ void frmMain::FollowSize() {
 void frmMain::RedrawWhenFree() {
     while (isRedrawWanted_ && !isBusy_ && isVisible()) {
         isRedrawWanted_ = false;
-        isBusy_ = true;
-        // Messages that are worked off half-way must not show the boxes half drawn.
-        client_->setUpdatesEnabled(false);
-        platform::qt::RunGuarded(*this, [&] { Redraw(program_, *services_); });
-        ShowDrawings();
-        client_->setUpdatesEnabled(true);
-        isBusy_ = false;
+        auto const busy = BeBusy(true);
+        // The boxes have their new places before they have their new pictures.
+        SetBoxUpdates(false);
+        auto const updates = qScopeGuard([this] { SetBoxUpdates(true); });
+        isBroken_ = !platform::qt::RunGuarded(*this, !isBroken_, [&] {
+            Redraw(program_, *services_);
+            ShowDrawings();
+        });
+    }
+}
+
+void frmMain::SetBoxUpdates(bool isEnabled) {
+    for (platform::qt::PictureBox* box : boxes_) {
+        box->setUpdatesEnabled(isEnabled);
     }
 }
 
@@ -176,7 +199,7 @@ void frmMain::LayOut() {
 void frmMain::Open(platform::SecondaryWindow window) {
     ShowDrawings();
     // The window stays open as long as the user likes; meanwhile this one may change its size.
-    bool const wasBusy = std::exchange(isBusy_, false);
+    auto const free = BeBusy(false);
     switch (window) {
     case platform::SecondaryWindow::Forecast:
         if (forecast_ == nullptr) {
@@ -186,7 +209,6 @@ void frmMain::Open(platform::SecondaryWindow window) {
         forecast_->RunModal();
         break;
     }
-    isBusy_ = wasBusy;
 }
 
 void frmMain::End() {

@@ -13,6 +13,7 @@
 #include "platform/qt/QtPendingMessages.h"
 
 #include <QMainWindow>
+#include <QScopeGuard>
 #include <array>
 #include <functional>
 #include <memory>
@@ -46,6 +47,11 @@ protected:
 private:
     static constexpr std::size_t BoxCount = 4;
 
+    using BusyMark = QScopeGuard<std::function<void()>>;
+
+    // Until the mark goes, redraws wait, or do not.
+    [[nodiscard]] BusyMark BeBusy(bool isBusy);
+
     void AddBoxes();
 
     // Draws everything anew now or, while a command or another redraw is running, after it.
@@ -56,6 +62,8 @@ private:
     // lets further sizes through, and the layout that is at work on this one must not go on with it after
     // those.
     void FollowSize();
+
+    void SetBoxUpdates(bool isEnabled);
 
     // Makes the boxes show and tell what was drawn since the last time.
     void ShowDrawings();
@@ -83,6 +91,7 @@ private:
     cycles::ui::frmForecast* forecast_ = nullptr; // belongs to this window
     std::unique_ptr<Services> services_;
     bool isBusy_ = false;
+    bool isBroken_ = false; // the last redraw ended with an exception, which was shown
     bool isRedrawWanted_ = false;
 };
 

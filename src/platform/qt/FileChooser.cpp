@@ -32,14 +32,15 @@ std::optional<std::string> FileChooser::Choose(std::span<std::string const> name
     if (exec() != Accepted) {
         return std::nullopt;
     }
-    // By its row: a name that is no good Unicode comes back as the bytes that it is.
-    return names[static_cast<std::size_t>(ui_->lstFiles->currentRow())];
+    return ui_->lstFiles->currentItem()->data(Qt::UserRole).toByteArray().toStdString();
 }
 
 void FileChooser::ListNames(std::span<std::string const> names) {
     ui_->lstFiles->clear();
     for (std::string const& name : names) {
-        ui_->lstFiles->addItem(ToQt(name));
+        auto* item = new QListWidgetItem(ToQt(name), ui_->lstFiles);
+        // A name that is no good Unicode comes back as the bytes that it is.
+        item->setData(Qt::UserRole, QByteArray::fromStdString(name));
     }
     // Set to none: left alone, the list would choose its first name when it gets the focus.
     ui_->lstFiles->setCurrentIndex(QModelIndex());
@@ -49,7 +50,6 @@ void FileChooser::ListNames(std::span<std::string const> names) {
 void FileChooser::ShowChosenName() {
     QListWidgetItem const* item = ui_->lstFiles->currentItem();
     ui_->lblFileName->setText(item == nullptr ? QString() : item->text());
-    ui_->lblFileName->setToolTip(ui_->lblFileName->text());
     ui_->buttons->button(QDialogButtonBox::Ok)->setEnabled(item != nullptr);
 }
 

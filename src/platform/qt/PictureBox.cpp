@@ -179,7 +179,7 @@ void PictureBox::focusOutEvent(QFocusEvent* event) {
 }
 
 void PictureBox::contextMenuEvent(QContextMenuEvent* event) {
-    QMenu menu;
+    QMenu menu(this);
     menu.setObjectName(QStringLiteral("mnuPicture"));
     QAction* copy = menu.addAction(QStringLiteral("&Copy Image"));
     copy->setObjectName(QStringLiteral("mnuPictureCopy"));

@@ -27,33 +27,55 @@ std::string FolderText(QString const& folder) {
     return text::EndWithSeparator(FromQt(QDir::toNativeSeparators(folder)));
 }
 
-} // namespace
-
-ProgramPlace FindProgramPlace() {
-    QString const dataFolder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    return PlaceOf(FromQt(QCoreApplication::applicationFilePath()),
-                   FromQt(dataFolder + QStringLiteral("/Quorvex")));
+ProgramPlace PlaceOf(QFileInfo const& executable) {
+    bool const hasExtension = executable.suffix().compare(QStringLiteral("exe"), Qt::CaseInsensitive) == 0;
+    return {FolderText(executable.absolutePath()),
+            FromQt(hasExtension ? executable.completeBaseName() : executable.fileName())};
 }
 
-ProgramPlace PlaceOf(std::string const& executablePath, std::string const& ownFolder) {
-    QFileInfo const executable(ToQt(executablePath));
-    ProgramPlace place;
-    place.ExecutableName = FromQt(executable.completeBaseName());
-    if (CanBeWritten(executable.absolutePath())) {
-        place.Folder = FolderText(executable.absolutePath());
-        return place;
-    }
-    QDir const own(ToQt(ownFolder));
-    place.IsNew = !own.exists();
-    if (place.IsNew && !own.mkpath(QStringLiteral("."))) {
+void Require(bool isDone) {
+    if (!isDone) {
         throw text::RunTimeError(text::Fault::PathNotFound);
     }
-    place.Folder = FolderText(own.absolutePath());
+}
+
+// Under another name until it is complete, so that a start that fails half-way is no first start.
+void MakeFolder(QString const& folder, FillFolder const& fill) {
+    QDir staged(folder + QStringLiteral(".new"));
+    Require(!staged.exists() || staged.removeRecursively());
+    Require(staged.mkpath(QStringLiteral(".")));
+    fill(FolderText(staged.absolutePath()));
+    Require(QDir().rename(staged.absolutePath(), folder));
+}
+
+} // namespace
+
+ProgramPlace ExecutablePlace() {
+    return PlaceOf(QFileInfo(QCoreApplication::applicationFilePath()));
+}
+
+ProgramPlace FindProgramPlace(FillFolder const& fill) {
+    QString const dataFolder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return PlaceOf(FromQt(QCoreApplication::applicationFilePath()),
+                   FromQt(dataFolder + QStringLiteral("/Quorvex")), fill);
+}
+
+ProgramPlace PlaceOf(std::string const& executablePath, std::string const& ownFolder,
+                     FillFolder const& fill) {
+    QFileInfo const executable(ToQt(executablePath));
+    ProgramPlace place = PlaceOf(executable);
+    if (!CanBeWritten(executable.absolutePath())) {
+        QDir const own(ToQt(ownFolder));
+        if (!own.exists()) {
+            MakeFolder(own.absolutePath(), fill);
+        }
+        place.Folder = FolderText(own.absolutePath());
+    }
     return place;
 }
 
 void EnterFolder(std::string const& folder) {
-    QDir::setCurrent(ToQt(folder));
+    Require(QDir::setCurrent(ToQt(folder)));
 }
 
 } // namespace quorvex::platform::qt

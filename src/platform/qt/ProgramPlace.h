@@ -3,26 +3,34 @@
 
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace quorvex::platform::qt {
 
 // Where the running program keeps its files, ending with a separator, and what its executable is called
-// without folder and extension.
+// without folder and ".exe".
 struct ProgramPlace {
     std::string Folder;
     std::string ExecutableName;
-    bool IsNew = false; // the folder was made just now and is empty
 };
 
-// The folder of the executable when it can be written; otherwise a folder of the user's own, which is made
-// when it is missing. Raises "Path not found" when it cannot be made.
-[[nodiscard]] ProgramPlace FindProgramPlace();
+// Puts what a new folder of the user's own begins with into it.
+using FillFolder = std::function<void(std::string const& folder)>;
+
+// The executable's own folder.
+[[nodiscard]] ProgramPlace ExecutablePlace();
+
+// The folder of the executable when it can be written; otherwise a folder of the user's own. When that is
+// missing it is made and filled: it is there as a whole or not at all. Raises "Path not found" when it cannot
+// be made, and the faults of filling it.
+[[nodiscard]] ProgramPlace FindProgramPlace(FillFolder const& fill);
 
 // The same for an executable of this path and this folder of the user's own.
-[[nodiscard]] ProgramPlace PlaceOf(std::string const& executablePath, std::string const& ownFolder);
+[[nodiscard]] ProgramPlace PlaceOf(std::string const& executablePath, std::string const& ownFolder,
+                                   FillFolder const& fill);
 
-// Makes the folder the current one.
+// Makes the folder the current one. Raises "Path not found" when it cannot be entered.
 void EnterFolder(std::string const& folder);
 
 } // namespace quorvex::platform::qt

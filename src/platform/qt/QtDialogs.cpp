@@ -85,11 +85,11 @@ std::string AskInputBox(QWidget& window, Question const& question) {
     return box.exec() == QDialog::Accepted ? FromQt(box.textValue()) : std::string();
 }
 
-void RunGuarded(QWidget& window, std::function<void()> const& routine) {
+bool RunGuarded(QWidget& window, bool isShown, std::function<void()> const& routine) {
     Message message;
     try {
         routine();
-        return;
+        return true;
     } catch (text::RunTimeError const& error) {
         message = ErrorMessage(error);
     } catch (std::bad_alloc const&) {
@@ -97,7 +97,14 @@ void RunGuarded(QWidget& window, std::function<void()> const& routine) {
     } catch (std::exception const& error) {
         message = {error.what(), std::string(ApplicationTitle), Icon::Critical};
     }
-    ShowMessageBox(window, message);
+    if (isShown) {
+        ShowMessageBox(window, message);
+    }
+    return false;
+}
+
+bool RunGuarded(QWidget& window, std::function<void()> const& routine) {
+    return RunGuarded(window, true, routine);
 }
 
 void CloseMenus() {
@@ -113,7 +120,7 @@ void SetProgramFont() {
 }
 
 void CentreForm(QWidget& window) {
-    QRect const screen = window.screen()->availableGeometry();
+    QRect const screen = window.screen()->geometry();
     QSize const size = window.frameGeometry().size();
     window.move(screen.left() + (screen.width() - size.width()) / 2,
                 screen.top() + (screen.height() - size.height()) / 2);

@@ -16,8 +16,10 @@ Answer ShowMessageBox(QWidget& window, Message const& message);
 // An input box, likewise; the empty text when it was cancelled.
 [[nodiscard]] std::string AskInputBox(QWidget& window, Question const& question);
 
-// Runs the routine so that no exception reaches Qt's event loop: what ended it is shown.
-void RunGuarded(QWidget& window, std::function<void()> const& routine);
+// Runs the routine so that no exception reaches Qt's event loop: what ended it is shown, if that is wanted.
+// Returns whether it ran to its end.
+bool RunGuarded(QWidget& window, bool isShown, std::function<void()> const& routine);
+bool RunGuarded(QWidget& window, std::function<void()> const& routine);
 
 // Closes every menu that is open. An item that assistive technology chooses leaves its menu open.
 void CloseMenus();

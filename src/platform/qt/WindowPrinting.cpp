@@ -61,7 +61,7 @@ std::string NewPdfPath(std::string_view folder, std::string_view documentName) {
 void PrintWindow(QWidget& window, std::string_view documentName, std::string_view folder, Dialogs& dialogs) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(ToQt(documentName));
-    if (!QPrinterInfo::defaultPrinter().isNull()) {
+    if (!QPrinterInfo::availablePrinterNames().isEmpty()) {
         RenderOnPage(window, printer);
         return;
     }
