@@ -9,12 +9,15 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QRegularExpression>
 #include <QScopeGuard>
 #include <QThread>
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -50,12 +53,37 @@ bool IsRare(QAction const& command) {
 
 // One of the commands, and seldom a rare one.
 QAction* PickCommand(QList<QAction*> const& commands, Dice& dice) {
-    constexpr int Tries = 3;
-    QAction* command = dice.Pick(commands);
-    for (int again = 0; again < Tries && IsRare(*command); ++again) {
-        command = dice.Pick(commands);
-    }
-    return command;
+    QAction* const command = dice.Pick(commands);
+    return IsRare(*command) ? dice.Pick(commands) : command;
+}
+
+// Whether the analysis has something to work on and with.
+bool HasQuotes(QWidget const& main) {
+    return main.windowTitle().contains(QStringLiteral(" - ["));
+}
+
+bool HasCycle(QWidget const& main) {
+    static QRegularExpression const weights(QStringLiteral("^Text1_[1-9]"));
+    auto const cells = main.findChildren<QLineEdit*>(weights);
+    return std::ranges::any_of(cells, [](auto const* cell) { return cell->text().toDouble() != 0; });
+}
+
+// What has to come before most of the other commands can do anything: none if all of that is there.
+QRegularExpression NextStep(QWidget const& main) {
+    QString const step = !HasQuotes(main)  ? QStringLiteral("^mnuFileOpen$")
+                         : !HasCycle(main) ? QStringLiteral("^mnuParameters(Automate[123]|Open)$")
+                                           : QStringLiteral(".");
+    return QRegularExpression(step);
+}
+
+QSize PickSize(Dice& dice) {
+    // Large pictures take long; one size in fifty is of several screens.
+    QSize const largest = dice.OneIn(50) ? QSize(4000, 3000) : QSize(1400, 1000);
+    return {dice.Between(0, largest.width()), dice.Between(0, largest.height())};
+}
+
+QString SizeText(QWidget const& window, QSize size) {
+    return QStringLiteral("%1 to %2x%3").arg(NameOf(window)).arg(size.width()).arg(size.height());
 }
 
 QString PlaceText(Spot const& spot) {
@@ -84,7 +112,8 @@ void RandomUser::Step() {
     next_.start(0);
     int const level = QThread::currentThread()->loopLevel();
     if (level <= busyLevel_) {
-        return; // a command works off what is waiting, but for keys and mouse
+        Disturb();
+        return;
     }
     auto const restore =
         qScopeGuard([this, before = std::exchange(busyLevel_, level)] { busyLevel_ = before; });
@@ -95,7 +124,23 @@ void RandomUser::Step() {
     }
 }
 
+// A command works off what is waiting, but for keys and mouse: only the desktop gets through to the window.
+void RandomUser::Disturb() {
+    if (busyLevel_ == 0 || IsWaiting() || journal_.Steps() >= actions_) {
+        return;
+    }
+    if (dice_.OneIn(100)) {
+        journal_.Note("close while busy", NameOf(*main_));
+        main_->close();
+    } else if (dice_.OneIn(3)) {
+        QSize const size = PickSize(dice_);
+        journal_.Note("resize while busy", SizeText(*main_, size));
+        main_->resize(size);
+    }
+}
+
 void RandomUser::Act() {
+    CountState();
     QWidget& front = FrontWindow(*main_);
     waitingActions_ = IsWaiting() ? waitingActions_ + 1 : 0;
     // As the desktop does when a dialog closes.
@@ -113,6 +158,15 @@ void RandomUser::Act() {
         AnswerDialog(front);
     } else {
         ActIn(front);
+    }
+}
+
+void RandomUser::CountState() {
+    if (HasQuotes(*main_)) {
+        journal_.Count("with quotes");
+        if (HasCycle(*main_)) {
+            journal_.Count("with quotes and a cycle");
+        }
     }
 }
 
@@ -203,7 +257,13 @@ void RandomUser::ActInPictureDialog(QFileDialog& dialog) {
 }
 
 void RandomUser::RunCommand(QWidget& window) {
-    auto const commands = CommandsOf(window);
+    auto commands = CommandsOf(window);
+    if (&window == main_ && dice_.OneIn(3)) {
+        auto const isOther = [next = NextStep(window)](QAction const* command) {
+            return !next.match(command->objectName()).hasMatch();
+        };
+        commands.removeIf(isOther);
+    }
     if (commands.isEmpty()) {
         PressSomeKey(window);
         return;
@@ -260,7 +320,12 @@ void RandomUser::TypeSomething(QWidget& window) {
     QLineEdit* const edit = dice_.Pick(edits);
     journal_.Note("type", NameOf(*edit) + u' ' + text);
     edit->setFocus(Qt::MouseFocusReason);
-    TypeText(*edit, text);
+    if (dice_.OneIn(6)) {
+        QApplication::clipboard()->setText(text);
+        PressKey(*edit, Qt::Key_V, Qt::ControlModifier);
+    } else {
+        TypeText(*edit, text);
+    }
 }
 
 void RandomUser::ScrollSomewhere(QWidget& window) {
@@ -284,17 +349,19 @@ void RandomUser::RestSomewhere(QWidget& window) {
 }
 
 void RandomUser::ChangeSize(QWidget& window) {
-    // Large pictures take long; one size in fifty is of several screens.
-    QSize const largest = dice_.OneIn(50) ? QSize(4000, 3000) : QSize(1400, 1000);
-    QSize const size(dice_.Between(0, largest.width()), dice_.Between(0, largest.height()));
-    journal_.Note("resize",
-                  QStringLiteral("%1 to %2x%3").arg(NameOf(window)).arg(size.width()).arg(size.height()));
+    QSize const size = PickSize(dice_);
+    journal_.Note("resize", SizeText(window, size));
     switch (dice_.Below(16)) {
     case 0:
         window.showMaximized();
         break;
     case 1:
         window.showNormal();
+        break;
+    case 2:
+        if (!IsWaiting() && dice_.OneIn(4)) {
+            window.close();
+        }
         break;
     default:
         window.resize(size);
@@ -315,7 +382,8 @@ void RandomUser::AnswerDialog(QWidget& dialog) {
         TypeFileName(dialog);
         return;
     }
-    auto const buttons = dialog.findChildren<QAbstractButton*>();
+    auto buttons = dialog.findChildren<QAbstractButton*>();
+    buttons.removeIf([](QAbstractButton const* button) { return !button->isVisible(); });
     if (buttons.isEmpty()) {
         EscapeFrom(dialog);
         return;

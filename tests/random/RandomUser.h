@@ -31,7 +31,9 @@ public:
 
 private:
     void Step();
+    void Disturb();
     void Act();
+    void CountState();
     void Finish();
     void EscapeFrom(QWidget& window);
 
@@ -48,7 +50,6 @@ private:
     void OpenContextMenu(QWidget& window);
     void RestSomewhere(QWidget& window);
     void ChangeSize(QWidget& window);
-    void ActivateMain();
     void AnswerDialog(QWidget& dialog);
     void TypeFileName(QWidget& dialog);
 
