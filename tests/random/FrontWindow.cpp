@@ -33,7 +33,7 @@ QList<QWidget*> VisibleWidgets(QWidget& window) {
 
 Spot PickSpot(QWidget& window, Dice& dice) {
     auto const placeIn = [&dice](QWidget const& widget) {
-        return QPoint(dice.Below(std::max(1, widget.width())), dice.Below(std::max(1, widget.height())));
+        return QPoint{dice.Below(std::max(1, widget.width())), dice.Below(std::max(1, widget.height()))};
     };
     if (dice.OneIn(2)) {
         QWidget* const widget = dice.Pick(VisibleWidgets(window));

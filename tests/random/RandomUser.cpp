@@ -3,6 +3,7 @@
 
 #include "random/RandomUser.h"
 
+#include "random/Choices.h"
 #include "random/FrontWindow.h"
 #include "random/Hands.h"
 #include "random/Texts.h"
@@ -17,7 +18,6 @@
 #include <QRegularExpression>
 #include <QScopeGuard>
 #include <QThread>
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -27,60 +27,6 @@ namespace {
 
 // So many actions something may stay in front of the main window.
 constexpr int Patience = 30;
-
-constexpr auto Keys = std::to_array<Qt::Key>({
-    Qt::Key_Tab,  Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Enter,     Qt::Key_Escape, Qt::Key_Space,
-    Qt::Key_Left, Qt::Key_Right,   Qt::Key_Up,     Qt::Key_Down,      Qt::Key_PageUp, Qt::Key_PageDown,
-    Qt::Key_Home, Qt::Key_End,     Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Insert, Qt::Key_Menu,
-    Qt::Key_F1,   Qt::Key_F5,      Qt::Key_F10,    Qt::Key_Alt,       Qt::Key_Minus,  Qt::Key_0,
-    Qt::Key_5,    Qt::Key_9,       Qt::Key_A,      Qt::Key_C,         Qt::Key_F,      Qt::Key_O,
-    Qt::Key_P,    Qt::Key_R,       Qt::Key_V,      Qt::Key_X,         Qt::Key_Y,      Qt::Key_Z,
-});
-
-constexpr auto Modifiers =
-    std::to_array<Qt::KeyboardModifier>({Qt::NoModifier, Qt::NoModifier, Qt::NoModifier, Qt::NoModifier,
-                                         Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier});
-
-constexpr auto Buttons = std::to_array<Qt::MouseButton>(
-    {Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MiddleButton});
-
-// Ending takes the quotes away and printing leaves a file behind.
-bool IsRare(QAction const& command) {
-    return command.objectName() == QStringLiteral("mnuFileExit") ||
-           command.objectName() == QStringLiteral("mnuFileClose") ||
-           command.objectName() == QStringLiteral("mnuFilePrint");
-}
-
-// One of the commands, and seldom a rare one.
-QAction* PickCommand(QList<QAction*> const& commands, Dice& dice) {
-    QAction* const command = dice.Pick(commands);
-    return IsRare(*command) ? dice.Pick(commands) : command;
-}
-
-// Whether the analysis has something to work on and with.
-bool HasQuotes(QWidget const& main) {
-    return main.windowTitle().contains(QStringLiteral(" - ["));
-}
-
-bool HasCycle(QWidget const& main) {
-    static QRegularExpression const weights(QStringLiteral("^Text1_[1-9]"));
-    auto const cells = main.findChildren<QLineEdit*>(weights);
-    return std::ranges::any_of(cells, [](auto const* cell) { return cell->text().toDouble() != 0; });
-}
-
-// What has to come before most of the other commands can do anything: none if all of that is there.
-QRegularExpression NextStep(QWidget const& main) {
-    QString const step = !HasQuotes(main)  ? QStringLiteral("^mnuFileOpen$")
-                         : !HasCycle(main) ? QStringLiteral("^mnuParameters(Automate[123]|Open)$")
-                                           : QStringLiteral(".");
-    return QRegularExpression(step);
-}
-
-QSize PickSize(Dice& dice) {
-    // Large pictures take long; one size in fifty is of several screens.
-    QSize const largest = dice.OneIn(50) ? QSize(4000, 3000) : QSize(1400, 1000);
-    return {dice.Between(0, largest.width()), dice.Between(0, largest.height())};
-}
 
 QString SizeText(QWidget const& window, QSize size) {
     return QStringLiteral("%1 to %2x%3").arg(NameOf(window)).arg(size.width()).arg(size.height());
@@ -281,20 +227,20 @@ void RandomUser::ClickSomewhere(QWidget& window) {
         DoubleClick(spot);
     } else {
         journal_.Note("click", PlaceText(spot));
-        PressAndRelease(spot, {dice_.Pick(Buttons), dice_.Pick(Modifiers)});
+        PressAndRelease(spot, {PickButton(dice_), PickModifiers(dice_)});
     }
 }
 
 void RandomUser::DragSomewhere(QWidget& window) {
     Spot const spot = PickSpot(window, dice_);
-    QPoint const to(dice_.Between(-50, window.width()), dice_.Between(-50, window.height()));
+    QPoint const to{dice_.Between(-50, window.width()), dice_.Between(-50, window.height())};
     journal_.Note("drag", PlaceText(spot));
     Drag(spot, to);
 }
 
 void RandomUser::PressSomeKey(QWidget& window) {
-    Qt::Key const key = dice_.Pick(Keys);
-    Qt::KeyboardModifiers const modifiers = dice_.Pick(Modifiers);
+    Qt::Key const key = PickKey(dice_);
+    Qt::KeyboardModifiers const modifiers = PickModifiers(dice_);
     QWidget& receiver = KeyReceiver(window);
     journal_.Note("key", QStringLiteral("%1+%2 in %3")
                              .arg(modifiers.toInt(), 0, 16)
@@ -331,7 +277,7 @@ void RandomUser::TypeSomething(QWidget& window) {
 void RandomUser::ScrollSomewhere(QWidget& window) {
     constexpr int Step = 15;
     Spot const spot = PickSpot(window, dice_);
-    QPoint const degrees(dice_.OneIn(4) ? Step : 0, dice_.Between(-8, 8) * Step);
+    QPoint const degrees{dice_.OneIn(4) ? Step : 0, dice_.Between(-8, 8) * Step};
     journal_.Note("wheel", PlaceText(spot));
     Scroll(spot, degrees);
 }

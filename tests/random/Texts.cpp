@@ -65,7 +65,7 @@ constexpr auto FileNames = std::to_array<char16_t const*>({
 QString PickText(Dice& dice) {
     constexpr int LongLength = 300;
     if (dice.OneIn(40)) {
-        return QString(LongLength, u'9');
+        return QStringLiteral("9").repeated(LongLength);
     }
     if (dice.OneIn(2)) {
         return QString::number(dice.Between(-10, 120)); // most of these are good
