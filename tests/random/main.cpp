@@ -38,12 +38,10 @@ struct Options {
     bool IsTraced = false;
 };
 
-template <class Number>
-Number Require(Number number, bool isValid) {
-    if (!isValid) {
+void Require(bool isNumber) {
+    if (!isNumber) {
         throw std::invalid_argument("--seed and --actions want whole numbers");
     }
-    return number;
 }
 
 Options ReadOptions(QStringList const& arguments) {
@@ -57,8 +55,10 @@ Options ReadOptions(QStringList const& arguments) {
     parser.process(arguments);
     bool isValid = false;
     Options options;
-    options.Seed = Require(parser.value(seed).toULongLong(&isValid), isValid);
-    options.Actions = Require(parser.value(actions).toInt(&isValid), isValid);
+    options.Seed = parser.value(seed).toULongLong(&isValid);
+    Require(isValid);
+    options.Actions = parser.value(actions).toInt(&isValid);
+    Require(isValid);
     options.IsTraced = parser.isSet(trace);
     return options;
 }
