@@ -10,8 +10,10 @@
 #include "app/ui/basResources.h"
 #include "app/ui/frmMain.h"
 #include "platform/disk/DiskFiles.h"
+#include "platform/disk/DiskProfile.h"
 #include "platform/fake/RecordingWindow.h"
 #include "platform/qt/ProgramPlace.h"
+#include "prefs/basProfiles.h"
 #include "random/Journal.h"
 #include "random/RandomUser.h"
 #include "random/Watchdog.h"
@@ -112,7 +114,9 @@ void UseWindows(Surroundings const& surroundings, platform::Files& files, Random
     platform::fake::RecordingLauncher launcher;
     while (!user.IsDone()) {
         auto const program = std::make_unique<app::Program>();
-        app::ui::frmMain window(*program, surroundings.ProgramFolder(), files, launcher);
+        platform::disk::DiskProfile const profile(
+            prefs::ProfileFileName(surroundings.ProgramFolder(), "Quorvex"), files);
+        app::ui::frmMain window(*program, surroundings.ProgramFolder(), profile, files, launcher);
         window.show();
         user.Use(window);
         QApplication::exec();
