@@ -3,15 +3,13 @@
 
 #include "cli/Chart.h"
 
-#include "app/layout/basLayout.h"
 #include "cli/AnalysisSession.h"
 #include "cli/ChartJson.h"
+#include "cli/ChartSheet.h"
 #include "cli/StandardStreams.h"
-#include "platform/RecordingCanvas.h"
 #include "platform/basMessages.h"
 #include "text/basTexts.h"
 
-#include <array>
 #include <charconv>
 #include <memory>
 #include <string>
@@ -21,14 +19,6 @@
 namespace quorvex::cli {
 
 namespace {
-
-// Twips to the pixel.
-constexpr double PixelSize = 15;
-
-struct WindowSize {
-    double Width = 1100 * PixelSize;
-    double Height = 800 * PixelSize;
-};
 
 struct ChartOptions {
     AnalysisOptions Analysis;
@@ -46,10 +36,6 @@ double TakeTwips(std::string_view& text) {
     return good ? twips : 0;
 }
 
-std::array<app::layout::Rectangle, 4> ChartPlaces(WindowSize const& size) {
-    return app::layout::LayoutMainWindow(size.Width, size.Height, app::layout::IconStripHeight).Charts;
-}
-
 // Returns whether the text is a width and a height joined by an x, large enough for the charts.
 bool ReadSize(std::string_view text, WindowSize& size) {
     size.Width = TakeTwips(text);
@@ -58,7 +44,7 @@ bool ReadSize(std::string_view text, WindowSize& size) {
     }
     text.remove_prefix(1);
     size.Height = TakeTwips(text);
-    return text.empty() && ChartPlaces(size).back().Height > 0;
+    return text.empty() && size.HasCharts();
 }
 
 CLI::Validator IsSize() {
@@ -69,58 +55,71 @@ CLI::Validator IsSize() {
             ""};
 }
 
-CLI::Validator IsChartFile() {
-    return {[](std::string const& text) {
-                bool const good = text == "-" || text::UpperCase(text).ends_with(".JSON");
-                return good ? std::string() : text + " does not end with .json";
+CLI::Validator IsChartFile(bool hasPictures) {
+    return {[hasPictures](std::string const& text) -> std::string {
+                if (text == "-" || text::UpperCase(text).ends_with(".JSON")) {
+                    return {};
+                }
+                if (!platform::PictureKindOf(text)) {
+                    return text + " does not end with .png, .svg, .pdf or .json";
+                }
+                return hasPictures ? "" : text + " is a picture, and this program was built without Qt";
             },
             ""};
 }
 
-platform::RecordingCanvas BoxOf(app::layout::Rectangle const& place) {
-    return {place.Width, place.Height};
+bool WriteChart(std::string const& path, ChartSheet const& sheet, platform::PictureEncoder* encoder,
+                AnalysisSession& session) {
+    if (path == "-") {
+        return Print(ChartJson(sheet.Drawings()));
+    }
+    return platform::RunReported(session.Dialogs(), [&] {
+        auto const kind = platform::PictureKindOf(path);
+        session.Files().Replace(path, kind ? sheet.Encode(*encoder, *kind) : ChartJson(sheet.Drawings()));
+    });
 }
 
-bool WriteChart(std::string const& path, std::string const& charts, AnalysisSession& session) {
-    return path == "-"
-               ? Print(charts)
-               : platform::RunReported(session.Dialogs(), [&] { session.Files().Replace(path, charts); });
+// Raises the fault of the command line that asks for a picture larger than there can be.
+void RequirePicture(ChartSheet const& sheet, ChartOptions const& options) {
+    auto const kind = platform::PictureKindOf(options.OutputPath);
+    std::string const refusal = kind ? sheet.RefusalOf(*kind) : "";
+    if (!refusal.empty()) {
+        throw CLI::ValidationError("--size", options.Size + " is " + refusal);
+    }
 }
 
-ExitStatus Chart(ChartOptions const& options) {
+ExitStatus Chart(ChartOptions const& options, platform::PictureEncoder* encoder) {
     WindowSize size;
     if (!options.Size.empty()) {
         ReadSize(options.Size, size);
     }
-    auto const places = ChartPlaces(size);
+    ChartSheet sheet(size);
+    RequirePicture(sheet, options);
     AnalysisSession session(options.Analysis);
     if (!session.Analyse()) {
         return ExitStatus::Refused;
     }
-    auto pic1 = BoxOf(places[0]);
-    auto pic2 = BoxOf(places[1]);
-    auto pic3 = BoxOf(places[2]);
-    auto pic4 = BoxOf(places[3]);
-    session.DrawCharts({pic1, pic2, pic3, pic4});
-    return session.Status(WriteChart(options.OutputPath, ChartJson({&pic1, &pic2, &pic3, &pic4}), session));
+    session.DrawCharts(sheet.Boxes());
+    return session.Status(WriteChart(options.OutputPath, sheet, encoder, session));
 }
 
 } // namespace
 
-void AddChart(CLI::App& app, ExitStatus& status) {
+void AddChart(CLI::App& app, platform::PictureEncoder* encoder, ExitStatus& status) {
     auto const options = std::make_shared<ChartOptions>();
-    CLI::App* command = app.add_subcommand("chart", "Write the drawing operations of the four charts");
+    CLI::App* command = app.add_subcommand("chart", "Draw the four charts into a file");
+    bool const hasPictures = encoder != nullptr;
     AddAnalysisOptions(*command, options->Analysis);
     command
         ->add_option("--size", options->Size,
                      "Outer size of the window in twips, 15 to the pixel [16500x12000]")
         ->type_name("WxH")
         ->check(IsSize());
-    command->add_option("-o", options->OutputPath, "File to write, - for standard output")
-        ->type_name("FILE.json")
+    command->add_option("-o", options->OutputPath, "File to write, - for JSON on standard output")
+        ->type_name(hasPictures ? "FILE.png|.svg|.pdf|.json" : "FILE.json")
         ->required()
-        ->check(IsChartFile());
-    command->callback([options, &status] { status = Chart(*options); });
+        ->check(IsChartFile(hasPictures));
+    command->callback([options, encoder, &status] { status = Chart(*options, encoder); });
 }
 
 } // namespace quorvex::cli

@@ -11,12 +11,29 @@
 #include "cli/SubCommand.h"
 #include "platform/disk/HostArguments.h"
 #include "platform/disk/HostConsole.h"
+#ifdef QUORVEX_PICTURES
+#include "platform/qt/QtPictureEncoder.h"
+#endif
 
 #include <CLI/CLI.hpp>
 
 #include <exception>
+#include <memory>
 #include <new>
 #include <string>
+
+namespace {
+
+// Nothing in a build without Qt.
+std::unique_ptr<quorvex::platform::PictureEncoder> MakePictureEncoder() {
+#ifdef QUORVEX_PICTURES
+    return std::make_unique<quorvex::platform::qt::QtPictureEncoder>();
+#else
+    return nullptr;
+#endif
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     using quorvex::cli::ExitStatus;
@@ -27,8 +44,9 @@ int main(int argc, char** argv) {
         app.require_subcommand(1);
         app.allow_windows_style_options(false);
         quorvex::platform::disk::HostConsole const console;
+        auto const encoder = MakePictureEncoder();
         quorvex::cli::AddAnalyse(app, console, status);
-        quorvex::cli::AddChart(app, status);
+        quorvex::cli::AddChart(app, encoder.get(), status);
         quorvex::cli::AddFormat(app, status);
         try {
             app.parse(quorvex::platform::disk::ReversedArguments(argc, argv));
