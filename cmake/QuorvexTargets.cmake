@@ -50,11 +50,12 @@ function(add_core name)
     set_property(GLOBAL APPEND PROPERTY QUORVEX_CORES ${name})
 endfunction()
 
-# add_windows(<name> LEVEL <n> FILES <sources, headers and .ui files> [USES <cores, platform_qt>] [EVERY_WINDOW]):
+# add_windows(<name> LEVEL <n> FILES <sources, headers and .ui files> [USES <cores, platform_qt>] [EVERY_WINDOW]
+#     [WITHOUT_WIDGETS]):
 # a target that uses Qt, for builds that have it. Windows of one subsystem do not know those of another; only a target
 # that says EVERY_WINDOW does.
 function(add_windows name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "EVERY_WINDOW" "LEVEL" "FILES;USES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "EVERY_WINDOW;WITHOUT_WIDGETS" "LEVEL" "FILES;USES")
     get_property(usedWindows GLOBAL PROPERTY QUORVEX_WINDOWS)
     foreach(used IN LISTS arg_USES)
         if(used IN_LIST usedWindows AND NOT used MATCHES "^platform_" AND NOT arg_EVERY_WINDOW)
@@ -63,7 +64,11 @@ function(add_windows name)
     endforeach()
     add_level_target(${name} LEVEL ${arg_LEVEL} FILES ${arg_FILES} USES ${arg_USES})
     set_target_properties(quorvex_${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
-    target_link_libraries(quorvex_${name} PUBLIC Qt6::Widgets)
+    if(arg_WITHOUT_WIDGETS)
+        target_link_libraries(quorvex_${name} PUBLIC Qt6::Gui)
+    else()
+        target_link_libraries(quorvex_${name} PUBLIC Qt6::Widgets)
+    endif()
     target_compile_definitions(quorvex_${name} PUBLIC
         QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
     set_property(GLOBAL APPEND PROPERTY QUORVEX_WINDOWS ${name})

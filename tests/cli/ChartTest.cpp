@@ -129,5 +129,80 @@ TEST(Chart, OfARefusedFileIsNotWritten) {
     EXPECT_EQ(folder.EntryCount(), 0);
 }
 
+#ifdef QUORVEX_PICTURES
+
+// A whole number of four bytes, the highest first, as PNG has them.
+int NumberAt(std::string const& bytes, std::size_t place) {
+    int number = 0;
+    for (std::size_t index = 0; index < 4; ++index) {
+        number = number * 256 + static_cast<unsigned char>(bytes.at(place + index));
+    }
+    return number;
+}
+
+std::string Picture(std::string const& name, std::string const& size = "16500x12000") {
+    TemporaryFolder const folder;
+    auto const run = RunCompanion(
+        {"chart", GoldenPath("quotes/q060.txt"), "--automate", "2", "--size", size, "-o", folder.File(name)});
+    EXPECT_EQ(run.ExitStatus, 0) << run.Errors;
+    EXPECT_EQ(run.Errors, "");
+    EXPECT_EQ(run.Output, "");
+    return folder.Read(name);
+}
+
+TEST(Chart, IsAPngOfTheChartsWithAMargin) {
+    auto const png = Picture("charts.PNG");
+    ASSERT_GT(png.size(), 24U);
+    EXPECT_EQ(png.substr(0, 8), "\x89PNG\r\n\x1a\n");
+    // 97 hundredths of the width, and ten pixels on each side.
+    EXPECT_EQ(NumberAt(png, 16), 1087);
+    EXPECT_EQ(NumberAt(Picture("charts.png", "33000x24000"), 16), 2154);
+    EXPECT_GT(NumberAt(png, 20), 600);
+}
+
+TEST(Chart, IsAnSvgWithItsTexts) {
+    auto const svg = Picture("charts.svg");
+    EXPECT_TRUE(svg.starts_with("<?xml"));
+    EXPECT_NE(svg.find("viewBox=\"0 0 1087"), std::string::npos);
+    EXPECT_NE(svg.find("#ff00ff"), std::string::npos); // the moving average
+    EXPECT_TRUE(svg.ends_with("</svg>\n"));
+}
+
+TEST(Chart, IsAPdfOfOnePage) {
+    auto const pdf = Picture("charts.pdf");
+    EXPECT_TRUE(pdf.starts_with("%PDF-"));
+    EXPECT_NE(pdf.find("/Count 1"), std::string::npos);
+    EXPECT_NE(pdf.find("/MediaBox [0 0 815"), std::string::npos); // in points
+}
+
+TEST(Chart, RefusesAPictureThatIsTooLarge) {
+    TemporaryFolder const folder;
+    for (char const* name : {"charts.png", "charts.pdf"}) {
+        auto const run = RunCompanion(
+            {"chart", GoldenPath("quotes/q060.txt"), "--size", "1000000x1000000", "-o", folder.File(name)});
+        EXPECT_EQ(run.ExitStatus, 2);
+        EXPECT_NE(run.Errors.find("too large"), std::string::npos) << run.Errors;
+        EXPECT_EQ(folder.EntryCount(), 0);
+    }
+}
+
+TEST(Chart, ShowsWhyAPictureCannotBeWritten) {
+    TemporaryFolder const folder;
+    auto const run =
+        RunCompanion({"chart", GoldenPath("quotes/q060.txt"), "-o", folder.File("missing/charts.png")});
+    EXPECT_EQ(run.ExitStatus, 1);
+    EXPECT_EQ(run.Errors, "Path not found\n");
+}
+
+#else
+
+TEST(Chart, IsNoPictureWithoutQt) {
+    auto const run = RunCompanion({"chart", GoldenPath("quotes/q060.txt"), "-o", "charts.png"});
+    EXPECT_EQ(run.ExitStatus, 2);
+    EXPECT_NE(run.Errors.find("built without Qt"), std::string::npos) << run.Errors;
+}
+
+#endif
+
 } // namespace
 } // namespace quorvex::tests

@@ -55,6 +55,9 @@ frmMain::frmMain(Program& program, std::string_view programFolder, platform::Pro
     setObjectName(QStringLiteral("frmMain"));
     auto const run = [this](MenuRow const& row) { Run(row); };
     FillMenuBar(*menuBar(), run);
+    redrawAfterEvent_.setSingleShot(true);
+    redrawAfterEvent_.setInterval(0);
+    connect(&redrawAfterEvent_, &QTimer::timeout, this, &frmMain::RedrawWhenFree);
     client_->installEventFilter(this);
     setCentralWidget(client_);
     toolStrip_ = MakeToolStrip(*client_, run);
@@ -124,8 +127,7 @@ void frmMain::FollowSize() {
         LayOut();
     }
     isRedrawWanted_ = true;
-    QMetaObject::invokeMethod(
-        this, [this] { RedrawWhenFree(); }, Qt::QueuedConnection);
+    redrawAfterEvent_.start();
 }
 
 void frmMain::RedrawWhenFree() {

@@ -14,6 +14,7 @@
 
 #include <QMainWindow>
 #include <QScopeGuard>
+#include <QTimer>
 #include <array>
 #include <functional>
 #include <memory>
@@ -90,6 +91,7 @@ private:
     platform::qt::QtPendingMessages pending_;
     cycles::ui::frmForecast* forecast_ = nullptr; // belongs to this window
     std::unique_ptr<Services> services_;
+    QTimer redrawAfterEvent_;
     bool isBusy_ = false;
     bool isBroken_ = false; // the last redraw ended with an exception, which was shown
     bool isRedrawWanted_ = false;

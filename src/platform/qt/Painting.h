@@ -14,6 +14,9 @@ namespace quorvex::platform::qt {
 // Twips to the logical pixel.
 inline constexpr double TwipsPerPixel = 15;
 
+// Of boxes and pictures.
+inline constexpr Colour BorderColour = 0x808080;
+
 // How twips become units of the painter. On pixels, a unit is one device pixel: upright and level lines fill
 // whole ones, so that they are sharp, and only curves are antialiased. Elsewhere, as in a file for any
 // resolution, lines stand exactly where they were drawn.

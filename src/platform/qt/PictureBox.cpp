@@ -28,7 +28,6 @@ namespace quorvex::platform::qt {
 
 namespace {
 
-constexpr Colour BorderColour = 0x808080;
 constexpr Colour CursorColour = 0x0066CC;
 
 QAccessibleInterface* MakeAccessibleBox(QString const&, QObject* object) {

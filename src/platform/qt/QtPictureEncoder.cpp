@@ -4,6 +4,7 @@
 #include "platform/qt/QtPictureEncoder.h"
 
 #include "platform/qt/Painting.h"
+#include "text/RunTimeError.h"
 
 #include <QBuffer>
 #include <QGuiApplication>
@@ -11,7 +12,9 @@
 #include <QPageSize>
 #include <QPdfWriter>
 #include <QSvgGenerator>
+#include <array>
 #include <cmath>
+#include <cstdio>
 #include <memory>
 
 namespace quorvex::platform::qt {
@@ -22,18 +25,30 @@ constexpr int TwipsPerInch = 1440;
 constexpr int PixelsPerInch = 96;
 constexpr int PointsPerInch = 72;
 
-// Fonts need an application.
+void Require(bool isDone) {
+    if (!isDone) {
+        throw text::RunTimeError(text::Fault::InvalidProcedureCall);
+    }
+}
+
+// A program without windows has no use for the folder that Qt misses here.
+void IgnoreMissingRuntimeFolder(QtMsgType type, QMessageLogContext const& context, QString const& text) {
+    if (!text.startsWith(QStringLiteral("QStandardPaths: XDG_RUNTIME_DIR"))) {
+        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+    }
+}
+
+// Fonts need an application; nothing comes back when there is one.
 std::unique_ptr<QGuiApplication> StartApplicationWithoutDisplay() {
     if (QCoreApplication::instance() != nullptr) {
         return nullptr;
     }
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    static int count = 1;
-    static char name[] = "quorvex-cli";
-    static char* arguments[] = {name, nullptr};
-    return std::make_unique<QGuiApplication>(count, arguments);
+    qInstallMessageHandler(IgnoreMissingRuntimeFolder);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static int count = 1; // the application keeps references
+    static std::array<char, 8> name = {"quorvex"};
+    static std::array<char*, 2> arguments = {name.data(), nullptr};
+    return std::make_unique<QGuiApplication>(count, arguments.data());
 }
 
 QSize PixelSize(PictureSheet const& sheet) {
@@ -42,7 +57,6 @@ QSize PixelSize(PictureSheet const& sheet) {
 }
 
 void PaintBorder(QPainter& painter, QRectF const& box, bool onPixels) {
-    constexpr Colour BorderColour = 0x808080;
     painter.setPen(QPen(ToQt(BorderColour), onPixels ? 0 : 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(onPixels ? box.adjusted(0, 0, -1, -1) : box);
@@ -69,16 +83,21 @@ void PaintSheet(QPainter& painter, PictureSheet const& sheet, PaintScale scale) 
     }
 }
 
+void PaintSheetOn(QPaintDevice& device, PictureSheet const& sheet, bool onPixels) {
+    QPainter painter;
+    Require(painter.begin(&device));
+    PaintSheet(painter, sheet, {1 / TwipsPerPixel, onPixels});
+    Require(painter.end());
+}
+
 void WritePng(PictureSheet const& sheet, QBuffer& output) {
     constexpr double InchesPerMetre = 1000 / 25.4;
     QImage image(PixelSize(sheet), QImage::Format_RGB32);
+    Require(!image.isNull());
     image.setDotsPerMeterX(static_cast<int>(std::lround(PixelsPerInch * InchesPerMetre)));
     image.setDotsPerMeterY(image.dotsPerMeterX());
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    PaintSheet(painter, sheet, {1 / TwipsPerPixel, true});
-    painter.end();
-    image.save(&output, "PNG");
+    PaintSheetOn(image, sheet, true);
+    Require(image.save(&output, "PNG"));
 }
 
 void WriteSvg(PictureSheet const& sheet, QBuffer& output) {
@@ -88,8 +107,7 @@ void WriteSvg(PictureSheet const& sheet, QBuffer& output) {
     generator.setSize(PixelSize(sheet));
     generator.setViewBox(QRectF(0, 0, sheet.Width / TwipsPerPixel, sheet.Height / TwipsPerPixel));
     generator.setTitle(QStringLiteral("Quorvex"));
-    QPainter painter(&generator);
-    PaintSheet(painter, sheet, {1 / TwipsPerPixel, false});
+    PaintSheetOn(generator, sheet, false);
 }
 
 void WritePdf(PictureSheet const& sheet, QBuffer& output) {
@@ -100,8 +118,7 @@ void WritePdf(PictureSheet const& sheet, QBuffer& output) {
                         sheet.Height * PointsPerInch / TwipsPerInch);
     writer.setPageSize(QPageSize(points, QPageSize::Point, {}, QPageSize::ExactMatch));
     writer.setPageMargins(QMarginsF());
-    QPainter painter(&writer);
-    PaintSheet(painter, sheet, {1 / TwipsPerPixel, false});
+    PaintSheetOn(writer, sheet, false);
 }
 
 } // namespace
@@ -109,7 +126,7 @@ void WritePdf(PictureSheet const& sheet, QBuffer& output) {
 std::string QtPictureEncoder::Encode(PictureSheet const& sheet, PictureKind kind) {
     auto const application = StartApplicationWithoutDisplay();
     QBuffer output;
-    output.open(QIODevice::WriteOnly);
+    Require(!PixelSize(sheet).isEmpty() && output.open(QIODevice::WriteOnly));
     switch (kind) {
     case PictureKind::Png:
         WritePng(sheet, output);
