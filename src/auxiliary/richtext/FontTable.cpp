@@ -27,8 +27,9 @@ void FontTable::SetDefault(int number) {
 
 void FontTable::StartEntry(int number) {
     EndEntry();
-    entry_.emplace();
-    entry_->Number = number;
+    Entry entry;
+    entry.Number = number;
+    entry_ = std::move(entry);
 }
 
 void FontTable::SetCharacterSet(int characterSet) {
