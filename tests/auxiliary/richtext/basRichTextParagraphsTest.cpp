@@ -98,6 +98,14 @@ TEST(RichTextParagraphs, ShareTabStopsWithoutChangingEachOther) {
     EXPECT_EQ(last, (TabStops{{1, TabKind::Left}, {2, TabKind::Left}, {5, TabKind::Left}}));
 }
 
+TEST(RichTextParagraphs, KeepTheTabStopsOfManyOnce) {
+    std::string body = R"(\tx100\tx200\tx300)";
+    for (int count = 0; count < 1000; ++count) {
+        body += R"({\b a}\par)";
+    }
+    EXPECT_EQ(ReadBody(body).Rulers.size(), 2U);
+}
+
 TEST(RichTextParagraphs, DropTabStopsBeyondTheMost) {
     std::string words;
     for (int position = 1; position <= 50; ++position) {
