@@ -40,6 +40,7 @@ private:
     platform::disk::DiskFiles files_;
     platform::NoLauncher launcher_;
     platform::NoProfile profile_;
+    platform::NoRegistry registry_;
     std::unique_ptr<app::Program> program_ = std::make_unique<app::Program>();
     app::ui::frmMain window_;
     std::array<platform::qt::PictureBox*, 4> boxes_{};

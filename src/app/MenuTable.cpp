@@ -34,7 +34,7 @@ constexpr auto Menu = std::to_array<MenuRow>({
     {"mnuFilePrint", "&Print", "mnuFile"},
     {"mnuFilePrintSetup", "Print Set&up", "mnuFile", FilePrintSetup},
     {"mnuFileSep", SeparatorCaption, "mnuFile"},
-    {"mnuFileProperties", "P&roperties", "mnuFile"},
+    {"mnuFileProperties", "P&roperties", "mnuFile", FileProperties},
     {"mnuFileSep7", SeparatorCaption, "mnuFile"},
     {"mnuFileExit", "E&xit", "mnuFile", FileExit},
     {"mnuParameters", "&Parameters", ""},
@@ -53,8 +53,8 @@ constexpr auto Menu = std::to_array<MenuRow>({
     {"mnuRefresh", "&Refresh", "", Refresh},
     {"mnuForecast", "F&orecast", "", Forecast},
     {"mnuCorrelation", "&Correlation", "", Correlation},
-    {"mnuPreferences", "Pr&eferences", ""},
-    {"mnuLegend", "&Legend", ""},
+    {"mnuPreferences", "Pr&eferences", "", Preferences},
+    {"mnuLegend", "&Legend", "", Legend},
     {"mnuHelp", "&Help", ""},
     {"mnuHelpReadMe", "&Read Me", "mnuHelp"},
     {"mnuHelpQuickStart", "&Quick Start", "mnuHelp"},
@@ -63,7 +63,7 @@ constexpr auto Menu = std::to_array<MenuRow>({
     {"mnuHelpIndex", "&Index", "mnuHelp"},
     {"mnuHelpCommoditySymbols", "&Commodity Symbols", "mnuHelp"},
     {"mnuHelpSep", SeparatorCaption, "mnuHelp"},
-    {"mnuHelpAbout", "&About Quorvex", "mnuHelp"},
+    {"mnuHelpAbout", "&About Quorvex", "mnuHelp", HelpAbout},
 });
 
 constexpr auto Tools = std::to_array<ToolRow>({

@@ -44,6 +44,15 @@ void FilePrintSetup(Program&, Services& services) {
     platform::RunReported(services.Dialogs, [&] { services.Launcher.Start(platform::ControlPanel); });
 }
 
+void FileProperties(Program& program, Services& services) {
+    if (!program.Quotes.HasQuotes()) {
+        services.Dialogs.Show(
+            {"Please load a quote data file", "Quorvex - Properties", platform::Icon::Information});
+        return;
+    }
+    services.Window.Open(platform::SecondaryWindow::Properties);
+}
+
 void FileExit(Program&, Services& services) {
     services.Window.End();
 }
@@ -118,6 +127,19 @@ void Forecast(Program& program, Services& services) {
             services.Window.Open(platform::SecondaryWindow::Forecast);
         }
     });
+}
+
+void Preferences(Program& program, Services& services) {
+    services.Window.Open(platform::SecondaryWindow::Preferences);
+    Redraw(program, services);
+}
+
+void Legend(Program&, Services& services) {
+    services.Window.Open(platform::SecondaryWindow::Legend);
+}
+
+void HelpAbout(Program&, Services& services) {
+    services.Window.Open(platform::SecondaryWindow::About);
 }
 
 void HelpUserManual(Program&, Services& services) {

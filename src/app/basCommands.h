@@ -20,6 +20,9 @@ void FileSaveAs(Program& program, Services& services);
 // Starts the system's printer settings.
 void FilePrintSetup(Program& program, Services& services);
 
+// Shows the summary of the quotes.
+void FileProperties(Program& program, Services& services);
+
 void FileExit(Program& program, Services& services);
 
 void ParametersNew(Program& program, Services& services);
@@ -40,6 +43,13 @@ void Refresh(Program& program, Services& services);
 
 // Opens the forecast window when there is something to forecast; when not, tells the user.
 void Forecast(Program& program, Services& services);
+
+// Shows the preferences, then draws everything with what they are.
+void Preferences(Program& program, Services& services);
+
+void Legend(Program& program, Services& services);
+
+void HelpAbout(Program& program, Services& services);
 
 // Tells where the manual is.
 void HelpUserManual(Program& program, Services& services);

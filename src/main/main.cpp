@@ -6,6 +6,7 @@
 #include "app/Program.h"
 #include "app/ui/basResources.h"
 #include "app/ui/frmMain.h"
+#include "platform/Registry.h"
 #include "platform/basMessages.h"
 #include "platform/disk/DiskFiles.h"
 #include "platform/qt/ProgramPlace.h"
@@ -14,6 +15,7 @@
 #include "prefs/basProfiles.h"
 #ifdef _WIN32
 #include "platform/windows/WindowsProfile.h"
+#include "platform/windows/WindowsRegistry.h"
 #else
 #include "platform/disk/DiskProfile.h"
 #endif
@@ -25,8 +27,10 @@
 
 #ifdef _WIN32
 using HostProfile = quorvex::platform::windows::WindowsProfile;
+using HostRegistry = quorvex::platform::windows::WindowsRegistry;
 #else
 using HostProfile = quorvex::platform::disk::DiskProfile;
+using HostRegistry = quorvex::platform::NoRegistry;
 #endif
 
 int main(int argc, char** argv) {
@@ -39,6 +43,7 @@ int main(int argc, char** argv) {
 
     quorvex::platform::disk::DiskFiles files;
     qt::QtLauncher launcher;
+    HostRegistry const registry;
     auto const program = std::make_unique<quorvex::app::Program>();
     qt::ProgramPlace place = qt::ExecutablePlace();
     QWidget desktop; // for messages before there is a window
@@ -48,8 +53,8 @@ int main(int argc, char** argv) {
         qt::EnterFolder(place.Folder);
     });
 
-    HostProfile const profile(quorvex::prefs::ProfileFileName(place.Folder, place.ExecutableName), files);
-    quorvex::app::ui::frmMain window(*program, place.Folder, profile, files, launcher);
+    HostProfile profile(quorvex::prefs::ProfileFileName(place.Folder, place.ExecutableName), files);
+    quorvex::app::ui::frmMain window(*program, place.Folder, {profile, files, launcher, registry});
     window.show();
     return QApplication::exec();
 }

@@ -77,6 +77,7 @@ TEST(MenuTable, ItemsRunTheirCommands) {
     EXPECT_EQ(MenuRowNamed("mnuFileClose").Run, FileClose);
     EXPECT_EQ(MenuRowNamed("mnuFileSaveAs").Run, FileSaveAs);
     EXPECT_EQ(MenuRowNamed("mnuFilePrintSetup").Run, FilePrintSetup);
+    EXPECT_EQ(MenuRowNamed("mnuFileProperties").Run, FileProperties);
     EXPECT_EQ(MenuRowNamed("mnuFileExit").Run, FileExit);
     EXPECT_EQ(MenuRowNamed("mnuParametersNew").Run, ParametersNew);
     EXPECT_EQ(MenuRowNamed("mnuParametersOpen").Run, ParametersOpen);
@@ -86,7 +87,10 @@ TEST(MenuTable, ItemsRunTheirCommands) {
     EXPECT_EQ(MenuRowNamed("mnuRefresh").Run, Refresh);
     EXPECT_EQ(MenuRowNamed("mnuForecast").Run, Forecast);
     EXPECT_EQ(MenuRowNamed("mnuCorrelation").Run, Correlation);
+    EXPECT_EQ(MenuRowNamed("mnuPreferences").Run, Preferences);
+    EXPECT_EQ(MenuRowNamed("mnuLegend").Run, Legend);
     EXPECT_EQ(MenuRowNamed("mnuHelpUserManual").Run, HelpUserManual);
+    EXPECT_EQ(MenuRowNamed("mnuHelpAbout").Run, HelpAbout);
 }
 
 // Their windows do not exist yet.
@@ -97,11 +101,9 @@ TEST(MenuTable, OnlyTheseItemsCannotBeChosenYet) {
             idle.push_back(row.Name);
         }
     }
-    EXPECT_THAT(idle,
-                testing::ElementsAre("mnuFileEdit", "mnuFileConvertCSI", "mnuFileConvertBARCHART",
-                                     "mnuFileConvertCustom", "mnuFilePrint", "mnuFileProperties",
-                                     "mnuPreferences", "mnuLegend", "mnuHelpReadMe", "mnuHelpQuickStart",
-                                     "mnuHelpIndex", "mnuHelpCommoditySymbols", "mnuHelpAbout"));
+    EXPECT_THAT(idle, testing::ElementsAre("mnuFileEdit", "mnuFileConvertCSI", "mnuFileConvertBARCHART",
+                                           "mnuFileConvertCustom", "mnuFilePrint", "mnuHelpReadMe",
+                                           "mnuHelpQuickStart", "mnuHelpIndex", "mnuHelpCommoditySymbols"));
 }
 
 TEST(MenuTable, ImagesStandForTheirItems) {

@@ -4,6 +4,7 @@
 #include "app/basCommands.h"
 
 #include "RunningProgram.h"
+#include "app/MenuTable.h"
 #include "support/Golden.h"
 #include "support/Messages.h"
 #include "support/QuoteTexts.h"
@@ -342,6 +343,35 @@ TEST(Commands, RefreshTakesUpWhatWasTyped) {
     EXPECT_EQ(running.Grid.Text(cycles::Parameter::Weight, 1), "25");
     EXPECT_EQ(running.Grid.Text(cycles::Parameter::Period, 1), "13");
     EXPECT_EQ(running.Data->Cycles.Cycles[2].Weight, 75);
+}
+
+TEST(Commands, PropertiesNeedQuotes) {
+    RunningProgram running;
+    FileProperties(*running.Data, running.Outside);
+    EXPECT_TRUE(running.Window.Opened.empty());
+    EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Please load a quote data file",
+                              "Quorvex - Properties", Icon::Information));
+    running.Dialogs.Messages.clear();
+    running.Open("corn.txt", QuoteLines(30));
+    FileProperties(*running.Data, running.Outside);
+    EXPECT_THAT(running.Window.Opened, testing::ElementsAre(platform::SecondaryWindow::Properties));
+    EXPECT_TRUE(running.Dialogs.Messages.empty());
+}
+
+TEST(Commands, PreferencesAreFollowedByARedraw) {
+    RunningProgram running;
+    running.Window.Calls.clear();
+    Preferences(*running.Data, running.Outside);
+    EXPECT_THAT(running.Window.Calls, testing::ElementsAre("open", "caption", "layout"));
+    EXPECT_THAT(running.Window.Opened, testing::ElementsAre(platform::SecondaryWindow::Preferences));
+}
+
+TEST(Commands, LegendAndAboutOpenTheirWindows) {
+    RunningProgram running;
+    Legend(*running.Data, running.Outside);
+    HelpAbout(*running.Data, running.Outside);
+    EXPECT_THAT(running.Window.Opened,
+                testing::ElementsAre(platform::SecondaryWindow::Legend, platform::SecondaryWindow::About));
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "app/Program.h"
 #include "app/ui/basResources.h"
 #include "app/ui/frmMain.h"
+#include "platform/Registry.h"
 #include "platform/disk/DiskFiles.h"
 #include "platform/disk/DiskProfile.h"
 #include "platform/fake/RecordingWindow.h"
@@ -112,11 +113,12 @@ void FillFolder(Surroundings const& surroundings, platform::Files& files) {
 
 void UseWindows(Surroundings const& surroundings, platform::Files& files, RandomUser& user) {
     platform::fake::RecordingLauncher launcher;
+    platform::NoRegistry const registry;
     while (!user.IsDone()) {
         auto const program = std::make_unique<app::Program>();
-        platform::disk::DiskProfile const profile(
-            prefs::ProfileFileName(surroundings.ProgramFolder(), "Quorvex"), files);
-        app::ui::frmMain window(*program, surroundings.ProgramFolder(), profile, files, launcher);
+        platform::disk::DiskProfile profile(prefs::ProfileFileName(surroundings.ProgramFolder(), "Quorvex"),
+                                            files);
+        app::ui::frmMain window(*program, surroundings.ProgramFolder(), {profile, files, launcher, registry});
         window.show();
         user.Use(window);
         QApplication::exec();

@@ -23,7 +23,7 @@ void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
 
 // What can have the focus, in reading order; images that cannot be chosen yet cannot have it.
 QStringList ReadingOrder() {
-    QStringList names = {u"imgOpen"_s, u"imgClose"_s};
+    QStringList names = {u"imgOpen"_s, u"imgClose"_s, u"imgProperties"_s};
     for (int row = 1; row <= 4; ++row) {
         for (int cycle = 1; cycle <= cycles::CycleCount; ++cycle) {
             names.append(u"Text%1_%2"_s.arg(row).arg(cycle));

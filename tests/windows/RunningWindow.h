@@ -54,6 +54,7 @@ public:
     platform::disk::DiskFiles Files;
     platform::fake::RecordingLauncher Launcher;
     platform::fake::MemoryProfile Profile;
+    platform::NoRegistry Registry;
     std::unique_ptr<app::Program> Data = std::make_unique<app::Program>();
     std::unique_ptr<app::ui::frmMain> Window;
     ModalAnswers Answers;

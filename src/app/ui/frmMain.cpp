@@ -7,7 +7,6 @@
 #include "app/layout/basLayout.h"
 #include "app/ui/MenuBar.h"
 #include "app/ui/basPlacing.h"
-#include "cycles/ui/frmForecast.h"
 #include "platform/qt/Painting.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtTexts.h"
@@ -46,12 +45,12 @@ constexpr std::array<BoxRow, 4> BoxTable = {{
 
 } // namespace
 
-frmMain::frmMain(Program& program, std::string_view programFolder, platform::Profile const& profile,
-                 platform::Files& files, platform::Launcher& launcher)
+frmMain::frmMain(Program& program, std::string_view programFolder, Host const& host)
     : program_(program),
-      files_(files),
+      files_(host.Files),
       client_(new QWidget(this)),
-      dialogs_(*this) {
+      dialogs_(*this),
+      windows_(*this, program, dialogs_, host) {
     setObjectName(QStringLiteral("frmMain"));
     auto const run = [this](MenuRow const& row) { Run(row); };
     FillMenuBar(*menuBar(), run);
@@ -63,11 +62,11 @@ frmMain::frmMain(Program& program, std::string_view programFolder, platform::Pro
     toolStrip_ = MakeToolStrip(*client_, run);
     grid_ = std::make_unique<GridPanel>(*client_);
     AddBoxes();
-    services_ =
-        std::make_unique<Services>(Services{*grid_, Boxes(), dialogs_, files, pending_, launcher, *this});
+    services_ = std::make_unique<Services>(
+        Services{*grid_, Boxes(), dialogs_, files_, pending_, host.Launcher, *this});
     resize(InitialSize.boundedTo(screen()->availableSize()));
     platform::qt::CentreForm(*this);
-    StartUp(program, *grid_, profile, programFolder);
+    StartUp(program, *grid_, host.Profile, programFolder);
 }
 
 frmMain::~frmMain() {
@@ -202,15 +201,7 @@ void frmMain::Open(platform::SecondaryWindow window) {
     ShowDrawings();
     // The window stays open as long as the user likes; meanwhile this one may change its size.
     auto const free = BeBusy(false);
-    switch (window) {
-    case platform::SecondaryWindow::Forecast:
-        if (forecast_ == nullptr) {
-            forecast_ = new cycles::ui::frmForecast(this, program_.Quotes, program_.Cycles, program_.Settings,
-                                                    files_, dialogs_);
-        }
-        forecast_->RunModal();
-        break;
-    }
+    windows_.RunModal(window);
 }
 
 void frmMain::End() {

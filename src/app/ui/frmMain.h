@@ -8,6 +8,7 @@
 #include "app/ui/ChartReadings.h"
 #include "app/ui/GridPanel.h"
 #include "app/ui/MainDialogs.h"
+#include "app/ui/SecondaryWindows.h"
 #include "platform/MainWindow.h"
 #include "platform/qt/PictureBox.h"
 #include "platform/qt/QtPendingMessages.h"
@@ -19,10 +20,6 @@
 #include <functional>
 #include <memory>
 
-namespace quorvex::cycles::ui {
-class frmForecast;
-}
-
 namespace quorvex::app::ui {
 
 // The program's one top-level window: menu, tool strip, parameter grid and the four charts. It owns no data:
@@ -33,8 +30,7 @@ class frmMain final : public QMainWindow, private platform::MainWindow {
 
 public:
     // Starts the program up. All must outlive the window.
-    frmMain(Program& program, std::string_view programFolder, platform::Profile const& profile,
-            platform::Files& files, platform::Launcher& launcher);
+    frmMain(Program& program, std::string_view programFolder, Host const& host);
     ~frmMain() override;
 
     // Runs the command of a menu item as if it had been chosen.
@@ -88,8 +84,8 @@ private:
     std::array<std::unique_ptr<ChartReadings>, BoxCount> readings_;
     std::array<platform::qt::PictureBox*, BoxCount> boxes_{};
     MainDialogs dialogs_;
+    SecondaryWindows windows_;
     platform::qt::QtPendingMessages pending_;
-    cycles::ui::frmForecast* forecast_ = nullptr; // belongs to this window
     std::unique_ptr<Services> services_;
     QTimer redrawAfterEvent_;
     bool isBusy_ = false;

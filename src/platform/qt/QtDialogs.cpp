@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QInputDialog>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QScreen>
@@ -120,6 +121,9 @@ void SetProgramFont() {
 }
 
 void CentreForm(QWidget& window) {
+    if (window.layout() != nullptr) {
+        window.layout()->activate(); // a size that the layout fixes is not known before
+    }
     QRect const screen = window.screen()->geometry();
     QSize const size = window.frameGeometry().size();
     window.move(screen.left() + (screen.width() - size.width()) / 2,

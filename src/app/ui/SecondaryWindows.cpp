@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "app/ui/SecondaryWindows.h"
+
+#include "auxiliary/basSystemInfo.h"
+#include "auxiliary/ui/frmAbout.h"
+#include "auxiliary/ui/frmLegend.h"
+#include "auxiliary/ui/frmProperties.h"
+#include "cycles/ui/frmForecast.h"
+#include "prefs/ui/frmPreferences.h"
+
+namespace quorvex::app::ui {
+
+namespace {
+
+template <class Window, class... Arguments>
+Window& Need(QPointer<Window>& window, Arguments&&... arguments) {
+    if (window.isNull()) {
+        window = new Window(std::forward<Arguments>(arguments)...);
+    }
+    return *window;
+}
+
+} // namespace
+
+SecondaryWindows::SecondaryWindows(QWidget& mainWindow, Program& program, platform::Dialogs& dialogs,
+                                   Host const& host)
+    : mainWindow_(mainWindow),
+      program_(program),
+      dialogs_(dialogs),
+      host_(host) {}
+
+void SecondaryWindows::RunModal(platform::SecondaryWindow window) {
+    QWidget* const parent = &mainWindow_;
+    switch (window) {
+    case platform::SecondaryWindow::Forecast:
+        Need(forecast_, parent, program_.Quotes, program_.Cycles, program_.Settings, host_.Files, dialogs_)
+            .RunModal();
+        break;
+    case platform::SecondaryWindow::Preferences:
+        Need(preferences_, parent, program_.Settings, program_.Quotes, host_.Profile, dialogs_).RunModal();
+        break;
+    case platform::SecondaryWindow::Properties:
+        Need(properties_, parent, program_.Quotes, program_.Settings, dialogs_).RunModal();
+        break;
+    case platform::SecondaryWindow::Legend:
+        Need(legend_, parent).RunModal();
+        break;
+    case platform::SecondaryWindow::About:
+        Need(about_, parent, ProgramVersion, [this] {
+            auxiliary::StartSysInfo(host_.Registry, host_.Files, host_.Launcher, dialogs_);
+        }).RunModal();
+        break;
+    }
+}
+
+} // namespace quorvex::app::ui

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "app/Program.h"
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "platform/Launcher.h"
+#include "platform/MainWindow.h"
+#include "platform/Profile.h"
+#include "platform/Registry.h"
+
+#include <QPointer>
+#include <QWidget>
+
+namespace quorvex::auxiliary::ui {
+class frmAbout;
+class frmLegend;
+class frmProperties;
+} // namespace quorvex::auxiliary::ui
+
+namespace quorvex::cycles::ui {
+class frmForecast;
+}
+
+namespace quorvex::prefs::ui {
+class frmPreferences;
+}
+
+namespace quorvex::app::ui {
+
+// What the windows need of the system.
+struct Host {
+    platform::Profile& Profile;
+    platform::Files& Files;
+    platform::Launcher& Launcher;
+    platform::Registry const& Registry;
+};
+
+// The windows that commands open. Each is created when it is first needed, and kept.
+class SecondaryWindows {
+public:
+    // All must outlive the object; the windows belong to the main window.
+    SecondaryWindows(QWidget& mainWindow, Program& program, platform::Dialogs& dialogs, Host const& host);
+
+    // Shows the window and waits until it is closed.
+    void RunModal(platform::SecondaryWindow window);
+
+private:
+    QWidget& mainWindow_;
+    Program& program_;
+    platform::Dialogs& dialogs_;
+    Host host_;
+    QPointer<auxiliary::ui::frmAbout> about_;
+    QPointer<cycles::ui::frmForecast> forecast_;
+    QPointer<auxiliary::ui::frmLegend> legend_;
+    QPointer<prefs::ui::frmPreferences> preferences_;
+    QPointer<auxiliary::ui::frmProperties> properties_;
+};
+
+} // namespace quorvex::app::ui

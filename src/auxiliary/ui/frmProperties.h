@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/Dialogs.h"
+#include "prefs/Settings.h"
+#include "quotes/QuoteSeries.h"
+
+#include <QDialog>
+#include <memory>
+
+namespace Ui {
+class frmProperties;
+}
+
+namespace quorvex::auxiliary::ui {
+
+// The summary of the quotes that are analysed, read anew whenever the window is activated.
+class frmProperties final : public QDialog {
+    Q_OBJECT
+
+public:
+    // All must outlive the window.
+    frmProperties(QWidget* parent, quotes::QuoteSeries const& series, prefs::Settings const& settings,
+                  platform::Dialogs& dialogs);
+    ~frmProperties() override;
+
+    // Shows the window and waits until it is closed.
+    void RunModal();
+
+protected:
+    bool event(QEvent* event) override;
+
+private:
+    void ShowFigures();
+
+    quotes::QuoteSeries const& series_;
+    prefs::Settings const& settings_;
+    platform::Dialogs& dialogs_;
+    bool isFaultShown_ = false;
+    std::unique_ptr<Ui::frmProperties> ui_;
+};
+
+} // namespace quorvex::auxiliary::ui

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/Dialogs.h"
+#include "platform/Profile.h"
+#include "prefs/Settings.h"
+#include "prefs/window/basPreferences.h"
+#include "quotes/QuoteSeries.h"
+
+#include <QDialog>
+#include <memory>
+
+class QComboBox;
+
+namespace Ui {
+class frmPreferences;
+}
+
+namespace quorvex::prefs::ui {
+
+// Edits the settings and narrows the days that are analysed. Closing the window takes its texts over for this
+// run; only Save Settings writes them to the INI file.
+class frmPreferences final : public QDialog {
+    Q_OBJECT
+
+public:
+    // All must outlive the window.
+    frmPreferences(QWidget* parent, Settings& settings, quotes::QuoteSeries& series,
+                   platform::Profile& profile, platform::Dialogs& dialogs);
+    ~frmPreferences() override;
+
+    // Shows the window and waits until it is closed.
+    void RunModal();
+
+    // However the window is closed, its texts become the settings.
+    void done(int result) override;
+
+private:
+    void AddMenu();
+    void ConnectLists();
+    void ShowFields();
+    void ShowDateRange();
+    void ReadBoxes();
+    void ChooseDateRange();
+
+    Settings& settings_;
+    quotes::QuoteSeries& series_;
+    platform::Profile& profile_;
+    platform::Dialogs& dialogs_;
+    window::PreferencesFields fields_;
+    std::unique_ptr<Ui::frmPreferences> ui_;
+};
+
+} // namespace quorvex::prefs::ui
