@@ -28,10 +28,10 @@ std::string TextOf(platform::Registry::Value const& value) {
 // The whole path of the tool; nothing when the system has none.
 std::optional<std::string> FindTool(platform::Registry const& registry, platform::Files const& files) {
     constexpr std::string_view ToolName = "MSINFO32.EXE";
-    if (auto path = GetKeyValue(registry, "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH")) {
+    if (auto path = GetKeyValue(registry, R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)", "PATH")) {
         return path;
     }
-    auto const folder = GetKeyValue(registry, "SOFTWARE\\Microsoft\\Shared Tools Location", "MSINFO");
+    auto const folder = GetKeyValue(registry, R"(SOFTWARE\Microsoft\Shared Tools Location)", "MSINFO");
     if (!folder || files.List(*folder + "\\", ToolName).empty()) {
         return std::nullopt;
     }

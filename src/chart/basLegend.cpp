@@ -12,8 +12,6 @@ namespace quorvex::chart {
 
 namespace {
 
-using platform::Fill;
-
 // Prices as shares of the height, from the top.
 struct SampleBar {
     double Open;

@@ -14,7 +14,7 @@
 #include <QSvgGenerator>
 #include <array>
 #include <cmath>
-#include <cstdio>
+#include <iostream>
 #include <memory>
 
 namespace quorvex::platform::qt {
@@ -34,7 +34,7 @@ void Require(bool isDone) {
 // A program without windows has no use for the folder that Qt misses here.
 void IgnoreMissingRuntimeFolder(QtMsgType type, QMessageLogContext const& context, QString const& text) {
     if (!text.startsWith(QStringLiteral("QStandardPaths: XDG_RUNTIME_DIR"))) {
-        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+        std::cerr << qPrintable(qFormatLogMessage(type, context, text)) << '\n';
     }
 }
 
