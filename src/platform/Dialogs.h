@@ -12,7 +12,7 @@ namespace quorvex::platform {
 
 enum class Icon { None, Information, Exclamation, Critical, Question };
 
-enum class Buttons { Ok, YesNoCancel };
+enum class Buttons { Ok, YesNo, YesNoCancel };
 
 enum class Answer { Ok, Yes, No, Cancel };
 
@@ -38,8 +38,8 @@ public:
     Dialogs& operator=(Dialogs const&) = delete;
     virtual ~Dialogs() = default;
 
-    // Shows the message and returns the button that closed it; closing the box by other means is Cancel, or
-    // Ok where no Cancel is offered.
+    // Shows the message and returns the button that closed it; closing the box by other means is Cancel where
+    // that is offered, else No or Ok.
     virtual Answer Show(Message const& message) = 0;
 
     // The text that the user entered, as typed; empty when the box was cancelled.

@@ -40,6 +40,18 @@ QMessageBox::Icon IconOf(Icon icon) {
     return QMessageBox::NoIcon;
 }
 
+Answer AnswerOfClosing(Buttons offered) {
+    switch (offered) {
+    case Buttons::YesNo:
+        return Answer::No;
+    case Buttons::YesNoCancel:
+        return Answer::Cancel;
+    case Buttons::Ok:
+        break;
+    }
+    return Answer::Ok;
+}
+
 Answer AnswerOf(int button, Buttons offered) {
     switch (button) {
     case QMessageBox::Yes:
@@ -49,8 +61,25 @@ Answer AnswerOf(int button, Buttons offered) {
     case QMessageBox::Ok:
         return Answer::Ok;
     default:
-        return offered == Buttons::Ok ? Answer::Ok : Answer::Cancel;
+        return AnswerOfClosing(offered);
     }
+}
+
+void OfferButtons(QMessageBox& box, Buttons offered) {
+    switch (offered) {
+    case Buttons::Ok:
+        box.setStandardButtons(QMessageBox::Ok);
+        return;
+    case Buttons::YesNo:
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        // Without a Cancel button Qt would leave Escape and the frame's button without effect.
+        box.setEscapeButton(QMessageBox::No);
+        break;
+    case Buttons::YesNoCancel:
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+        break;
+    }
+    box.setDefaultButton(QMessageBox::Yes);
 }
 
 } // namespace
@@ -62,12 +91,7 @@ Answer ShowMessageBox(QWidget& window, Message const& message) {
     box.setTextFormat(Qt::PlainText);
     box.setText(ToQt(message.Text));
     box.setIcon(IconOf(message.Shown));
-    if (message.Offered == Buttons::Ok) {
-        box.setStandardButtons(QMessageBox::Ok);
-    } else {
-        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
-        box.setDefaultButton(QMessageBox::Yes);
-    }
+    OfferButtons(box, message.Offered);
     return AnswerOf(box.exec(), message.Offered);
 }
 
