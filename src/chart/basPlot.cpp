@@ -4,11 +4,10 @@
 #include "chart/basPlot.h"
 
 #include "chart/ChartColours.h"
+#include "chart/basQuoteStyles.h"
 #include "chart/basScale.h"
 #include "cycles/basCurves.h"
 #include "text/basFormats.h"
-
-#include <algorithm>
 
 namespace quorvex::chart {
 
@@ -17,14 +16,14 @@ namespace {
 using platform::Black;
 using platform::Fill;
 
-// What makes a rectangle of a line, in twips.
-constexpr double BarWidth = 0.5;
-
 // Half the width of a candle's body, and the length of a tick of a bar, in twips.
 constexpr double HalfBody = 50;
 
 // Half the height of a tick of a bar, in twips.
 constexpr double HalfTick = 5;
+
+// They do not follow the width of a column: of many days, neighbours overlap.
+constexpr QuoteShapes ShapesOnScreen = {0, LineWidth, HalfBody, LineWidth + HalfBody, HalfTick, HalfBody};
 
 void DrawDashes(platform::Canvas& box, double step, double y) {
     constexpr double DashShare = 1.0 / 3;
@@ -35,63 +34,6 @@ void DrawDashes(platform::Canvas& box, double step, double y) {
     while (x <= box.Width()) {
         box.Line(x, y, x + step * DashShare, y, Black);
         x += step;
-    }
-}
-
-// What the three styles draw with.
-struct QuotePlot {
-    platform::Canvas& Box;
-    quotes::QuoteSeries const& Series;
-    double Step = 0;
-    VerticalScale Prices;
-
-    [[nodiscard]] quotes::QuoteRecord const& Quote(int day) const { return Series.Working[day]; }
-};
-
-void DrawBars(QuotePlot const& plot) {
-    for (int day = 1; day <= plot.Series.WorkingCount; ++day) {
-        quotes::QuoteRecord const& quote = plot.Quote(day);
-        double const x = day * plot.Step;
-        double const open = plot.Prices.Y(quote.Open);
-        double const close = plot.Prices.Y(quote.Close);
-        plot.Box.Rectangle(x, plot.Prices.Y(quote.High), x + BarWidth, plot.Prices.Y(quote.Low), QuoteColour,
-                           Fill::Outline);
-        plot.Box.Rectangle(x - HalfBody, open + HalfTick, x + BarWidth, open - HalfTick, QuoteColour,
-                           Fill::Outline);
-        plot.Box.Rectangle(x, close + HalfTick, x + BarWidth + HalfBody, close - HalfTick, QuoteColour,
-                           Fill::Outline);
-    }
-}
-
-void DrawCandles(QuotePlot const& plot) {
-    for (int day = 1; day <= plot.Series.WorkingCount; ++day) {
-        quotes::QuoteRecord const& quote = plot.Quote(day);
-        double const x = day * plot.Step;
-        plot.Box.Rectangle(x, plot.Prices.Y(quote.High), x + BarWidth,
-                           plot.Prices.Y(std::max(quote.Open, quote.Close)), QuoteColour, Fill::Outline);
-        plot.Box.Rectangle(x, plot.Prices.Y(quote.Low), x + BarWidth,
-                           plot.Prices.Y(std::min(quote.Open, quote.Close)), QuoteColour, Fill::Outline);
-        plot.Box.Rectangle(x - HalfBody, plot.Prices.Y(quote.Open), x + HalfBody, plot.Prices.Y(quote.Close),
-                           QuoteColour, quote.Open > quote.Close ? Fill::Filled : Fill::Outline);
-    }
-}
-
-// The point of the first day stands at its High.
-void DrawCloses(QuotePlot const& plot) {
-    plot.Box.Point(plot.Step, plot.Prices.Y(plot.Quote(1).High), QuoteColour);
-    for (int day = 2; day <= plot.Series.WorkingCount; ++day) {
-        plot.Box.Line((day - 1) * plot.Step, plot.Prices.Y(plot.Quote(day - 1).Close), day * plot.Step,
-                      plot.Prices.Y(plot.Quote(day).Close), QuoteColour);
-    }
-}
-
-void DrawQuotes(QuotePlot const& plot, std::string_view chartType) {
-    if (chartType == "Daily Bar Chart") {
-        DrawBars(plot);
-    } else if (chartType == "Candlestick Chart") {
-        DrawCandles(plot);
-    } else {
-        DrawCloses(plot);
     }
 }
 
@@ -116,8 +58,12 @@ ChartFaults DrawQuoteChart(platform::Canvas& box, quotes::QuoteSeries const& ser
     }
     faults.Quotes = text::Trap([&] {
         scale = ComputePriceScale(series);
-        QuotePlot const plot{box, series, ColumnStep(box.Width(), series.WorkingCount),
-                             ScalePrices(scale, box.Height())};
+        QuotePlot const plot{box,
+                             series,
+                             0,
+                             ColumnStep(box.Width(), series.WorkingCount),
+                             ScalePrices(scale, box.Height()),
+                             ShapesOnScreen};
         PrepareChart(box, series.WorkingCount);
         box.SetForeColour(Black);
         DrawQuotes(plot, settings.ChartType);
@@ -170,18 +116,14 @@ void DrawPriceLabels(platform::Canvas& box, double top, double bottom, std::stri
 
 void DrawTimeTicks(platform::Canvas& box, std::int16_t workingCount) {
     constexpr double TickWidth = 5;
+    constexpr TickSizes Tops{0.93, 0.91, 0.89}; // in shares of the height
     std::int16_t const columns = cycles::CurveDays(workingCount);
     double const step = ColumnStep(box.Width(), columns);
     double const height = box.Height();
     box.SetForeColour(Black);
     for (int column = 1; column <= columns; ++column) {
-        double top = 0.93;
-        if (column % 10 == 0) {
-            top = 0.89;
-        } else if (column % 5 == 0) {
-            top = 0.91;
-        }
-        box.Rectangle(column * step, height, column * step + TickWidth, top * height, Black, Fill::Outline);
+        double const top = TickSizeAt(column, Tops) * height;
+        box.Rectangle(column * step, height, column * step + TickWidth, top, Black, Fill::Outline);
     }
 }
 

@@ -8,8 +8,7 @@
 
 namespace quorvex::chart {
 
-quotes::PriceScale ComputePriceScale(quotes::QuoteSeries const& series) {
-    constexpr double Margin = 0.1;
+quotes::PriceScale ComputePriceRange(quotes::QuoteSeries const& series) {
     double maximum = -9999999;
     double minimum = 9999999;
     for (int day = 1; day <= series.WorkingCount; ++day) {
@@ -21,6 +20,12 @@ quotes::PriceScale ComputePriceScale(quotes::QuoteSeries const& series) {
             minimum = quote.Low;
         }
     }
+    return {maximum, minimum};
+}
+
+quotes::PriceScale ComputePriceScale(quotes::QuoteSeries const& series) {
+    constexpr double Margin = 0.1;
+    auto [maximum, minimum] = ComputePriceRange(series);
     maximum = maximum + Margin * (maximum - minimum);
     minimum = minimum - Margin * (maximum - minimum);
     return {text::RequireFinite(maximum), text::RequireFinite(minimum)};
@@ -32,6 +37,13 @@ int ColumnAt(double x, double width, int columns) {
         return 1;
     }
     return static_cast<int>(std::clamp<double>(std::round(x / step), 1, columns));
+}
+
+double TickSizeAt(int column, TickSizes const& sizes) {
+    if (column % 10 == 0) {
+        return sizes.EveryTenth;
+    }
+    return column % 5 == 0 ? sizes.EveryFifth : sizes.Other;
 }
 
 VerticalScale ScalePrices(quotes::PriceScale const& scale, double height) {

@@ -10,6 +10,10 @@
 
 namespace quorvex::chart {
 
+// The highest High and the lowest Low of the working days. Without days the high end, -9999999, lies below
+// the low end, 9999999.
+[[nodiscard]] quotes::PriceScale ComputePriceRange(quotes::QuoteSeries const& series);
+
 // The range from the lowest Low to the highest High of the working days, widened by a tenth at the top and
 // then by a tenth of the widened range at the bottom, which is therefore the larger margin.
 [[nodiscard]] quotes::PriceScale ComputePriceScale(quotes::QuoteSeries const& series);
@@ -23,6 +27,16 @@ namespace quorvex::chart {
 // The column, from 1 on, that stands nearest to the place x; the later one exactly between two. Without a
 // width it is column 1. REQUIRES: one column.
 [[nodiscard]] int ColumnAt(double x, double width, int columns);
+
+// The sizes of time ticks, in whatever unit.
+struct TickSizes {
+    double Other = 0;
+    double EveryFifth = 0;
+    double EveryTenth = 0;
+};
+
+// The one of the tick at this column.
+[[nodiscard]] double TickSizeAt(int column, TickSizes const& sizes);
 
 // Maps a value to a height in a box: y = Factor x value + Offset, in twips.
 struct VerticalScale {

@@ -22,9 +22,11 @@ public:
     [[nodiscard]] double Height() const override { return queue_.Sheet.Height / unit_; }
 
     // A page cannot be emptied.
-    void Clear() override { throw text::RunTimeError(text::Fault::PrinterError); }
+    void Clear() override { Fail(); }
 
-    void SetForeColour(Colour colour) override { Shape(Kind::ForeColour, {}, colour); }
+    void SetForeColour(Colour colour) override {
+        Page().Shapes.push_back({Kind::ForeColour, {}, colour, false, {}});
+    }
 
     void Point(double x, double y, Colour colour) override {
         Shape(Kind::Point, {x, y}, colour);
@@ -54,9 +56,7 @@ public:
     }
 
     void Print(std::string_view text) override {
-        if (++textCount_ == queue_.Sheet.FailingText) {
-            throw text::RunTimeError(text::Fault::PrinterError);
-        }
+        FailAt(++textCount_, queue_.Sheet.FailingText);
         if (!text.empty()) {
             Page().Texts.push_back(
                 {std::string(text), TextX(), TextY(), TextWidth(text), fontName_, font_.Size, isBold_});
@@ -69,7 +69,7 @@ public:
         return (width ? *width * static_cast<double>(text.size()) : font_.Width(text)) / unit_;
     }
 
-    [[nodiscard]] double TextHeight() const override { return font_.Height() / unit_; }
+    [[nodiscard]] double TextHeight() const override { return LineHeight() / unit_; }
 
     void SetScaleMode(ScaleMode mode) override { unit_ = mode == ScaleMode::Inches ? TwipsOfInch : 1; }
 
@@ -79,7 +79,7 @@ public:
 
     void EndLine() override {
         x_ = 0;
-        y_ += font_.Height();
+        y_ += LineHeight();
     }
 
     void NewPage() override {
@@ -88,16 +88,32 @@ public:
         y_ = 0;
     }
 
-    void EndDocument() override { Document().IsEnded = true; }
+    void EndDocument() override {
+        if (queue_.Sheet.IsEndFailing) {
+            Fail();
+        }
+        Document().IsEnded = true;
+    }
 
 private:
     using Kind = DrawingOperation::Kind;
+
+    [[noreturn]] static void Fail() { throw text::RunTimeError(text::Fault::PrinterError); }
+
+    static void FailAt(int count, std::optional<int> failing) {
+        if (count == failing) {
+            Fail();
+        }
+    }
+
+    [[nodiscard]] double LineHeight() const { return queue_.Sheet.LineHeight.value_or(font_.Height()); }
 
     PrintedDocument& Document() { return queue_.Documents.at(document_); }
 
     PrintedPage& Page() { return Document().Pages.back(); }
 
     void Shape(Kind kind, std::array<double, 4> const& coordinates, Colour colour, bool flag = false) {
+        FailAt(++shapeCount_, queue_.Sheet.FailingShape);
         Page().Shapes.push_back({kind, coordinates, colour, flag, {}});
     }
 
@@ -109,6 +125,7 @@ private:
     RecordingPrintQueue& queue_;
     std::size_t document_;
     int textCount_ = 0;
+    int shapeCount_ = 0;
     double unit_ = 1; // in twips
     double x_ = 0;    // of the next text, in twips
     double y_ = 0;

@@ -41,7 +41,12 @@ struct Paper {
     double Width = 12240; // in twips
     double Height = 15840;
     std::optional<double> CharacterWidth; // of every font, in twips; else that of the nominal font
-    std::optional<int> FailingText;       // printing this text, counted from 1, raises "Printer error"
+    std::optional<double> LineHeight;     // likewise
+    // Printing this text or drawing this shape, counted from 1, or ending the document raises "Printer
+    // error".
+    std::optional<int> FailingText;
+    std::optional<int> FailingShape;
+    bool IsEndFailing = false;
 };
 
 // Keeps the documents that were printed; the hourglass shows while it counts above zero.
