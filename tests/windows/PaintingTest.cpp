@@ -25,7 +25,7 @@ QImage Painted(RecordingCanvas const& drawing, double scale = 1) {
                  static_cast<int>(drawing.Height() / TwipsPerPixel * scale), QImage::Format_RGB32);
     image.fill(Qt::green);
     QPainter painter(&image);
-    platform::qt::PaintDrawing(painter, drawing, {scale / TwipsPerPixel, true});
+    platform::qt::PaintDrawing(painter, drawing, {scale / TwipsPerPixel, platform::qt::Medium::Pixels});
     return image;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/qt/WindowPrinting.h"
 
 #include "platform/qt/QtTexts.h"
+#include "platform/qt/SystemJob.h"
 #include "support/QuoteTexts.h"
 #include "windows/RunningWindow.h"
 #include "windows/ShownForecast.h"

@@ -5,7 +5,6 @@
 
 #include "platform/qt/QtTexts.h"
 
-#include <QFont>
 #include <QFontMetricsF>
 #include <QPen>
 #include <QPolygonF>
@@ -21,8 +20,13 @@ using Kind = DrawingOperation::Kind;
 // Beyond any screen: what lies farther away is moved here, so that it still fits a whole number.
 constexpr double FarAway = 1'000'000;
 
-// The width of lines where there are no pixels: three quarters of a logical one.
-constexpr double VectorLine = 0.75;
+// The width of lines in a file, in twips: three quarters of a logical pixel.
+constexpr double VectorLine = 0.75 * TwipsPerPixel;
+
+// Of lines and borders on paper, in twips, and what the thinnest shape is widened to, which is fine enough
+// for the bars of many days to stay apart.
+constexpr double PaperLine = 8;
+constexpr double ThinnestOnPaper = 5;
 
 // What text at the very edge keeps clear of the border, in twips.
 constexpr double TextMargin = 45;
@@ -78,7 +82,8 @@ public:
 
     void Paint() {
         auto const& operations = drawing_.Operations();
-        if (operations.empty() || operations.front().What != Kind::Clear) {
+        bool const isCleared = !operations.empty() && operations.front().What == Kind::Clear;
+        if (!isCleared && scale_.On != Medium::Paper) {
             PaintBackground();
         }
         for (DrawingOperation const& operation : operations) {
@@ -90,6 +95,13 @@ public:
 private:
     [[nodiscard]] double Unit(double twips) const { return Limit(twips * scale_.UnitsPerTwip); }
 
+    [[nodiscard]] bool OnPixels() const { return scale_.On == Medium::Pixels; }
+
+    // Of a line where there are no pixels.
+    [[nodiscard]] double LineWidth() const {
+        return Unit(scale_.On == Medium::Paper ? PaperLine : VectorLine);
+    }
+
     void Paint(DrawingOperation const& operation);
     void PaintBackground();
     void PaintPoint(DrawingOperation const& operation);
@@ -99,8 +111,8 @@ private:
     void PaintRectangle(DrawingOperation const& operation);
     void PaintPixelRectangle(PixelSpan across, PixelSpan upright, bool filled);
     void PaintExactRectangle(QRectF const& rectangle, bool filled);
+    void PaintPaperRectangle(QRectF rectangle, bool filled);
     void PaintText(DrawingOperation const& operation);
-    void SetFont(DrawingOperation const& operation);
     void SetLinePen();
 
     QPainter& painter_;
@@ -136,7 +148,7 @@ void DrawingPainter::Paint(DrawingOperation const& operation) {
         textPosition_ = {Unit(operation.Coordinates[0]), Unit(operation.Coordinates[1])};
         break;
     case Kind::Font:
-        SetFont(operation);
+        painter_.setFont(FontOf(operation, scale_.UnitsPerTwip));
         break;
     case Kind::Print:
         PaintText(operation);
@@ -154,11 +166,11 @@ void DrawingPainter::PaintBackground() {
 void DrawingPainter::PaintPoint(DrawingOperation const& operation) {
     QPointF const point(Unit(operation.Coordinates[0]), Unit(operation.Coordinates[1]));
     colour_ = ToQt(operation.Drawn);
-    if (scale_.OnPixels) {
+    if (OnPixels()) {
         painter_.fillRect(PixelOf(point.x()), PixelOf(point.y()), 1, 1, colour_);
     } else {
-        painter_.fillRect(QRectF(point - QPointF(VectorLine, VectorLine) / 2, QSizeF(VectorLine, VectorLine)),
-                          colour_);
+        double const size = LineWidth();
+        painter_.fillRect(QRectF(point - QPointF(size, size) / 2, QSizeF(size, size)), colour_);
     }
     curve_.append(point);
 }
@@ -194,7 +206,7 @@ void DrawingPainter::PaintCurve() {
 void DrawingPainter::PaintStraightLine(QPointF from, QPointF to) {
     bool const isLevel = from.y() == to.y();
     bool const isUpright = from.x() == to.x();
-    if (scale_.OnPixels && (isLevel || isUpright)) {
+    if (OnPixels() && (isLevel || isUpright)) {
         int const left = PixelOf(std::min(from.x(), to.x()));
         int const right = PixelOf(std::max(from.x(), to.x()));
         int const top = PixelOf(std::min(from.y(), to.y()));
@@ -215,10 +227,17 @@ void DrawingPainter::PaintRectangle(DrawingOperation const& operation) {
     double const y1 = Unit(at[1]);
     double const x2 = Unit(at[2]);
     double const y2 = Unit(at[3]);
-    if (scale_.OnPixels) {
+    QRectF const rectangle = QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized();
+    switch (scale_.On) {
+    case Medium::Pixels:
         PaintPixelRectangle(SnapAcross(x1, x2), SnapUpright(y1, y2), operation.Flag);
-    } else {
-        PaintExactRectangle(QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized(), operation.Flag);
+        break;
+    case Medium::Vectors:
+        PaintExactRectangle(rectangle, operation.Flag);
+        break;
+    case Medium::Paper:
+        PaintPaperRectangle(rectangle, operation.Flag);
+        break;
     }
 }
 
@@ -241,10 +260,10 @@ void DrawingPainter::PaintExactRectangle(QRectF const& rectangle, bool filled) {
         return;
     }
     SetLinePen();
-    if (rectangle.width() < VectorLine) {
+    if (rectangle.width() < LineWidth()) {
         painter_.drawLine(QPointF(rectangle.center().x(), rectangle.top()),
                           QPointF(rectangle.center().x(), rectangle.bottom()));
-    } else if (rectangle.height() < VectorLine) {
+    } else if (rectangle.height() < LineWidth()) {
         painter_.drawLine(QPointF(rectangle.left(), rectangle.center().y()),
                           QPointF(rectangle.right(), rectangle.center().y()));
     } else {
@@ -253,20 +272,33 @@ void DrawingPainter::PaintExactRectangle(QRectF const& rectangle, bool filled) {
     }
 }
 
-void DrawingPainter::SetFont(DrawingOperation const& operation) {
-    constexpr double TwipsPerPoint = 20;
-    QFont font(ToQt(operation.Text));
-    double const size = operation.Coordinates[0] * TwipsPerPoint * scale_.UnitsPerTwip;
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(Limit(size)))));
-    font.setBold(operation.Flag);
-    painter_.setFont(font);
+// The border lies within the corners, so that the shapes of neighbours stay apart; what is too thin for a
+// hole is solid.
+void DrawingPainter::PaintPaperRectangle(QRectF rectangle, bool filled) {
+    double const thinnest = std::max(Unit(ThinnestOnPaper), 1.0);
+    double const wider = std::max(thinnest - rectangle.width(), 0.0) / 2;
+    double const higher = std::max(thinnest - rectangle.height(), 0.0) / 2;
+    rectangle.adjust(-wider, -higher, wider, higher);
+    double const border = LineWidth();
+    constexpr int BordersAndHole = 3;
+    if (filled || std::min(rectangle.width(), rectangle.height()) < BordersAndHole * border) {
+        painter_.fillRect(rectangle, colour_);
+        return;
+    }
+    SetLinePen();
+    painter_.setBrush(Qt::NoBrush);
+    painter_.drawRect(rectangle.adjusted(border / 2, border / 2, -border / 2, -border / 2));
 }
 
 void DrawingPainter::PaintText(DrawingOperation const& operation) {
     double const ascent = QFontMetricsF(painter_.font(), painter_.device()).ascent();
-    double const margin = Unit(TextMargin);
-    QPointF place(std::max(textPosition_.x(), margin), std::max(textPosition_.y(), margin / 2) + ascent);
-    if (scale_.OnPixels) {
+    QPointF place = textPosition_;
+    if (scale_.On != Medium::Paper) {
+        double const margin = Unit(TextMargin);
+        place = QPointF(std::max(place.x(), margin), std::max(place.y(), margin / 2));
+    }
+    place.ry() += ascent;
+    if (OnPixels()) {
         place = QPointF(std::round(place.x()), std::round(place.y()));
     }
     painter_.setPen(textColour_);
@@ -274,8 +306,8 @@ void DrawingPainter::PaintText(DrawingOperation const& operation) {
 }
 
 void DrawingPainter::SetLinePen() {
-    QPen pen(colour_, scale_.OnPixels ? 1 : VectorLine);
-    pen.setCosmetic(scale_.OnPixels);
+    QPen pen(colour_, OnPixels() ? 1 : LineWidth());
+    pen.setCosmetic(OnPixels());
     painter_.setPen(pen);
 }
 
@@ -284,6 +316,15 @@ void DrawingPainter::SetLinePen() {
 QColor ToQt(Colour colour) {
     constexpr Colour Opaque = 0xFF000000;
     return QColor::fromRgba(Opaque | colour);
+}
+
+QFont FontOf(DrawingOperation const& operation, double unitsPerTwip) {
+    constexpr double TwipsPerPoint = 20;
+    QFont font(ToQt(operation.Text));
+    double const size = operation.Coordinates[0] * TwipsPerPoint * unitsPerTwip;
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(Limit(size)))));
+    font.setBold(operation.Flag);
+    return font;
 }
 
 void PaintDrawing(QPainter& painter, RecordingCanvas const& drawing, PaintScale scale) {

@@ -7,6 +7,7 @@
 #include "platform/RecordingCanvas.h"
 
 #include <QColor>
+#include <QFont>
 #include <QPainter>
 
 namespace quorvex::platform::qt {
@@ -17,17 +18,24 @@ inline constexpr double TwipsPerPixel = 15;
 // Of boxes and pictures.
 inline constexpr Colour BorderColour = 0x808080;
 
-// How twips become units of the painter. On pixels, a unit is one device pixel: upright and level lines fill
-// whole ones, so that they are sharp, and only curves are antialiased. Elsewhere, as in a file for any
-// resolution, lines stand exactly where they were drawn.
+enum class Medium {
+    Pixels,  // upright and level lines fill whole ones, so that they are sharp; only curves are antialiased
+    Vectors, // a file for any resolution: lines stand exactly where they were drawn
+    Paper,   // likewise, and texts do, too
+};
+
+// How twips become units of the painter. On pixels, a unit is one device pixel.
 struct PaintScale {
     double UnitsPerTwip = 1 / TwipsPerPixel;
-    bool OnPixels = true;
+    Medium On = Medium::Pixels;
 };
 
 [[nodiscard]] QColor ToQt(Colour colour);
 
-// Paints the drawing with its top left corner at the painter's origin, on white.
+// The font that the operation sets, for a device where twips are so many units.
+[[nodiscard]] QFont FontOf(DrawingOperation const& operation, double unitsPerTwip);
+
+// Paints the drawing with its top left corner at the painter's origin; on white, unless it is paper.
 void PaintDrawing(QPainter& painter, RecordingCanvas const& drawing, PaintScale scale);
 
 } // namespace quorvex::platform::qt

@@ -81,7 +81,7 @@ void PictureBox::Rasterise() {
         picture_.fill(Qt::white); // the drawing is white as far as it reaches
     }
     QPainter painter(&picture_);
-    PaintDrawing(painter, drawing_, {ratio / TwipsPerPixel, true});
+    PaintDrawing(painter, drawing_, {ratio / TwipsPerPixel, Medium::Pixels});
     painter.end();
     picture_.setDevicePixelRatio(ratio);
 }
@@ -109,7 +109,8 @@ void PictureBox::paintEvent(QPaintEvent*) {
         PaintCursor(painter);
     } else {
         painter.setClipRect(rect());
-        PaintDrawing(painter, drawing_, {1 / TwipsPerPixel, false}); // a page has a resolution of its own
+        PaintDrawing(painter, drawing_,
+                     {1 / TwipsPerPixel, Medium::Vectors}); // a page has a resolution of its own
     }
     painter.setPen(QPen(hasFocus() ? ToQt(CursorColour) : ToQt(BorderColour), 1));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));

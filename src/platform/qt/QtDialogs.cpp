@@ -4,6 +4,7 @@
 #include "platform/qt/QtDialogs.h"
 
 #include "platform/basMessages.h"
+#include "platform/qt/HeadlessApplication.h"
 #include "platform/qt/QtTexts.h"
 
 #include <QApplication>
@@ -11,6 +12,7 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QScopeGuard>
 #include <QScreen>
 #include <exception>
 #include <new>
@@ -82,6 +84,19 @@ void OfferButtons(QMessageBox& box, Buttons offered) {
     box.setDefaultButton(QMessageBox::Yes);
 }
 
+// An hourglass would tell the user to wait for a box that waits for the user.
+auto ShowUsualPointer() {
+    bool const isHourglass = QApplication::overrideCursor() != nullptr;
+    if (isHourglass) {
+        QApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+    return qScopeGuard([isHourglass] {
+        if (isHourglass) {
+            QApplication::restoreOverrideCursor();
+        }
+    });
+}
+
 } // namespace
 
 Answer ShowMessageBox(QWidget& window, Message const& message) {
@@ -92,6 +107,7 @@ Answer ShowMessageBox(QWidget& window, Message const& message) {
     box.setText(ToQt(message.Text));
     box.setIcon(IconOf(message.Shown));
     OfferButtons(box, message.Offered);
+    auto const pointer = ShowUsualPointer();
     return AnswerOf(box.exec(), message.Offered);
 }
 
@@ -140,7 +156,7 @@ void CloseMenus() {
 
 void SetProgramFont() {
     constexpr int PointSize = 9;
-    QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans"));
+    UseStandInFonts();
     QApplication::setFont(QFont(QStringLiteral("Arial"), PointSize));
 }
 

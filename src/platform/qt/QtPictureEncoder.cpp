@@ -3,19 +3,16 @@
 
 #include "platform/qt/QtPictureEncoder.h"
 
+#include "platform/qt/HeadlessApplication.h"
 #include "platform/qt/Painting.h"
 #include "text/RunTimeError.h"
 
 #include <QBuffer>
-#include <QGuiApplication>
 #include <QImage>
 #include <QPageSize>
 #include <QPdfWriter>
 #include <QSvgGenerator>
-#include <array>
 #include <cmath>
-#include <iostream>
-#include <memory>
 
 namespace quorvex::platform::qt {
 
@@ -31,32 +28,13 @@ void Require(bool isDone) {
     }
 }
 
-// A program without windows has no use for the folder that Qt misses here.
-void IgnoreMissingRuntimeFolder(QtMsgType type, QMessageLogContext const& context, QString const& text) {
-    if (!text.startsWith(QStringLiteral("QStandardPaths: XDG_RUNTIME_DIR"))) {
-        std::cerr << qPrintable(qFormatLogMessage(type, context, text)) << '\n';
-    }
-}
-
-// Fonts need an application; nothing comes back when there is one.
-std::unique_ptr<QGuiApplication> StartApplicationWithoutDisplay() {
-    if (QCoreApplication::instance() != nullptr) {
-        return nullptr;
-    }
-    qInstallMessageHandler(IgnoreMissingRuntimeFolder);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int count = 1; // the application keeps references
-    static std::array<char, 8> name = {"quorvex"};
-    static std::array<char*, 2> arguments = {name.data(), nullptr};
-    return std::make_unique<QGuiApplication>(count, arguments.data());
-}
-
 QSize PixelSize(PictureSheet const& sheet) {
     return {static_cast<int>(std::ceil(sheet.Width / TwipsPerPixel)),
             static_cast<int>(std::ceil(sheet.Height / TwipsPerPixel))};
 }
 
-void PaintBorder(QPainter& painter, QRectF const& box, bool onPixels) {
+void PaintBorder(QPainter& painter, QRectF const& box, Medium medium) {
+    bool const onPixels = medium == Medium::Pixels;
     painter.setPen(QPen(ToQt(BorderColour), onPixels ? 0 : 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(onPixels ? box.adjusted(0, 0, -1, -1) : box);
@@ -69,7 +47,7 @@ void PaintSheet(QPainter& painter, PictureSheet const& sheet, PaintScale scale) 
         QPointF corner(placed.Left * scale.UnitsPerTwip, placed.Top * scale.UnitsPerTwip);
         QSizeF size(placed.Drawing->Width() * scale.UnitsPerTwip,
                     placed.Drawing->Height() * scale.UnitsPerTwip);
-        if (scale.OnPixels) {
+        if (scale.On == Medium::Pixels) {
             corner = corner.toPoint();
             size = size.toSize();
         }
@@ -78,15 +56,15 @@ void PaintSheet(QPainter& painter, PictureSheet const& sheet, PaintScale scale) 
         painter.setClipRect(QRectF(QPointF(), size));
         PaintDrawing(painter, *placed.Drawing, scale);
         painter.setClipping(false);
-        PaintBorder(painter, QRectF(QPointF(), size), scale.OnPixels);
+        PaintBorder(painter, QRectF(QPointF(), size), scale.On);
         painter.restore();
     }
 }
 
-void PaintSheetOn(QPaintDevice& device, PictureSheet const& sheet, bool onPixels) {
+void PaintSheetOn(QPaintDevice& device, PictureSheet const& sheet, Medium medium) {
     QPainter painter;
     Require(painter.begin(&device));
-    PaintSheet(painter, sheet, {1 / TwipsPerPixel, onPixels});
+    PaintSheet(painter, sheet, {1 / TwipsPerPixel, medium});
     Require(painter.end());
 }
 
@@ -96,7 +74,7 @@ void WritePng(PictureSheet const& sheet, QBuffer& output) {
     Require(!image.isNull());
     image.setDotsPerMeterX(static_cast<int>(std::lround(PixelsPerInch * InchesPerMetre)));
     image.setDotsPerMeterY(image.dotsPerMeterX());
-    PaintSheetOn(image, sheet, true);
+    PaintSheetOn(image, sheet, Medium::Pixels);
     Require(image.save(&output, "PNG"));
 }
 
@@ -107,7 +85,7 @@ void WriteSvg(PictureSheet const& sheet, QBuffer& output) {
     generator.setSize(PixelSize(sheet));
     generator.setViewBox(QRectF(0, 0, sheet.Width / TwipsPerPixel, sheet.Height / TwipsPerPixel));
     generator.setTitle(QStringLiteral("Quorvex"));
-    PaintSheetOn(generator, sheet, false);
+    PaintSheetOn(generator, sheet, Medium::Vectors);
 }
 
 void WritePdf(PictureSheet const& sheet, QBuffer& output) {
@@ -118,7 +96,7 @@ void WritePdf(PictureSheet const& sheet, QBuffer& output) {
                         sheet.Height * PointsPerInch / TwipsPerInch);
     writer.setPageSize(QPageSize(points, QPageSize::Point, {}, QPageSize::ExactMatch));
     writer.setPageMargins(QMarginsF());
-    PaintSheetOn(writer, sheet, false);
+    PaintSheetOn(writer, sheet, Medium::Vectors);
 }
 
 } // namespace

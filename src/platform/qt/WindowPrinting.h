@@ -6,7 +6,6 @@
 #include "platform/Dialogs.h"
 
 #include <QWidget>
-#include <string>
 #include <string_view>
 
 namespace quorvex::platform::qt {
@@ -15,9 +14,5 @@ namespace quorvex::platform::qt {
 // becomes a PDF file named after the document in the folder, never over an existing one, and a message names
 // it. Raises "Printer error" when the page cannot be printed or written.
 void PrintWindow(QWidget& window, std::string_view documentName, std::string_view folder, Dialogs& dialogs);
-
-// A path in the folder, which ends with a separator, for a PDF file named after the document, such that no
-// file has it yet. What no file name can hold is left out.
-[[nodiscard]] std::string NewPdfPath(std::string_view folder, std::string_view documentName);
 
 } // namespace quorvex::platform::qt

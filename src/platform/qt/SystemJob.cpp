@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/qt/SystemJob.h"
+
+#include "platform/basMessages.h"
+#include "platform/qt/QtTexts.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QRegularExpression>
+#include <utility>
+
+namespace quorvex::platform::qt {
+
+namespace {
+
+void Require(bool isPrinted) {
+    if (!isPrinted) {
+        throw text::RunTimeError(text::Fault::PrinterError);
+    }
+}
+
+// A document for the default printer.
+class PrinterJob final : public PrintJob {
+public:
+    explicit PrinterJob(std::string_view documentName) : printer_(QPrinter::HighResolution) {
+        printer_.setDocName(ToQt(documentName));
+    }
+
+    [[nodiscard]] QPagedPaintDevice& Device() override { return printer_; }
+
+    void Finish() override { Require(printer_.printerState() != QPrinter::Error); }
+
+private:
+    QPrinter printer_;
+};
+
+// Only ever makes a file, and leaves none that is not whole.
+void WriteNewFile(QString const& path, QByteArray const& content) {
+    QFile file(path);
+    Require(file.open(QIODevice::WriteOnly | QIODevice::NewOnly));
+    bool const isWritten = file.write(content) == content.size() && file.flush();
+    file.close();
+    if (!isWritten) {
+        file.remove();
+    }
+    Require(isWritten);
+}
+
+} // namespace
+
+std::unique_ptr<PrintJob> StartSystemJob(std::string_view documentName, std::string_view folder,
+                                         PdfPage const& page, ShowMessage show) {
+    if (!QPrinterInfo::availablePrinterNames().isEmpty()) {
+        return std::make_unique<PrinterJob>(documentName);
+    }
+    auto save = [name = std::string(documentName), folder = std::string(folder),
+                 show = std::move(show)](QByteArray const& pdf) {
+        std::string const path = NewPdfPath(folder, name);
+        WriteNewFile(ToQt(path), pdf);
+        show({"No printer is installed. The page was saved as\n" + path, std::string(ApplicationTitle),
+              Icon::Information});
+    };
+    return std::make_unique<PdfJob>(documentName, page, std::move(save));
+}
+
+std::string NewPdfPath(std::string_view folder, std::string_view documentName) {
+    static QRegularExpression const notInFileNames(QStringLiteral(R"([<>:"/\\|?*\x00-\x1f])"));
+    QString const start = ToQt(folder).replace(u'\\', u'/') + ToQt(documentName).remove(notInFileNames);
+    QString path = start + QStringLiteral(".pdf");
+    for (int copy = 2; QFileInfo::exists(path); ++copy) {
+        path = QStringLiteral("%1 (%2).pdf").arg(start).arg(copy);
+    }
+    return FromQt(path);
+}
+
+} // namespace quorvex::platform::qt

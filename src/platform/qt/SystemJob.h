@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/Dialogs.h"
+#include "platform/qt/PdfJob.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace quorvex::platform::qt {
+
+using ShowMessage = std::function<void(Message const&)>;
+
+// Starts a job for the default printer. Where no printer is installed, finishing the job saves it as a PDF
+// file of such pages named after the document in the folder, never over an existing one, and a message names
+// it.
+[[nodiscard]] std::unique_ptr<PrintJob> StartSystemJob(std::string_view documentName, std::string_view folder,
+                                                       PdfPage const& page, ShowMessage show);
+
+// A path in the folder, which ends with a separator, for a PDF file named after the document, such that no
+// file has it yet. What no file name can hold is left out.
+[[nodiscard]] std::string NewPdfPath(std::string_view folder, std::string_view documentName);
+
+} // namespace quorvex::platform::qt
