@@ -29,7 +29,10 @@ void WholeAnalysis(benchmark::State& state) {
     platform::NoLauncher launcher;
     platform::NoMainWindow window;
     platform::BlankCanvas box;
-    app::Services services{grid, {box, box, box, box}, dialogs, files, pending, launcher, window};
+    platform::NoPrintQueue printing;
+    platform::NoMousePointer pointer;
+    app::Services services{grid,   {box, box, box, box}, dialogs, files, pending, launcher, window, printing,
+                           pointer};
     app::AnalysisRequest request;
     request.AutomatedCycles = 3;
     app::StartUp(*program, grid, platform::NoProfile(), file.Folder());

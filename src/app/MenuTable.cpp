@@ -31,7 +31,7 @@ constexpr auto Menu = std::to_array<MenuRow>({
     {"mnuSep393", SeparatorCaption, "mnuFileConvert"},
     {"mnuFileConvertCustom", "Custom", "mnuFileConvert"},
     {"Sep3000", SeparatorCaption, "mnuFile"},
-    {"mnuFilePrint", "&Print", "mnuFile"},
+    {"mnuFilePrint", "&Print", "mnuFile", FilePrint},
     {"mnuFilePrintSetup", "Print Set&up", "mnuFile", FilePrintSetup},
     {"mnuFileSep", SeparatorCaption, "mnuFile"},
     {"mnuFileProperties", "P&roperties", "mnuFile", FileProperties},

@@ -13,7 +13,9 @@
 #include "platform/Files.h"
 #include "platform/Launcher.h"
 #include "platform/MainWindow.h"
+#include "platform/MousePointer.h"
 #include "platform/PendingMessages.h"
+#include "platform/Printer.h"
 #include "platform/Profile.h"
 #include "prefs/Settings.h"
 #include "quotes/PriceScale.h"
@@ -54,6 +56,8 @@ struct Services {
     platform::PendingMessages& Pending;
     platform::Launcher& Launcher;
     platform::MainWindow& Window;
+    platform::PrintQueue& Printing;
+    platform::MousePointer& Pointer;
 };
 
 // Brings the program to its state after start-up: zeros in the grid, the settings of the profile, the

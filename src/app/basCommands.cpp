@@ -5,6 +5,7 @@
 
 #include "app/basRedraw.h"
 #include "chart/basPlot.h"
+#include "chart/basPrint.h"
 #include "cycles/basAutomate.h"
 #include "cycles/basCorrel.h"
 #include "cycles/basForecast.h"
@@ -37,6 +38,21 @@ void FileSaveAs(Program& program, Services& services) {
     platform::RunReported(services.Dialogs, [&] {
         quotes::SaveQuoteFileAs(program.Quotes, program.Settings, services.Files, services.Dialogs);
         Redraw(program, services);
+    });
+}
+
+void FilePrint(Program& program, Services& services) {
+    auto const print = [&] {
+        chart::PrintChart(services.Printing, services.Pointer, program.Quotes, program.Settings);
+    };
+    platform::RunReported(services.Dialogs, [&] {
+        if (program.Quotes.HasQuotes()) {
+            print();
+        } else {
+            services.Dialogs.Show(
+                {"Please load a quote data file", "Quorvex - Print Chart", platform::Icon::Information});
+        }
+        print();
     });
 }
 

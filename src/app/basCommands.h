@@ -17,6 +17,10 @@ void FileClose(Program& program, Services& services);
 
 void FileSaveAs(Program& program, Services& services);
 
+// Prints the chart page once, or says that no quotes are open; then prints it once more in either case. An
+// error ends the command.
+void FilePrint(Program& program, Services& services);
+
 // Starts the system's printer settings.
 void FilePrintSetup(Program& program, Services& services);
 

@@ -15,8 +15,9 @@ AnalysisSession::AnalysisSession(AnalysisOptions const& options) : request_(opti
 
 std::optional<app::AnalysisResult> AnalysisSession::Analyse() {
     platform::BlankCanvas blank;
-    app::Services services{grid_,  {blank, blank, blank, blank}, dialogs_, files_, pending_, launcher_,
-                           window_};
+    app::Services services{
+        grid_,   {blank, blank, blank, blank}, dialogs_, files_, pending_, launcher_, window_, printing_,
+        pointer_};
     return app::Analyse(*program_, services, request_);
 }
 

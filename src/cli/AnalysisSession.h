@@ -47,6 +47,8 @@ private:
     platform::NoPendingMessages pending_;
     platform::NoLauncher launcher_;
     platform::NoMainWindow window_;
+    platform::NoPrintQueue printing_;
+    platform::NoMousePointer pointer_;
 };
 
 } // namespace quorvex::cli

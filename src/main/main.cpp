@@ -12,6 +12,8 @@
 #include "platform/qt/ProgramPlace.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtLauncher.h"
+#include "platform/qt/QtMousePointer.h"
+#include "platform/qt/QtPrintQueue.h"
 #include "prefs/basProfiles.h"
 #ifdef _WIN32
 #include "platform/windows/WindowsProfile.h"
@@ -46,7 +48,8 @@ int main(int argc, char** argv) {
     HostRegistry const registry;
     auto const program = std::make_unique<quorvex::app::Program>();
     qt::ProgramPlace place = qt::ExecutablePlace();
-    QWidget desktop; // for messages before there is a window
+    QWidget desktop;
+    QWidget* front = &desktop; // what messages stand over as long as there is no window
     qt::RunGuarded(desktop, [&] {
         place = qt::FindProgramPlace(
             [&](std::string const& folder) { quorvex::app::ui::FillProgramFolder(folder, files); });
@@ -54,7 +57,12 @@ int main(int argc, char** argv) {
     });
 
     HostProfile profile(quorvex::prefs::ProfileFileName(place.Folder, place.ExecutableName), files);
-    quorvex::app::ui::frmMain window(*program, place.Folder, {profile, files, launcher, registry});
+    qt::QtPrintQueue printing([&] { return program->Settings.DataPath; },
+                              [&](auto const& message) { qt::ShowMessageBox(*front, message); });
+    qt::QtMousePointer pointer;
+    quorvex::app::ui::frmMain window(*program, place.Folder,
+                                     {profile, files, launcher, registry, printing, pointer});
+    front = &window;
     window.show();
     return QApplication::exec();
 }

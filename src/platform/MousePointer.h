@@ -16,6 +16,14 @@ public:
     virtual void ShowDefault() = 0;
 };
 
+// For runs without a window.
+class NoMousePointer final : public MousePointer {
+public:
+    void ShowHourglass() override {}
+
+    void ShowDefault() override {}
+};
+
 // The mouse pointer is the hourglass as long as this lives.
 class Hourglass {
 public:

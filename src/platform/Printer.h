@@ -5,6 +5,7 @@
 #pragma once
 
 #include "platform/Canvas.h"
+#include "text/RunTimeError.h"
 
 #include <memory>
 #include <string_view>
@@ -53,6 +54,14 @@ public:
 
     // Starts a document. Raises "Printer error" when there is nothing to print on.
     [[nodiscard]] virtual std::unique_ptr<Printer> Start(std::string_view documentName) = 0;
+};
+
+// For runs that do not print.
+class NoPrintQueue final : public PrintQueue {
+public:
+    [[nodiscard]] std::unique_ptr<Printer> Start(std::string_view) override {
+        throw text::RunTimeError(text::Fault::PrinterError);
+    }
 };
 
 } // namespace quorvex::platform

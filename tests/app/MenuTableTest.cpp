@@ -76,6 +76,7 @@ TEST(MenuTable, ItemsRunTheirCommands) {
     EXPECT_EQ(MenuRowNamed("mnuFileOpen").Run, FileOpen);
     EXPECT_EQ(MenuRowNamed("mnuFileClose").Run, FileClose);
     EXPECT_EQ(MenuRowNamed("mnuFileSaveAs").Run, FileSaveAs);
+    EXPECT_EQ(MenuRowNamed("mnuFilePrint").Run, FilePrint);
     EXPECT_EQ(MenuRowNamed("mnuFilePrintSetup").Run, FilePrintSetup);
     EXPECT_EQ(MenuRowNamed("mnuFileProperties").Run, FileProperties);
     EXPECT_EQ(MenuRowNamed("mnuFileExit").Run, FileExit);
@@ -102,8 +103,8 @@ TEST(MenuTable, OnlyTheseItemsCannotBeChosenYet) {
         }
     }
     EXPECT_THAT(idle, testing::ElementsAre("mnuFileEdit", "mnuFileConvertCSI", "mnuFileConvertBARCHART",
-                                           "mnuFileConvertCustom", "mnuFilePrint", "mnuHelpReadMe",
-                                           "mnuHelpQuickStart", "mnuHelpIndex", "mnuHelpCommoditySymbols"));
+                                           "mnuFileConvertCustom", "mnuHelpReadMe", "mnuHelpQuickStart",
+                                           "mnuHelpIndex", "mnuHelpCommoditySymbols"));
 }
 
 TEST(MenuTable, ImagesStandForTheirItems) {

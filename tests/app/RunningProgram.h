@@ -7,6 +7,7 @@
 #include "platform/RecordingCanvas.h"
 #include "platform/fake/MemoryFiles.h"
 #include "platform/fake/MemoryProfile.h"
+#include "platform/fake/RecordingPrinter.h"
 #include "platform/fake/RecordingWindow.h"
 #include "platform/fake/ScriptedDialogs.h"
 
@@ -40,7 +41,9 @@ public:
     platform::RecordingCanvas Pic4{7000, 1500};
     platform::fake::RecordingLauncher Launcher;
     platform::fake::RecordingWindow Window;
-    Services Outside{Grid, {Pic1, Pic2, Pic3, Pic4}, Dialogs, Files, Pending, Launcher, Window};
+    platform::fake::RecordingPrintQueue Printing;
+    Services Outside{Grid,    {Pic1, Pic2, Pic3, Pic4}, Dialogs, Files, Pending, Launcher, Window, Printing,
+                     Printing};
 };
 
 } // namespace quorvex::app

@@ -278,6 +278,62 @@ TEST(Commands, AWeightThatOverflowsIsReportedByEveryCommandThatSumsTheGrid) {
     }
 }
 
+TEST(Commands, PrintPrintsALoadedFileTwice) {
+    RunningProgram running;
+    running.Open("corn.txt", QuoteLines(30));
+    FilePrint(*running.Data, running.Outside);
+    EXPECT_TRUE(running.Dialogs.Messages.empty());
+    ASSERT_EQ(running.Printing.Documents.size(), 2U);
+    for (auto const& document : running.Printing.Documents) {
+        EXPECT_EQ(document.Name, "corn chart");
+        EXPECT_TRUE(document.IsEnded);
+        ASSERT_EQ(document.Pages.size(), 1U);
+        EXPECT_EQ(document.Pages[0].Texts.at(0).Text, "corn.txt");
+    }
+    EXPECT_EQ(running.Printing.HourglassCount, 0);
+}
+
+TEST(Commands, PrintWithoutAFilePrintsAnEmptyChartAfterItsMessage) {
+    RunningProgram running;
+    FilePrint(*running.Data, running.Outside);
+    EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Please load a quote data file",
+                              "Quorvex - Print Chart", Icon::Information));
+    ASSERT_EQ(running.Printing.Documents.size(), 1U);
+    EXPECT_EQ(running.Printing.Documents[0].Name, "Quorvex chart");
+    EXPECT_TRUE(running.Printing.Documents[0].IsEnded);
+}
+
+TEST(Commands, PrintEndsWithTheErrorOfTheFirstPage) {
+    RunningProgram running;
+    running.Open("corn.txt", QuoteLines(30));
+    running.Printing.Sheet.FailingText = 5;
+    FilePrint(*running.Data, running.Outside);
+    EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Printer error", "Quorvex", Icon::None));
+    ASSERT_EQ(running.Printing.Documents.size(), 1U);
+    EXPECT_FALSE(running.Printing.Documents[0].IsEnded);
+    EXPECT_EQ(running.Printing.HourglassCount, 0);
+}
+
+TEST(Commands, PrintWithoutAFileShowsItsErrorAfterItsMessage) {
+    RunningProgram running;
+    running.Printing.Sheet.IsEndFailing = true;
+    FilePrint(*running.Data, running.Outside);
+    ASSERT_EQ(running.Dialogs.Messages.size(), 2U);
+    EXPECT_EQ(running.Dialogs.Messages[0].Title, "Quorvex - Print Chart");
+    EXPECT_EQ(running.Dialogs.Messages[1].Text, "Printer error");
+}
+
+TEST(Commands, PrintOfPricesWithoutARangeShowsTheDivision) {
+    RunningProgram running;
+    running.Open("corn.txt", QuoteLines(30));
+    for (int day = 1; day <= 30; ++day) {
+        running.Data->Quotes.Working[day].High = 5;
+        running.Data->Quotes.Working[day].Low = 5;
+    }
+    FilePrint(*running.Data, running.Outside);
+    EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Division by zero", "Quorvex", Icon::None));
+}
+
 TEST(Commands, PrintSetupStartsTheControlPanel) {
     RunningProgram running;
     FilePrintSetup(*running.Data, running.Outside);

@@ -183,8 +183,9 @@ TEST(Redraw, SetsTheCaptionLaysOutAndPreparesBeforeItReadsTheGrid) {
     RunningProgram running;
     running.TypeCycle(1, "50", "20");
     Observer observer(running);
-    Services services{running.Grid, running.Outside.Boxes, running.Dialogs, running.Files,
-                      observer,     running.Launcher,      observer};
+    Services services{running.Grid,    running.Outside.Boxes, running.Dialogs, running.Files,
+                      observer,        running.Launcher,      observer,        running.Printing,
+                      running.Printing};
     Redraw(*running.Data, services);
     EXPECT_EQ(observer.Notes, (std::vector<std::string>{"caption Quorvex - - - -", "layout - - - -",
                                                         "messages prepared prepared prepared prepared"}));
@@ -245,8 +246,9 @@ TEST(Redraw, DrawsTheBoxesInTheirOrder) {
     LoggingCanvas two("2", log);
     LoggingCanvas three("3", log);
     LoggingCanvas four("4", log);
-    Services services{running.Grid,    {one, two, three, four}, running.Dialogs, running.Files,
-                      running.Pending, running.Launcher,        running.Window};
+    Services services{running.Grid,   {one, two, three, four}, running.Dialogs,
+                      running.Files,  running.Pending,         running.Launcher,
+                      running.Window, running.Printing,        running.Printing};
     Redraw(*running.Data, services);
     EXPECT_EQ(log, (std::vector<std::string>{"1 clear", "2 clear", "3 clear", "4 clear", //
                                              "1 clear", "1 draw", "1 labels", "2 draw", "3 draw", "4 draw",

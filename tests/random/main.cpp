@@ -12,6 +12,7 @@
 #include "platform/Registry.h"
 #include "platform/disk/DiskFiles.h"
 #include "platform/disk/DiskProfile.h"
+#include "platform/fake/RecordingPrinter.h"
 #include "platform/fake/RecordingWindow.h"
 #include "platform/qt/ProgramPlace.h"
 #include "prefs/basProfiles.h"
@@ -116,9 +117,11 @@ void UseWindows(Surroundings const& surroundings, platform::Files& files, Random
     platform::NoRegistry const registry;
     while (!user.IsDone()) {
         auto const program = std::make_unique<app::Program>();
+        platform::fake::RecordingPrintQueue printing;
         platform::disk::DiskProfile profile(prefs::ProfileFileName(surroundings.ProgramFolder(), "Quorvex"),
                                             files);
-        app::ui::frmMain window(*program, surroundings.ProgramFolder(), {profile, files, launcher, registry});
+        app::ui::frmMain window(*program, surroundings.ProgramFolder(),
+                                {profile, files, launcher, registry, printing, printing});
         window.show();
         user.Use(window);
         QApplication::exec();

@@ -7,6 +7,7 @@
 #include "app/ui/frmMain.h"
 #include "platform/disk/DiskFiles.h"
 #include "platform/fake/MemoryProfile.h"
+#include "platform/fake/RecordingPrinter.h"
 #include "platform/fake/RecordingWindow.h"
 #include "platform/qt/PictureBox.h"
 #include "support/TemporaryFolder.h"
@@ -55,6 +56,7 @@ public:
     platform::fake::RecordingLauncher Launcher;
     platform::fake::MemoryProfile Profile;
     platform::NoRegistry Registry;
+    platform::fake::RecordingPrintQueue Printing;
     std::unique_ptr<app::Program> Data = std::make_unique<app::Program>();
     std::unique_ptr<app::ui::frmMain> Window;
     ModalAnswers Answers;

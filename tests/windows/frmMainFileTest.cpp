@@ -221,6 +221,41 @@ private Q_SLOTS:
         QVERIFY(main.Answers.Shown().isEmpty());
     }
 
+    void PrintPrintsALoadedFileTwice() {
+        RunningWindow main;
+        main.OpenQuotes("q060.txt");
+        main.Choose("mnuFilePrint");
+        QVERIFY(main.Answers.Shown().isEmpty());
+        QCOMPARE(main.Printing.Documents.size(), 2U);
+        QCOMPARE(main.Printing.Documents[1].Name, std::string("q060 chart"));
+        QVERIFY(main.Printing.Documents[1].IsEnded);
+        QCOMPARE(main.Printing.HourglassCount, 0);
+    }
+
+    void PrintWithoutAFilePrintsAfterItsMessage() {
+        RunningWindow main;
+        std::size_t printedBefore = 1;
+        main.Answers.NextMessage([&](QWidget& message) {
+            printedBefore = main.Printing.Documents.size();
+            QTest::keyClick(&message, Qt::Key_Return);
+        });
+        main.Choose("mnuFilePrint");
+        QCOMPARE(main.Answers.Shown(), QStringList(OkMessage(u"Quorvex - Print Chart"_s, u"information"_s,
+                                                             u"Please load a quote data file"_s)));
+        QCOMPARE(printedBefore, 0U);
+        QCOMPARE(main.Printing.Documents.size(), 1U);
+    }
+
+    void PrintShowsWhatWentWrong() {
+        RunningWindow main;
+        main.OpenQuotes("q060.txt");
+        main.Printing.Sheet.FailingText = 4;
+        main.Choose("mnuFilePrint");
+        QCOMPARE(main.Answers.Shown(), QStringList(OkMessage(u"Quorvex"_s, u"none"_s, u"Printer error"_s)));
+        QCOMPARE(main.Printing.Documents.size(), 1U);
+        QCOMPARE(main.Printing.HourglassCount, 0);
+    }
+
     void PrintSetupStartsTheControlPanel() {
         RunningWindow main;
         main.Choose("mnuFilePrintSetup");

@@ -141,7 +141,7 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(grey.join(u' '),
-                 u"mnuFileEdit mnuFileConvertCSI mnuFileConvertBARCHART mnuFileConvertCustom mnuFilePrint "
+                 u"mnuFileEdit mnuFileConvertCSI mnuFileConvertBARCHART mnuFileConvertCustom "
                  u"mnuHelpReadMe mnuHelpQuickStart mnuHelpIndex mnuHelpCommoditySymbols"_s);
         for (QAction const* item : AllItems(main.Window->menuBar()->actions())) {
             QVERIFY2(item->isVisible(), qPrintable(item->objectName()));
@@ -197,7 +197,7 @@ private Q_SLOTS:
         }
         QCOMPARE(images.join(u", "_s),
                  u"imgOpen Open, imgClose Close, imgEdit Edit grey, imgConvert Convert grey, "
-                 u"imgPrint Print grey, imgProperties Properties"_s);
+                 u"imgPrint Print, imgProperties Properties"_s);
     }
 
     void ImagesStandFromLeftToRightInsideTheStrip() {
@@ -226,6 +226,13 @@ private Q_SLOTS:
         ClickButton(*main.Window, u"imgClose"_s);
         QCOMPARE(main.Window->windowTitle(), u"Quorvex"_s);
         QVERIFY(!main.Data->Quotes.HasQuotes());
+    }
+
+    void ClickingThePrintImagePrints() {
+        RunningWindow main;
+        main.OpenQuotes("q060.txt");
+        ClickButton(*main.Window, u"imgPrint"_s);
+        QCOMPARE(main.Printing.Documents.size(), 2U);
     }
 
     void ImagesAreGreyAsTheirItemsAre() {

@@ -8,6 +8,8 @@
 #include "platform/Files.h"
 #include "platform/Launcher.h"
 #include "platform/MainWindow.h"
+#include "platform/MousePointer.h"
+#include "platform/Printer.h"
 #include "platform/Profile.h"
 #include "platform/Registry.h"
 
@@ -36,6 +38,8 @@ struct Host {
     platform::Files& Files;
     platform::Launcher& Launcher;
     platform::Registry const& Registry;
+    platform::PrintQueue& Printing;
+    platform::MousePointer& Pointer;
 };
 
 // The windows that commands open. Each is created when it is first needed, and kept.

@@ -62,8 +62,8 @@ frmMain::frmMain(Program& program, std::string_view programFolder, Host const& h
     toolStrip_ = MakeToolStrip(*client_, run);
     grid_ = std::make_unique<GridPanel>(*client_);
     AddBoxes();
-    services_ = std::make_unique<Services>(
-        Services{*grid_, Boxes(), dialogs_, files_, pending_, host.Launcher, *this});
+    services_ = std::make_unique<Services>(Services{*grid_, Boxes(), dialogs_, files_, pending_,
+                                                    host.Launcher, *this, host.Printing, host.Pointer});
     resize(InitialSize.boundedTo(screen()->availableSize()));
     platform::qt::CentreForm(*this);
     StartUp(program, *grid_, host.Profile, programFolder);
