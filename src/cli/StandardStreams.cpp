@@ -3,6 +3,8 @@
 
 #include "cli/StandardStreams.h"
 
+#include "platform/disk/HostConsole.h"
+
 #include <cstdio>
 
 namespace quorvex::cli {
@@ -14,6 +16,11 @@ bool Print(std::string_view text) {
         Complain("The results could not be written.");
     }
     return written;
+}
+
+bool PrintBytes(std::string_view bytes) {
+    platform::disk::LeaveOutputAsItIs();
+    return Print(bytes);
 }
 
 void Complain(std::string_view text) {

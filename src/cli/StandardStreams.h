@@ -11,6 +11,9 @@ namespace quorvex::cli {
 // there.
 bool Print(std::string_view text);
 
+// The same with bytes that are no text, which no system may change on their way.
+bool PrintBytes(std::string_view bytes);
+
 // Puts the text and a line end on standard error.
 void Complain(std::string_view text);
 

@@ -7,11 +7,13 @@
 #include "cli/Analyse.h"
 #include "cli/Chart.h"
 #include "cli/FormatNumbers.h"
+#include "cli/Print.h"
 #include "cli/StandardStreams.h"
 #include "cli/SubCommand.h"
 #include "platform/disk/HostArguments.h"
 #include "platform/disk/HostConsole.h"
 #ifdef QUORVEX_PICTURES
+#include "platform/qt/QtPdfPrintQueue.h"
 #include "platform/qt/QtPictureEncoder.h"
 #endif
 
@@ -24,12 +26,20 @@
 
 namespace {
 
-// Nothing in a build without Qt.
-std::unique_ptr<quorvex::platform::PictureEncoder> MakePictureEncoder() {
+namespace platform = quorvex::platform;
+
+// What draws and prints without a display; nothing in a build without Qt.
+struct Outputs {
+    std::unique_ptr<platform::PictureEncoder> Pictures;
+    std::unique_ptr<platform::PdfPrintQueue> Printing;
+};
+
+Outputs MakeOutputs() {
 #ifdef QUORVEX_PICTURES
-    return std::make_unique<quorvex::platform::qt::QtPictureEncoder>();
+    return {std::make_unique<platform::qt::QtPictureEncoder>(),
+            std::make_unique<platform::qt::QtPdfPrintQueue>()};
 #else
-    return nullptr;
+    return {};
 #endif
 }
 
@@ -43,13 +53,14 @@ int main(int argc, char** argv) {
         app.set_version_flag("--version", "quorvex-cli " + std::string(quorvex::app::ProgramVersion));
         app.require_subcommand(1);
         app.allow_windows_style_options(false);
-        quorvex::platform::disk::HostConsole const console;
-        auto const encoder = MakePictureEncoder();
+        platform::disk::HostConsole const console;
+        Outputs const outputs = MakeOutputs();
         quorvex::cli::AddAnalyse(app, console, status);
-        quorvex::cli::AddChart(app, encoder.get(), status);
+        quorvex::cli::AddChart(app, outputs.Pictures.get(), status);
+        quorvex::cli::AddPrint(app, outputs.Printing.get(), status);
         quorvex::cli::AddFormat(app, status);
         try {
-            app.parse(quorvex::platform::disk::ReversedArguments(argc, argv));
+            app.parse(platform::disk::ReversedArguments(argc, argv));
         } catch (CLI::ParseError const& error) {
             bool const asked = app.exit(error) == 0; // prints help, version or what is wrong
             status = asked ? ExitStatus::Success : ExitStatus::Usage;

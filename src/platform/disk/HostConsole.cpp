@@ -4,6 +4,7 @@
 #include "platform/disk/HostConsole.h"
 
 #ifdef _WIN32
+#include <fcntl.h>
 #include <io.h>
 #include <windows.h>
 #else
@@ -33,6 +34,10 @@ int HostConsole::Width() const {
     return info.srWindow.Right - info.srWindow.Left + 1;
 }
 
+void LeaveOutputAsItIs() {
+    static_cast<void>(_setmode(1, _O_BINARY));
+}
+
 #else
 
 bool HostConsole::IsTerminal() const {
@@ -46,6 +51,8 @@ int HostConsole::Width() const {
     }
     return size.ws_col;
 }
+
+void LeaveOutputAsItIs() {}
 
 #endif
 

@@ -14,4 +14,7 @@ public:
     [[nodiscard]] int Width() const override;
 };
 
+// From now on no line end is changed on its way to standard output.
+void LeaveOutputAsItIs();
+
 } // namespace quorvex::platform::disk
