@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// The help documents tell of everything that the program offers.
+
+#include "app/MenuTable.h"
+#include "prefs/Settings.h"
+#include "support/HelpDocuments.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <string>
+
+namespace quorvex::app {
+namespace {
+
+TEST(IndexDocument, HasAnEntryForEveryMenuItem) {
+    std::map<std::string, std::ptrdiff_t> items; // how many items have the caption
+    for (MenuRow const& row : MenuTable()) {
+        if (row.Caption != SeparatorCaption) {
+            std::string caption(row.Caption);
+            std::erase(caption, '&');
+            ++items[caption];
+        }
+    }
+    auto const entries = tests::ReadIndexEntries();
+    for (auto const& [caption, count] : items) {
+        EXPECT_GE(std::ranges::count(entries, caption, &tests::IndexEntry::Name), count) << caption;
+    }
+}
+
+TEST(IndexDocument, NamesEverythingThatThePreferencesOffer) {
+    std::string const text = tests::TextOf(tests::ReadHelp("Quorvex-Index.rtf"));
+    for (prefs::SettingRow const& row : prefs::SettingTable()) {
+        if (row.Member == &prefs::Settings::ChartType || row.Member == &prefs::Settings::DataSource) {
+            for (auto const& offered : row.Offered) {
+                EXPECT_THAT(text, testing::HasSubstr(std::string(offered)));
+            }
+        }
+    }
+}
+
+TEST(ReadMeDocument, NamesEverySettingWithItsDefault) {
+    std::string const text = tests::TextOf(tests::ReadHelp("Quorvex-ReadMe.rtf"));
+    for (prefs::SettingRow const& row : prefs::SettingTable()) {
+        EXPECT_THAT(text, testing::HasSubstr(std::string(row.Key) + "\n"));
+        EXPECT_THAT(text, testing::HasSubstr(std::string(row.Default)));
+    }
+}
+
+} // namespace
+} // namespace quorvex::app
