@@ -32,7 +32,7 @@ bool AreAllActive(cycles::CycleParameterSet const& set) {
 
 RedrawWork::RedrawWork()
     : file_(GeneratedQuoteText()),
-      window_(*program_, file_.Folder(), {profile_, files_, launcher_, registry_}) {
+      window_(*program_, file_.Folder(), {profile_, files_, launcher_, registry_, printing_, pointer_}) {
     FindBoxes();
     window_.resize(WindowSize);
     window_.show();

@@ -41,6 +41,8 @@ private:
     platform::NoLauncher launcher_;
     platform::NoProfile profile_;
     platform::NoRegistry registry_;
+    platform::NoPrintQueue printing_;
+    platform::NoMousePointer pointer_;
     std::unique_ptr<app::Program> program_ = std::make_unique<app::Program>();
     app::ui::frmMain window_;
     std::array<platform::qt::PictureBox*, 4> boxes_{};

@@ -17,6 +17,22 @@ void Automate(Program& program, Services& services) {
     ParametersAutomate(CycleCount, program, services);
 }
 
+void HelpReadMe(Program& program, Services& services) {
+    ShowHelp("Quorvex-ReadMe.rtf", program, services);
+}
+
+void HelpQuickStart(Program& program, Services& services) {
+    ShowHelp("Quorvex-QuickStart.rtf", program, services);
+}
+
+void HelpIndex(Program& program, Services& services) {
+    ShowHelp("Quorvex-Index.rtf", program, services);
+}
+
+void HelpCommoditySymbols(Program& program, Services& services) {
+    ShowHelp("CommoditySymbols.rtf", program, services);
+}
+
 constexpr auto Menu = std::to_array<MenuRow>({
     {"mnuFile", "&File", ""},
     {"mnuFileOpen", "&Open", "mnuFile", FileOpen},
@@ -56,12 +72,12 @@ constexpr auto Menu = std::to_array<MenuRow>({
     {"mnuPreferences", "Pr&eferences", "", Preferences},
     {"mnuLegend", "&Legend", "", Legend},
     {"mnuHelp", "&Help", ""},
-    {"mnuHelpReadMe", "&Read Me", "mnuHelp"},
-    {"mnuHelpQuickStart", "&Quick Start", "mnuHelp"},
+    {"mnuHelpReadMe", "&Read Me", "mnuHelp", HelpReadMe},
+    {"mnuHelpQuickStart", "&Quick Start", "mnuHelp", HelpQuickStart},
     {"mnuHelpUserManual", "&User Manual", "mnuHelp", HelpUserManual},
     {"mnuHelpSep11", SeparatorCaption, "mnuHelp"},
-    {"mnuHelpIndex", "&Index", "mnuHelp"},
-    {"mnuHelpCommoditySymbols", "&Commodity Symbols", "mnuHelp"},
+    {"mnuHelpIndex", "&Index", "mnuHelp", HelpIndex},
+    {"mnuHelpCommoditySymbols", "&Commodity Symbols", "mnuHelp", HelpCommoditySymbols},
     {"mnuHelpSep", SeparatorCaption, "mnuHelp"},
     {"mnuHelpAbout", "&About Quorvex", "mnuHelp", HelpAbout},
 });

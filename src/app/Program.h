@@ -36,6 +36,7 @@ struct Program {
     cycles::CycleCurves Curves;
     quotes::PriceScale PriceScale;
     chart::ChartFaults Faults; // of the last redraw
+    std::string HelpFileName;  // the document that the help window shows, without folder
     std::string ProgramFolder; // where the program keeps its files
 };
 

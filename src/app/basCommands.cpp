@@ -154,6 +154,11 @@ void Legend(Program&, Services& services) {
     services.Window.Open(platform::SecondaryWindow::Legend);
 }
 
+void ShowHelp(std::string_view helpFileName, Program& program, Services& services) {
+    program.HelpFileName = helpFileName;
+    services.Window.Open(platform::SecondaryWindow::Help);
+}
+
 void HelpAbout(Program&, Services& services) {
     services.Window.Open(platform::SecondaryWindow::About);
 }

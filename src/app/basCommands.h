@@ -8,6 +8,8 @@
 
 #include "app/Program.h"
 
+#include <string_view>
+
 namespace quorvex::app {
 
 void FileOpen(Program& program, Services& services);
@@ -52,6 +54,9 @@ void Forecast(Program& program, Services& services);
 void Preferences(Program& program, Services& services);
 
 void Legend(Program& program, Services& services);
+
+// Shows a document of the program folder.
+void ShowHelp(std::string_view helpFileName, Program& program, Services& services);
 
 void HelpAbout(Program& program, Services& services);
 

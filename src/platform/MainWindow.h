@@ -8,7 +8,7 @@
 namespace quorvex::platform {
 
 // The windows that commands open.
-enum class SecondaryWindow { Forecast, Preferences, Properties, Legend, About };
+enum class SecondaryWindow { Forecast, Preferences, Properties, Legend, Help, About };
 
 // What commands ask of the program's one top-level window.
 class MainWindow {

@@ -103,8 +103,7 @@ TEST(MenuTable, OnlyTheseItemsCannotBeChosenYet) {
         }
     }
     EXPECT_THAT(idle, testing::ElementsAre("mnuFileEdit", "mnuFileConvertCSI", "mnuFileConvertBARCHART",
-                                           "mnuFileConvertCustom", "mnuHelpReadMe", "mnuHelpQuickStart",
-                                           "mnuHelpIndex", "mnuHelpCommoditySymbols"));
+                                           "mnuFileConvertCustom"));
 }
 
 TEST(MenuTable, ImagesStandForTheirItems) {

@@ -12,6 +12,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
+#include <string>
+#include <string_view>
+
 namespace quorvex::app {
 namespace {
 
@@ -428,6 +432,20 @@ TEST(Commands, LegendAndAboutOpenTheirWindows) {
     HelpAbout(*running.Data, running.Outside);
     EXPECT_THAT(running.Window.Opened,
                 testing::ElementsAre(platform::SecondaryWindow::Legend, platform::SecondaryWindow::About));
+}
+
+TEST(Commands, HelpItemsNameTheirDocuments) {
+    RunningProgram running;
+    for (auto const& [item, document] :
+         std::map<std::string_view, std::string>{{"mnuHelpReadMe", "Quorvex-ReadMe.rtf"},
+                                                 {"mnuHelpQuickStart", "Quorvex-QuickStart.rtf"},
+                                                 {"mnuHelpIndex", "Quorvex-Index.rtf"},
+                                                 {"mnuHelpCommoditySymbols", "CommoditySymbols.rtf"}}) {
+        running.Window.Opened.clear();
+        MenuRowNamed(item).Run(*running.Data, running.Outside);
+        EXPECT_EQ(running.Data->HelpFileName, document);
+        EXPECT_THAT(running.Window.Opened, testing::ElementsAre(platform::SecondaryWindow::Help));
+    }
 }
 
 } // namespace

@@ -10,6 +10,8 @@ from session import Session
 from waiting import wait_for
 
 SAMPLES = {"CrudeOil.dat", "CrudeOil.txt", "Gold.txt", "Wheat.dat", "Wheat.txt"}
+DOCUMENTS = {"CommoditySymbols.rtf", "ConvertCustom.rtf", "Quorvex-Index.rtf", "Quorvex-QuickStart.rtf",
+             "Quorvex-ReadMe.rtf"}
 
 
 class Folders(Session):
@@ -32,6 +34,14 @@ class Folders(Session):
         self.program.wait_for_main()
         return names
 
+    def read(self, item):
+        """The help window shows the document that lies in the folder."""
+        self.program.choose("Help", item)
+        window = self.program.window("Quorvex Help")
+        self.assertIn("Quorvex", window.find("text", "Help document").text)
+        self.program.choose("File", "Exit", window=window)
+        self.program.wait_for_main()
+
     def exit(self):
         self.program.choose("File", "Exit")
         self.require_end(self.program)
@@ -41,7 +51,8 @@ class Folders(Session):
         executable = self.install_for_everybody()
         self.assertFalse(os.path.exists(own))
         program = self.start(executable)
-        self.assertEqual(set(os.listdir(own)), SAMPLES)
+        self.assertEqual(set(os.listdir(own)), SAMPLES | DOCUMENTS)
+        self.read("Read Me")
         self.assertEqual(self.offered_files(), {"CrudeOil.txt", "Gold.txt", "Wheat.txt"})
         program.open_quotes("Wheat.txt")
         self.assertEqual(program.main.name, f"Quorvex - [{own}{os.sep}Wheat.txt]")

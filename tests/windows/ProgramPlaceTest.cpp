@@ -121,17 +121,20 @@ private Q_SLOTS:
         QCOMPARE(entered, QDir(ToQt(folder.Text())).canonicalPath());
     }
 
-    void ANewFolderGetsTheSamples() {
+    void ANewFolderGetsTheSamplesAndTheHelpDocuments() {
         app::ui::LoadResources();
         TemporaryFolder folder;
         platform::disk::DiskFiles files;
         app::ui::FillProgramFolder(folder.Text(), files);
         QVERIFY(!files.List(folder.Text(), "*.txt").empty());
         QVERIFY(!files.List(folder.Text(), "*.dat").empty());
-        for (QString const& name : QDir(u":/samples"_s).entryList(QDir::Files)) {
-            QFile sample(u":/samples/"_s + name);
-            QVERIFY(sample.open(QIODevice::ReadOnly));
-            QCOMPARE(folder.Read(name.toStdString()), sample.readAll().toStdString());
+        QCOMPARE(files.List(folder.Text(), "*.rtf").size(), 5U);
+        for (QString const& carried : {u":/samples/"_s, u":/help/"_s}) {
+            for (QString const& name : QDir(carried).entryList(QDir::Files)) {
+                QFile file(carried + name);
+                QVERIFY(file.open(QIODevice::ReadOnly));
+                QCOMPARE(folder.Read(name.toStdString()), file.readAll().toStdString());
+            }
         }
     }
 };

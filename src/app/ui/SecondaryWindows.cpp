@@ -5,6 +5,7 @@
 
 #include "auxiliary/basSystemInfo.h"
 #include "auxiliary/ui/frmAbout.h"
+#include "auxiliary/ui/frmHelp.h"
 #include "auxiliary/ui/frmLegend.h"
 #include "auxiliary/ui/frmProperties.h"
 #include "cycles/ui/frmForecast.h"
@@ -46,6 +47,10 @@ void SecondaryWindows::RunModal(platform::SecondaryWindow window) {
         break;
     case platform::SecondaryWindow::Legend:
         Need(legend_, parent).RunModal();
+        break;
+    case platform::SecondaryWindow::Help:
+        Need(help_, parent, program_.ProgramFolder, program_.Settings, host_.Files, dialogs_)
+            .RunModal(program_.HelpFileName);
         break;
     case platform::SecondaryWindow::About:
         Need(about_, parent, ProgramVersion, [this] {

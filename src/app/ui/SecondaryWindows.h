@@ -18,6 +18,7 @@
 
 namespace quorvex::auxiliary::ui {
 class frmAbout;
+class frmHelp;
 class frmLegend;
 class frmProperties;
 } // namespace quorvex::auxiliary::ui
@@ -58,6 +59,7 @@ private:
     Host host_;
     QPointer<auxiliary::ui::frmAbout> about_;
     QPointer<cycles::ui::frmForecast> forecast_;
+    QPointer<auxiliary::ui::frmHelp> help_;
     QPointer<auxiliary::ui::frmLegend> legend_;
     QPointer<prefs::ui::frmPreferences> preferences_;
     QPointer<auxiliary::ui::frmProperties> properties_;

@@ -20,11 +20,12 @@ void LoadResources() {
 }
 
 void FillProgramFolder(std::string const& folder, platform::Files& files) {
-    QDir const samples(QStringLiteral(":/samples"));
-    for (QString const& name : samples.entryList(QDir::Files)) {
-        QFile sample(samples.filePath(name));
-        sample.open(QIODevice::ReadOnly); // it is a part of the executable
-        files.Replace(folder + platform::qt::FromQt(name), sample.readAll().toStdString());
+    for (QDir const carried : {QStringLiteral(":/samples"), QStringLiteral(":/help")}) {
+        for (QString const& name : carried.entryList(QDir::Files)) {
+            QFile file(carried.filePath(name));
+            file.open(QIODevice::ReadOnly); // it is a part of the executable
+            files.Replace(folder + platform::qt::FromQt(name), file.readAll().toStdString());
+        }
     }
 }
 

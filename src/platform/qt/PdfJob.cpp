@@ -12,7 +12,7 @@ namespace quorvex::platform::qt {
 
 QPageSize UsualPageSize() {
     bool const isImperial = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
-    return QPageSize(isImperial ? QPageSize::Letter : QPageSize::A4);
+    return {isImperial ? QPageSize::Letter : QPageSize::A4};
 }
 
 PdfJob::PdfJob(std::string_view documentName, PdfPage const& page, PdfReceiver receive)

@@ -8,7 +8,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QPrinter>
 #include <QPrinterInfo>
 #include <QRegularExpression>
 #include <utility>
@@ -22,21 +21,6 @@ void Require(bool isPrinted) {
         throw text::RunTimeError(text::Fault::PrinterError);
     }
 }
-
-// A document for the default printer.
-class PrinterJob final : public PrintJob {
-public:
-    explicit PrinterJob(std::string_view documentName) : printer_(QPrinter::HighResolution) {
-        printer_.setDocName(ToQt(documentName));
-    }
-
-    [[nodiscard]] QPagedPaintDevice& Device() override { return printer_; }
-
-    void Finish() override { Require(printer_.printerState() != QPrinter::Error); }
-
-private:
-    QPrinter printer_;
-};
 
 // Only ever makes a file, and leaves none that is not whole.
 void WriteNewFile(QString const& path, QByteArray const& content) {
@@ -52,9 +36,21 @@ void WriteNewFile(QString const& path, QByteArray const& content) {
 
 } // namespace
 
+bool HasPrinter() {
+    return !QPrinterInfo::availablePrinterNames().isEmpty();
+}
+
+PrinterJob::PrinterJob(std::string_view documentName) : printer_(QPrinter::HighResolution) {
+    printer_.setDocName(ToQt(documentName));
+}
+
+void PrinterJob::Finish() {
+    Require(printer_.printerState() != QPrinter::Error);
+}
+
 std::unique_ptr<PrintJob> StartSystemJob(std::string_view documentName, std::string_view folder,
                                          PdfPage const& page, ShowMessage show) {
-    if (!QPrinterInfo::availablePrinterNames().isEmpty()) {
+    if (HasPrinter()) {
         return std::make_unique<PrinterJob>(documentName);
     }
     auto save = [name = std::string(documentName), folder = std::string(folder),

@@ -6,6 +6,7 @@
 #include "platform/Dialogs.h"
 #include "platform/qt/PdfJob.h"
 
+#include <QPrinter>
 #include <functional>
 #include <memory>
 #include <string>
@@ -14,6 +15,21 @@
 namespace quorvex::platform::qt {
 
 using ShowMessage = std::function<void(Message const&)>;
+
+[[nodiscard]] bool HasPrinter();
+
+// A job for the default printer, or another one that the user chooses before the first page.
+class PrinterJob final : public PrintJob {
+public:
+    explicit PrinterJob(std::string_view documentName);
+
+    [[nodiscard]] QPrinter& Device() override { return printer_; }
+
+    void Finish() override;
+
+private:
+    QPrinter printer_;
+};
 
 // Starts a job for the default printer. Where no printer is installed, finishing the job saves it as a PDF
 // file of such pages named after the document in the folder, never over an existing one, and a message names

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "prefs/Settings.h"
+
+#include <QDialog>
+#include <QTextEdit>
+#include <memory>
+#include <string>
+
+class QMenuBar;
+
+namespace quorvex::auxiliary::ui {
+
+// Shows one rich-text document of the program folder and prints it or what is selected of it. The document is
+// read anew whenever the window is activated or changes its size; one that cannot be read leaves it empty.
+class frmHelp final : public QDialog {
+    Q_OBJECT
+
+public:
+    // All must outlive the window.
+    frmHelp(QWidget* parent, std::string const& programFolder, prefs::Settings const& settings,
+            platform::Files const& files, platform::Dialogs& dialogs);
+
+    // Shows the document of this name and waits until the window is closed.
+    void RunModal(std::string const& helpFileName);
+
+protected:
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void AddMenu();
+    void ShowDocument();
+    void Show(std::unique_ptr<QTextDocument> document);
+    void Print();
+
+    std::string const& programFolder_;
+    prefs::Settings const& settings_;
+    platform::Files const& files_;
+    platform::Dialogs& dialogs_;
+    std::string helpFileName_;
+    QMenuBar* menuBar_;
+    QTextEdit* richTextBox1_;
+};
+
+} // namespace quorvex::auxiliary::ui

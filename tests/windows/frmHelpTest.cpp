@@ -1,0 +1,334 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/qt/TextPrinting.h"
+#include "windows/PrintedPdf.h"
+#include "windows/RunningWindow.h"
+#include "windows/WindowTest.h"
+
+#include <QBuffer>
+#include <QGuiApplication>
+#include <QMenuBar>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextEdit>
+#include <QTextTable>
+#include <filesystem>
+
+namespace quorvex::tests {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto ReadMe = "Quorvex-ReadMe.rtf";
+constexpr auto ReadMePdf = "Quorvex-ReadMe.pdf";
+
+QTextEdit& TextOf(QWidget& window) {
+    return *window.findChild<QTextEdit*>(u"RichTextBox1"_s);
+}
+
+void Choose(QWidget& window, char const* item) {
+    window.findChild<QAction*>(QLatin1String(item))->trigger();
+}
+
+// Longer than any window.
+std::string LongDocument() {
+    std::string document = R"({\rtf1\ansi\deff0{\fonttbl{\f0 Arial;}}\fs20 )";
+    for (int line = 1; line <= 200; ++line) {
+        document += "Line " + std::to_string(line) + R"(\par )";
+    }
+    return document + "}";
+}
+
+// The words of a printed file in order, the numbers of the pages included.
+QString WordsOf(std::string const& pdf) {
+    QStringList words;
+    for (PrintedPage const& page : ReadPdf(pdf)) {
+        for (PrintedWord const& word : page.Words) {
+            words.append(word.Text);
+        }
+    }
+    return words.join(u' ');
+}
+
+// The help window with this document, closed when the deed is over.
+void OnHelp(RunningWindow& main, std::function<void(QWidget&)> const& deed) {
+    main.Answers.Next([&](QWidget& window) {
+        deed(window);
+        Choose(window, "mnuFileExit");
+    });
+    main.Choose("mnuHelpReadMe");
+}
+
+} // namespace
+
+class frmHelpTest final : public WindowTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+
+    // Otherwise the tests below would waste paper.
+    void initTestCase() {
+        QVERIFY2(QPrinterInfo::defaultPrinter().isNull(), "The tests want a system without a printer.");
+    }
+
+    void EachHelpItemShowsItsDocument_data() {
+        QTest::addColumn<QString>("item");
+        QTest::addColumn<QString>("document");
+        QTest::addRow("Read Me") << u"mnuHelpReadMe"_s << u"Quorvex-ReadMe.rtf"_s;
+        QTest::addRow("Quick Start") << u"mnuHelpQuickStart"_s << u"Quorvex-QuickStart.rtf"_s;
+        QTest::addRow("Index") << u"mnuHelpIndex"_s << u"Quorvex-Index.rtf"_s;
+        QTest::addRow("Commodity Symbols") << u"mnuHelpCommoditySymbols"_s << u"CommoditySymbols.rtf"_s;
+    }
+
+    void EachHelpItemShowsItsDocument() {
+        QFETCH(QString, item);
+        QFETCH(QString, document);
+        RunningWindow main;
+        main.Folder.Write(document.toStdString(), R"({\rtf1 This one})");
+        QString title;
+        QString text;
+        main.Answers.Next([&](QWidget& window) {
+            title = window.windowTitle();
+            text = TextOf(window).toPlainText();
+            Choose(window, "mnuFileExit");
+        });
+        main.Choose(qPrintable(item));
+        QCOMPARE(title, u"Quorvex Help"_s);
+        QCOMPARE(text, u"This one"_s);
+        QCOMPARE(main.Answers.TakeShown(), QStringList{u"frmHelp"_s});
+    }
+
+    void TheMenuOffersPrintAndExit() {
+        RunningWindow main;
+        QStringList captions;
+        OnHelp(main, [&](QWidget& window) {
+            for (QAction const* menu : window.findChild<QMenuBar*>()->actions()) {
+                captions.append(menu->text());
+                for (QAction const* item : menu->menu()->actions()) {
+                    captions.append(item->isSeparator() ? u"-"_s : item->text());
+                }
+            }
+        });
+        QCOMPARE(captions, (QStringList{u"&File"_s, u"&Print"_s, u"-"_s, u"E&xit"_s}));
+    }
+
+    void TheWindowStandsInTheMiddleOfTheScreen() {
+        RunningWindow main;
+        QPoint centre;
+        OnHelp(main, [&](QWidget& window) { centre = window.frameGeometry().center(); });
+        QPoint const distance = centre - QGuiApplication::primaryScreen()->geometry().center();
+        QVERIFY(distance.manhattanLength() <= 4);
+    }
+
+    // The frame that is not there counts as 8 by 46 pixels.
+    void TheTextTakesItsShareOfTheWindow() {
+        RunningWindow main;
+        QRect text;
+        QSize size;
+        int top = 0;
+        OnHelp(main, [&](QWidget& window) {
+            window.resize(700, 500);
+            QTest::qWait(0);
+            size = window.size();
+            top = window.findChild<QMenuBar*>()->height();
+            text = TextOf(window).geometry();
+        });
+        QCOMPARE(size, QSize(700, 500));
+        QCOMPARE(text.topLeft(), QPoint(3, top));
+        QCOMPARE(text.width(), 700 + 8 - 14); // less 200 twips, rounded down
+        QCOMPARE(text.height(), static_cast<int>((500 - top + 46) * 0.9));
+        QVERIFY(text.bottom() < 500);
+    }
+
+    void AMissingDocumentLeavesTheViewerOpenAndEmpty() {
+        RunningWindow main;
+        bool isVisible = false;
+        QString text = u"something"_s;
+        OnHelp(main, [&](QWidget& window) {
+            isVisible = window.isVisible();
+            text = TextOf(window).toPlainText();
+        });
+        QVERIFY(isVisible);
+        QCOMPARE(text, QString());
+        QCOMPARE(main.Answers.TakeShown(), QStringList{u"frmHelp"_s});
+    }
+
+    void AnotherDocumentReplacesTheFirst() {
+        RunningWindow main;
+        main.Folder.Write(ReadMe, R"({\rtf1 First})");
+        OnHelp(main, [](QWidget&) {});
+        std::filesystem::remove(main.Folder.File(ReadMe));
+        QString text;
+        OnHelp(main, [&](QWidget& window) { text = TextOf(window).toPlainText(); });
+        QCOMPARE(text, QString());
+    }
+
+    void ResizingReloadsTheDocumentAndGoesBackToItsTop() {
+        RunningWindow main;
+        main.Folder.Write(ReadMe, LongDocument());
+        int scrolled = 0;
+        int afterwards = -1;
+        QString text;
+        OnHelp(main, [&](QWidget& window) {
+            QScrollBar& bar = *TextOf(window).verticalScrollBar();
+            bar.setValue(bar.maximum());
+            scrolled = bar.value();
+            main.Folder.Write(ReadMe, R"({\rtf1 Written anew})");
+            window.resize(window.width() + 40, window.height());
+            QTest::qWait(0);
+            afterwards = bar.value();
+            text = TextOf(window).toPlainText();
+        });
+        QVERIFY(scrolled > 0);
+        QCOMPARE(afterwards, 0);
+        QCOMPARE(text, u"Written anew"_s);
+    }
+
+    void TheDocumentIsReadOnlyAndCanBeSelectedByKeys() {
+        RunningWindow main;
+        main.Folder.Write(ReadMe, R"({\rtf1 One two})");
+        QString text;
+        QString selected;
+        OnHelp(main, [&](QWidget& window) {
+            QTest::keyClicks(&TextOf(window), u"x"_s);
+            QTest::keyClick(&TextOf(window), Qt::Key_A, Qt::ControlModifier);
+            text = TextOf(window).toPlainText();
+            selected = TextOf(window).textCursor().selectedText();
+        });
+        QCOMPARE(text, u"One two"_s);
+        QCOMPARE(selected, u"One two"_s);
+    }
+
+    void WithoutASelectionTheWholeDocumentIsPrinted() {
+        RunningWindow main;
+        main.Folder.Write(ReadMe, R"({\rtf1 One two three})");
+        OnHelp(main, [](QWidget& window) { Choose(window, "mnuFilePrint"); });
+        QCOMPARE(WordsOf(main.Folder.Read(ReadMePdf)), u"One two three 1"_s); // and the number of the page
+        QCOMPARE(
+            main.Answers.TakeShown(),
+            (QStringList{u"frmHelp"_s, OkMessage(u"Quorvex"_s, u"information"_s,
+                                                 u"No printer is installed. The page was saved as\n"_s +
+                                                     QString::fromStdString(main.Folder.File(ReadMePdf)))}));
+    }
+
+    void WithAWordSelectedOnlyThatIsPrinted() {
+        RunningWindow main;
+        main.Folder.Write(ReadMe, R"({\rtf1 One two three})");
+        OnHelp(main, [](QWidget& window) {
+            QTextEdit& text = TextOf(window);
+            QTest::keyClick(&text, Qt::Key_Home, Qt::ControlModifier);
+            QTest::keyClick(&text, Qt::Key_Right, Qt::ControlModifier);
+            for (int letter = 0; letter < 3; ++letter) {
+                QTest::keyClick(&text, Qt::Key_Right, Qt::ShiftModifier);
+            }
+            Choose(window, "mnuFilePrint");
+        });
+        QCOMPARE(WordsOf(main.Folder.Read(ReadMePdf)), u"two 1"_s);
+    }
+
+    void ThePrintDialogOffersAllOrTheSelectionAndNoPages() {
+        QPrinter printer;
+        QPrintDialog dialog(&printer);
+        platform::qt::OfferRanges(dialog, false);
+        QVERIFY(!dialog.testOption(QAbstractPrintDialog::PrintPageRange));
+        QVERIFY(!dialog.testOption(QAbstractPrintDialog::PrintSelection));
+        QCOMPARE(dialog.printRange(), QAbstractPrintDialog::AllPages);
+        platform::qt::OfferRanges(dialog, true);
+        QVERIFY(!dialog.testOption(QAbstractPrintDialog::PrintPageRange));
+        QVERIFY(dialog.testOption(QAbstractPrintDialog::PrintSelection));
+        QCOMPARE(dialog.printRange(), QAbstractPrintDialog::Selection);
+    }
+
+    void AFolderThatCannotBeWrittenIsTold() {
+        RunningWindow main;
+        main.Folder.Write(ReadMe, R"({\rtf1 One})");
+        main.Data->Settings.DataPath = main.Folder.File("missing/");
+        OnHelp(main, [](QWidget& window) { Choose(window, "mnuFilePrint"); });
+        QCOMPARE(main.Answers.TakeShown(),
+                 (QStringList{u"frmHelp"_s, OkMessage(u"Quorvex"_s, u"none"_s, u"Printer error"_s)}));
+    }
+
+    void ABulletsTextBeginsWhereItsOtherLinesDo() {
+        RunningWindow main;
+        main.Folder.Write(
+            ReadMe,
+            R"({\rtf1\ansi{\fonttbl{\f0 Arial;}}\fs20\pard\li720\fi-360\tx720 *\tab One\line two\par})");
+        OnHelp(main, [](QWidget& window) {
+            QTextEdit const& text = TextOf(window);
+            QTextCursor cursor(text.document());
+            cursor.setPosition(0);
+            int const bullet = text.cursorRect(cursor).left();
+            cursor.setPosition(2);
+            int const first = text.cursorRect(cursor).left();
+            cursor.setPosition(6);
+            int const second = text.cursorRect(cursor).left();
+            QCOMPARE(first - bullet, 24); // 360 twips
+            QCOMPARE(second, first);
+        });
+    }
+
+    // A pattern finer than the pixels that it is shown in comes out as its mean.
+    void PicturesAreMadeSmallerWithoutLosingLines() {
+        QImage fine(400, 400, QImage::Format_RGB32);
+        for (int y = 0; y < fine.height(); ++y) {
+            for (int x = 0; x < fine.width(); ++x) {
+                fine.setPixel(x, y, x % 4 == 0 ? qRgb(0, 0, 0) : qRgb(255, 255, 255));
+            }
+        }
+        QByteArray png;
+        QBuffer buffer(&png);
+        buffer.open(QIODevice::WriteOnly);
+        QVERIFY(fine.save(&buffer, "PNG"));
+        RunningWindow main;
+        main.Folder.Write(ReadMe, R"({\rtf1{\pict\pngblip\picwgoal1500\pichgoal1500 )" +
+                                      png.toHex().toStdString() + "}}");
+        QImage shown;
+        OnHelp(main, [&](QWidget& window) { shown = TextOf(window).viewport()->grab().toImage(); });
+        int const light = qGray(shown.pixel(60, 60));
+        QVERIFY2(light > 170 && light < 210, qPrintable(QString::number(light)));
+    }
+
+    void StylesParagraphsAndTablesAreShownAsTheDocumentHasThem() {
+        RunningWindow main;
+        main.Folder.Write(
+            ReadMe,
+            R"({\rtf1\ansi{\fonttbl{\f0 Courier New;}}{\colortbl;\red192\green0\blue0;}\f0\fs30\b\i\ul\cf1)"
+            R"(\qc\li720\sb120 Loud\par\pard\plain\trowd\cellx2000\cellx4000 a\intbl\cell b\cell\row)"
+            R"(\pard after})");
+        OnHelp(main, [](QWidget& window) {
+            QTextBlock const block = TextOf(window).document()->firstBlock();
+            QTextCharFormat const letters = block.begin().fragment().charFormat();
+            QCOMPARE(letters.fontFamilies().toStringList(), QStringList{u"Courier New"_s});
+            QCOMPARE(letters.fontPointSize(), 15.0);
+            QCOMPARE(letters.fontWeight(), static_cast<int>(QFont::Bold));
+            QVERIFY(letters.fontItalic());
+            QVERIFY(letters.fontUnderline());
+            QCOMPARE(letters.foreground().color(), QColor(192, 0, 0));
+            QCOMPARE(block.blockFormat().alignment(), Qt::AlignHCenter);
+            QCOMPARE(block.blockFormat().leftMargin(), 48.0);
+            QCOMPARE(block.blockFormat().topMargin(), 8.0);
+            QTextTable* table = nullptr;
+            for (QTextFrame* frame : TextOf(window).document()->rootFrame()->childFrames()) {
+                table = qobject_cast<QTextTable*>(frame);
+            }
+            QVERIFY(table != nullptr);
+            QCOMPARE(table->columns(), 2);
+            QCOMPARE(table->cellAt(0, 1).firstCursorPosition().block().text(), u"b"_s);
+            QCOMPARE(TextOf(window).toPlainText(), u"Loud\na\nb\nafter"_s);
+        });
+    }
+};
+
+} // namespace quorvex::tests
+
+int main(int argc, char** argv) {
+    return quorvex::tests::RunWindowTest<quorvex::tests::frmHelpTest>(argc, argv);
+}
+
+#include "frmHelpTest.moc"
