@@ -7,6 +7,7 @@
 #include "platform/qt/QtTexts.h"
 #include "ui_frmPreferences.h"
 
+#include <QLineEdit>
 #include <QMenuBar>
 
 namespace quorvex::prefs::ui {
@@ -36,6 +37,9 @@ frmPreferences::frmPreferences(QWidget* parent, Settings& settings, quotes::Quot
       dialogs_(dialogs),
       ui_(std::make_unique<Ui::frmPreferences>()) {
     ui_->setupUi(this);
+    for (QComboBox* list : findChildren<QComboBox*>()) {
+        list->lineEdit()->setAccessibleName(list->accessibleName()); // it is what has the focus
+    }
     AddMenu();
     ConnectLists();
 }
