@@ -82,17 +82,6 @@ void RefuseQuoteFile(QuoteSeries& series, platform::Dialogs& dialogs) {
     series.WorkingCount = 0;
 }
 
-// A quote file is the user's data: a number goes into it only in a form that the reader takes back unchanged.
-void AppendReadableNumber(std::string& text, double value, text::NumberFormat const& format) {
-    std::size_t const begin = text.size();
-    format.AppendTo(text, value);
-    std::string_view const field = std::string_view(text).substr(begin);
-    if (field.find_first_of(",\"\r\n") != std::string_view::npos ||
-        text::LeadingNumber(field) != format.Round(value)) {
-        throw RunTimeError(Fault::TypeMismatch);
-    }
-}
-
 } // namespace
 
 std::int16_t ReadQuotes(text::ByteSource& source, text::NumberFormat const& format, QuoteSeries& series) {
@@ -131,6 +120,16 @@ std::int16_t LoadQuoteFile(QuoteSeries& series, prefs::Settings const& settings,
     series.WorkingCount = count;
     TakeDatesOfWorkingCopy(series);
     return count;
+}
+
+void AppendReadableNumber(std::string& text, double value, text::NumberFormat const& format) {
+    std::size_t const begin = text.size();
+    format.AppendTo(text, value);
+    std::string_view const field = std::string_view(text).substr(begin);
+    if (field.find_first_of(",\"\r\n") != std::string_view::npos ||
+        text::LeadingNumber(field) != format.Round(value)) {
+        throw RunTimeError(Fault::TypeMismatch);
+    }
 }
 
 std::string QuoteFileText(QuoteSeries const& series, text::NumberFormat const& format) {

@@ -31,8 +31,12 @@ namespace quorvex::quotes {
 std::int16_t LoadQuoteFile(QuoteSeries& series, prefs::Settings const& settings, platform::Files const& files,
                            platform::Dialogs& dialogs);
 
-// The working copy as the text of a quote file. Raises "Type mismatch" when the format spells numbers in a
-// way that would not read back as the same numbers, such as with thousands commas.
+// Puts the number behind the text in the form in which a quote file holds it. A quote file is the user's
+// data: raises "Type mismatch" when the format spells the number in a way that would not read back as the
+// same one, such as with thousands commas.
+void AppendReadableNumber(std::string& text, double value, text::NumberFormat const& format);
+
+// The working copy as the text of a quote file. Raises the fault of AppendReadableNumber.
 [[nodiscard]] std::string QuoteFileText(QuoteSeries const& series, text::NumberFormat const& format);
 
 // Writes the working copy into the data folder under the name, which may be in use, and makes it the master

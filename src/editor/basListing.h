@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// The listing of the editor's rows on paper.
+#pragma once
+
+#include "editor/Editor.h"
+#include "platform/MousePointer.h"
+#include "platform/Printer.h"
+#include "prefs/Settings.h"
+#include "text/RunTimeError.h"
+
+#include <optional>
+#include <string_view>
+
+namespace quorvex::editor {
+
+// The rows of a page.
+inline constexpr int RowsPerPage = 50;
+
+// Prints the grid as it stands, unchecked and unsorted, what was typed included; the mouse pointer is the
+// hourglass meanwhile. A fault, such as "Type mismatch" of a cell that is no number or "Printer error", ends
+// the listing, of which nothing is printed then, and is returned.
+[[nodiscard]] std::optional<text::RunTimeError> PrintQuotes(Editor& editor, std::string_view quoteFileName,
+                                                            prefs::Settings const& settings,
+                                                            platform::PrintQueue& queue,
+                                                            platform::MousePointer& pointer);
+
+// Prints the head of a page: the file's name, its first and last date and the heads of the columns. What
+// follows is in the font of the rows, in inches.
+void PrintHeader(platform::Printer& printer, Editor const& editor, std::string_view quoteFileName);
+
+} // namespace quorvex::editor

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "editor/basSave.h"
+
+#include "editor/basEdit.h"
+#include "editor/basSpread.h"
+#include "editor/basValidate.h"
+#include "platform/basMessages.h"
+#include "quotes/basDisk.h"
+#include "quotes/basQuotes.h"
+#include "text/basNumbers.h"
+#include "text/basTexts.h"
+
+namespace quorvex::editor {
+
+namespace {
+
+void CopyRows(Editor& editor, std::int16_t count) {
+    for (std::int16_t row = 1; row <= count; ++row) {
+        quotes::QuoteRecord& record = editor.EditQuotes[row];
+        record.Date = TextAt(editor.Grid, row, DateColumn);
+        std::int16_t column = FirstNumberColumn;
+        for (NumberColumn const& number : NumberColumns) {
+            record.*number.Field = text::StrictNumber(TextAt(editor.Grid, row, column++));
+        }
+    }
+}
+
+std::string EditFileText(Editor const& editor, quotes::QuoteRecords const& master,
+                         prefs::Settings const& settings) {
+    text::NumberFormat const priceFormat(settings.CurrencyFormat);
+    text::NumberFormat const countFormat("######0");
+    std::string text;
+    for (std::int16_t row = 1; row <= editor.EditCount; ++row) {
+        text += ShownDate(editor.EditQuotes[row].Date);
+        for (NumberColumn const& number : NumberColumns) {
+            text += ", ";
+            if (number.Style == NumberStyle::Price) {
+                quotes::AppendReadableNumber(text, editor.EditQuotes[row].*number.Field, priceFormat);
+            } else {
+                countFormat.AppendTo(text, master[row].*number.Field);
+            }
+        }
+        text += "\r\n";
+    }
+    return text;
+}
+
+} // namespace
+
+void CopySpreadToArray(Editor& editor) {
+    CopyRows(editor, editor.Grid.RowCount());
+}
+
+bool SaveEditData(std::string const& fileName, Editor& editor, quotes::QuoteRecords const& master,
+                  prefs::Settings const& settings, platform::Files& files) {
+    return !text::Trap([&] {
+        CopyRows(editor, editor.EditCount);
+        files.Replace(fileName, EditFileText(editor, master, settings));
+    });
+}
+
+bool SaveEdits(Editor& editor, quotes::QuoteSeries const& series, prefs::Settings const& settings,
+               platform::Files& files, platform::Dialogs& dialogs) {
+    return ValidateQuotes(editor.Grid, dialogs) &&
+           SaveEditData(series.QuoteFileName, editor, series.Master, settings, files);
+}
+
+bool SaveEditsAs(Editor& editor, quotes::QuoteSeries& series, prefs::Settings const& settings,
+                 platform::Files& files, platform::Dialogs& dialogs) {
+    std::string const answer =
+        dialogs.Ask({"Save " + series.QuoteFileName + " As...", "Save As...", series.QuoteFileName});
+    std::string const name(text::Trim(answer));
+    if (name.empty()) {
+        return false;
+    }
+    if (!quotes::IsQuoteFileName(name)) {
+        dialogs.Show(
+            {"Invalid data file name", std::string(platform::ApplicationTitle), platform::Icon::Critical});
+        return false;
+    }
+    if (!ValidateQuotes(editor.Grid, dialogs) ||
+        !SaveEditData(name, editor, series.Master, settings, files)) {
+        return false;
+    }
+    series.QuoteFileName = name;
+    RebuildGrid(editor, settings);
+    return true;
+}
+
+} // namespace quorvex::editor

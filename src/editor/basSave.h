@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// How what was typed into the grid gets back into the editor's copy, and from there into a file. The quotes
+// in memory stay as they were loaded: they follow when the user opens the written file.
+#pragma once
+
+#include "editor/Editor.h"
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "prefs/Settings.h"
+#include "quotes/QuoteSeries.h"
+
+#include <string>
+
+namespace quorvex::editor {
+
+// Copies the grid into the editor's copy. Raises "Type mismatch" at a number cell whose whole text is no
+// number: the cells in front of it are copied.
+void CopySpreadToArray(Editor& editor);
+
+// Copies the grid into the editor's copy and writes that to the file, whose name is taken as it is: a bare
+// one lies in the current folder of the process. Volume and open interest of row r are those of record r of
+// the master copy, whatever the grid says. Returns false, and shows nothing, when a cell is no number, when
+// the currency format spells prices in a way that would not read back, or when the file cannot be written:
+// then a file of that name is as it was.
+[[nodiscard]] bool SaveEditData(std::string const& fileName, Editor& editor,
+                                quotes::QuoteRecords const& master, prefs::Settings const& settings,
+                                platform::Files& files);
+
+// Checks the rows and writes them to the open file. Returns whether they were written.
+bool SaveEdits(Editor& editor, quotes::QuoteSeries const& series, prefs::Settings const& settings,
+               platform::Files& files, platform::Dialogs& dialogs);
+
+// Asks for a name, checks the rows and writes them under it, which becomes the open file's name when that
+// succeeds. Nothing else of the series changes. Returns whether the rows were written.
+bool SaveEditsAs(Editor& editor, quotes::QuoteSeries& series, prefs::Settings const& settings,
+                 platform::Files& files, platform::Dialogs& dialogs);
+
+} // namespace quorvex::editor
