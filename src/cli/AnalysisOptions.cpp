@@ -3,10 +3,8 @@
 
 #include "cli/AnalysisOptions.h"
 
-#include "platform/disk/DiskFiles.h"
+#include "cli/QuotePath.h"
 #include "text/basDates.h"
-
-#include <string_view>
 
 namespace quorvex::cli {
 
@@ -25,13 +23,6 @@ CLI::Validator IsFitCount() {
                 return good ? std::string() : text + " is not 1, 2 or 3";
             },
             ""};
-}
-
-// Splits a path into the data folder, with its separator, and the bare name.
-void TakeQuotePath(std::string_view path, app::Program& program) {
-    auto const folderEnd = path.find_last_of(platform::disk::FolderEnds) + 1; // 0 when there is none
-    program.Settings.DataPath = path.substr(0, folderEnd);
-    program.Quotes.QuoteFileName = path.substr(folderEnd);
 }
 
 } // namespace
@@ -65,7 +56,7 @@ void TakeAnalysisOptions(AnalysisOptions const& options, app::Program& program) 
     settings.MovingAverageIndex = options.MovingAverage.value_or(settings.MovingAverageIndex);
     settings.CurrencyFormat = options.Format.value_or(settings.CurrencyFormat);
     settings.ChartType = options.ChartType.value_or(settings.ChartType);
-    TakeQuotePath(options.QuotePath, program);
+    TakeQuotePath(options.QuotePath, settings, program.Quotes);
 }
 
 } // namespace quorvex::cli

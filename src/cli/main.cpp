@@ -6,7 +6,9 @@
 #include "app/Program.h"
 #include "cli/Analyse.h"
 #include "cli/Chart.h"
+#include "cli/Check.h"
 #include "cli/FormatNumbers.h"
+#include "cli/List.h"
 #include "cli/Print.h"
 #include "cli/StandardStreams.h"
 #include "cli/SubCommand.h"
@@ -57,6 +59,8 @@ int main(int argc, char** argv) {
         Outputs const outputs = MakeOutputs();
         quorvex::cli::AddAnalyse(app, console, status);
         quorvex::cli::AddChart(app, outputs.Pictures.get(), status);
+        quorvex::cli::AddCheck(app, status);
+        quorvex::cli::AddList(app, outputs.Printing.get(), status);
         quorvex::cli::AddPrint(app, outputs.Printing.get(), status);
         quorvex::cli::AddFormat(app, status);
         try {

@@ -18,7 +18,7 @@ TEST(Companion, TellsItsVersion) {
 TEST(Companion, HelpsOnItselfAndOnEachSubCommand) {
     auto const run = RunCompanion({"--help"});
     EXPECT_EQ(run.ExitStatus, 0);
-    for (auto const* command : {"analyse", "chart", "format"}) {
+    for (auto const* command : {"analyse", "chart", "check", "list", "format"}) {
         EXPECT_NE(run.Output.find(command), std::string::npos);
         auto const help = RunCompanion({command, "--help"});
         EXPECT_EQ(help.ExitStatus, 0);
@@ -41,6 +41,11 @@ TEST(Companion, EndsWithTwoOnWrongUsage) {
           {"analyse", "a.txt", "--start", "13/45/02"},
           {"analyse", "a.txt", "--end", ""},
           {"analyse", "a.txt", "--automate", "1", "--parameters", "p.dat"},
+          {"check"},
+          {"check", "a.txt", "b.txt"},
+          {"check", "a.txt", "--format", "0"},
+          {"list", "a.txt"},
+          {"list", "-o", "a.pdf"},
           {"format"},
           {"format", "0"}}) {
         SCOPED_TRACE(testing::PrintToString(arguments));

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "cli/ConsoleDialogs.h"
+#include "editor/Editor.h"
+#include "editor/Sheet.h"
+#include "platform/disk/DiskFiles.h"
+#include "prefs/Settings.h"
+#include "quotes/QuoteSeries.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace quorvex::cli {
+
+// The quote editor on one file, without a window.
+class EditSession {
+public:
+    // Without a format, prices are shown as the program does without an INI file.
+    EditSession(std::string const& quotePath, std::optional<std::string> const& format);
+
+    // Loads the file and opens the editor on it. Returns false after the program's message when the file was
+    // refused.
+    [[nodiscard]] bool Open();
+
+    [[nodiscard]] editor::Editor& Edited() { return *editor_; }
+
+    [[nodiscard]] std::string const& QuoteFileName() const { return series_->QuoteFileName; }
+
+    [[nodiscard]] prefs::Settings const& Settings() const { return settings_; }
+
+    [[nodiscard]] platform::Dialogs& Dialogs() { return dialogs_; }
+
+    [[nodiscard]] platform::Files& Files() { return files_; }
+
+private:
+    prefs::Settings settings_;
+    std::unique_ptr<quotes::QuoteSeries> series_ = std::make_unique<quotes::QuoteSeries>();
+    editor::Sheet sheet_;
+    std::unique_ptr<editor::Editor> editor_ = std::make_unique<editor::Editor>(editor::Editor{sheet_, {}, 0});
+    ConsoleDialogs dialogs_;
+    platform::disk::DiskFiles files_;
+};
+
+} // namespace quorvex::cli
