@@ -83,12 +83,14 @@ void Sheet::SortByDate(Block const& block, std::int16_t keyColumn) {
         order.push_back(std::move(sorted));
     }
     std::ranges::stable_sort(order, {}, &SortedRow::Day);
-    std::size_t const width = order.empty() ? 0 : order.front().Texts.size();
-    std::size_t index = 0;
-    ChangeCells(block, [&](Cell& cell) {
-        cell.Text = std::move(order[index / width].Texts[index % width]);
-        ++index;
-    });
+    std::ptrdiff_t row = block.Row;
+    for (SortedRow const& sorted : order) {
+        std::ptrdiff_t column = block.Column;
+        for (std::string const& text : sorted.Texts) {
+            rows_[static_cast<std::size_t>(row)][column++].Text = text;
+        }
+        ++row;
+    }
 }
 
 void Sheet::SetColumnWidth(std::int16_t column, double width) {
