@@ -6,6 +6,7 @@
 #include "quotes/ui/frmQuotes.h"
 #include "support/QuoteTexts.h"
 #include "windows/RunningWindow.h"
+#include "windows/ShownEditor.h"
 #include "windows/ShownForecast.h"
 #include "windows/WindowTest.h"
 
@@ -107,6 +108,11 @@ private Q_SLOTS:
         QAccessibleInterface* chart = QAccessible::queryAccessibleInterface(&shown.Chart());
         QCOMPARE(chart->role(), QAccessible::Chart);
         QCOMPARE(chart->text(QAccessible::Name), u"Forecast chart"_s);
+    }
+
+    void EveryControlOfTheEditorHasAName() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] { VerifyNamed(*shown.Window, 30 * 7 + 1); });
     }
 
     void EveryControlOfTheBoxesHasAName() {

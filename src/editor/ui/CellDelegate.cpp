@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "editor/ui/CellDelegate.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+
+namespace quorvex::editor::ui {
+
+int RowsToMove(QKeyEvent const& event) {
+    bool const isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    if (!isEnter) {
+        return 0;
+    }
+    return event.modifiers().testFlag(Qt::ShiftModifier) ? -1 : 1;
+}
+
+QWidget* CellDelegate::createEditor(QWidget* parent, QStyleOptionViewItem const&,
+                                    QModelIndex const& index) const {
+    auto* edit = new QLineEdit(parent);
+    edit->setObjectName(QStringLiteral("CellEditor"));
+    edit->setFrame(false);
+    edit->setAlignment(index.data(Qt::TextAlignmentRole).value<Qt::Alignment>());
+    edit->setAccessibleName(index.data(Qt::AccessibleDescriptionRole).toString());
+    return edit;
+}
+
+void CellDelegate::Finish(QWidget& cellEditor) {
+    Q_EMIT commitData(&cellEditor);
+    Q_EMIT closeEditor(&cellEditor);
+}
+
+bool CellDelegate::eventFilter(QObject* watched, QEvent* event) {
+    auto* cellEditor = qobject_cast<QWidget*>(watched);
+    if (cellEditor != nullptr && event->type() == QEvent::KeyPress) {
+        if (int const rows = RowsToMove(*static_cast<QKeyEvent*>(event)); rows != 0) {
+            Finish(*cellEditor);
+            Q_EMIT MoveWanted(rows);
+            return true;
+        }
+    }
+    return QStyledItemDelegate::eventFilter(watched, event);
+}
+
+} // namespace quorvex::editor::ui

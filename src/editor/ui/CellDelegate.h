@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace quorvex::editor::ui {
+
+// Edits a cell in a line edit that says which cell it is. Enter takes the text over and asks for the cell
+// below, with Shift for the one above.
+class CellDelegate final : public QStyledItemDelegate {
+    Q_OBJECT
+
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QWidget* createEditor(QWidget* parent, QStyleOptionViewItem const& option,
+                                        QModelIndex const& index) const override;
+
+    // Takes over what stands in the editor, and closes it.
+    void Finish(QWidget& cellEditor);
+
+Q_SIGNALS:
+    void MoveWanted(int rows);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+};
+
+// How many rows the key wants to move, 0 when it is another key.
+[[nodiscard]] int RowsToMove(QKeyEvent const& event);
+
+} // namespace quorvex::editor::ui

@@ -1,0 +1,179 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "editor/ui/SpreadGrid.h"
+
+#include "editor/basBlocks.h"
+#include "platform/qt/Painting.h"
+#include "platform/qt/QtTexts.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <algorithm>
+#include <cmath>
+
+namespace quorvex::editor::ui {
+
+namespace {
+
+using platform::qt::TwipsPerPixel;
+
+int PixelsOf(double twips) {
+    return std::max(0, static_cast<int>(std::lround(twips / TwipsPerPixel)));
+}
+
+} // namespace
+
+SpreadGrid::SpreadGrid(QWidget& client) : QTableView(&client) {
+    constexpr int RowMargin = 6;
+    setObjectName(QStringLiteral("Spread"));
+    setAccessibleName(QStringLiteral("Daily quotes"));
+    setModel(&model_);
+    setItemDelegate(&delegate_);
+    setSelectionMode(QAbstractItemView::ContiguousSelection);
+    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
+                    QAbstractItemView::AnyKeyPressed);
+    setWordWrap(false);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + RowMargin);
+    verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
+    connect(&delegate_, &CellDelegate::MoveWanted, this, &SpreadGrid::MoveDown);
+}
+
+void SpreadGrid::FinishTyping() {
+    QWidget* const cellEditor = state() == EditingState ? indexWidget(currentIndex()) : nullptr;
+    if (cellEditor != nullptr) {
+        delegate_.Finish(*cellEditor);
+    }
+}
+
+void SpreadGrid::TellChanged() {
+    if (isFilled_) {
+        model_.TellChanged();
+    }
+}
+
+void SpreadGrid::SetText(std::string_view text) {
+    sheet_.SetText(text);
+    TellChanged();
+}
+
+std::int16_t SpreadGrid::ActiveRow() const {
+    return static_cast<std::int16_t>(currentIndex().row() + 1);
+}
+
+void SpreadGrid::MoveCursor(std::int16_t row, std::int16_t column) {
+    static_cast<void>(sheet_.CellAt(row, column)); // which must be there
+    setCurrentIndex(model_.index(row - 1, column - 1));
+}
+
+void SpreadGrid::SetCellKind(Block const& block, CellKind kind) {
+    sheet_.SetCellKind(block, kind);
+    TellChanged();
+}
+
+void SpreadGrid::SetBackColour(Block const& block, platform::Colour colour) {
+    sheet_.SetBackColour(block, colour);
+    TellChanged();
+}
+
+void SpreadGrid::SortByDate(Block const& block, std::int16_t keyColumn) {
+    sheet_.SortByDate(block, keyColumn);
+    TellChanged();
+}
+
+void SpreadGrid::SetColumnWidth(std::int16_t column, double width) {
+    sheet_.SetColumnWidth(column, width);
+    setColumnWidth(column - 1, PixelsOf(width));
+}
+
+void SpreadGrid::SetVisible(bool isVisible) {
+    isFilled_ = isVisible;
+    // A widget that is hidden would lose the focus.
+    setUpdatesEnabled(isVisible);
+    TellChanged();
+}
+
+double SpreadGrid::Width() const {
+    return width() * TwipsPerPixel;
+}
+
+void SpreadGrid::SetWidth(double width) {
+    resize(std::min(PixelsOf(width), parentWidget()->width() - x()), height());
+}
+
+void SpreadGrid::SetHeight(double height) {
+    resize(width(), std::min(PixelsOf(height), parentWidget()->height() - y()));
+}
+
+std::optional<Block> SpreadGrid::SelectedBlock() const {
+    QItemSelection const selection = selectionModel()->selection();
+    if (!selection.isEmpty()) {
+        // Only one range can be selected at a time.
+        QItemSelectionRange const& range = selection.first();
+        auto const number = [](int section) { return static_cast<std::int16_t>(section + 1); };
+        return Block{number(range.top()), number(range.left()), number(range.bottom()),
+                     number(range.right())};
+    }
+    if (QModelIndex const cursor = currentIndex(); cursor.isValid()) {
+        auto const row = static_cast<std::int16_t>(cursor.row() + 1);
+        auto const column = static_cast<std::int16_t>(cursor.column() + 1);
+        return Block{row, column, row, column};
+    }
+    return std::nullopt;
+}
+
+void SpreadGrid::keyPressEvent(QKeyEvent* event) {
+    if (int const rows = RowsToMove(*event); rows != 0) {
+        MoveDown(rows);
+    } else if (!WorkOnBlock(*event)) {
+        QTableView::keyPressEvent(event);
+    }
+}
+
+bool SpreadGrid::WorkOnBlock(QKeyEvent const& event) {
+    auto const block = SelectedBlock();
+    if (!block) {
+        return false;
+    }
+    if (event.matches(QKeySequence::Copy)) {
+        Copy(*block);
+    } else if (event.matches(QKeySequence::Cut)) {
+        Copy(*block);
+        Clear(*block);
+    } else if (event.matches(QKeySequence::Paste)) {
+        Paste(*block);
+    } else if (event.key() == Qt::Key_Delete && event.modifiers() == Qt::NoModifier) {
+        Clear(*block);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void SpreadGrid::Copy(Block const& block) {
+    QGuiApplication::clipboard()->setText(platform::qt::ToQt(BlockText(*this, block)));
+}
+
+void SpreadGrid::Clear(Block const& block) {
+    ClearBlock(sheet_, block);
+    TellChanged();
+}
+
+void SpreadGrid::Paste(Block const& block) {
+    bool const hasAll = PasteText(sheet_, block, platform::qt::FromQt(QGuiApplication::clipboard()->text()));
+    TellChanged();
+    if (!hasAll) {
+        Q_EMIT CellsLeftOut();
+    }
+}
+
+void SpreadGrid::MoveDown(int rows) {
+    int const target = currentIndex().row() + rows;
+    if (currentIndex().isValid() && target >= 0 && target < model_.rowCount()) {
+        setCurrentIndex(model_.index(target, currentIndex().column()));
+    }
+}
+
+} // namespace quorvex::editor::ui

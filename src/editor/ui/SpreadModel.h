@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "editor/Sheet.h"
+
+#include <QAbstractTableModel>
+
+namespace quorvex::editor::ui {
+
+// Shows a sheet in Qt's views. Whoever changes the sheet by other ways than this model tells it so.
+class SpreadModel final : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    // The sheet must outlive the model.
+    explicit SpreadModel(Sheet& sheet) : sheet_(sheet) {}
+
+    [[nodiscard]] int rowCount(QModelIndex const& parent = {}) const override;
+    [[nodiscard]] int columnCount(QModelIndex const& parent = {}) const override;
+    [[nodiscard]] QVariant data(QModelIndex const& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(QModelIndex const& index) const override;
+    bool setData(QModelIndex const& index, QVariant const& value, int role) override;
+
+    void SetRowCount(std::int16_t count);
+
+    // Makes the views show all texts and colours anew.
+    void TellChanged();
+
+private:
+    [[nodiscard]] Cell const& CellAt(QModelIndex const& index) const;
+
+    Sheet& sheet_;
+};
+
+} // namespace quorvex::editor::ui

@@ -1,0 +1,172 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "editor/ui/frmEdit.h"
+
+#include "editor/basEdit.h"
+#include "editor/basListing.h"
+#include "editor/basSave.h"
+#include "platform/basMessages.h"
+#include "platform/qt/NominalFrame.h"
+#include "platform/qt/QtDialogs.h"
+#include "platform/qt/QtTexts.h"
+
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QScopeGuard>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <utility>
+
+namespace quorvex::editor::ui {
+
+namespace {
+
+constexpr QSize InitialSize(940, 680);
+
+QMenu& AddMenu(QMenuBar& bar, char const* name, char const* caption) {
+    QMenu* menu = bar.addMenu(QString::fromLatin1(caption));
+    menu->setObjectName(QString::fromLatin1(name));
+    return *menu;
+}
+
+} // namespace
+
+frmEdit::frmEdit(QWidget* parent, quotes::QuoteSeries& series, prefs::Settings const& settings,
+                 platform::Files& files, platform::Dialogs& dialogs, platform::PrintQueue& printer,
+                 platform::MousePointer& pointer)
+    : QDialog(parent),
+      series_(series),
+      settings_(settings),
+      files_(files),
+      dialogs_(dialogs),
+      printer_(printer),
+      pointer_(pointer),
+      client_(new QWidget(this)),
+      spread_(new SpreadGrid(*client_)),
+      editor_(std::make_unique<Editor>(Editor{*spread_, {}, 0})) {
+    setObjectName(QStringLiteral("frmEdit"));
+    setWindowFlag(Qt::WindowMaximizeButtonHint);
+    auto* bar = new QMenuBar(this);
+    bar->setNativeMenuBar(false);
+    AddFileMenu(*bar);
+    AddEditMenu(*bar);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setMenuBar(bar);
+    column->addWidget(client_);
+    client_->installEventFilter(this);
+    connect(spread_, &SpreadGrid::CellsLeftOut, this, [this] {
+        Run([this] {
+            dialogs_.Show({"Cells beyond the last row or column of the grid were left out.\n"
+                           "Append Row adds a row at its end.",
+                           "Edit", platform::Icon::Exclamation});
+        });
+    });
+    resize(InitialSize.boundedTo(screen()->availableSize()));
+}
+
+frmEdit::~frmEdit() = default;
+
+void frmEdit::AddFileMenu(QMenuBar& bar) {
+    QMenu& menu = AddMenu(bar, "mnuFile", "&File");
+    AddItem(menu, "mnuFileSave", "&Save",
+            [this] { SaveEdits(*editor_, series_, settings_, files_, dialogs_); });
+    AddItem(menu, "mnuFileSaveAs", "Save &As...",
+            [this] { SaveEditsAs(*editor_, series_, settings_, files_, dialogs_); });
+    menu.addSeparator();
+    AddItem(menu, "mnuFilePrint", "&Print", [this] { Print(); });
+    menu.addSeparator();
+    AddItem(menu, "mnuFileExit", "E&xit", [this] { accept(); });
+}
+
+void frmEdit::AddEditMenu(QMenuBar& bar) {
+    QMenu& menu = AddMenu(bar, "mnuEdit", "&Edit");
+    AddItem(menu, "mnuEditInsert", "&Insert Row", [this] { InsertRow(*editor_, settings_, dialogs_); });
+    AddItem(menu, "mnuEditAppend", "&Append Row", [this] { AppendRow(*editor_, settings_, dialogs_); });
+    menu.addSeparator();
+    AddItem(menu, "mnuEditDelete", "&Delete Row", [this] { DeleteRow(*editor_, settings_, dialogs_); });
+    AddItem(menu, "mnuEditHelp", "&Help", [this] { ShowEditHelp(dialogs_); });
+}
+
+void frmEdit::AddItem(QWidget& menu, char const* name, char const* caption, Command command) {
+    auto* action = new QAction(QString::fromLatin1(caption), &menu);
+    action->setObjectName(QString::fromLatin1(name));
+    action->setMenuRole(QAction::NoRole);
+    connect(action, &QAction::triggered, this, [this, run = std::move(command)] { Run(run); });
+    menu.addAction(action);
+}
+
+void frmEdit::Run(Command const& command) {
+    platform::qt::CloseMenus();
+    // Keys and mouse do not come through while a box waits for an answer; assistive technology does.
+    if (isBusy_) {
+        return;
+    }
+    {
+        isBusy_ = true;
+        auto const free = qScopeGuard([this] { isBusy_ = false; });
+        spread_->FinishTyping(); // what is being typed counts for the command
+        platform::qt::RunGuarded(*this, command);
+    }
+    // Some desktops tell only now that a box has closed.
+    isBoxClosing_ = !isActiveWindow();
+}
+
+void frmEdit::RunModal() {
+    platform::qt::CentreForm(*this);
+    platform::qt::RunGuarded(*this, [this] { Open(); });
+    isBoxClosing_ = false;
+    spread_->setFocus();
+    exec();
+}
+
+void frmEdit::Open() {
+    PlaceGrid(); // the width of the columns follows from its width
+    OpenEditor(*editor_, series_);
+    setWindowTitle(platform::qt::ToQt(EditorCaption(series_)));
+    spread_->MoveCursor(spread_->RowCount() > 0 ? 1 : 0, 1);
+    Activate();
+}
+
+void frmEdit::PlaceGrid() {
+    SizeGrid(*spread_, platform::qt::OuterWidth(*client_), platform::qt::OuterHeight(*client_));
+}
+
+void frmEdit::Activate() {
+    PlaceGrid();
+    RebuildGrid(*editor_, settings_);
+}
+
+void frmEdit::Print() {
+    if (auto const error = PrintQuotes(*editor_, series_.QuoteFileName, settings_, printer_, pointer_)) {
+        platform::ShowError(dialogs_, *error);
+    }
+}
+
+bool frmEdit::event(QEvent* event) {
+    // Closing a box of a command activates the window as well. That must not drop what was typed: the user
+    // has just been told which cell to mend, and a save may not have come to its end.
+    if (event->type() == QEvent::WindowActivate && !isBusy_ && !std::exchange(isBoxClosing_, false)) {
+        platform::qt::RunGuarded(*this, [this] { Activate(); });
+    }
+    return QDialog::event(event);
+}
+
+bool frmEdit::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == client_ && event->type() == QEvent::Resize) {
+        // A desktop may change the window's size while a box is open: the command goes on with what was
+        // typed.
+        platform::qt::RunGuarded(*this, [this] { isBusy_ ? PlaceGrid() : Activate(); });
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void frmEdit::keyPressEvent(QKeyEvent* event) {
+    // Escape gives up the typing of a cell; pressed once too often, it must not give up all that was typed.
+    if (event->key() != Qt::Key_Escape) {
+        QDialog::keyPressEvent(event);
+    }
+}
+
+} // namespace quorvex::editor::ui

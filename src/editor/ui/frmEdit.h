@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "editor/Editor.h"
+#include "editor/ui/SpreadGrid.h"
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "platform/MousePointer.h"
+#include "platform/Printer.h"
+#include "prefs/Settings.h"
+#include "quotes/QuoteSeries.h"
+
+#include <QDialog>
+#include <functional>
+#include <memory>
+
+class QMenuBar;
+
+namespace quorvex::editor::ui {
+
+// Edits a copy of the quotes that were read from the open file, and writes it to a file. What is typed stands
+// in the grid alone until it is saved or printed: whatever fills the grid anew, the size of the window and
+// coming back from another program included, drops it.
+class frmEdit final : public QDialog {
+    Q_OBJECT
+
+public:
+    // Of the series only the file's name is ever changed, by Save As. All must outlive the window.
+    frmEdit(QWidget* parent, quotes::QuoteSeries& series, prefs::Settings const& settings,
+            platform::Files& files, platform::Dialogs& dialogs, platform::PrintQueue& printer,
+            platform::MousePointer& pointer);
+    ~frmEdit() override;
+
+    // Opens the quotes anew, shows the window and waits until it is closed.
+    void RunModal();
+
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    using Command = std::function<void()>;
+
+    void AddFileMenu(QMenuBar& bar);
+    void AddEditMenu(QMenuBar& bar);
+    void AddItem(QWidget& menu, char const* name, char const* caption, Command command);
+
+    // Runs the command unless another one is running.
+    void Run(Command const& command);
+
+    void Open();
+    void PlaceGrid();
+
+    // Fits the grid into the window and fills it from the editor's copy.
+    void Activate();
+
+    void Print();
+
+    quotes::QuoteSeries& series_;
+    prefs::Settings const& settings_;
+    platform::Files& files_;
+    platform::Dialogs& dialogs_;
+    platform::PrintQueue& printer_;
+    platform::MousePointer& pointer_;
+    QWidget* client_;
+    SpreadGrid* spread_;
+    std::unique_ptr<Editor> editor_;
+    bool isBusy_ = false;       // a command is running
+    bool isBoxClosing_ = false; // the next activation belongs to the last box of a command
+};
+
+} // namespace quorvex::editor::ui
