@@ -210,6 +210,16 @@ TEST_F(QuoteEditor, BeyondTheLimitARowHasNoRecord) {
     EXPECT_THROW(Append(), text::RunTimeError);
 }
 
+TEST_F(QuoteEditor, CountsOverflowBehindSixteenBits) {
+    OpenDays(3);
+    sheet.SetRowCount(32767);
+    sheet.MoveCursor(1, 1);
+    auto const error = text::Trap([&] { InsertRow(*edited, settings, dialogs); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Description(), "Overflow");
+    EXPECT_EQ(edited->EditCount, 3);
+}
+
 TEST_F(QuoteEditor, InsertMovesTheRowsDown) {
     OpenDays(4);
     InsertAt(2);

@@ -5,6 +5,8 @@
 
 #include <QStyledItemDelegate>
 
+class QKeyEvent;
+
 namespace quorvex::editor::ui {
 
 // Edits a cell in a line edit that says which cell it is. Enter takes the text over and asks for the cell

@@ -115,13 +115,13 @@ void frmEdit::Run(Command const& command) {
 
 void frmEdit::RunModal() {
     platform::qt::CentreForm(*this);
-    platform::qt::RunGuarded(*this, [this] { Open(); });
+    platform::qt::RunGuarded(*this, [this] { LoadQuotes(); });
     isBoxClosing_ = false;
     spread_->setFocus();
     exec();
 }
 
-void frmEdit::Open() {
+void frmEdit::LoadQuotes() {
     PlaceGrid(); // the width of the columns follows from its width
     OpenEditor(*editor_, series_);
     setWindowTitle(platform::qt::ToQt(EditorCaption(series_)));

@@ -51,7 +51,7 @@ private:
     // Runs the command unless another one is running.
     void Run(Command const& command);
 
-    void Open();
+    void LoadQuotes();
     void PlaceGrid();
 
     // Fits the grid into the window and fills it from the editor's copy.
