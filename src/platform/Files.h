@@ -7,12 +7,29 @@
 
 #include "text/basFields.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace quorvex::platform {
+
+// Takes the bytes of a file that is being written. Every operation raises the fault of the device.
+class ByteSink {
+public:
+    ByteSink() = default;
+    ByteSink(ByteSink const&) = delete;
+    ByteSink& operator=(ByteSink const&) = delete;
+    // Closes the file when that was not done; a fault then stays unknown.
+    virtual ~ByteSink() = default;
+
+    virtual void Write(std::string_view bytes) = 0;
+
+    // Closes the file, so that what the system reports only now is not lost. Nothing can be written behind
+    // it, and the file is closed even after a fault.
+    virtual void Close() = 0;
+};
 
 // The faults are those of text::RunTimeError: "Bad file name or number" for a name that no file can have,
 // "File not found", "Path not found" when its folder is missing, "Permission denied" (a folder in place of a
@@ -30,6 +47,16 @@ public:
     // Gives the file these bytes as its whole content, creating it when missing. On a fault, and also when
     // the program or the machine stops half-way, the file is as it was before.
     virtual void Replace(std::string const& path, std::string_view content) = 0;
+
+    // Makes the file empty at once, creating it when missing, and opens it for writing; what was in it is
+    // lost. A file that a link names is the one that is written. A fault leaves everything as it was.
+    [[nodiscard]] virtual std::unique_ptr<ByteSink> OpenForOutput(std::string const& path) = 0;
+
+    // Deletes the file. Of a link, the file that it names goes and the link stays.
+    virtual void Remove(std::string const& path) = 0;
+
+    // The length of the file in bytes.
+    [[nodiscard]] virtual std::uint64_t Length(std::string const& path) const = 0;
 
     // The names of the files, not folders, in the folder that fit the pattern, in the order of the file
     // system. The folder ends with a separator. None when the folder cannot be read.

@@ -11,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <csignal>
 #include <filesystem>
 #include <optional>
@@ -70,6 +71,74 @@ TEST(DiskFilesFaults, AFullDiskLeavesTheOldFileAndNoOther) {
     }
     EXPECT_EQ(folder.Read("a.txt"), "old");
     EXPECT_EQ(folder.EntryCount(), 1);
+}
+
+std::optional<Fault> FaultOfEmptying(std::string const& path) {
+    auto const error = text::Trap([&] { static_cast<void>(DiskFiles().OpenForOutput(path)); });
+    return error ? std::optional(error->Kind()) : std::nullopt;
+}
+
+TEST(DiskFilesFaults, ADiskThatFillsWhileAFileIsWrittenIsReported) {
+    tests::TemporaryFolder const folder;
+    SmallDisk const small(1000);
+    auto const sink = DiskFiles().OpenForOutput(folder.File("a.txt"));
+    sink->Write(std::string(900, 'x'));
+    auto const error = text::Trap([&] { sink->Write(std::string(900, 'x')); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Kind(), Fault::DiskFull);
+}
+
+TEST(DiskFilesFaults, WhatMayNotBeWrittenIsNotEmptied) {
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "old");
+    chmod(folder.File("a.txt").c_str(), 0444);
+    chmod(folder.Path().c_str(), 0555);
+    {
+        AsOrdinaryUser const user;
+        EXPECT_EQ(FaultOfEmptying(folder.File("a.txt")), Fault::PermissionDenied);
+        EXPECT_EQ(FaultOfEmptying(folder.File("new.txt")), Fault::PermissionDenied);
+        auto const error = text::Trap([&] { DiskFiles().Remove(folder.File("a.txt")); });
+        ASSERT_TRUE(error);
+        EXPECT_EQ(error->Kind(), Fault::PermissionDenied);
+    }
+    EXPECT_EQ(folder.Read("a.txt"), "old");
+    EXPECT_EQ(folder.EntryCount(), 1);
+}
+
+TEST(DiskFilesFaults, OfALinkTheFileThatItNamesIsEmptiedAndRemoved) {
+    tests::TemporaryFolder const folder;
+    folder.Write("real.txt", "old");
+    std::filesystem::create_symlink("real.txt", folder.File("link.txt"));
+    DiskFiles files;
+    auto const sink = files.OpenForOutput(folder.File("link.txt"));
+    EXPECT_EQ(folder.Read("real.txt"), "");
+    sink->Write("new");
+    sink->Close();
+    EXPECT_EQ(files.Length(folder.File("link.txt")), 3U);
+    files.Remove(folder.File("link.txt"));
+    EXPECT_FALSE(std::filesystem::exists(folder.File("real.txt")));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.File("link.txt")));
+}
+
+TEST(DiskFilesFaults, ASourceThatIsEmptiedUnderAnotherNameIsAtItsEnd) {
+    tests::TemporaryFolder const folder;
+    folder.Write("real.txt", "old");
+    std::filesystem::create_hard_link(folder.File("real.txt"), folder.File("link.txt"));
+    DiskFiles files;
+    auto const source = files.OpenForInput(folder.File("real.txt"));
+    auto const sink = files.OpenForOutput(folder.File("link.txt"));
+    std::array<char, 8> buffer{};
+    EXPECT_EQ(source->Read(buffer), 0U);
+}
+
+TEST(DiskFilesFaults, APipeIsNeitherEmptiedNorRemoved) {
+    tests::TemporaryFolder const folder;
+    ASSERT_EQ(mkfifo(folder.File("pipe.txt").c_str(), 0666), 0);
+    EXPECT_EQ(FaultOfEmptying(folder.File("pipe.txt")), Fault::PermissionDenied);
+    auto const error = text::Trap([&] { DiskFiles().Remove(folder.File("pipe.txt")); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Kind(), Fault::PermissionDenied);
+    EXPECT_TRUE(std::filesystem::is_fifo(folder.File("pipe.txt")));
 }
 
 TEST(DiskFilesFaults, AReadOnlyFolderLeavesTheOldFile) {

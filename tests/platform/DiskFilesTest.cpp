@@ -53,6 +53,62 @@ TEST(DiskFiles, TellWhyAFileCannotBeRead) {
     EXPECT_EQ(FaultOfOpening(folder.File("a.txt/b.txt")), Fault::PathNotFound);
 }
 
+std::optional<Fault> FaultOfEmptying(std::string const& path) {
+    auto const error = text::Trap([&] { static_cast<void>(DiskFiles().OpenForOutput(path)); });
+    return error ? std::optional(error->Kind()) : std::nullopt;
+}
+
+std::optional<Fault> FaultOfRemoving(std::string const& path) {
+    auto const error = text::Trap([&] { DiskFiles().Remove(path); });
+    return error ? std::optional(error->Kind()) : std::nullopt;
+}
+
+std::optional<Fault> FaultOfMeasuring(std::string const& path) {
+    auto const error = text::Trap([&] { static_cast<void>(DiskFiles().Length(path)); });
+    return error ? std::optional(error->Kind()) : std::nullopt;
+}
+
+TEST(DiskFiles, AreEmptiedAtOnceAndWrittenInPieces) {
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "old text");
+    DiskFiles files;
+    auto const sink = files.OpenForOutput(folder.File("a.txt"));
+    EXPECT_EQ(folder.Read("a.txt"), "");
+    sink->Write("one\r\n");
+    EXPECT_EQ(folder.Read("a.txt"), "one\r\n");
+    sink->Write("two\n");
+    sink->Close();
+    EXPECT_EQ(folder.Read("a.txt"), "one\r\ntwo\n");
+    EXPECT_EQ(files.Length(folder.File("a.txt")), 9U);
+    EXPECT_EQ(folder.EntryCount(), 1);
+}
+
+TEST(DiskFiles, AreCreatedWhenMissingAndCanBeRemoved) {
+    tests::TemporaryFolder const folder;
+    DiskFiles files;
+    files.OpenForOutput(folder.File("a.txt"))->Close();
+    EXPECT_EQ(files.Length(folder.File("a.txt")), 0U);
+    files.Remove(folder.File("a.txt"));
+    EXPECT_EQ(folder.EntryCount(), 0);
+}
+
+TEST(DiskFiles, TellWhyAFileCannotBeEmptiedRemovedOrMeasured) {
+    tests::TemporaryFolder const folder;
+    EXPECT_EQ(FaultOfEmptying(folder.File("nowhere/a.txt")), Fault::PathNotFound);
+    EXPECT_EQ(FaultOfEmptying(folder.Text()), Fault::PermissionDenied);
+    EXPECT_EQ(FaultOfEmptying(""), Fault::BadFileName);
+    EXPECT_EQ(FaultOfEmptying(folder.File(std::string("a\0b.txt", 7))), Fault::BadFileName);
+    EXPECT_EQ(FaultOfEmptying(folder.File(std::string(5000, 'x'))), Fault::BadFileName);
+    EXPECT_EQ(FaultOfRemoving(folder.File("gone.txt")), Fault::FileNotFound);
+    EXPECT_EQ(FaultOfRemoving(folder.File("nowhere/gone.txt")), Fault::PathNotFound);
+    EXPECT_EQ(FaultOfRemoving(folder.Text()), Fault::PermissionDenied);
+    EXPECT_EQ(FaultOfRemoving(""), Fault::BadFileName);
+    EXPECT_EQ(FaultOfMeasuring(folder.File("gone.txt")), Fault::FileNotFound);
+    EXPECT_EQ(FaultOfMeasuring(folder.File("nowhere/gone.txt")), Fault::PathNotFound);
+    EXPECT_EQ(FaultOfMeasuring(folder.Text()), Fault::PermissionDenied);
+    EXPECT_EQ(FaultOfMeasuring(""), Fault::BadFileName);
+}
+
 TEST(DiskFiles, TakeBackslashesAsSeparators) {
     tests::TemporaryFolder const folder;
     std::filesystem::create_directory(folder.File("sub"));

@@ -43,5 +43,38 @@ TEST(MemoryFiles, FailAsTold) {
     EXPECT_EQ(files.Contents.at("a.txt"), "hello");
 }
 
+TEST(MemoryFiles, AreEmptiedWrittenMeasuredAndRemoved) {
+    MemoryFiles files;
+    files.Contents = {{"a.txt", "old text"}};
+    auto const sink = files.OpenForOutput("a.txt");
+    EXPECT_EQ(files.Length("a.txt"), 0U);
+    sink->Write("hel");
+    sink->Write("lo");
+    sink->Close();
+    EXPECT_EQ(files.Contents.at("a.txt"), "hello");
+    EXPECT_EQ(files.Length("a.txt"), 5U);
+    files.Remove("a.txt");
+    EXPECT_TRUE(files.Contents.empty());
+    EXPECT_THROW(files.Remove("a.txt"), text::RunTimeError);
+    EXPECT_THROW(static_cast<void>(files.Length("a.txt")), text::RunTimeError);
+}
+
+TEST(MemoryFiles, BreakOffWhileTheyAreWritten) {
+    MemoryFiles files;
+    files.BreakOutput = {4, text::Fault::DiskFull};
+    auto const sink = files.OpenForOutput("a.txt");
+    sink->Write("hel");
+    EXPECT_THROW(sink->Write("lo"), text::RunTimeError);
+    EXPECT_EQ(files.Contents.at("a.txt"), "hell");
+    auto const full = files.OpenForOutput("b.txt");
+    full->Write("hell");
+    EXPECT_THROW(full->Close(), text::RunTimeError);
+    files.BreakRemoving = text::Fault::PermissionDenied;
+    EXPECT_THROW(files.Remove("a.txt"), text::RunTimeError);
+    files.BreakWriting = text::Fault::PermissionDenied;
+    EXPECT_THROW(static_cast<void>(files.OpenForOutput("a.txt")), text::RunTimeError);
+    EXPECT_EQ(files.Contents.at("a.txt"), "hell");
+}
+
 } // namespace
 } // namespace quorvex::platform::fake

@@ -50,6 +50,17 @@ std::filesystem::path BehindLinks(std::filesystem::path path) {
     return path;
 }
 
+// Neither a folder nor a device or pipe is ever replaced, emptied or deleted. Returns whether there is a
+// file.
+bool RequireFileOrNone(std::filesystem::path const& path) {
+    std::error_code error;
+    bool const exists = std::filesystem::exists(path, error);
+    if (exists && !std::filesystem::is_regular_file(path, error)) {
+        throw RunTimeError(Fault::PermissionDenied);
+    }
+    return exists;
+}
+
 } // namespace
 
 std::filesystem::path HostPath(std::string_view path) {
@@ -72,17 +83,37 @@ std::unique_ptr<text::ByteSource> DiskFiles::OpenForInput(std::string const& pat
 void DiskFiles::Replace(std::string const& path, std::string_view content) {
     RequireName(path);
     std::filesystem::path const target = BehindLinks(HostPath(path));
-    std::error_code error;
-    bool const exists = std::filesystem::exists(target, error);
-    if (exists && (!std::filesystem::is_regular_file(target, error) || IsWriteProtected(target))) {
+    if (RequireFileOrNone(target) && IsWriteProtected(target)) {
         throw RunTimeError(Fault::PermissionDenied);
     }
     std::filesystem::path const temporary = WriteTemporaryHostFile(target, content);
     auto const fault = text::Trap([&] { MoveHostFile(temporary, target); });
     if (fault) {
-        std::filesystem::remove(temporary, error);
+        std::error_code ignored;
+        std::filesystem::remove(temporary, ignored);
         throw RunTimeError(fault->Kind());
     }
+}
+
+std::unique_ptr<ByteSink> DiskFiles::OpenForOutput(std::string const& path) {
+    RequireName(path);
+    std::filesystem::path const target = HostPath(path);
+    RequireFileOrNone(target);
+    return CreateHostFile(target);
+}
+
+void DiskFiles::Remove(std::string const& path) {
+    RequireName(path);
+    std::filesystem::path const target = BehindLinks(HostPath(path));
+    RequireFileOrNone(target);
+    RemoveHostFile(target);
+}
+
+std::uint64_t DiskFiles::Length(std::string const& path) const {
+    RequireName(path);
+    std::filesystem::path const file = HostPath(path);
+    RequireFileOrNone(file);
+    return HostFileLength(file);
 }
 
 std::vector<std::string> DiskFiles::List(std::string const& folder, std::string_view pattern) const {

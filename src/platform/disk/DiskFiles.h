@@ -25,6 +25,9 @@ class DiskFiles final : public Files {
 public:
     [[nodiscard]] std::unique_ptr<text::ByteSource> OpenForInput(std::string const& path) const override;
     void Replace(std::string const& path, std::string_view content) override;
+    [[nodiscard]] std::unique_ptr<ByteSink> OpenForOutput(std::string const& path) override;
+    void Remove(std::string const& path) override;
+    [[nodiscard]] std::uint64_t Length(std::string const& path) const override;
     [[nodiscard]] std::vector<std::string> List(std::string const& folder,
                                                 std::string_view pattern) const override;
 };

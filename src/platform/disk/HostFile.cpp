@@ -10,6 +10,7 @@
 #include <random>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #ifdef _WIN32
 #include <fcntl.h>
@@ -34,6 +35,7 @@ using text::RunTimeError;
 
 constexpr int ReadFlags = _O_RDONLY | _O_BINARY | _O_NOINHERIT;
 constexpr int CreateFlags = _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT;
+constexpr int EmptyFlags = _O_WRONLY | _O_CREAT | _O_TRUNC | _O_BINARY | _O_NOINHERIT;
 
 int OpenDescriptor(std::filesystem::path const& path, int flags, bool) {
     return _wopen(path.c_str(), flags, _S_IREAD | _S_IWRITE);
@@ -64,6 +66,7 @@ bool IsFolder(int) {
 
 constexpr int ReadFlags = O_RDONLY | O_CLOEXEC;
 constexpr int CreateFlags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
+constexpr int EmptyFlags = O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC;
 
 int OpenDescriptor(std::filesystem::path const& path, int flags, bool onlyForOwner) {
     constexpr mode_t Owner = 0600;
@@ -134,6 +137,11 @@ Fault FaultOf(int error, std::filesystem::path const& path) {
     throw RunTimeError(FaultOf(error, path));
 }
 
+// What the file system library reports, as errno names it.
+int PosixNumber(std::error_code const& error) {
+    return error.default_error_condition().value();
+}
+
 // An open file, closed with its owner.
 class HostFile {
 public:
@@ -182,13 +190,16 @@ public:
         }
     }
 
-    // Waits for the disk; an error that the system reports only on closing is not lost.
-    void FlushAndClose() {
+    // Waits for the disk.
+    void Flush() const {
         if (FlushDescriptor(descriptor_) != 0) {
             Raise(errno, path_);
         }
-        int const descriptor = descriptor_;
-        descriptor_ = -1;
+    }
+
+    // An error that the system reports only on closing is not lost.
+    void Close() {
+        int const descriptor = std::exchange(descriptor_, -1);
         if (CloseDescriptor(descriptor) != 0 && errno != EINTR) {
             Raise(errno, path_);
         }
@@ -210,10 +221,44 @@ private:
     HostFile file_;
 };
 
+class HostFileSink final : public ByteSink {
+public:
+    explicit HostFileSink(std::filesystem::path const& path)
+        : file_(path, OpenDescriptor(path, EmptyFlags, false)) {}
+
+    void Write(std::string_view bytes) override { file_.Write(bytes); }
+
+    void Close() override { file_.Close(); }
+
+private:
+    HostFile file_;
+};
+
 } // namespace
 
 std::unique_ptr<text::ByteSource> OpenHostFile(std::filesystem::path const& path) {
     return std::make_unique<HostFileSource>(path);
+}
+
+std::unique_ptr<ByteSink> CreateHostFile(std::filesystem::path const& path) {
+    return std::make_unique<HostFileSink>(path);
+}
+
+void RemoveHostFile(std::filesystem::path const& path) {
+    std::error_code error;
+    bool const wasThere = std::filesystem::remove(path, error);
+    if (error || !wasThere) {
+        Raise(error ? PosixNumber(error) : ENOENT, path);
+    }
+}
+
+std::uint64_t HostFileLength(std::filesystem::path const& path) {
+    std::error_code error;
+    auto const length = std::filesystem::file_size(path, error);
+    if (error) {
+        Raise(PosixNumber(error), path);
+    }
+    return length;
 }
 
 std::filesystem::path WriteTemporaryHostFile(std::filesystem::path const& target, std::string_view content) {
@@ -229,7 +274,8 @@ std::filesystem::path WriteTemporaryHostFile(std::filesystem::path const& target
     HostFile file(path, descriptor);
     auto const error = text::Trap([&] {
         file.Write(content);
-        file.FlushAndClose();
+        file.Flush();
+        file.Close();
     });
     if (error) {
         std::filesystem::remove(path, ignored);

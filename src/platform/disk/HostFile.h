@@ -4,9 +4,11 @@
 // The operating system's calls for one file. Every fault of the system comes out as a text::RunTimeError.
 #pragma once
 
+#include "platform/Files.h"
 #include "text/basFields.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <span>
@@ -16,6 +18,14 @@ namespace quorvex::platform::disk {
 
 // The file opened for reading from its start.
 [[nodiscard]] std::unique_ptr<text::ByteSource> OpenHostFile(std::filesystem::path const& path);
+
+// The file, made empty or created, opened for writing.
+[[nodiscard]] std::unique_ptr<ByteSink> CreateHostFile(std::filesystem::path const& path);
+
+void RemoveHostFile(std::filesystem::path const& path);
+
+// In bytes.
+[[nodiscard]] std::uint64_t HostFileLength(std::filesystem::path const& path);
 
 // Writes the content to a new file beside the target, under a name that is not in use, and waits until the
 // disk holds it. Only its owner may read it when the target exists, whose permissions it gets on moving. A

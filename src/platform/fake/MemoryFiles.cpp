@@ -31,6 +31,31 @@ private:
     text::Fault fault_;
 };
 
+class MemorySink final : public ByteSink {
+public:
+    using Break = std::optional<std::pair<std::size_t, text::Fault>>;
+
+    MemorySink(std::string& content, Break broken) : content_(content), break_(broken) {}
+
+    void Write(std::string_view bytes) override {
+        std::size_t const room = break_ ? break_->first - content_.size() : bytes.size();
+        content_ += bytes.substr(0, room);
+        if (room < bytes.size()) {
+            throw text::RunTimeError(break_->second);
+        }
+    }
+
+    void Close() override {
+        if (break_) {
+            throw text::RunTimeError(break_->second);
+        }
+    }
+
+private:
+    std::string& content_;
+    Break break_;
+};
+
 } // namespace
 
 std::unique_ptr<text::ByteSource> MemoryFiles::OpenForInput(std::string const& path) const {
@@ -49,6 +74,28 @@ void MemoryFiles::Replace(std::string const& path, std::string_view content) {
         throw text::RunTimeError(*BreakWriting);
     }
     Contents[path] = content;
+}
+
+std::unique_ptr<ByteSink> MemoryFiles::OpenForOutput(std::string const& path) {
+    Replace(path, {});
+    return std::make_unique<MemorySink>(Contents[path], BreakOutput);
+}
+
+void MemoryFiles::Remove(std::string const& path) {
+    if (BreakRemoving) {
+        throw text::RunTimeError(*BreakRemoving);
+    }
+    if (Contents.erase(path) == 0) {
+        throw text::RunTimeError(text::Fault::FileNotFound);
+    }
+}
+
+std::uint64_t MemoryFiles::Length(std::string const& path) const {
+    auto const file = Contents.find(path);
+    if (file == Contents.end()) {
+        throw text::RunTimeError(text::Fault::FileNotFound);
+    }
+    return file->second.size();
 }
 
 std::vector<std::string> MemoryFiles::List(std::string const& folder, std::string_view pattern) const {

@@ -20,6 +20,9 @@ class MemoryFiles final : public Files {
 public:
     [[nodiscard]] std::unique_ptr<text::ByteSource> OpenForInput(std::string const& path) const override;
     void Replace(std::string const& path, std::string_view content) override;
+    [[nodiscard]] std::unique_ptr<ByteSink> OpenForOutput(std::string const& path) override;
+    void Remove(std::string const& path) override;
+    [[nodiscard]] std::uint64_t Length(std::string const& path) const override;
     [[nodiscard]] std::vector<std::string> List(std::string const& folder,
                                                 std::string_view pattern) const override;
 
@@ -28,8 +31,15 @@ public:
     // When set, reading breaks with this fault behind so many bytes.
     std::optional<std::pair<std::size_t, text::Fault>> BreakReading;
 
-    // When set, every Replace raises this fault and changes nothing.
+    // When set, every Replace and OpenForOutput raises this fault and changes nothing.
     std::optional<text::Fault> BreakWriting;
+
+    // When set, a file that is being written takes so many bytes and then raises this fault, on closing when
+    // it has taken them all.
+    std::optional<std::pair<std::size_t, text::Fault>> BreakOutput;
+
+    // When set, every Remove raises this fault and changes nothing.
+    std::optional<text::Fault> BreakRemoving;
 };
 
 } // namespace quorvex::platform::fake
