@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "text/basLines.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace quorvex::text {
+
+namespace {
+
+constexpr std::size_t Capacity = 65'536;
+constexpr char CtrlZ = '\x1a';
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
+// Where the next line end stands, the length of the text when there is none.
+std::size_t FindLineEnd(std::string_view text) {
+    // Lines mostly end with a LF, so a CR is looked for in front of the first LF only.
+    std::size_t const lf = std::min(text.find('\n'), text.size());
+    return std::min(text.substr(0, lf).find('\r'), lf);
+}
+
+} // namespace
+
+LineReader::LineReader(ByteSource& source)
+    : source_(source),
+      buffer_(std::make_unique_for_overwrite<char[]>(Capacity)) {}
+
+bool LineReader::Refill() {
+    at_ = 0;
+    end_ = source_.Read({buffer_.get(), Capacity});
+    return end_ > 0;
+}
+
+// A source may give out the mark's bytes one by one.
+void LineReader::SkipByteOrderMark() {
+    while (end_ < ByteOrderMark.size() && ByteOrderMark.starts_with({buffer_.get(), end_})) {
+        std::size_t const count = source_.Read({buffer_.get() + end_, Capacity - end_});
+        if (count == 0) {
+            return;
+        }
+        end_ += count;
+    }
+    if (std::string_view(buffer_.get(), end_).starts_with(ByteOrderMark)) {
+        at_ = ByteOrderMark.size();
+    }
+}
+
+std::optional<std::string_view> LineReader::Next() {
+    if (isAtStart_) {
+        isAtStart_ = false;
+        SkipByteOrderMark();
+    }
+    if (isBehindCr_) {
+        isBehindCr_ = false;
+        if (MoreAt() && buffer_[at_] == '\n') {
+            ++at_;
+        }
+    }
+    if (!MoreAt() || buffer_[at_] == CtrlZ) {
+        return std::nullopt;
+    }
+    return TakeLine();
+}
+
+std::string_view LineReader::TakeLine() {
+    std::string_view piece;
+    if (TakePiece(piece)) {
+        return piece;
+    }
+    line_ = piece;
+    bool isWhole = false;
+    while (!isWhole && Refill()) {
+        isWhole = TakePiece(piece);
+        line_ += piece;
+    }
+    return line_;
+}
+
+// Takes what the buffer holds of the line. Returns whether its end was there too.
+bool LineReader::TakePiece(std::string_view& piece) {
+    std::string_view const rest(buffer_.get() + at_, end_ - at_);
+    std::size_t const length = FindLineEnd(rest);
+    piece = rest.substr(0, length);
+    at_ += length;
+    if (length == rest.size()) {
+        return false;
+    }
+    isBehindCr_ = buffer_[at_] == '\r';
+    ++at_;
+    return true;
+}
+
+} // namespace quorvex::text

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// Texts read line by line.
+#pragma once
+
+#include "text/basFields.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quorvex::text {
+
+// Takes the lines of a text in sequence, without what ends them: CR LF, LF or CR. A line end at the end of
+// the text starts no further line. A Ctrl-Z in place of a line's first character ends the text; a UTF-8 byte
+// order mark at the start is skipped; all other bytes pass through. The text streams through one buffer; only
+// a line that does not stand in it whole is copied.
+class LineReader {
+public:
+    // The source must outlive the reader.
+    explicit LineReader(ByteSource& source);
+
+    // The next line, good until the next call; nothing behind the last one. Raises the faults of the source.
+    [[nodiscard]] std::optional<std::string_view> Next();
+
+private:
+    [[nodiscard]] bool MoreAt() { return at_ < end_ || Refill(); }
+
+    [[nodiscard]] bool Refill();
+    void SkipByteOrderMark();
+    [[nodiscard]] std::string_view TakeLine();
+    [[nodiscard]] bool TakePiece(std::string_view& piece);
+
+    ByteSource& source_;
+    std::unique_ptr<char[]> buffer_; // bytes at_..end_-1 are still to be taken
+    std::size_t at_ = 0;
+    std::size_t end_ = 0;
+    bool isBehindCr_ = false; // a LF that follows belongs to the line end
+    bool isAtStart_ = true;
+    std::string line_; // a line that did not stand in the buffer whole
+};
+
+} // namespace quorvex::text

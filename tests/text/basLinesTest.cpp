@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "text/basLines.h"
+
+#include "FieldSources.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace quorvex::text {
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+Lines AllLines(ByteSource& source) {
+    LineReader reader(source);
+    Lines lines;
+    while (auto const line = reader.Next()) {
+        lines.emplace_back(*line);
+    }
+    EXPECT_FALSE(reader.Next()); // the end stays the end
+    return lines;
+}
+
+Lines LinesOf(std::string_view text) {
+    TextSource source(text);
+    return AllLines(source);
+}
+
+TEST(LineReader, EndsLinesWithCarriageReturnLineFeedOrBoth) {
+    EXPECT_EQ(LinesOf("a\r\nb\nc\rd"), (Lines{"a", "b", "c", "d"}));
+    EXPECT_EQ(LinesOf("a\n\rb"), (Lines{"a", "", "b"}));
+    EXPECT_EQ(LinesOf("a\r\r\nb"), (Lines{"a", "", "b"}));
+}
+
+TEST(LineReader, FindsNoLineBehindTheLastLineEnd) {
+    EXPECT_EQ(LinesOf("a\r\n"), Lines{"a"});
+    EXPECT_EQ(LinesOf("a\n"), Lines{"a"});
+    EXPECT_EQ(LinesOf("a\r"), Lines{"a"});
+    EXPECT_EQ(LinesOf("a"), Lines{"a"});
+    EXPECT_EQ(LinesOf(""), Lines{});
+}
+
+TEST(LineReader, KeepsEmptyLinesAndBlanks) {
+    EXPECT_EQ(LinesOf("\r\n\r\n"), (Lines{"", ""}));
+    EXPECT_EQ(LinesOf(" a \n\n\tb"), (Lines{" a ", "", "\tb"}));
+}
+
+TEST(LineReader, SkipsAByteOrderMarkAtTheStartOnly) {
+    EXPECT_EQ(LinesOf("\xEF\xBB\xBFone\n\xEF\xBB\xBFtwo"), (Lines{"one", "\xEF\xBB\xBFtwo"}));
+    EXPECT_EQ(LinesOf("\xEF\xBB\xBF"), Lines{});
+    EXPECT_EQ(LinesOf("\xEF\xBB"), Lines{"\xEF\xBB"});
+    EXPECT_EQ(LinesOf("\xEFx\n"), Lines{"\xEFx"});
+}
+
+TEST(LineReader, EndsAtACtrlZInPlaceOfALine) {
+    EXPECT_EQ(LinesOf("a\r\n\x1a"), Lines{"a"});
+    EXPECT_EQ(LinesOf("a\r\n\x1a\r\nb"), Lines{"a"});
+    EXPECT_EQ(LinesOf("a\x1a\r\nb"), (Lines{"a\x1a", "b"}));
+}
+
+TEST(LineReader, PassesOtherBytesThrough) {
+    std::string const text("a\0b\xFF\x01", 5);
+    EXPECT_EQ(LinesOf(text + "\nx"), (Lines{text, "x"}));
+}
+
+TEST(LineReader, TakesTheSameLinesFromASlowDevice) {
+    std::string const text = "\xEF\xBB\xBFone\r\ntwo\r\rthree\n\nfour\r\n\x1arest";
+    for (std::size_t pieceSize = 1; pieceSize <= text.size(); ++pieceSize) {
+        SCOPED_TRACE(pieceSize);
+        PieceSource source(text, pieceSize);
+        EXPECT_EQ(AllLines(source), (Lines{"one", "two", "", "three", "", "four"}));
+    }
+}
+
+TEST(LineReader, TakesLinesThatCrossTheEdgeOfItsBuffer) {
+    constexpr std::size_t BufferSize = 65'536;
+    for (std::size_t length = BufferSize - 3; length <= BufferSize + 3; ++length) {
+        SCOPED_TRACE(length);
+        std::string const line(length, 'x');
+        EXPECT_EQ(LinesOf(line + "\r\n" + line + "\nend"), (Lines{line, line, "end"}));
+    }
+}
+
+TEST(LineReader, TakesALineLongerThanManyBuffers) {
+    std::string const line(1'000'000, 'x');
+    EXPECT_EQ(LinesOf("a\n" + line + "\r\nb"), (Lines{"a", line, "b"}));
+}
+
+} // namespace
+
+} // namespace quorvex::text
