@@ -6,6 +6,7 @@
 
 #include "platform/disk/DiskFiles.h"
 #include "support/AsOrdinaryUser.h"
+#include "support/SmallDisk.h"
 #include "support/TemporaryFolder.h"
 #include "text/RunTimeError.h"
 
@@ -17,7 +18,6 @@
 #include <optional>
 #include <random>
 #include <string>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
@@ -29,28 +29,7 @@ namespace {
 using text::Fault;
 
 using tests::AsOrdinaryUser;
-
-// Files may grow to this many bytes only, which fails the way a full disk does.
-class SmallDisk {
-public:
-    explicit SmallDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &before_);
-        rlimit const limit{bytes, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-
-    SmallDisk(SmallDisk const&) = delete;
-    SmallDisk& operator=(SmallDisk const&) = delete;
-
-    ~SmallDisk() {
-        setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, handler_);
-    }
-
-private:
-    rlimit before_{};
-    void (*handler_)(int);
-};
+using tests::SmallDisk;
 
 std::optional<Fault> FaultOfReplacing(std::string const& path, std::string_view content) {
     auto const error = text::Trap([&] { DiskFiles().Replace(path, content); });

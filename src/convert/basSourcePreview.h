@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// The text of a vendor's file as the converter windows show and print it before it is converted.
+#pragma once
+
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "platform/Printer.h"
+
+#include <string>
+#include <string_view>
+
+namespace quorvex::convert {
+
+// The name that the file dialog returned if the preview can hold that file, at most 65,000 bytes; else, and
+// when the length cannot be learnt, the empty text.
+[[nodiscard]] std::string AcceptChosenFile(std::string const& name, platform::Files const& files);
+
+// The lines of the file, each with CR LF behind it. Empty after a message told why the file cannot be shown.
+[[nodiscard]] std::string LoadSourceFile(std::string const& name, platform::Files const& files,
+                                         platform::Dialogs& dialogs);
+
+// Prints the name and the contents on as many pages as they need; a line wider than the page goes on in the
+// next. A fault of the printer is shown.
+void PrintSourceFile(std::string_view name, std::string_view contents, platform::PrintQueue& queue,
+                     platform::Dialogs& dialogs);
+
+} // namespace quorvex::convert

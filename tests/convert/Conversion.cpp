@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "Conversion.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvex::convert {
+
+namespace {
+
+std::string NameOf(platform::Icon icon) {
+    switch (icon) {
+    case platform::Icon::None:
+        return "none";
+    case platform::Icon::Information:
+        return "information";
+    case platform::Icon::Exclamation:
+        return "exclamation";
+    case platform::Icon::Critical:
+        return "critical";
+    case platform::Icon::Question:
+        return "question";
+    }
+    return "";
+}
+
+} // namespace
+
+std::vector<std::string> BoxesOf(platform::fake::ScriptedDialogs const& dialogs) {
+    std::vector<std::string> boxes;
+    for (auto const& message : dialogs.Messages) {
+        EXPECT_EQ(message.Offered, platform::Buttons::Ok);
+        boxes.push_back(message.Title + '|' + NameOf(message.Shown) + '|' + message.Text);
+    }
+    return boxes;
+}
+
+std::string InformationBox(std::string const& text) {
+    return "Data Conversion Utility|information|" + text;
+}
+
+std::string ExclamationBox(std::string const& text) {
+    return "Data Conversion Utility|exclamation|" + text;
+}
+
+ConversionResult Convert(std::string const& source, SourceLayout const& layout) {
+    platform::fake::MemoryFiles files;
+    platform::fake::ScriptedDialogs dialogs;
+    files.Contents[UsualNames.Source] = source;
+    ConvertDataFile(UsualNames, layout, files, dialogs);
+    ConversionResult result;
+    if (files.Contents.contains(UsualNames.Destination)) {
+        result.Output = files.Contents[UsualNames.Destination];
+    }
+    EXPECT_EQ(files.Contents[UsualNames.Source], source);
+    result.Boxes = BoxesOf(dialogs);
+    return result;
+}
+
+CustomChoices ChoicesOf(std::vector<std::string> const& names, std::string const& dateFormat) {
+    CustomChoices choices = InitialChoices();
+    choices.Names.Fill(std::string(NotUsed));
+    choices.NumFields = std::to_string(names.size());
+    choices.DateFormat = dateFormat;
+    std::int16_t row = 0;
+    for (std::string const& name : names) {
+        choices.Names[++row] = name;
+    }
+    return choices;
+}
+
+} // namespace quorvex::convert
