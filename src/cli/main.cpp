@@ -7,6 +7,7 @@
 #include "cli/Analyse.h"
 #include "cli/Chart.h"
 #include "cli/Check.h"
+#include "cli/Convert.h"
 #include "cli/FormatNumbers.h"
 #include "cli/List.h"
 #include "cli/Print.h"
@@ -60,6 +61,7 @@ int main(int argc, char** argv) {
         quorvex::cli::AddAnalyse(app, console, status);
         quorvex::cli::AddChart(app, outputs.Pictures.get(), status);
         quorvex::cli::AddCheck(app, status);
+        quorvex::cli::AddConvert(app, status);
         quorvex::cli::AddList(app, outputs.Printing.get(), status);
         quorvex::cli::AddPrint(app, outputs.Printing.get(), status);
         quorvex::cli::AddFormat(app, status);

@@ -26,13 +26,15 @@ std::string Quoted(std::string const& text) {
 
 } // namespace
 
-CompanionRun RunCompanion(std::vector<std::string> const& arguments) {
+CompanionRun RunCompanion(std::vector<std::string> const& arguments, std::string const& input) {
     TemporaryFolder const folder;
+    folder.Write("input", input);
     std::string command = Quoted(QUORVEX_COMPANION);
     for (std::string const& argument : arguments) {
         command += ' ' + Quoted(argument);
     }
-    command += " >" + Quoted(folder.File("output")) + " 2>" + Quoted(folder.File("errors"));
+    command += " <" + Quoted(folder.File("input")) + " >" + Quoted(folder.File("output")) + " 2>" +
+               Quoted(folder.File("errors"));
 #ifdef _WIN32
     command = '"' + command + '"'; // the outermost pair goes to the shell
 #endif

@@ -14,7 +14,9 @@ struct CompanionRun {
     std::string Errors; // standard error
 };
 
-// Runs quorvex-cli with these arguments, none of which may hold a quotation mark.
-[[nodiscard]] CompanionRun RunCompanion(std::vector<std::string> const& arguments);
+// Runs quorvex-cli with these arguments, none of which may hold a quotation mark, and with this text on its
+// standard input.
+[[nodiscard]] CompanionRun RunCompanion(std::vector<std::string> const& arguments,
+                                        std::string const& input = {});
 
 } // namespace quorvex::tests

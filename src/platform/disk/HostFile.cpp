@@ -57,6 +57,11 @@ int CloseDescriptor(int descriptor) {
     return _close(descriptor);
 }
 
+int DuplicateDescriptor(int descriptor) {
+    _setmode(descriptor, _O_BINARY);
+    return _dup(descriptor);
+}
+
 // _wopen refuses a folder by itself.
 bool IsFolder(int) {
     return false;
@@ -94,6 +99,10 @@ int FlushDescriptor(int descriptor) {
 
 int CloseDescriptor(int descriptor) {
     return close(descriptor);
+}
+
+int DuplicateDescriptor(int descriptor) {
+    return dup(descriptor);
 }
 
 bool IsFolder(int descriptor) {
@@ -212,8 +221,7 @@ private:
 
 class HostFileSource final : public text::ByteSource {
 public:
-    explicit HostFileSource(std::filesystem::path const& path)
-        : file_(path, OpenDescriptor(path, ReadFlags, false)) {}
+    HostFileSource(std::filesystem::path const& path, int descriptor) : file_(path, descriptor) {}
 
     [[nodiscard]] std::size_t Read(std::span<char> buffer) override { return file_.Read(buffer); }
 
@@ -223,8 +231,7 @@ private:
 
 class HostFileSink final : public ByteSink {
 public:
-    explicit HostFileSink(std::filesystem::path const& path)
-        : file_(path, OpenDescriptor(path, EmptyFlags, false)) {}
+    HostFileSink(std::filesystem::path const& path, int descriptor) : file_(path, descriptor) {}
 
     void Write(std::string_view bytes) override { file_.Write(bytes); }
 
@@ -237,11 +244,19 @@ private:
 } // namespace
 
 std::unique_ptr<text::ByteSource> OpenHostFile(std::filesystem::path const& path) {
-    return std::make_unique<HostFileSource>(path);
+    return std::make_unique<HostFileSource>(path, OpenDescriptor(path, ReadFlags, false));
 }
 
 std::unique_ptr<ByteSink> CreateHostFile(std::filesystem::path const& path) {
-    return std::make_unique<HostFileSink>(path);
+    return std::make_unique<HostFileSink>(path, OpenDescriptor(path, EmptyFlags, false));
+}
+
+std::unique_ptr<text::ByteSource> OpenStandardInput() {
+    return std::make_unique<HostFileSource>(std::filesystem::path(), DuplicateDescriptor(0));
+}
+
+std::unique_ptr<ByteSink> OpenStandardOutput() {
+    return std::make_unique<HostFileSink>(std::filesystem::path(), DuplicateDescriptor(1));
 }
 
 void RemoveHostFile(std::filesystem::path const& path) {

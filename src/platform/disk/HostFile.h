@@ -19,6 +19,10 @@ namespace quorvex::platform::disk {
 // The file opened for reading from its start.
 [[nodiscard]] std::unique_ptr<text::ByteSource> OpenHostFile(std::filesystem::path const& path);
 
+// What the process was given to read and to write on, byte for byte.
+[[nodiscard]] std::unique_ptr<text::ByteSource> OpenStandardInput();
+[[nodiscard]] std::unique_ptr<ByteSink> OpenStandardOutput();
+
 // The file, made empty or created, opened for writing.
 [[nodiscard]] std::unique_ptr<ByteSink> CreateHostFile(std::filesystem::path const& path);
 

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/Files.h"
+
+#include <string_view>
+
+namespace quorvex::cli {
+
+// Where a file is named, this stands for standard input or standard output.
+inline constexpr std::string_view PipeName = "-";
+
+// The files of another object, and besides them what PipeName stands for. What was written on standard
+// output cannot be taken back: removing it does nothing.
+class PipeFiles final : public platform::Files {
+public:
+    // The files must outlive the object.
+    explicit PipeFiles(platform::Files& files) : files_(files) {}
+
+    [[nodiscard]] std::unique_ptr<text::ByteSource> OpenForInput(std::string const& path) const override;
+    void Replace(std::string const& path, std::string_view content) override;
+    [[nodiscard]] std::unique_ptr<platform::ByteSink> OpenForOutput(std::string const& path) override;
+    void Remove(std::string const& path) override;
+    [[nodiscard]] std::uint64_t Length(std::string const& path) const override;
+    [[nodiscard]] std::vector<std::string> List(std::string const& folder,
+                                                std::string_view pattern) const override;
+
+private:
+    platform::Files& files_;
+};
+
+} // namespace quorvex::cli
