@@ -1,17 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
+#include "convert/ui/frmConvertBarChart.h"
+#include "convert/ui/frmConvertCSI.h"
+#include "convert/ui/frmConvertCustom.h"
 #include "cycles/ui/frmParameter.h"
 #include "platform/qt/QtDialogs.h"
 #include "quotes/ui/frmQuotes.h"
 #include "support/QuoteTexts.h"
 #include "windows/RunningWindow.h"
+#include "windows/ShownConverter.h"
 #include "windows/ShownEditor.h"
 #include "windows/ShownForecast.h"
 #include "windows/WindowTest.h"
 
 #include <QAccessible>
 #include <array>
+#include <utility>
 
 namespace quorvex::tests {
 
@@ -113,6 +118,22 @@ private Q_SLOTS:
     void EveryControlOfTheEditorHasAName() {
         ShownEditor shown(QuoteLines(30), "corn.txt");
         shown.Run([&] { VerifyNamed(*shown.Window, 30 * 7 + 1); });
+    }
+
+    void EveryControlOfTheConvertersHasAName() {
+        ConverterSurroundings around;
+        convert::ui::frmConvertBarChart barchart(nullptr, around.Files, around.Dialogs, around.Printing,
+                                                 [] {});
+        convert::ui::frmConvertCSI csi(nullptr, around.Files, around.Dialogs, around.Printing);
+        convert::ui::frmConvertCustom custom(nullptr, around.Files, around.Dialogs, around.Printing, [] {});
+        constexpr int CommonControls = 5;
+        for (auto const& [window, controls] :
+             {std::pair<QDialog*, int>(&barchart, 8), std::pair<QDialog*, int>(&csi, 0),
+              std::pair<QDialog*, int>(&custom, 3 + 7)}) {
+            ShowWindow(*window);
+            VerifyNamed(*window, CommonControls + controls);
+            window->hide();
+        }
     }
 
     void EveryControlOfTheBoxesHasAName() {

@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "windows/ShownConverter.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+namespace quorvex::tests {
+
+namespace {
+
+QString NameOf(platform::Icon icon) {
+    switch (icon) {
+    case platform::Icon::Information:
+        return QStringLiteral("information");
+    case platform::Icon::Exclamation:
+        return QStringLiteral("exclamation");
+    default:
+        return QStringLiteral("none");
+    }
+}
+
+} // namespace
+
+QStringList ConverterSurroundings::TakeMessages() {
+    QStringList messages;
+    for (auto const& message : Dialogs.Messages) {
+        messages.append(QStringLiteral("%1|%2|%3")
+                            .arg(platform::qt::ToQt(message.Title), NameOf(message.Shown),
+                                 platform::qt::ToQt(message.Text)));
+    }
+    Dialogs.Messages.clear();
+    return messages;
+}
+
+QString ConverterBox(QString const& icon, QString const& text) {
+    return QStringLiteral("Data Conversion Utility|%1|%2").arg(icon, text);
+}
+
+void TypeInto(QWidget& window, char const* name, QString const& text) {
+    auto* box = window.findChild<QLineEdit*>(QLatin1String(name));
+    QVERIFY2(box != nullptr, name);
+    QTest::mouseClick(box, Qt::LeftButton);
+    box->selectAll();
+    QTest::keyClick(box, Qt::Key_Delete);
+    QTest::keyClicks(box, text);
+}
+
+QString TextOf(QWidget const& window, char const* name) {
+    return window.findChild<QLineEdit*>(QLatin1String(name))->text();
+}
+
+QString PreviewOf(QWidget const& window) {
+    return window.findChild<QPlainTextEdit*>(QStringLiteral("txtContents"))->toPlainText();
+}
+
+void ChooseByKeys(QWidget& window, QString const& letters) {
+    QTest::keyClick(&window, static_cast<Qt::Key>(letters.at(0).toUpper().unicode()), Qt::AltModifier);
+    for (QChar const letter : letters.mid(1)) {
+        QTest::keyClick(QApplication::activePopupWidget(), static_cast<Qt::Key>(letter.toUpper().unicode()));
+    }
+}
+
+void BrowseTo(ConverterSurroundings& around, QWidget& window, QString const& path) {
+    around.Answers.Next([path](QWidget& dialog) {
+        if (path.isEmpty()) {
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+            return;
+        }
+        auto* name = dialog.findChild<QLineEdit*>();
+        QVERIFY2(name != nullptr, "no file dialog");
+        name->selectAll();
+        QTest::keyClick(name, Qt::Key_Delete);
+        QTest::keyClicks(name, path);
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+    ClickButton(window, QStringLiteral("cmdBrowse"));
+    QVERIFY(around.Answers.IsDone());
+}
+
+QStringList TabStops(QWidget& window, int count) {
+    QStringList names;
+    for (int stop = 0; stop < count; ++stop) {
+        QWidget* const focus = window.focusWidget();
+        names.append(focus->objectName());
+        QTest::keyClick(focus, Qt::Key_Tab);
+    }
+    return names;
+}
+
+QStringList ClippedControls(QWidget const& window) {
+    QStringList clipped;
+    auto const look = [&](auto const& controls) {
+        for (auto const* control : controls) {
+            bool const isSmall = control->height() < control->minimumSizeHint().height() ||
+                                 control->width() < control->minimumSizeHint().width();
+            if (control->isVisible() && isSmall) {
+                clipped.append(QStringLiteral("%1 %2x%3 of %4x%5")
+                                   .arg(control->objectName())
+                                   .arg(control->width())
+                                   .arg(control->height())
+                                   .arg(control->minimumSizeHint().width())
+                                   .arg(control->minimumSizeHint().height()));
+            }
+        }
+    };
+    look(window.findChildren<QLabel*>());
+    look(window.findChildren<QAbstractButton*>());
+    look(window.findChildren<QComboBox*>());
+    return clipped;
+}
+
+void ShowWindow(QDialog& window) {
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+}
+
+} // namespace quorvex::tests
