@@ -15,8 +15,8 @@ using Command = void (*)(Program&, Services&);
 
 inline constexpr std::string_view SeparatorCaption = "-";
 
-// One item of the menu. A row without a command is a menu of its own when others name it as their parent, a
-// separator, or an item that cannot be chosen yet.
+// One item of the menu. A row without a command is a menu of its own, which others name as their parent,
+// or a separator.
 struct MenuRow {
     std::string_view Name;
     std::string_view Caption; // "&" marks the access key

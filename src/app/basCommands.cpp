@@ -34,11 +34,27 @@ void FileClose(Program& program, Services& services) {
     services.Window.SetCaption(Caption(program));
 }
 
+void FileEdit(Program&, Services& services) {
+    services.Window.Open(platform::SecondaryWindow::Edit);
+}
+
 void FileSaveAs(Program& program, Services& services) {
     platform::RunReported(services.Dialogs, [&] {
         quotes::SaveQuoteFileAs(program.Quotes, program.Settings, services.Files, services.Dialogs);
         Redraw(program, services);
     });
+}
+
+void FileConvertCSI(Program&, Services& services) {
+    services.Window.Open(platform::SecondaryWindow::ConvertCSI);
+}
+
+void FileConvertBarChart(Program&, Services& services) {
+    services.Window.Open(platform::SecondaryWindow::ConvertBarChart);
+}
+
+void FileConvertCustom(Program&, Services& services) {
+    services.Window.Open(platform::SecondaryWindow::ConvertCustom);
 }
 
 void FilePrint(Program& program, Services& services) {

@@ -17,7 +17,15 @@ void FileOpen(Program& program, Services& services);
 // Leaves the charts of the cycles as they are: they do not depend on the quotes.
 void FileClose(Program& program, Services& services);
 
+// Opens the quote editor. Saving under another name there changes the name of the open file.
+void FileEdit(Program& program, Services& services);
+
 void FileSaveAs(Program& program, Services& services);
+
+// Open the converters.
+void FileConvertCSI(Program& program, Services& services);
+void FileConvertBarChart(Program& program, Services& services);
+void FileConvertCustom(Program& program, Services& services);
 
 // Prints the chart page once, or says that no quotes are open; then prints it once more in either case. An
 // error ends the command.

@@ -8,7 +8,18 @@
 namespace quorvex::platform {
 
 // The windows that commands open.
-enum class SecondaryWindow { Forecast, Preferences, Properties, Legend, Help, About };
+enum class SecondaryWindow {
+    Edit,
+    ConvertCSI,
+    ConvertBarChart,
+    ConvertCustom,
+    Properties,
+    Forecast,
+    Preferences,
+    Legend,
+    Help,
+    About
+};
 
 // What commands ask of the program's one top-level window.
 class MainWindow {

@@ -57,7 +57,7 @@ class Keyboard(Session):
     def test_the_focus_follows_reading_order(self):
         self.start()
         self.tab_to("Open")
-        for name in ["Close", "Properties", *CELLS, *CHARTS, "Open"]:
+        for name in ["Close", "Edit", "Convert", "Print", "Properties", *CELLS, *CHARTS, "Open"]:
             self.press("Tab")
             self.wait_for_focus(name)
 

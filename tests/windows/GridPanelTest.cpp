@@ -21,9 +21,10 @@ void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);
 }
 
-// What can have the focus, in reading order; images that cannot be chosen yet cannot have it.
+// What can have the focus, in reading order.
 QStringList ReadingOrder() {
-    QStringList names = {u"imgOpen"_s, u"imgClose"_s, u"imgProperties"_s};
+    QStringList names = {u"imgOpen"_s,    u"imgClose"_s, u"imgEdit"_s,
+                         u"imgConvert"_s, u"imgPrint"_s, u"imgProperties"_s};
     for (int row = 1; row <= 4; ++row) {
         for (int cycle = 1; cycle <= cycles::CycleCount; ++cycle) {
             names.append(u"Text%1_%2"_s.arg(row).arg(cycle));

@@ -36,7 +36,6 @@ void AddItem(QWidget& parent, MenuRow const& row, RunCommand const& run) {
         action->setSeparator(true);
     } else {
         action->setText(ToQt(row.Caption));
-        action->setEnabled(row.Run != nullptr);
         QObject::connect(action, &QAction::triggered, &parent, [run, &row] { run(row); });
     }
     parent.addAction(action);
@@ -53,7 +52,6 @@ QToolButton* MakeTool(QWidget& strip, ToolRow const& tool, RunCommand const& run
     button->setFocusPolicy(Qt::TabFocus);
     button->setToolTip(ToQt(tool.ToolTip));
     button->setAccessibleName(ToQt(tool.ToolTip));
-    button->setEnabled(row.Run != nullptr);
     QObject::connect(button, &QToolButton::clicked, &strip, [run, &row] { run(row); });
     return button;
 }

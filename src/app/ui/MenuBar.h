@@ -12,8 +12,7 @@ namespace quorvex::app::ui {
 
 using RunCommand = std::function<void(MenuRow const&)>;
 
-// Fills the menu bar from the table: every item under its name, bound to its command. An item that cannot be
-// chosen yet is grey.
+// Fills the menu bar from the table: every item under its name, bound to its command.
 void FillMenuBar(QMenuBar& bar, RunCommand const& run);
 
 // The tool strip picIcon with its images, each bound to the command of its menu item.

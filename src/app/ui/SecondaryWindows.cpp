@@ -8,7 +8,11 @@
 #include "auxiliary/ui/frmHelp.h"
 #include "auxiliary/ui/frmLegend.h"
 #include "auxiliary/ui/frmProperties.h"
+#include "convert/ui/frmConvertBarChart.h"
+#include "convert/ui/frmConvertCSI.h"
+#include "convert/ui/frmConvertCustom.h"
 #include "cycles/ui/frmForecast.h"
+#include "editor/ui/frmEdit.h"
 #include "prefs/ui/frmPreferences.h"
 
 namespace quorvex::app::ui {
@@ -35,6 +39,24 @@ SecondaryWindows::SecondaryWindows(QWidget& mainWindow, Program& program, platfo
 void SecondaryWindows::RunModal(platform::SecondaryWindow window) {
     QWidget* const parent = &mainWindow_;
     switch (window) {
+    case platform::SecondaryWindow::Edit:
+        Need(edit_, parent, program_.Quotes, program_.Settings, host_.Files, dialogs_, host_.Printing,
+             host_.Pointer)
+            .RunModal();
+        break;
+    case platform::SecondaryWindow::ConvertCSI:
+        Need(convertCSI_, parent, host_.Files, dialogs_, host_.Printing).RunModal();
+        break;
+    case platform::SecondaryWindow::ConvertBarChart:
+        Need(convertBarChart_, parent, host_.Files, dialogs_, host_.Printing, [this] {
+            ShowConverterHelp();
+        }).RunModal();
+        break;
+    case platform::SecondaryWindow::ConvertCustom:
+        Need(convertCustom_, parent, host_.Files, dialogs_, host_.Printing, [this] {
+            ShowConverterHelp();
+        }).RunModal();
+        break;
     case platform::SecondaryWindow::Forecast:
         Need(forecast_, parent, program_.Quotes, program_.Cycles, program_.Settings, host_.Files, dialogs_)
             .RunModal();
@@ -58,6 +80,11 @@ void SecondaryWindows::RunModal(platform::SecondaryWindow window) {
         }).RunModal();
         break;
     }
+}
+
+void SecondaryWindows::ShowConverterHelp() {
+    program_.HelpFileName = "ConvertCustom.rtf";
+    RunModal(platform::SecondaryWindow::Help);
 }
 
 } // namespace quorvex::app::ui

@@ -23,8 +23,18 @@ class frmLegend;
 class frmProperties;
 } // namespace quorvex::auxiliary::ui
 
+namespace quorvex::convert::ui {
+class frmConvertBarChart;
+class frmConvertCSI;
+class frmConvertCustom;
+} // namespace quorvex::convert::ui
+
 namespace quorvex::cycles::ui {
 class frmForecast;
+}
+
+namespace quorvex::editor::ui {
+class frmEdit;
 }
 
 namespace quorvex::prefs::ui {
@@ -53,11 +63,18 @@ public:
     void RunModal(platform::SecondaryWindow window);
 
 private:
+    // One document serves the converters.
+    void ShowConverterHelp();
+
     QWidget& mainWindow_;
     Program& program_;
     platform::Dialogs& dialogs_;
     Host host_;
     QPointer<auxiliary::ui::frmAbout> about_;
+    QPointer<convert::ui::frmConvertBarChart> convertBarChart_;
+    QPointer<convert::ui::frmConvertCSI> convertCSI_;
+    QPointer<convert::ui::frmConvertCustom> convertCustom_;
+    QPointer<editor::ui::frmEdit> edit_;
     QPointer<cycles::ui::frmForecast> forecast_;
     QPointer<auxiliary::ui::frmHelp> help_;
     QPointer<auxiliary::ui::frmLegend> legend_;

@@ -7,7 +7,7 @@
 #include "app/layout/basLayout.h"
 #include "app/ui/MenuBar.h"
 #include "app/ui/basPlacing.h"
-#include "platform/qt/Painting.h"
+#include "platform/qt/NominalFrame.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtTexts.h"
 
@@ -22,13 +22,8 @@ namespace quorvex::app::ui {
 namespace {
 
 using platform::qt::ToQt;
-using platform::qt::TwipsPerPixel;
 
 constexpr QSize InitialSize(1100, 800);
-
-// The frame that the layout counts into the size of the window, whatever the system's own is, in twips.
-constexpr double FrameWidth = 120;
-constexpr double FrameHeight = 690;
 
 struct BoxRow {
     chart::ChartKind Kind;
@@ -185,9 +180,9 @@ void frmMain::SetCaption(std::string_view caption) {
 }
 
 void frmMain::LayOut() {
-    double const width = client_->width() * TwipsPerPixel + FrameWidth;
-    double const height = client_->height() * TwipsPerPixel + FrameHeight;
-    auto const layout = layout::LayoutMainWindow(width, height, layout::IconStripHeight);
+    auto const layout =
+        layout::LayoutMainWindow(platform::qt::OuterWidth(client_->size()),
+                                 platform::qt::OuterHeight(client_->size()), layout::IconStripHeight);
     toolStrip_->setGeometry(PixelsOf({0, 0, layout.IconStripWidth, layout::IconStripHeight}));
     grid_->Place(layout.Grid);
     for (std::size_t index = 0; index < BoxCount; ++index) {

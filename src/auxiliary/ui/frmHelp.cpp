@@ -6,6 +6,7 @@
 #include "auxiliary/richtext/basRichText.h"
 #include "auxiliary/ui/basRichTextView.h"
 #include "platform/basFiles.h"
+#include "platform/qt/NominalFrame.h"
 #include "platform/qt/Painting.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtTexts.h"
@@ -29,17 +30,13 @@ using platform::qt::TwipsPerPixel;
 
 constexpr QSize InitialSize(760, 640);
 
-// The frame that counts into the size of the window, as in the main window, in twips.
-constexpr double FrameWidth = 120;
-constexpr double FrameHeight = 690;
-
 // Where the text stands in a window whose client area below the menu has this size: in pixels.
 QRect TextPlace(QSize client) {
     constexpr double Left = 50;
     constexpr double Margins = 200;
     constexpr double HeightShare = 0.9;
-    double const width = client.width() * TwipsPerPixel + FrameWidth - Margins;
-    double const height = (client.height() * TwipsPerPixel + FrameHeight) * HeightShare;
+    double const width = platform::qt::OuterWidth(client) - Margins;
+    double const height = platform::qt::OuterHeight(client) * HeightShare;
     return {static_cast<int>(Left / TwipsPerPixel), 0, std::max(0, static_cast<int>(width / TwipsPerPixel)),
             std::clamp(static_cast<int>(height / TwipsPerPixel), 0, client.height())};
 }

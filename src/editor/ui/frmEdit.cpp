@@ -130,7 +130,7 @@ void frmEdit::LoadQuotes() {
 }
 
 void frmEdit::PlaceGrid() {
-    SizeGrid(*spread_, platform::qt::OuterWidth(*client_), platform::qt::OuterHeight(*client_));
+    SizeGrid(*spread_, platform::qt::OuterWidth(client_->size()), platform::qt::OuterHeight(client_->size()));
 }
 
 void frmEdit::Activate() {

@@ -7,7 +7,7 @@
 
 #include "platform/qt/Painting.h"
 
-#include <QWidget>
+#include <QSize>
 
 namespace quorvex::platform::qt {
 
@@ -15,12 +15,12 @@ namespace quorvex::platform::qt {
 inline constexpr double NominalFrameWidth = 120;
 inline constexpr double NominalFrameHeight = 690;
 
-// In twips, of the window with this client area.
-[[nodiscard]] inline double OuterWidth(QWidget const& client) {
+// In twips, of the window whose client area below the menu has this size in pixels.
+[[nodiscard]] inline double OuterWidth(QSize client) {
     return client.width() * TwipsPerPixel + NominalFrameWidth;
 }
 
-[[nodiscard]] inline double OuterHeight(QWidget const& client) {
+[[nodiscard]] inline double OuterHeight(QSize client) {
     return client.height() * TwipsPerPixel + NominalFrameHeight;
 }
 
