@@ -14,6 +14,7 @@
 #include "support/QuoteTexts.h"
 #include "support/TemporaryFolder.h"
 
+#include <charconv>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -97,7 +98,14 @@ struct Tally {
     int HalfWay = 0;
 };
 
-int Run(int count, unsigned seed) {
+// 0 for what is no number: no kills show nothing.
+unsigned NumberOf(std::string_view argument) {
+    unsigned number = 0;
+    auto const end = argument.data() + argument.size();
+    return std::from_chars(argument.data(), end, number).ptr == end ? number : 0;
+}
+
+int Run(unsigned count, unsigned seed) {
     constexpr int LongestMicroseconds = 15'000;
     TemporaryFolder const folder;
     Saver saver(folder);
@@ -112,9 +120,9 @@ int Run(int count, unsigned seed) {
     std::mt19937 random(seed);
     std::uniform_int_distribution<int> pause(0, LongestMicroseconds);
     Tally tally;
-    for (int turn = 0; turn < count; ++turn) {
+    for (unsigned turn = 0; turn < count; ++turn) {
         if (!KillAfter(pause(random), saver, turn % 2 == 0)) {
-            std::printf("Turn %d: the save failed by itself.\n", turn);
+            std::printf("Turn %u: the save failed by itself.\n", turn);
             return EXIT_FAILURE;
         }
         std::string const text = folder.Read(FileName);
@@ -123,7 +131,7 @@ int Run(int count, unsigned seed) {
         tally.Broken += text != shortText && text != longText ? 1 : 0;
         tally.HalfWay += RemoveLeftovers(folder) ? 1 : 0;
     }
-    std::printf("%d kills, seed %u: the file was %d times the one, %d times the other, %d times broken; "
+    std::printf("%u kills, seed %u: the file was %d times the one, %d times the other, %d times broken; "
                 "%d kills came half-way through a save.\n",
                 count, seed, tally.Short, tally.Long, tally.Broken, tally.HalfWay);
     // Kills that all miss the saves, or all come before the first one, show nothing.
@@ -135,8 +143,8 @@ int Run(int count, unsigned seed) {
 } // namespace quorvex::tests
 
 int main(int argc, char** argv) {
-    constexpr int UsualCount = 1000;
-    int const count = argc > 1 ? std::atoi(argv[1]) : UsualCount;
-    unsigned const seed = argc > 2 ? static_cast<unsigned>(std::atoi(argv[2])) : std::random_device()();
+    constexpr unsigned UsualCount = 1000;
+    unsigned const count = argc > 1 ? quorvex::tests::NumberOf(argv[1]) : UsualCount;
+    unsigned const seed = argc > 2 ? quorvex::tests::NumberOf(argv[2]) : std::random_device()();
     return quorvex::tests::Run(count, seed);
 }

@@ -82,7 +82,9 @@ TEST(LineReader, TakesLinesThatCrossTheEdgeOfItsBuffer) {
     for (std::size_t length = BufferSize - 3; length <= BufferSize + 3; ++length) {
         SCOPED_TRACE(length);
         std::string const line(length, 'x');
-        EXPECT_EQ(LinesOf(line + "\r\n" + line + "\nend"), (Lines{line, line, "end"}));
+        std::string text = line;
+        text.append("\r\n").append(line).append("\nend");
+        EXPECT_EQ(LinesOf(text), (Lines{line, line, "end"}));
     }
 }
 

@@ -13,6 +13,18 @@
 
 namespace quorvex::convert::ui {
 
+namespace {
+
+QRadioButton* MakeButton(BarchartOption const& option, QWidget& frame) {
+    auto* button = new QRadioButton(platform::qt::ToQt(option.Caption), &frame);
+    button->setObjectName(QStringLiteral("optFormat_%1").arg(QLatin1Char(option.Letter)));
+    button->setAccessibleName(button->text().simplified());
+    button->setFont(FixedPitchFont());
+    return button;
+}
+
+} // namespace
+
 frmConvertBarChart::frmConvertBarChart(QWidget* parent, platform::Files& files, platform::Dialogs& dialogs,
                                        platform::PrintQueue& printing, std::function<void()> showHelp)
     : ConvertWindow(parent, BarchartTexts(), files, dialogs, printing),
@@ -25,17 +37,14 @@ frmConvertBarChart::frmConvertBarChart(QWidget* parent, platform::Files& files, 
 void frmConvertBarChart::AddFormats() {
     auto* frame = new QGroupBox(QStringLiteral("Select Barchart Source File Format"), this);
     frame->setObjectName(QStringLiteral("Frame1"));
-    auto* rows = new QVBoxLayout(frame);
+    auto* rows = new QVBoxLayout;
+    frame->setLayout(rows);
+    std::transform(BarchartOptions().begin(), BarchartOptions().end(), formats_.begin(),
+                   [frame](BarchartOption const& option) { return MakeButton(option, *frame); });
     QList<QWidget*> tabStops;
-    for (std::size_t index = 0; index < formats_.size(); ++index) {
-        BarchartOption const& option = BarchartOptions().at(index);
-        auto* button = new QRadioButton(platform::qt::ToQt(option.Caption), frame);
-        button->setObjectName(QStringLiteral("optFormat_%1").arg(QLatin1Char(option.Letter)));
-        button->setAccessibleName(button->text().simplified());
-        button->setFont(FixedPitchFont());
+    for (QRadioButton* button : formats_) {
         rows->addWidget(button);
         tabStops.append(button);
-        formats_.at(index) = button;
     }
     formats_.front()->setChecked(true);
     LayoutFrames().addWidget(frame);
