@@ -16,6 +16,7 @@ ANSWER_MILLISECONDS = 20000
 # Numbers of the states on the bus.
 STATES = {
     "active": 1,
+    "checked": 4,
     "editable": 7,
     "enabled": 8,
     "focusable": 11,

@@ -80,9 +80,18 @@ class Program:
     def answer(self, title, button):
         """Presses a button of the message box of this title. Returns the box's text."""
         box = self.window(title)
-        text = "\n".join(label.name for label in box.find_all("label") if label.name)
+        text = self._text_of(box)
         self.press_button(box, button)
         return text
+
+    def answer_next(self, title, text, button):
+        """Presses a button of the message box with this text, which may follow another one of its title."""
+        wait_for(lambda: self._text_of(self.window(title)) == text, f"a box that says {text!r}")
+        self.press_button(self.window(title), button)
+
+    @staticmethod
+    def _text_of(box):
+        return "\n".join(label.name for label in box.find_all("label") if label.name)
 
     # Main window
 

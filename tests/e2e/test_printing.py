@@ -7,7 +7,6 @@ import os
 import unittest
 
 from session import Session
-from waiting import wait_for
 
 SAVED = "No printer is installed. The page was saved as\n"
 
@@ -16,15 +15,10 @@ class Printing(Session):
     def pages(self):
         return sorted(name for name in os.listdir(self.folder) if name.endswith(".pdf"))
 
-    def box_text(self):
-        box = self.program.window("Quorvex")
-        return "\n".join(label.name for label in box.find_all("label") if label.name)
-
     def require_page(self, name):
         """A box names the file, which is a whole one."""
         path = os.path.join(self.folder, name)
-        wait_for(lambda: self.box_text() == SAVED + path, f"a box that names {name}")
-        self.program.answer("Quorvex", "OK")
+        self.program.answer_next("Quorvex", SAVED + path, "OK")
         with open(path, "rb") as file:
             content = file.read()
         self.assertTrue(content.startswith(b"%PDF-") and content.endswith(b"%%EOF\n"), name)
