@@ -17,6 +17,7 @@ from waiting import Gone, wait_for
 EXECUTABLE = os.environ["QUORVEX_PROGRAM"]
 COMPANION = os.environ["QUORVEX_COMPANION"]
 SAMPLES = os.environ["QUORVEX_SAMPLES"]
+DOCUMENTS = os.environ["QUORVEX_DOCUMENTS"]
 PARAMETERS = ("Weight", "Period", "Shift", "Decay")
 CYCLES = range(1, 11)
 CHARTS = ("Daily quotes chart", "Component cycles chart", "Composite estimate cycle chart", "Residual chart")
@@ -145,12 +146,13 @@ class Session(unittest.TestCase):
         self.desktop.hand_over(self.folder)
 
     def install(self, samples=True):
-        """Puts the program into the test's folder. Returns the path of its executable."""
+        """Puts the program, with the sample files and help documents, into the test's folder. Returns the path of its
+        executable."""
         executable = shutil.copy2(EXECUTABLE, self.folder)
         os.chmod(executable, 0o755)
         if samples:
-            for sample in glob.glob(os.path.join(SAMPLES, "*")):
-                self.desktop.hand_over(shutil.copy2(sample, self.folder))
+            for file in glob.glob(os.path.join(SAMPLES, "*")) + glob.glob(os.path.join(DOCUMENTS, "*")):
+                self.desktop.hand_over(shutil.copy2(file, self.folder))
         return executable
 
     def start(self, executable=None):

@@ -4,18 +4,36 @@
 """Takes the pictures of the README from the real program. The folder for them is the one argument."""
 
 import os
+import re
 import shutil
 import subprocess
 import sys
 import tempfile
 
 from desktop import Desktop
-from session import SAMPLES, EXECUTABLE, Program
+from session import DOCUMENTS, SAMPLES, EXECUTABLE, Program
 from waiting import wait_for
 
 # Name, size of the window in pixels of the screen, scale.
 SIZES = (("", 1100, 800, 1), ("-1920x1080", 1920, 1080, 1), ("-3840x2160", 3840, 2160, 2))
 CHART_TYPES = (("bars", "Daily Bar Chart"), ("candlesticks", "Candlestick Chart"), ("line", "Line Chart"))
+
+
+CONVERT = ("File", "Con&vert")
+UTILITY = "Data Conversion Utility - "
+
+# Name of the picture, menu item that closes the window, its title, and the menu item that opens it.
+SECONDARY_WINDOWS = (
+    ("editor", ("File", "Exit"), "Quorvex - Edit - [Wheat.txt]", "File", "Edit"),
+    ("convert-csi", ("File", "Exit"), UTILITY + "Commodity Systems, Inc.", *CONVERT, "Commodity Systems, Inc."),
+    ("convert-barchart", ("File", "Exit"), UTILITY + "Barchart Files", *CONVERT, "Barchart"),
+    ("convert-custom", ("File", "Exit"), UTILITY + "Custom Files", *CONVERT, "Custom"),
+    ("properties", None, "Quorvex - Quote Data Set Properties", "File", "Properties"),
+    ("preferences", ("File", "Exit"), "Quorvex - Program Preferences", "Preferences"),
+    ("legend", ("Exit",), "Quorvex - Legend", "Legend"),
+    ("help", ("File", "Exit"), "Quorvex Help", "Help", "Quick Start"),
+    ("about", None, "About Quorvex", "Help", "About Quorvex"),
+)
 
 
 class Studio:
@@ -26,8 +44,9 @@ class Studio:
         folder = tempfile.mkdtemp(prefix="Quorvex-", dir=self.desktop.folder)
         self.desktop.hand_over(folder)
         executable = shutil.copy2(EXECUTABLE, folder)
-        for sample in os.listdir(SAMPLES):
-            self.desktop.hand_over(shutil.copy2(os.path.join(SAMPLES, sample), folder))
+        for source in (SAMPLES, DOCUMENTS):
+            for name in os.listdir(source):
+                self.desktop.hand_over(shutil.copy2(os.path.join(source, name), folder))
         with open(os.path.join(folder, "Quorvex.INI"), "w", encoding="ascii", newline="\r\n") as settings:
             settings.write(f"[Globals]\nChartType={chart_type}\n")
         self.program = Program(self.desktop, executable)
@@ -81,8 +100,19 @@ def take_dialogs(studio, folder):
     program.answer("Quorvex - Coefficient of Correlation", "OK")
     program.wait_for_main()
     program.choose("Forecast")
-    program.window("Quorvex Forecast - [Wheat.txt]")
+    forecast = program.window("Quorvex Forecast - [Wheat.txt]")
     studio.take("Quorvex Forecast", os.path.join(folder, "forecast.png"))
+    program.choose("File", "Exit", window=forecast)
+    program.wait_for_main()
+    for picture, exit_item, title, *command in SECONDARY_WINDOWS:
+        program.choose(*command)
+        window = program.window(title)
+        studio.take(re.escape(title), os.path.join(folder, picture + ".png"))
+        if exit_item:
+            program.choose(*exit_item, window=window)
+        else:
+            studio.desktop.press("Escape")
+        program.wait_for_main()
 
 
 if __name__ == "__main__":

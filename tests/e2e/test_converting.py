@@ -108,16 +108,6 @@ class Converting(Session):
         program.choose("File", "Exit")
         self.require_end(program)
 
-    def install(self, samples=True):
-        executable = super().install(samples)
-        documents = os.environ["QUORVEX_DOCUMENTS"]
-        for name in os.listdir(documents):
-            with open(os.path.join(documents, name), "rb") as file, \
-                    open(os.path.join(self.folder, name), "wb") as copy:
-                copy.write(file.read())
-            self.desktop.hand_over(os.path.join(self.folder, name))
-        return executable
-
 
 if __name__ == "__main__":
     unittest.main()

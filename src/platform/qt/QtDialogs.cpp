@@ -8,6 +8,7 @@
 #include "platform/qt/QtTexts.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QLayout>
 #include <QLineEdit>
@@ -97,6 +98,16 @@ auto ShowUsualPointer() {
     });
 }
 
+// Keeps a short text from cutting the title off.
+void LeaveRoomForTitle(QMessageBox& box) {
+    constexpr int FrameButtons = 160; // and the icon of the frame
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    if (grid != nullptr) {
+        int const width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + FrameButtons;
+        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    }
+}
+
 } // namespace
 
 Answer ShowMessageBox(QWidget& window, Message const& message) {
@@ -107,6 +118,7 @@ Answer ShowMessageBox(QWidget& window, Message const& message) {
     box.setText(ToQt(message.Text));
     box.setIcon(IconOf(message.Shown));
     OfferButtons(box, message.Offered);
+    LeaveRoomForTitle(box);
     auto const pointer = ShowUsualPointer();
     return AnswerOf(box.exec(), message.Offered);
 }
