@@ -7,14 +7,20 @@
 #include "editor/basValidate.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace quorvex::cli {
 
 namespace {
 
-ExitStatus Check(std::string const& quotePath) {
-    EditSession session(quotePath, std::nullopt);
+struct CheckOptions {
+    std::string QuotePath;
+    std::optional<std::string> Format;
+};
+
+ExitStatus Check(CheckOptions const& options) {
+    EditSession session(options.QuotePath, options.Format);
     bool const isGood = session.Open() && editor::ValidateQuotes(session.Edited().Grid, session.Dialogs());
     return isGood ? ExitStatus::Success : ExitStatus::Refused;
 }
@@ -22,10 +28,11 @@ ExitStatus Check(std::string const& quotePath) {
 } // namespace
 
 void AddCheck(CLI::App& app, ExitStatus& status) {
-    auto const quotePath = std::make_shared<std::string>();
+    auto const options = std::make_shared<CheckOptions>();
     CLI::App* command = app.add_subcommand("check", "Check the quotes as the editor does before it saves");
-    command->add_option("QUOTES", *quotePath, "Quote file to read")->required()->type_name("");
-    command->callback([quotePath, &status] { status = Check(*quotePath); });
+    command->add_option("QUOTES", options->QuotePath, "Quote file to read")->required()->type_name("");
+    command->add_option("--format", options->Format, "Number format of prices [####0.00]")->type_name("F");
+    command->callback([options, &status] { status = Check(*options); });
 }
 
 } // namespace quorvex::cli

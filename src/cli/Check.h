@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-// quorvex-cli check QUOTES: the check that the quote editor makes before it saves.
+// quorvex-cli check QUOTES [--format F]: the check that the quote editor makes before it saves.
 #pragma once
 
 #include "cli/SubCommand.h"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
+// quorvex-cli print QUOTES -o PAGE.pdf: the chart page.
 #pragma once
 
 #include "cli/SubCommand.h"

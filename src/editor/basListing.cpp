@@ -74,8 +74,8 @@ void PrintListing(platform::Printer& printer, Editor const& editor, std::string_
 }
 
 std::string DocumentName(std::string_view quoteFileName) {
-    std::string const name = "Quorvex Listing";
-    return quoteFileName.empty() ? name : name + " - [" + std::string(quoteFileName) + "]";
+    std::string_view const name = quoteFileName.substr(0, quoteFileName.rfind('.'));
+    return (name.empty() ? "Quorvex" : std::string(name)) + " listing";
 }
 
 } // namespace

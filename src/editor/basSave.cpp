@@ -12,6 +12,8 @@
 #include "text/basNumbers.h"
 #include "text/basTexts.h"
 
+#include <optional>
+
 namespace quorvex::editor {
 
 namespace {
@@ -47,6 +49,42 @@ std::string EditFileText(Editor const& editor, quotes::QuoteRecords const& maste
     return text;
 }
 
+// Whether the file would give the price back. A text that is no number is not for the format to judge.
+bool IsReadable(std::string_view cellText, text::NumberFormat const& format) {
+    std::optional<double> price;
+    if (text::Trap([&] { price = text::StrictNumber(cellText); })) {
+        return true;
+    }
+    std::string field;
+    bool const isSpelt = !text::Trap([&] { quotes::AppendReadableNumber(field, *price, format); });
+    return isSpelt && format.Round(*price) > 0;
+}
+
+// The loader would refuse such a day, or read another price. Tells which row it is, with the cursor on the
+// cell.
+bool RequireReadablePrices(Spread& spread, prefs::Settings const& settings, platform::Dialogs& dialogs) {
+    text::NumberFormat const format(settings.CurrencyFormat);
+    for (std::int16_t row = 1; row <= spread.RowCount(); ++row) {
+        std::int16_t column = FirstNumberColumn;
+        for (NumberColumn const& number : NumberColumns) {
+            if (number.Style == NumberStyle::Price && !IsReadable(TextAt(spread, row, column), format)) {
+                dialogs.Show({"The currency format " + settings.CurrencyFormat +
+                                  " cannot hold the price on row " + std::to_string(row) +
+                                  ". Nothing was saved.",
+                              "Edit", platform::Icon::Exclamation});
+                GotoCell(spread, row, column);
+                return false;
+            }
+            ++column;
+        }
+    }
+    return true;
+}
+
+bool RequireGoodRows(Editor& editor, prefs::Settings const& settings, platform::Dialogs& dialogs) {
+    return ValidateQuotes(editor.Grid, dialogs) && RequireReadablePrices(editor.Grid, settings, dialogs);
+}
+
 } // namespace
 
 void CopySpreadToArray(Editor& editor) {
@@ -63,7 +101,7 @@ bool SaveEditData(std::string const& fileName, Editor& editor, quotes::QuoteReco
 
 bool SaveEdits(Editor& editor, quotes::QuoteSeries const& series, prefs::Settings const& settings,
                platform::Files& files, platform::Dialogs& dialogs) {
-    return ValidateQuotes(editor.Grid, dialogs) &&
+    return RequireGoodRows(editor, settings, dialogs) &&
            SaveEditData(series.QuoteFileName, editor, series.Master, settings, files);
 }
 
@@ -80,7 +118,7 @@ bool SaveEditsAs(Editor& editor, quotes::QuoteSeries& series, prefs::Settings co
             {"Invalid data file name", std::string(platform::ApplicationTitle), platform::Icon::Critical});
         return false;
     }
-    if (!ValidateQuotes(editor.Grid, dialogs) ||
+    if (!RequireGoodRows(editor, settings, dialogs) ||
         !SaveEditData(name, editor, series.Master, settings, files)) {
         return false;
     }

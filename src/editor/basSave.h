@@ -28,7 +28,8 @@ void CopySpreadToArray(Editor& editor);
                                 quotes::QuoteRecords const& master, prefs::Settings const& settings,
                                 platform::Files& files);
 
-// Checks the rows and writes them to the open file. Returns whether they were written.
+// Checks the rows and writes them to the open file. Returns whether they were written. A price that the
+// currency format would spell as another number, or as 0, is told: the file would lose the day.
 bool SaveEdits(Editor& editor, quotes::QuoteSeries const& series, prefs::Settings const& settings,
                platform::Files& files, platform::Dialogs& dialogs);
 

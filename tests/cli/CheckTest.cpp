@@ -52,6 +52,13 @@ TEST(Check, RefusesPricesBelowZero) {
     ExpectRefused(folder.File("a.txt"), "Invalid data entry on row 31");
 }
 
+TEST(Check, RoundsThroughTheFormat) {
+    TemporaryFolder const folder;
+    folder.Write("a.txt", DaysAnd("03/15/02, 0.0091, 0.0092, 0.0041, 0.0091, 0, 0\r\n"));
+    ExpectRefused(folder.File("a.txt"), "Invalid data entry on row 31");
+    EXPECT_EQ(RunCompanion({"check", folder.File("a.txt"), "--format", "####0.0000"}).ExitStatus, 0);
+}
+
 TEST(Check, RefusesWhatTheReaderRefuses) {
     ExpectRefused(GoldenPath("quotes/few24.txt"),
                   "A minimum of 25 daily quotes is required to perform cyclical analysis");

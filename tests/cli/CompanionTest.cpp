@@ -43,7 +43,6 @@ TEST(Companion, EndsWithTwoOnWrongUsage) {
           {"analyse", "a.txt", "--automate", "1", "--parameters", "p.dat"},
           {"check"},
           {"check", "a.txt", "b.txt"},
-          {"check", "a.txt", "--format", "0"},
           {"list", "a.txt"},
           {"list", "-o", "a.pdf"},
           {"format"},

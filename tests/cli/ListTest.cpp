@@ -72,7 +72,7 @@ TEST_F(List, PrintsTheRowsIntoTheFile) {
     EXPECT_EQ(output, "");
     EXPECT_EQ(errors, "");
     auto const& document = queue.Recorded.Documents.at(0);
-    EXPECT_EQ(document.Name, "Quorvex Listing - [q060.txt]");
+    EXPECT_EQ(document.Name, "q060 listing");
     ASSERT_EQ(document.Pages.size(), 2U);
     EXPECT_EQ(document.Pages[0].Texts.at(0).Text, "q060.txt");
     EXPECT_EQ(document.Pages[0].Texts.back().Text, "Page 1");

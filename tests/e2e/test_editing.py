@@ -74,14 +74,17 @@ class Editing(Session):
         self.assertEqual(program.answer("Delete Row", "Yes"), f"Delete row no. {DAYS + 1}?")
         wait_for(lambda: window.has("active"), "the editor")
         program.choose("File", "Print", window=window)
-        listing = os.path.join(self.folder, "Quorvex Listing - [Wheat.txt].pdf")
+        listing = os.path.join(self.folder, "Wheat listing.pdf")
         self.assertEqual(program.answer("Quorvex", "OK"),
                          "No printer is installed. The page was saved as\n" + listing)
         self.assertGreater(os.path.getsize(listing), 1000)
         wait_for(lambda: window.has("active"), "the editor")
-        program.choose("File", "Save", window=window)
-        self.leave(window)
         self.assertEqual(self.lines("Wheat.txt"), before)
+        self.type_last_close("513")
+        program.choose("File", "Save", window=window)
+        changed = [*before[:DAYS - 1], before[DAYS - 1].replace("520.25", "513.00"), ""]
+        self.wait_until_equal(lambda: self.lines("Wheat.txt"), changed, "the saved file")
+        self.leave(window)
         program.choose("File", "Exit")
         self.require_end(program)
 

@@ -69,7 +69,7 @@ void ExpectFont(PrintedText const& text, int size, bool isBold) {
 
 TEST_F(Listing, OfAFileIsNamedAfterIt) {
     OpenDays(1);
-    EXPECT_EQ(Printed().Name, "Quorvex Listing - [test.txt]");
+    EXPECT_EQ(Printed().Name, "test listing");
 }
 
 TEST_F(Listing, HasAHeadWithNameDatesAndColumns) {
@@ -165,7 +165,7 @@ TEST_F(Listing, WithoutRowsIsAHeadWithoutDates) {
     Open(std::make_unique<quotes::QuoteSeries>());
     auto const& document = Printed();
     ASSERT_EQ(document.Pages.size(), 1U);
-    EXPECT_EQ(document.Name, "Quorvex Listing");
+    EXPECT_EQ(document.Name, "Quorvex listing");
     // The name is empty and leaves no text.
     ASSERT_EQ(document.Pages[0].Texts.size(), HeadTexts - 1);
     EXPECT_EQ(document.Pages[0].Texts[0].Text, " to ");
@@ -273,17 +273,9 @@ TEST_F(Listing, EndsWhereverThePrinterFails) {
     EXPECT_TRUE(dialogs.Messages.empty());
 }
 
-// Has nothing to print on.
-class NoPrinter final : public platform::PrintQueue {
-public:
-    [[nodiscard]] std::unique_ptr<platform::Printer> Start(std::string_view) override {
-        throw text::RunTimeError(text::Fault::PrinterError);
-    }
-};
-
 TEST_F(Listing, NeedsAPrinter) {
     OpenDays(3);
-    NoPrinter none;
+    platform::NoPrintQueue none;
     auto const error = editor::PrintQuotes(*edited, "test.txt", settings, none, queue);
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Description(), "Printer error");

@@ -144,10 +144,30 @@ TEST_F(SavedEdits, AreRefusedWhenTheFormatWouldNotReadBack) {
     for (auto const* format : {"#,##0.00", "$0.00", "0.00%"}) {
         settings.CurrencyFormat = format;
         Type(2, 5, "1,234.50");
+        dialogs.Messages.clear();
         EXPECT_FALSE(Save()) << format;
+        ASSERT_EQ(dialogs.Messages.size(), 1U) << format;
+        EXPECT_EQ(dialogs.Messages[0].Text.substr(0, 20), "The currency format ");
     }
     EXPECT_EQ(files.Contents["test.txt"], "old");
-    EXPECT_TRUE(dialogs.Messages.empty());
+}
+
+TEST_F(SavedEdits, AreRefusedWhenAPriceWouldBecomeZero) {
+    OpenDays(3);
+    files.Contents["test.txt"] = "old";
+    Type(2, 4, "0.004");
+    EXPECT_FALSE(Save());
+    EXPECT_FALSE(SaveAs("new.txt"));
+    ASSERT_EQ(dialogs.Messages.size(), 2U);
+    EXPECT_EQ(dialogs.Messages[0].Text,
+              "The currency format ####0.00 cannot hold the price on row 2. Nothing was saved.");
+    EXPECT_EQ(dialogs.Messages[0].Title, "Edit");
+    EXPECT_EQ(dialogs.Messages[0].Shown, platform::Icon::Exclamation);
+    EXPECT_EQ(Cursor(), std::pair(2, 4));
+    EXPECT_EQ(files.Contents["test.txt"], "old");
+    EXPECT_EQ(files.Contents.size(), 1U);
+    settings.CurrencyFormat = "####0.000";
+    EXPECT_TRUE(Save());
 }
 
 TEST_F(SavedEdits, OfAFileThatCannotBeWrittenAreRefusedQuietly) {

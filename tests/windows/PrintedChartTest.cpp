@@ -220,7 +220,7 @@ private Q_SLOTS:
     }
 
     void ANewPageStartsAtTheTopWithTheSameFont() {
-        platform::qt::QtPdfPrintQueue queue(QPageSize(QPageSize::Letter));
+        platform::qt::QtPdfPrintQueue queue((QPageSize(QPageSize::Letter)));
         auto const printer = queue.Start("Pages");
         QVERIFY(IsNear(printer->Width(), 12240, 1));
         QVERIFY(IsNear(printer->Height(), 15840, 1));

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
+#include "platform/qt/SystemJob.h"
 #include "platform/qt/TextPrinting.h"
 #include "windows/PrintedPdf.h"
 #include "windows/RunningWindow.h"
@@ -18,6 +19,7 @@
 #include <QTextEdit>
 #include <QTextTable>
 #include <filesystem>
+#include <map>
 
 namespace quorvex::tests {
 
@@ -169,6 +171,20 @@ private Q_SLOTS:
         QCOMPARE(text, QString());
     }
 
+    void OpeningAnotherItemShowsItsDocumentAtOnce() {
+        RunningWindow main;
+        main.Folder.Write(ReadMe, R"({\rtf1 First})");
+        main.Folder.Write("Quorvex-Index.rtf", R"({\rtf1 Second})");
+        OnHelp(main, [](QWidget&) {});
+        QString text;
+        main.Answers.Next([&](QWidget& window) {
+            text = TextOf(window).toPlainText();
+            Choose(window, "mnuFileExit");
+        });
+        main.Choose("mnuHelpIndex");
+        QCOMPARE(text, u"Second"_s);
+    }
+
     void ResizingReloadsTheDocumentAndGoesBackToItsTop() {
         RunningWindow main;
         main.Folder.Write(ReadMe, LongDocument());
@@ -230,6 +246,44 @@ private Q_SLOTS:
             Choose(window, "mnuFilePrint");
         });
         QCOMPARE(WordsOf(main.Folder.Read(ReadMePdf)), u"two 1"_s);
+    }
+
+    // As with a printer, but into a file: nothing of the text that changes meanwhile matters.
+    void APrinterGetsTheTextAsItWas() {
+        TemporaryFolder folder;
+        QTextEdit text;
+        text.setPlainText(u"One two three"_s);
+        QTextCursor cursor(text.document());
+        cursor.setPosition(4);
+        cursor.setPosition(7, QTextCursor::KeepAnchor);
+        text.setTextCursor(cursor);
+        platform::qt::PrintedText printed(text);
+        text.clear();
+        QVERIFY(printed.HasSelection());
+        for (auto const& [isSelection, words] :
+             std::map<bool, QString>{{true, u"two 1"_s}, {false, u"One two three 1"_s}}) {
+            platform::qt::PrinterJob job("Text");
+            job.Device().setOutputFormat(QPrinter::PdfFormat);
+            job.Device().setOutputFileName(QString::fromStdString(folder.File("text.pdf")));
+            printed.Print(isSelection, job);
+            QCOMPARE(WordsOf(folder.Read("text.pdf")), words);
+        }
+    }
+
+    void APrinterThatFailsIsTold() {
+        TemporaryFolder folder;
+        QTextEdit text;
+        platform::qt::PrintedText printed(text);
+        platform::qt::PrinterJob job("Text");
+        job.Device().setOutputFormat(QPrinter::PdfFormat);
+        job.Device().setOutputFileName(QString::fromStdString(folder.File("missing/text.pdf")));
+        QTest::ignoreMessage(QtWarningMsg, "QPainter::begin(): Returned false");
+        try {
+            printed.Print(false, job);
+            QFAIL("It was printed.");
+        } catch (text::RunTimeError const& error) {
+            QCOMPARE(error.Kind(), text::Fault::PrinterError);
+        }
     }
 
     void ThePrintDialogOffersAllOrTheSelectionAndNoPages() {

@@ -6,7 +6,6 @@
 #include <QAbstractTextDocumentLayout>
 #include <QGuiApplication>
 #include <QImage>
-#include <QPaintEngine>
 #include <QPainter>
 #include <QScreen>
 #include <QTextImageFormat>
@@ -31,19 +30,16 @@ QSizeF RichTextPictures::intrinsicSize(QTextDocument* document, int, QTextFormat
     QSizeF const size =
         hasSize ? QSizeF(picture.width(), picture.height()) : QSizeF(ImageOf(*document, picture).size());
     QPaintDevice const* device = document->documentLayout()->paintDevice();
-    if (device == nullptr) {
+    QScreen const* screen = QGuiApplication::primaryScreen(); // a remote one may have gone
+    if (device == nullptr || screen == nullptr) {
         return size;
     }
-    return size * device->logicalDpiY() / QGuiApplication::primaryScreen()->logicalDotsPerInchY();
+    return size * device->logicalDpiY() / screen->logicalDotsPerInchY();
 }
 
 void RichTextPictures::drawObject(QPainter* painter, QRectF const& place, QTextDocument* document, int,
                                   QTextFormat const& format) {
     QImage const image = ImageOf(*document, format.toImageFormat());
-    if (painter->paintEngine()->type() != QPaintEngine::Raster) {
-        painter->drawImage(place, image); // whoever shows the page scales it
-        return;
-    }
     QSizeF const dots = place.size() * painter->device()->devicePixelRatio();
     painter->drawImage(place, image.scaled(dots.toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }

@@ -14,9 +14,11 @@
 #include "text/RunTimeError.h"
 #include "text/basFolders.h"
 
+#include <QApplication>
 #include <QMenuBar>
 #include <QPointer>
 #include <QResizeEvent>
+#include <QScreen>
 #include <QTextDocument>
 #include <algorithm>
 #include <memory>
@@ -60,7 +62,7 @@ frmHelp::frmHelp(QWidget* parent, std::string const& programFolder, prefs::Setti
     richTextBox1_->setAccessibleName(QStringLiteral("Help document"));
     richTextBox1_->setReadOnly(true);
     richTextBox1_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    resize(InitialSize);
+    resize(InitialSize.boundedTo(screen()->availableSize()));
 }
 
 void frmHelp::AddMenu() {
@@ -83,6 +85,7 @@ void frmHelp::AddMenu() {
 void frmHelp::RunModal(std::string const& helpFileName) {
     helpFileName_ = helpFileName;
     platform::qt::CentreForm(*this);
+    platform::qt::RunGuarded(*this, [this] { ShowDocument(); });
     richTextBox1_->setFocus();
     exec();
 }
@@ -96,7 +99,9 @@ bool frmHelp::event(QEvent* event) {
 
 void frmHelp::resizeEvent(QResizeEvent* event) {
     QDialog::resizeEvent(event);
-    platform::qt::RunGuarded(*this, [this] { ShowDocument(); });
+    if (isVisible()) {
+        platform::qt::RunGuarded(*this, [this] { ShowDocument(); });
+    }
 }
 
 void frmHelp::ShowDocument() {
@@ -124,6 +129,10 @@ void frmHelp::Show(std::unique_ptr<QTextDocument> document) {
 
 void frmHelp::Print() {
     platform::qt::CloseMenus();
+    // Keys and mouse do not come through while a dialog is open; assistive technology does.
+    if (QApplication::activeModalWidget() != this) {
+        return;
+    }
     std::string const documentName = helpFileName_.substr(0, helpFileName_.rfind('.'));
     platform::qt::RunGuarded(
         *this, [&] { platform::qt::PrintText(*richTextBox1_, documentName, settings_.DataPath, dialogs_); });

@@ -5,6 +5,7 @@
 
 #include "editor/basBlocks.h"
 #include "platform/qt/Painting.h"
+#include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtTexts.h"
 
 #include <QClipboard>
@@ -125,11 +126,13 @@ std::optional<Block> SpreadGrid::SelectedBlock() const {
 }
 
 void SpreadGrid::keyPressEvent(QKeyEvent* event) {
-    if (int const rows = RowsToMove(*event); rows != 0) {
-        MoveDown(rows);
-    } else if (!WorkOnBlock(*event)) {
-        QTableView::keyPressEvent(event);
-    }
+    platform::qt::RunGuarded(*this, [&] {
+        if (int const rows = RowsToMove(*event); rows != 0) {
+            MoveDown(rows);
+        } else if (!WorkOnBlock(*event)) {
+            QTableView::keyPressEvent(event);
+        }
+    });
 }
 
 bool SpreadGrid::WorkOnBlock(QKeyEvent const& event) {

@@ -70,7 +70,8 @@ QVariant SpreadModel::headerData(int section, Qt::Orientation orientation, int r
 }
 
 Qt::ItemFlags SpreadModel::flags(QModelIndex const& index) const {
-    return QAbstractTableModel::flags(index) | Qt::ItemIsEditable;
+    Qt::ItemFlags const flags = QAbstractTableModel::flags(index);
+    return index.isValid() ? flags | Qt::ItemIsEditable : flags;
 }
 
 bool SpreadModel::setData(QModelIndex const& index, QVariant const& value, int role) {

@@ -106,8 +106,10 @@ void frmEdit::Run(Command const& command) {
     {
         isBusy_ = true;
         auto const free = qScopeGuard([this] { isBusy_ = false; });
-        spread_->FinishTyping(); // what is being typed counts for the command
-        platform::qt::RunGuarded(*this, command);
+        platform::qt::RunGuarded(*this, [&] {
+            spread_->FinishTyping(); // what is being typed counts for the command
+            command();
+        });
     }
     // Some desktops tell only now that a box has closed.
     isBoxClosing_ = !isActiveWindow();

@@ -4,6 +4,7 @@
 #include "platform/qt/HeadlessApplication.h"
 
 #include <QFont>
+#include <QStandardPaths>
 #include <array>
 #include <iostream>
 
@@ -26,6 +27,13 @@ std::unique_ptr<QGuiApplication> StartApplicationWithoutDisplay() {
     }
     qInstallMessageHandler(IgnoreMissingRuntimeFolder);
     qputenv("QT_QPA_PLATFORM", "offscreen");
+#ifdef Q_OS_WIN
+    // There this platform looks for fonts beside Qt alone.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_FONTDIR")) {
+        qputenv("QT_QPA_FONTDIR",
+                QStandardPaths::writableLocation(QStandardPaths::FontsLocation).toLocal8Bit());
+    }
+#endif
     static int count = 1; // the application keeps references
     static std::array<char, 8> name = {"quorvex"};
     static std::array<char*, 2> arguments = {name.data(), nullptr};

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "text/RunTimeError.h"
+
 #include <QPagedPaintDevice>
 
 namespace quorvex::platform::qt {
@@ -22,5 +24,12 @@ public:
     // To be called when the last page is painted. Raises "Printer error" when they did not get out.
     virtual void Finish() = 0;
 };
+
+// Raises "Printer error" when a step of printing did not succeed.
+inline void RequirePrinted(bool isPrinted) {
+    if (!isPrinted) {
+        throw text::RunTimeError(text::Fault::PrinterError);
+    }
+}
 
 } // namespace quorvex::platform::qt

@@ -5,7 +5,6 @@
 
 #include "platform/qt/Painting.h"
 #include "platform/qt/QtTexts.h"
-#include "text/RunTimeError.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -16,12 +15,6 @@ namespace quorvex::platform::qt {
 namespace {
 
 constexpr double TwipsPerInch = 1440;
-
-void Require(bool isPrinted) {
-    if (!isPrinted) {
-        throw text::RunTimeError(text::Fault::PrinterError);
-    }
-}
 
 } // namespace
 
@@ -38,16 +31,16 @@ double QtPrinter::Width() const {
 }
 
 double QtPrinter::Height() const {
-    return job_->Device().height() / UnitsPerTwip() / unit_;
+    return job_->Device().height() * TwipsPerInch / job_->Device().logicalDpiY() / unit_;
 }
 
 RecordingCanvas& QtPrinter::Page() {
-    Require(!isEnded_);
+    RequirePrinted(!isEnded_);
     return pages_.back();
 }
 
 void QtPrinter::Clear() {
-    Require(false);
+    RequirePrinted(false);
 }
 
 void QtPrinter::SetForeColour(Colour colour) {
@@ -114,7 +107,7 @@ void QtPrinter::EndLine() {
 }
 
 void QtPrinter::NewPage() {
-    Require(!isEnded_);
+    RequirePrinted(!isEnded_);
     pages_.emplace_back(Width() * unit_, Height() * unit_);
     x_ = 0;
     y_ = 0;
@@ -123,7 +116,7 @@ void QtPrinter::NewPage() {
 }
 
 void QtPrinter::EndDocument() {
-    Require(!isEnded_);
+    RequirePrinted(!isEnded_);
     isEnded_ = true;
     PaintPages();
     job_->Finish();
@@ -131,12 +124,14 @@ void QtPrinter::EndDocument() {
 
 void QtPrinter::PaintPages() {
     QPainter painter;
-    Require(painter.begin(&job_->Device()));
+    RequirePrinted(painter.begin(&job_->Device()));
+    // Some printers have dots that are no squares.
+    painter.scale(1, static_cast<double>(job_->Device().logicalDpiY()) / job_->Device().logicalDpiX());
     for (RecordingCanvas const& page : pages_) {
-        Require(&page == &pages_.front() || job_->Device().newPage());
+        RequirePrinted(&page == &pages_.front() || job_->Device().newPage());
         PaintDrawing(painter, page, {UnitsPerTwip(), Medium::Paper});
     }
-    Require(painter.end());
+    RequirePrinted(painter.end());
 }
 
 } // namespace quorvex::platform::qt

@@ -6,6 +6,7 @@
 #include "platform/basMessages.h"
 #include "platform/qt/QtTexts.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QPrinterInfo>
@@ -16,22 +17,16 @@ namespace quorvex::platform::qt {
 
 namespace {
 
-void Require(bool isPrinted) {
-    if (!isPrinted) {
-        throw text::RunTimeError(text::Fault::PrinterError);
-    }
-}
-
 // Only ever makes a file, and leaves none that is not whole.
 void WriteNewFile(QString const& path, QByteArray const& content) {
     QFile file(path);
-    Require(file.open(QIODevice::WriteOnly | QIODevice::NewOnly));
+    RequirePrinted(file.open(QIODevice::WriteOnly | QIODevice::NewOnly));
     bool const isWritten = file.write(content) == content.size() && file.flush();
     file.close();
     if (!isWritten) {
         file.remove();
     }
-    Require(isWritten);
+    RequirePrinted(isWritten);
 }
 
 } // namespace
@@ -45,7 +40,7 @@ PrinterJob::PrinterJob(std::string_view documentName) : printer_(QPrinter::HighR
 }
 
 void PrinterJob::Finish() {
-    Require(printer_.printerState() != QPrinter::Error);
+    RequirePrinted(printer_.printerState() != QPrinter::Error);
 }
 
 std::unique_ptr<PrintJob> StartSystemJob(std::string_view documentName, std::string_view folder,
@@ -57,8 +52,9 @@ std::unique_ptr<PrintJob> StartSystemJob(std::string_view documentName, std::str
                  show = std::move(show)](QByteArray const& pdf) {
         std::string const path = NewPdfPath(folder, name);
         WriteNewFile(ToQt(path), pdf);
-        show({"No printer is installed. The page was saved as\n" + path, std::string(ApplicationTitle),
-              Icon::Information});
+        show({"No printer is installed. The page was saved as\n" +
+                  FromQt(QDir::toNativeSeparators(ToQt(path))),
+              std::string(ApplicationTitle), Icon::Information});
     };
     return std::make_unique<PdfJob>(documentName, page, std::move(save));
 }

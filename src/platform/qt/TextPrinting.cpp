@@ -4,7 +4,6 @@
 #include "platform/qt/TextPrinting.h"
 
 #include "platform/qt/SystemJob.h"
-#include "text/RunTimeError.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QGuiApplication>
@@ -22,22 +21,10 @@ namespace {
 constexpr double PaperMargin = 20; // in millimetres
 constexpr double MillimetresPerInch = 25.4;
 
-void Require(bool isPrinted) {
-    if (!isPrinted) {
-        throw text::RunTimeError(text::Fault::PrinterError);
-    }
-}
-
-std::unique_ptr<QTextDocument> PartOf(QTextEdit const& text, bool isSelection) {
-    if (!isSelection) {
-        return std::unique_ptr<QTextDocument>(text.document()->clone());
-    }
-    auto part = std::make_unique<QTextDocument>();
-    part->setResourceProvider([&document = *text.document()](QUrl const& name) {
-        return document.resource(QTextDocument::ImageResource, name);
-    });
-    QTextCursor(part.get()).insertFragment(text.textCursor().selection());
-    return part;
+double ScreenDpi() {
+    constexpr double UsualDpi = 96;
+    QScreen const* screen = QGuiApplication::primaryScreen(); // a remote one may have gone
+    return screen == nullptr ? UsualDpi : screen->logicalDotsPerInchY();
 }
 
 // Pages of a text, laid out as on the screen and painted in the paper's scale: Qt's own printing leaves
@@ -47,7 +34,7 @@ public:
     TextPages(QTextDocument& document, QPagedPaintDevice& paper)
         : document_(document),
           paper_(paper),
-          screenDpi_(QGuiApplication::primaryScreen()->logicalDotsPerInchY()) {
+          screenDpi_(ScreenDpi()) {
         QPageLayout const layout = paper.pageLayout();
         QSizeF const size = layout.fullRect(QPageLayout::Millimeter).size();
         QMarginsF const taken = layout.margins(QPageLayout::Millimeter);
@@ -62,14 +49,14 @@ public:
 
     void Paint() {
         QPainter painter;
-        Require(painter.begin(&paper_));
+        RequirePrinted(painter.begin(&paper_));
         painter.scale(paper_.logicalDpiX() / screenDpi_, paper_.logicalDpiY() / screenDpi_);
         painter.translate(origin_);
         for (int page = 0; page < document_.pageCount(); ++page) {
-            Require(page == 0 || paper_.newPage());
+            RequirePrinted(page == 0 || paper_.newPage());
             PaintPage(painter, page);
         }
-        Require(painter.end());
+        RequirePrinted(painter.end());
     }
 
 private:
@@ -106,12 +93,6 @@ private:
     QSizeF body_;
 };
 
-void PrintPart(QTextEdit const& text, bool isSelection, PrintJob& job) {
-    auto const part = PartOf(text, isSelection);
-    TextPages(*part, job.Device()).Paint();
-    job.Finish();
-}
-
 } // namespace
 
 void OfferRanges(QPrintDialog& dialog, bool hasSelection) {
@@ -120,19 +101,35 @@ void OfferRanges(QPrintDialog& dialog, bool hasSelection) {
     dialog.setPrintRange(hasSelection ? QAbstractPrintDialog::Selection : QAbstractPrintDialog::AllPages);
 }
 
+PrintedText::PrintedText(QTextEdit const& text) : whole_(text.document()->clone()) {
+    if (text.textCursor().hasSelection()) {
+        selection_ = std::make_unique<QTextDocument>();
+        selection_->setResourceProvider([&whole = *whole_](QUrl const& name) {
+            return whole.resource(QTextDocument::ImageResource, name);
+        });
+        QTextCursor(selection_.get()).insertFragment(text.textCursor().selection());
+    }
+}
+
+void PrintedText::Print(bool isSelection, PrintJob& job) {
+    TextPages(isSelection ? *selection_ : *whole_, job.Device()).Paint();
+    job.Finish();
+}
+
 void PrintText(QTextEdit& text, std::string_view documentName, std::string_view folder, Dialogs& dialogs) {
-    bool const hasSelection = text.textCursor().hasSelection();
+    // Before any dialog: what happens to the text while one is open must not change what is printed.
+    PrintedText printed(text);
     if (!HasPrinter()) {
         auto const job = StartSystemJob(documentName, folder, PdfPage(),
                                         [&dialogs](Message const& message) { dialogs.Show(message); });
-        PrintPart(text, hasSelection, *job);
+        printed.Print(printed.HasSelection(), *job);
         return;
     }
     PrinterJob job(documentName);
     QPrintDialog dialog(&job.Device(), &text);
-    OfferRanges(dialog, hasSelection);
+    OfferRanges(dialog, printed.HasSelection());
     if (dialog.exec() == QDialog::Accepted) {
-        PrintPart(text, dialog.printRange() == QAbstractPrintDialog::Selection, job);
+        printed.Print(dialog.printRange() == QAbstractPrintDialog::Selection, job);
     }
 }
 

@@ -4,9 +4,12 @@
 #pragma once
 
 #include "platform/Dialogs.h"
+#include "platform/qt/PrintJob.h"
 
 #include <QPrintDialog>
+#include <QTextDocument>
 #include <QTextEdit>
+#include <memory>
 #include <string_view>
 
 namespace quorvex::platform::qt {
@@ -14,6 +17,22 @@ namespace quorvex::platform::qt {
 // What the dialog offers to print of a text: the selection when there is one, else everything, and never a
 // range of pages.
 void OfferRanges(QPrintDialog& dialog, bool hasSelection);
+
+// A text as it is when this is made, and what is selected of it.
+class PrintedText {
+public:
+    explicit PrintedText(QTextEdit const& text);
+
+    [[nodiscard]] bool HasSelection() const { return selection_ != nullptr; }
+
+    // Prints one of both on numbered pages and finishes the job. REQUIRES: there is a selection when it is
+    // asked for.
+    void Print(bool isSelection, PrintJob& job);
+
+private:
+    std::unique_ptr<QTextDocument> whole_;
+    std::unique_ptr<QTextDocument> selection_;
+};
 
 // Prints what is selected of the text or, with no selection, all of it, on numbered pages, after a print
 // dialog; cancelling that prints nothing. Where no printer is installed there is no dialog, and the pages

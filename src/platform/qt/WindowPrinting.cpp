@@ -4,7 +4,6 @@
 #include "platform/qt/WindowPrinting.h"
 
 #include "platform/qt/SystemJob.h"
-#include "text/RunTimeError.h"
 
 #include <QPainter>
 #include <algorithm>
@@ -13,23 +12,17 @@ namespace quorvex::platform::qt {
 
 namespace {
 
-void Require(bool isPrinted) {
-    if (!isPrinted) {
-        throw text::RunTimeError(text::Fault::PrinterError);
-    }
-}
-
 // Fits the window onto the page, no larger than on the screen, and in the middle of its width.
 void RenderOnPage(QWidget& window, QPagedPaintDevice& page) {
     QPainter painter;
-    Require(painter.begin(&page));
+    RequirePrinted(painter.begin(&page));
     double const screenScale = static_cast<double>(page.logicalDpiX()) / window.logicalDpiX();
     double const scale = std::min({screenScale, static_cast<double>(page.width()) / window.width(),
                                    static_cast<double>(page.height()) / window.height()});
     painter.translate((page.width() - window.width() * scale) / 2, 0);
     painter.scale(scale, scale);
     window.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
-    Require(painter.end());
+    RequirePrinted(painter.end());
 }
 
 } // namespace
