@@ -6,11 +6,9 @@
 #include "editor/basEdit.h"
 #include "editor/basSpread.h"
 #include "editor/basValidate.h"
-#include "platform/basMessages.h"
 #include "quotes/basDisk.h"
 #include "quotes/basQuotes.h"
 #include "text/basNumbers.h"
-#include "text/basTexts.h"
 
 #include <optional>
 
@@ -107,15 +105,8 @@ bool SaveEdits(Editor& editor, quotes::QuoteSeries const& series, prefs::Setting
 
 bool SaveEditsAs(Editor& editor, quotes::QuoteSeries& series, prefs::Settings const& settings,
                  platform::Files& files, platform::Dialogs& dialogs) {
-    std::string const answer =
-        dialogs.Ask({"Save " + series.QuoteFileName + " As...", "Save As...", series.QuoteFileName});
-    std::string const name(text::Trim(answer));
-    if (name.empty()) {
-        return false;
-    }
-    if (!quotes::IsQuoteFileName(name)) {
-        dialogs.Show(
-            {"Invalid data file name", std::string(platform::ApplicationTitle), platform::Icon::Critical});
+    std::string const name = quotes::AskQuoteFileName(series, dialogs);
+    if (name.empty() || !quotes::RequireQuoteFileName(name, dialogs)) {
         return false;
     }
     if (!RequireGoodRows(editor, settings, dialogs) ||

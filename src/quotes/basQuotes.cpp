@@ -40,17 +40,25 @@ bool IsQuoteFileName(std::string_view name) {
     return text::IsNameWithExtension(name, ".TXT");
 }
 
-void SaveQuoteFileAs(QuoteSeries& series, prefs::Settings const& settings, platform::Files& files,
-                     platform::Dialogs& dialogs) {
+std::string AskQuoteFileName(QuoteSeries const& series, platform::Dialogs& dialogs) {
     std::string const answer =
         dialogs.Ask({"Save " + series.QuoteFileName + " As...", "Save As...", series.QuoteFileName});
-    std::string const name(text::Trim(answer));
-    if (!IsQuoteFileName(name)) {
-        dialogs.Show(
-            {"Invalid data file name", std::string(platform::ApplicationTitle), platform::Icon::Critical});
-        return;
+    return std::string(text::Trim(answer));
+}
+
+bool RequireQuoteFileName(std::string_view name, platform::Dialogs& dialogs) {
+    if (IsQuoteFileName(name)) {
+        return true;
     }
-    if (SaveQuoteFile(name, series, settings, files, dialogs)) {
+    dialogs.Show(
+        {"Invalid data file name", std::string(platform::ApplicationTitle), platform::Icon::Critical});
+    return false;
+}
+
+void SaveQuoteFileAs(QuoteSeries& series, prefs::Settings const& settings, platform::Files& files,
+                     platform::Dialogs& dialogs) {
+    std::string const name = AskQuoteFileName(series, dialogs);
+    if (RequireQuoteFileName(name, dialogs) && SaveQuoteFile(name, series, settings, files, dialogs)) {
         series.QuoteFileName = name;
     }
 }

@@ -32,6 +32,12 @@ void CloseQuoteFile(QuoteSeries& series);
 // ".TXT" in either case.
 [[nodiscard]] bool IsQuoteFileName(std::string_view name);
 
+// Asks for the name to save under, with that of the open file in the box: the answer without blanks around it.
+[[nodiscard]] std::string AskQuoteFileName(QuoteSeries const& series, platform::Dialogs& dialogs);
+
+// Whether quotes can be saved under the name. When they cannot, tells the user.
+[[nodiscard]] bool RequireQuoteFileName(std::string_view name, platform::Dialogs& dialogs);
+
 // Asks for a name and saves the working copy under it, which becomes the open file's name when that succeeds.
 void SaveQuoteFileAs(QuoteSeries& series, prefs::Settings const& settings, platform::Files& files,
                      platform::Dialogs& dialogs);

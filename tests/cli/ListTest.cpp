@@ -3,7 +3,7 @@
 
 #include "cli/List.h"
 
-#include "platform/fake/RecordingPrinter.h"
+#include "RecordingPdfQueue.h"
 #include "support/Golden.h"
 #include "support/QuoteTexts.h"
 #include "support/TemporaryFolder.h"
@@ -18,24 +18,6 @@ namespace quorvex::tests {
 namespace {
 
 using cli::ExitStatus;
-
-// Prints on pages in memory; what goes into the file only tells that it came from here.
-class RecordingPdfQueue final : public platform::PdfPrintQueue {
-public:
-    [[nodiscard]] std::unique_ptr<platform::Printer> Start(std::string_view documentName) override {
-        return Recorded.Start(documentName);
-    }
-
-    [[nodiscard]] std::string const& Pdf() const override {
-        return Recorded.Documents.back().IsEnded ? bytes_ : none_;
-    }
-
-    platform::fake::RecordingPrintQueue Recorded;
-
-private:
-    std::string bytes_ = "%PDF-of-a-test";
-    std::string none_;
-};
 
 class List : public testing::Test {
 protected:

@@ -1,14 +1,64 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
+#include "cli/Print.h"
+
+#include "RecordingPdfQueue.h"
 #include "RunCompanion.h"
 #include "support/Golden.h"
 #include "support/TemporaryFolder.h"
+#include "text/basTexts.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace quorvex::tests {
 namespace {
+
+// The one page that these arguments print.
+platform::fake::PrintedPage PrintedPageOf(std::vector<std::string> arguments) {
+    TemporaryFolder const folder;
+    RecordingPdfQueue queue;
+    CLI::App app;
+    auto status = cli::ExitStatus::Usage;
+    cli::AddPrint(app, &queue, status);
+    arguments.insert(arguments.begin(), {"print", "-o", folder.File("page.pdf")});
+    std::ranges::reverse(arguments);
+    app.parse(arguments);
+    EXPECT_EQ(status, cli::ExitStatus::Success);
+    EXPECT_EQ(queue.Recorded.Documents.at(0).Pages.size(), 1U);
+    return queue.Recorded.Documents.at(0).Pages.at(0);
+}
+
+auto CountOf(platform::fake::PrintedPage const& page, platform::DrawingOperation::Kind kind) {
+    return std::ranges::count(page.Shapes, kind, &platform::DrawingOperation::What);
+}
+
+TEST(Print, TakesTheFormatTheStyleAndTheDates) {
+    std::string const file = GoldenPath("quotes/q250.txt");
+    using Kind = platform::DrawingOperation::Kind;
+    auto const bars = PrintedPageOf({file});
+    auto const candles = PrintedPageOf({file, "--chart-type", "Candlestick Chart"});
+    auto const line = PrintedPageOf({file, "--chart-type", "Line Chart", "--format", "####0.000"});
+    // The ticks and the middle division, then three rectangles a day. Of candlesticks only some bodies are
+    // filled.
+    EXPECT_EQ(CountOf(bars, Kind::Rectangle), 250 + 1 + 3 * 250);
+    EXPECT_EQ(CountOf(candles, Kind::Rectangle), 250 + 1 + 3 * 250);
+    EXPECT_NE(std::ranges::count(candles.Shapes, true, &platform::DrawingOperation::Flag),
+              std::ranges::count(bars.Shapes, true, &platform::DrawingOperation::Flag));
+    EXPECT_EQ(CountOf(line, Kind::Rectangle), 250 + 1);
+    auto const decimals = [](std::string const& label) {
+        std::string_view const price = text::Trim(label);
+        return price.size() - price.find('.') - 1;
+    };
+    EXPECT_EQ(decimals(bars.Texts.back().Text), 2U);
+    EXPECT_EQ(decimals(line.Texts.back().Text), 3U);
+    std::string const dates = bars.Texts.at(1).Text; // first to last
+    auto const narrowed =
+        PrintedPageOf({file, "--end", dates.substr(dates.size() - 8), "--start", dates.substr(0, 8)});
+    EXPECT_EQ(narrowed.Texts.at(1).Text, dates);
+}
 
 #ifdef QUORVEX_PICTURES
 
