@@ -7,6 +7,7 @@
 #include "text/basLines.h"
 
 #include <cstdint>
+#include <exception>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -55,7 +56,13 @@ public:
     Destination(Destination const&) = delete;
     Destination& operator=(Destination const&) = delete;
 
-    ~Destination() { static_cast<void>(Discard()); }
+    ~Destination() {
+        try {
+            static_cast<void>(Discard());
+        } catch (std::exception const&) {
+            // An exception is on its way already, and its message is the one that is shown.
+        }
+    }
 
     platform::ByteSink& Open() {
         sink_ = files_.OpenForOutput(name_);
@@ -64,14 +71,20 @@ public:
 
     void Keep() { sink_.reset(); }
 
-    // Closes and deletes the file if it was opened. Returns the fault that left it there.
+    // Closes and deletes the file if it was opened. Returns the fault that left it there, empty if possible.
     std::optional<text::RunTimeError> Discard() {
         if (sink_ == nullptr) {
             return std::nullopt;
         }
         sink_.reset();
         auto const fault = text::Trap([&] { files_.Remove(name_); });
-        return fault && fault->Kind() != Fault::FileNotFound ? fault : std::nullopt;
+        if (!fault || fault->Kind() == Fault::FileNotFound) {
+            return std::nullopt;
+        }
+        // A file may be writable in a folder that is not: at least what was written in it goes. When that
+        // fails too, the fault that is returned tells of the same trouble.
+        static_cast<void>(text::Trap([&] { files_.OpenForOutput(name_)->Close(); }));
+        return fault;
     }
 
 private:

@@ -39,7 +39,7 @@ struct FileNames {
 
 // Converts the source file into the destination file, which is emptied first. Returns false after a message
 // told why that failed: then there is no destination file any more, or it is untouched if one of the two
-// files could not be opened.
+// files could not be opened. A destination that cannot be deleted is left empty, and a message tells why.
 [[nodiscard]] bool ConvertFile(FileNames const& names, SourceLayout const& layout, platform::Files& files,
                                platform::Dialogs& dialogs);
 

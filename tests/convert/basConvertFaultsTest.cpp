@@ -106,6 +106,28 @@ TEST_F(ConversionFaults, AnUnwritableFolderIsTold) {
     EXPECT_EQ(folder.EntryCount(), 1);
 }
 
+TEST_F(ConversionFaults, AWritableDestinationInAnUnwritableFolderIsLeftEmpty) {
+    std::string text;
+    for (int line = 0; line < 2000; ++line) { // more than is kept back before the first writing
+        text += GoodLine;
+    }
+    folder.Write("in.txt", text + "x\r\n");
+    folder.Write("out.txt", "older");
+    for (auto const* name : {"in.txt", "out.txt"}) {
+        std::filesystem::permissions(folder.File(name), std::filesystem::perms(0666));
+    }
+    std::filesystem::permissions(folder.Path(), std::filesystem::perms(0555));
+    std::vector<std::string> boxes;
+    {
+        tests::AsOrdinaryUser const user;
+        boxes = ConvertTo("out.txt");
+    }
+    EXPECT_THAT(boxes,
+                ElementsAre(ExclamationBox("Invalid record at line 2001 in\nfile " + folder.File("in.txt")),
+                            ExclamationBox("Permission denied")));
+    EXPECT_EQ(folder.Read("out.txt"), "");
+}
+
 TEST_F(ConversionFaults, AnUnreadableSourceIsTold) {
     folder.Write("in.txt", GoodLine);
     std::filesystem::permissions(folder.File("in.txt"), std::filesystem::perms::none);

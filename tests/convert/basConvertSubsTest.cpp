@@ -185,12 +185,13 @@ TEST(ConvertDataFile, DeletesTheDestinationWhenItsLastBytesFailOnClosing) {
     EXPECT_THAT(BoxesOf(dialogs), ElementsAre(ExclamationBox("Disk full")));
 }
 
-TEST(ConvertDataFile, TellsWhenThePartialOutputCannotBeDeleted) {
+TEST(ConvertDataFile, EmptiesTheDestinationWhenItCannotBeDeletedAndTells) {
     MemoryFiles files;
     ScriptedDialogs dialogs;
     files.Contents = {{"C:\\in.txt", std::string(GoodLine) + BadRecord}};
     files.BreakRemoving = Fault::PermissionDenied;
     ConvertDataFile(UsualNames, CsiLayout(), files, dialogs);
+    EXPECT_EQ(files.Contents.at("C:\\out.txt"), "");
     EXPECT_THAT(BoxesOf(dialogs), ElementsAre(ExclamationBox("Invalid record at line 2 in\nfile C:\\in.txt"),
                                               ExclamationBox("Permission denied")));
 }
