@@ -10,7 +10,6 @@
 #include "convert/basConvertCSI.h"
 #include "convert/basConvertCustom.h"
 #include "convert/basConvertSubs.h"
-#include "platform/disk/DiskFiles.h"
 
 #include <algorithm>
 #include <memory>
@@ -81,8 +80,7 @@ CLI::Validator IsDateFormat() {
 
 ExitStatus Convert(convert::FileNames const& names, convert::SourceLayout const& layout) {
     ConsoleDialogs dialogs;
-    platform::disk::DiskFiles disk;
-    PipeFiles files(disk);
+    PipeFiles files;
     // From pipe to pipe both names are the same and yet two things.
     bool const isFilter = names.Source == PipeName && names.Destination == PipeName;
     if (!isFilter && !convert::ValidateFileNames(names, dialogs)) {

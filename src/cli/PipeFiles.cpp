@@ -8,29 +8,29 @@
 namespace quorvex::cli {
 
 std::unique_ptr<text::ByteSource> PipeFiles::OpenForInput(std::string const& path) const {
-    return path == PipeName ? platform::disk::OpenStandardInput() : files_.OpenForInput(path);
+    return path == PipeName ? platform::disk::OpenStandardInput() : platform::disk::OpenFileOrPipe(path);
 }
 
 void PipeFiles::Replace(std::string const& path, std::string_view content) {
-    files_.Replace(path, content);
+    disk_.Replace(path, content);
 }
 
 std::unique_ptr<platform::ByteSink> PipeFiles::OpenForOutput(std::string const& path) {
-    return path == PipeName ? platform::disk::OpenStandardOutput() : files_.OpenForOutput(path);
+    return path == PipeName ? platform::disk::OpenStandardOutput() : disk_.OpenForOutput(path);
 }
 
 void PipeFiles::Remove(std::string const& path) {
     if (path != PipeName) {
-        files_.Remove(path);
+        disk_.Remove(path);
     }
 }
 
 std::uint64_t PipeFiles::Length(std::string const& path) const {
-    return files_.Length(path);
+    return disk_.Length(path);
 }
 
 std::vector<std::string> PipeFiles::List(std::string const& folder, std::string_view pattern) const {
-    return files_.List(folder, pattern);
+    return disk_.List(folder, pattern);
 }
 
 } // namespace quorvex::cli

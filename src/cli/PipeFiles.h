@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/Files.h"
+#include "platform/disk/DiskFiles.h"
 
 #include <string_view>
 
@@ -12,13 +12,11 @@ namespace quorvex::cli {
 // Where a file is named, this stands for standard input or standard output.
 inline constexpr std::string_view PipeName = "-";
 
-// The files of another object, and besides them what PipeName stands for. What was written on standard
-// output cannot be taken back: removing it does nothing.
+// The files of this machine, and besides them what PipeName stands for; the pipes and devices that have a
+// name, as a shell makes them, can be read too. What was written on standard output cannot be taken back:
+// removing it does nothing.
 class PipeFiles final : public platform::Files {
 public:
-    // The files must outlive the object.
-    explicit PipeFiles(platform::Files& files) : files_(files) {}
-
     [[nodiscard]] std::unique_ptr<text::ByteSource> OpenForInput(std::string const& path) const override;
     void Replace(std::string const& path, std::string_view content) override;
     [[nodiscard]] std::unique_ptr<platform::ByteSink> OpenForOutput(std::string const& path) override;
@@ -28,7 +26,7 @@ public:
                                                 std::string_view pattern) const override;
 
 private:
-    platform::Files& files_;
+    platform::disk::DiskFiles disk_;
 };
 
 } // namespace quorvex::cli

@@ -32,8 +32,8 @@ public:
 };
 
 // The faults are those of text::RunTimeError: "Bad file name or number" for a name that no file can have,
-// "File not found", "Path not found" when its folder is missing, "Permission denied" (a folder in place of a
-// file included), "Disk full".
+// "File not found", "Path not found" when its folder is missing, "Permission denied" (a folder, a pipe or a
+// device in place of a file included), "Disk full".
 class Files {
 public:
     Files() = default;

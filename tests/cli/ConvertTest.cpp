@@ -8,6 +8,11 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <thread>
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
 
 namespace quorvex::tests {
 namespace {
@@ -64,6 +69,24 @@ TEST(Convert, ReadsAPipeAndWritesOne) {
     EXPECT_EQ(reader.ExitStatus, 0);
     EXPECT_EQ(folder.Read("out.txt"), QuoteLine);
 }
+
+#ifndef _WIN32
+
+TEST(Convert, ReadsAPipeThatHasAName) {
+    TemporaryFolder const folder;
+    auto const input = RunCompanion({"convert", "csi", "/dev/stdin", folder.File("out.txt")}, CsiLine);
+    EXPECT_EQ(input.Errors, "");
+    EXPECT_EQ(folder.Read("out.txt"), QuoteLine);
+
+    ASSERT_EQ(mkfifo(folder.File("pipe").c_str(), 0666), 0);
+    std::thread writer([&folder] { folder.Write("pipe", CsiLine); });
+    auto const pipe = RunCompanion({"convert", "csi", folder.File("pipe"), "-"});
+    writer.join();
+    EXPECT_EQ(pipe.Errors, "");
+    EXPECT_EQ(pipe.Output, QuoteLine);
+}
+
+#endif
 
 TEST(Convert, RefusesABadFileAndLeavesNothing) {
     TemporaryFolder const folder;

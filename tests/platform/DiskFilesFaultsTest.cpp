@@ -5,6 +5,7 @@
 // permission, links, and a process that dies while it saves.
 
 #include "platform/disk/DiskFiles.h"
+#include "platform/disk/DiskProfile.h"
 #include "support/AsOrdinaryUser.h"
 #include "support/SmallDisk.h"
 #include "support/TemporaryFolder.h"
@@ -118,6 +119,40 @@ TEST(DiskFilesFaults, APipeIsNeitherEmptiedNorRemoved) {
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Kind(), Fault::PermissionDenied);
     EXPECT_TRUE(std::filesystem::is_fifo(folder.File("pipe.txt")));
+}
+
+TEST(DiskFilesFaults, APipeOrDeviceIsNotReadAndKeepsNobodyWaiting) {
+    tests::TemporaryFolder const folder;
+    ASSERT_EQ(mkfifo(folder.File("pipe.txt").c_str(), 0666), 0);
+    std::filesystem::create_symlink("pipe.txt", folder.File("link.txt"));
+    EXPECT_EQ(FaultOfOpening(folder.File("pipe.txt")), Fault::PermissionDenied);
+    EXPECT_EQ(FaultOfOpening(folder.File("link.txt")), Fault::PermissionDenied);
+    EXPECT_EQ(FaultOfOpening("/dev/null"), Fault::PermissionDenied);
+}
+
+TEST(DiskFilesFaults, AProfileInPlaceOfWhichAPipeStandsIsNeitherReadNorWritten) {
+    tests::TemporaryFolder const folder;
+    ASSERT_EQ(mkfifo(folder.File("pipe.ini").c_str(), 0666), 0);
+    DiskFiles files;
+    DiskProfile profile(folder.File("pipe.ini"), files);
+    EXPECT_EQ(profile.ReadString("Section", "Key", "default"), "default");
+    std::array<ProfileEntry, 1> const entries = {{{"Key", "value"}}};
+    auto const error = text::Trap([&] { profile.WriteStrings("Section", entries); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Kind(), Fault::PermissionDenied);
+}
+
+TEST(DiskFilesFaults, APipeIsReadWhereItIsAskedFor) {
+    tests::TemporaryFolder const folder;
+    ASSERT_EQ(mkfifo(folder.File("pipe.txt").c_str(), 0666), 0);
+    std::thread writer([&folder] { folder.Write("pipe.txt", "through the pipe"); });
+    std::array<char, 64> buffer{};
+    std::size_t const count = OpenFileOrPipe(folder.File("pipe.txt"))->Read(buffer);
+    writer.join();
+    EXPECT_EQ(std::string(buffer.data(), count), "through the pipe");
+    auto const error = text::Trap([&] { static_cast<void>(OpenFileOrPipe(folder.Text())); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Kind(), Fault::PermissionDenied);
 }
 
 TEST(DiskFilesFaults, AReadOnlyFolderLeavesTheOldFile) {

@@ -50,8 +50,8 @@ std::filesystem::path BehindLinks(std::filesystem::path path) {
     return path;
 }
 
-// Neither a folder nor a device or pipe is ever replaced, emptied or deleted. Returns whether there is a
-// file.
+// A folder is no file, and neither is a device or a pipe: reading it could keep the program waiting, and it
+// is never replaced, emptied or deleted. Returns whether there is a file.
 bool RequireFileOrNone(std::filesystem::path const& path) {
     std::error_code error;
     bool const exists = std::filesystem::exists(path, error);
@@ -75,9 +75,16 @@ std::filesystem::path HostPath(std::string_view path) {
     }
 }
 
-std::unique_ptr<text::ByteSource> DiskFiles::OpenForInput(std::string const& path) const {
+std::unique_ptr<text::ByteSource> OpenFileOrPipe(std::string const& path) {
     RequireName(path);
     return OpenHostFile(HostPath(path));
+}
+
+std::unique_ptr<text::ByteSource> DiskFiles::OpenForInput(std::string const& path) const {
+    RequireName(path);
+    std::filesystem::path const file = HostPath(path);
+    RequireFileOrNone(file);
+    return OpenHostFile(file);
 }
 
 void DiskFiles::Replace(std::string const& path, std::string_view content) {

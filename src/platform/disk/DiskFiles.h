@@ -20,7 +20,11 @@ inline constexpr std::string_view FolderEnds = "/\\";
 // The path in the form of this system: where "/" separates folders, backslashes become "/".
 [[nodiscard]] std::filesystem::path HostPath(std::string_view path);
 
-// The files of this machine.
+// Opens for reading what the path names, with the faults of Files. Unlike Files it takes pipes and devices
+// too, and waits for the other end of a pipe.
+[[nodiscard]] std::unique_ptr<text::ByteSource> OpenFileOrPipe(std::string const& path);
+
+// The files of this machine. Pipes and devices are refused like folders.
 class DiskFiles final : public Files {
 public:
     [[nodiscard]] std::unique_ptr<text::ByteSource> OpenForInput(std::string const& path) const override;

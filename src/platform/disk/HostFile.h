@@ -16,7 +16,7 @@
 
 namespace quorvex::platform::disk {
 
-// The file opened for reading from its start.
+// The file opened for reading from its start. A pipe is waited for until it has a writer.
 [[nodiscard]] std::unique_ptr<text::ByteSource> OpenHostFile(std::filesystem::path const& path);
 
 // What the process was given to read and to write on, byte for byte.
