@@ -3,35 +3,16 @@
 
 #include "Conversion.h"
 
+#include "support/Messages.h"
+
 #include <gtest/gtest.h>
 
 namespace quorvex::convert {
 
-namespace {
-
-std::string NameOf(platform::Icon icon) {
-    switch (icon) {
-    case platform::Icon::None:
-        return "none";
-    case platform::Icon::Information:
-        return "information";
-    case platform::Icon::Exclamation:
-        return "exclamation";
-    case platform::Icon::Critical:
-        return "critical";
-    case platform::Icon::Question:
-        return "question";
-    }
-    return "";
-}
-
-} // namespace
-
 std::vector<std::string> BoxesOf(platform::fake::ScriptedDialogs const& dialogs) {
     std::vector<std::string> boxes;
     for (auto const& message : dialogs.Messages) {
-        EXPECT_EQ(message.Offered, platform::Buttons::Ok);
-        boxes.push_back(message.Title + '|' + NameOf(message.Shown) + '|' + message.Text);
+        boxes.push_back(tests::Describe(message));
     }
     return boxes;
 }
@@ -44,11 +25,17 @@ std::string ExclamationBox(std::string const& text) {
     return "Data Conversion Utility|exclamation|" + text;
 }
 
+void ConvertUsualNames(SourceLayout const& layout, platform::fake::MemoryFiles& files,
+                       platform::fake::ScriptedDialogs& dialogs) {
+    ConvertDataFile(UsualNames, layout, files, dialogs);
+    EXPECT_EQ(files.OpenCount(), 0U);
+}
+
 ConversionResult Convert(std::string const& source, SourceLayout const& layout) {
     platform::fake::MemoryFiles files;
     platform::fake::ScriptedDialogs dialogs;
     files.Contents[UsualNames.Source] = source;
-    ConvertDataFile(UsualNames, layout, files, dialogs);
+    ConvertUsualNames(layout, files, dialogs);
     ConversionResult result;
     if (files.Contents.contains(UsualNames.Destination)) {
         result.Output = files.Contents[UsualNames.Destination];

@@ -15,7 +15,7 @@
 
 namespace quorvex::convert {
 
-// What a message box says, as "title|icon|text".
+// What the message boxes said, as "title|icon|text".
 [[nodiscard]] std::vector<std::string> BoxesOf(platform::fake::ScriptedDialogs const& dialogs);
 
 // The boxes of one title.
@@ -23,6 +23,10 @@ namespace quorvex::convert {
 [[nodiscard]] std::string ExclamationBox(std::string const& text);
 
 inline FileNames const UsualNames = {"C:\\in.txt", "C:\\out.txt"};
+
+// Converts one of the usual names into the other, and expects every file to be closed behind it.
+void ConvertUsualNames(SourceLayout const& layout, platform::fake::MemoryFiles& files,
+                       platform::fake::ScriptedDialogs& dialogs);
 
 struct ConversionResult {
     std::optional<std::string> Output; // nothing when no destination is left

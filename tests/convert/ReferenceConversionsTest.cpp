@@ -67,6 +67,7 @@ void ExpectMessages(json const& expected, std::vector<platform::Message> const& 
         EXPECT_EQ(shown[index].Text, WithBareLineFeeds(expected[index].at("text")));
         EXPECT_EQ(shown[index].Title, expected[index].at("title"));
         EXPECT_EQ(shown[index].Shown, tests::IconNamed(expected[index].at("icon")));
+        EXPECT_EQ(shown[index].Offered, platform::Buttons::Ok);
     }
 }
 
@@ -80,6 +81,7 @@ TEST(ReferenceConversions, AgreeByteForByte) {
         files.Contents[entry.at("source_name")] =
             tests::GoldenFile("convert/" + entry.at("source_file").get<std::string>());
         RunWindow(entry, files, dialogs);
+        EXPECT_EQ(files.OpenCount(), 0U);
         ExpectMessages(entry.at("messages"), dialogs.Messages);
         auto const output = files.Contents.find(entry.at("destination_name"));
         bool const isSource = entry.at("destination_name") == entry.at("source_name");

@@ -106,7 +106,7 @@ TEST(ConvertDataFile, LeavesNothingOfHundredsOfGoodLines) {
     MemoryFiles files;
     ScriptedDialogs dialogs;
     files.Contents = {{"C:\\in.txt", Repeat(GoodLine, 5000) + BadValue}, {"C:\\out.txt", "older file"}};
-    ConvertDataFile(UsualNames, CsiLayout(), files, dialogs);
+    ConvertUsualNames(CsiLayout(), files, dialogs);
     EXPECT_FALSE(files.Contents.contains("C:\\out.txt"));
     EXPECT_THAT(BoxesOf(dialogs),
                 ElementsAre(ExclamationBox("Invalid field value at line 5001 in file\nC:\\in.txt")));
@@ -137,7 +137,7 @@ TEST(ConvertDataFile, LeavesTheDestinationAloneWhenThereIsNoSource) {
     MemoryFiles files;
     ScriptedDialogs dialogs;
     files.Contents = {{"C:\\out.txt", "older file"}};
-    ConvertDataFile(UsualNames, CsiLayout(), files, dialogs);
+    ConvertUsualNames(CsiLayout(), files, dialogs);
     EXPECT_EQ(files.Contents.at("C:\\out.txt"), "older file");
     EXPECT_THAT(BoxesOf(dialogs), ElementsAre(ExclamationBox("File not found")));
 }
@@ -147,7 +147,7 @@ TEST(ConvertDataFile, DeletesNothingWhenTheDestinationCannotBeOpened) {
     ScriptedDialogs dialogs;
     files.Contents = {{"C:\\in.txt", GoodLine}, {"C:\\out.txt", "older file"}};
     files.BreakWriting = Fault::PermissionDenied;
-    ConvertDataFile(UsualNames, CsiLayout(), files, dialogs);
+    ConvertUsualNames(CsiLayout(), files, dialogs);
     EXPECT_EQ(files.Contents.at("C:\\out.txt"), "older file");
     EXPECT_THAT(BoxesOf(dialogs), ElementsAre(ExclamationBox("Permission denied")));
 }
@@ -157,7 +157,7 @@ TEST(ConvertDataFile, DeletesTheDestinationWhenTheSourceBreaks) {
     ScriptedDialogs dialogs;
     files.Contents = {{"C:\\in.txt", Repeat(GoodLine, 4000)}};
     files.BreakReading = {150'000, Fault::PermissionDenied};
-    ConvertDataFile(UsualNames, CsiLayout(), files, dialogs);
+    ConvertUsualNames(CsiLayout(), files, dialogs);
     EXPECT_FALSE(files.Contents.contains("C:\\out.txt"));
     EXPECT_THAT(BoxesOf(dialogs), ElementsAre(ExclamationBox("Permission denied")));
 }
@@ -169,7 +169,7 @@ TEST(ConvertDataFile, DeletesTheDestinationWhenItsDiskIsFull) {
         ScriptedDialogs dialogs;
         files.Contents = {{"C:\\in.txt", Repeat(GoodLine, 4000)}};
         files.BreakOutput = {room, Fault::DiskFull};
-        ConvertDataFile(UsualNames, CsiLayout(), files, dialogs);
+        ConvertUsualNames(CsiLayout(), files, dialogs);
         EXPECT_FALSE(files.Contents.contains("C:\\out.txt"));
         EXPECT_THAT(BoxesOf(dialogs), ElementsAre(ExclamationBox("Disk full")));
     }
@@ -180,7 +180,7 @@ TEST(ConvertDataFile, DeletesTheDestinationWhenItsLastBytesFailOnClosing) {
     ScriptedDialogs dialogs;
     files.Contents = {{"C:\\in.txt", GoodLine}};
     files.BreakOutput = {1'000'000, Fault::DiskFull};
-    ConvertDataFile(UsualNames, CsiLayout(), files, dialogs);
+    ConvertUsualNames(CsiLayout(), files, dialogs);
     EXPECT_FALSE(files.Contents.contains("C:\\out.txt"));
     EXPECT_THAT(BoxesOf(dialogs), ElementsAre(ExclamationBox("Disk full")));
 }
@@ -190,7 +190,7 @@ TEST(ConvertDataFile, EmptiesTheDestinationWhenItCannotBeDeletedAndTells) {
     ScriptedDialogs dialogs;
     files.Contents = {{"C:\\in.txt", std::string(GoodLine) + BadRecord}};
     files.BreakRemoving = Fault::PermissionDenied;
-    ConvertDataFile(UsualNames, CsiLayout(), files, dialogs);
+    ConvertUsualNames(CsiLayout(), files, dialogs);
     EXPECT_EQ(files.Contents.at("C:\\out.txt"), "");
     EXPECT_THAT(BoxesOf(dialogs), ElementsAre(ExclamationBox("Invalid record at line 2 in\nfile C:\\in.txt"),
                                               ExclamationBox("Permission denied")));
@@ -201,6 +201,7 @@ TEST(ConvertFile, IsSilentOnSuccess) {
     ScriptedDialogs dialogs;
     files.Contents = {{"C:\\in.txt", GoodLine}};
     EXPECT_TRUE(ConvertFile(UsualNames, CsiLayout(), files, dialogs));
+    EXPECT_EQ(files.OpenCount(), 0U);
     EXPECT_THAT(dialogs.Messages, IsEmpty());
     EXPECT_EQ(files.Contents.at("C:\\out.txt"), GoodQuote);
 }

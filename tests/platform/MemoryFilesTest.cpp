@@ -59,6 +59,36 @@ TEST(MemoryFiles, AreEmptiedWrittenMeasuredAndRemoved) {
     EXPECT_THROW(static_cast<void>(files.Length("a.txt")), text::RunTimeError);
 }
 
+TEST(MemoryFiles, CountWhatIsOpenAndKeepIt) {
+    MemoryFiles files;
+    files.Contents = {{"a.txt", "hello"}, {"b.txt", "old"}};
+    auto source = files.OpenForInput("a.txt");
+    auto again = files.OpenForInput("a.txt");
+    auto sink = files.OpenForOutput("b.txt");
+    EXPECT_EQ(files.OpenCount(), 3U);
+    again.reset();
+    EXPECT_THROW(files.Remove("a.txt"), text::RunTimeError);
+    EXPECT_THROW(files.Remove("b.txt"), text::RunTimeError);
+    EXPECT_TRUE(files.Contents.contains("a.txt") && files.Contents.contains("b.txt"));
+    source.reset();
+    files.Remove("a.txt");
+    sink->Close();
+    EXPECT_EQ(files.OpenCount(), 0U);
+    files.Remove("b.txt");
+    sink.reset();
+    EXPECT_EQ(files.OpenCount(), 0U);
+    files.OpenForOutput("c.txt").reset();
+    EXPECT_EQ(files.OpenCount(), 0U);
+}
+
+TEST(MemoryFiles, CountNoFileAsOpenThatBrokeOnClosing) {
+    MemoryFiles files;
+    files.BreakOutput = {4, text::Fault::DiskFull};
+    auto const sink = files.OpenForOutput("a.txt");
+    EXPECT_THROW(sink->Close(), text::RunTimeError);
+    EXPECT_EQ(files.OpenCount(), 0U);
+}
+
 TEST(MemoryFiles, BreakOffWhileTheyAreWritten) {
     MemoryFiles files;
     files.BreakOutput = {4, text::Fault::DiskFull};

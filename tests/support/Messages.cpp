@@ -3,7 +3,7 @@
 
 #include "support/Messages.h"
 
-#include <map>
+#include <stdexcept>
 
 namespace quorvex::tests {
 
@@ -23,12 +23,42 @@ testing::AssertionResult IsOnlyMessage(std::span<platform::Message const> messag
 }
 
 platform::Icon IconNamed(std::string const& name) {
-    static std::map<std::string, platform::Icon> const icons = {{"none", platform::Icon::None},
-                                                                {"information", platform::Icon::Information},
-                                                                {"exclamation", platform::Icon::Exclamation},
-                                                                {"critical", platform::Icon::Critical},
-                                                                {"question", platform::Icon::Question}};
-    return icons.at(name);
+    for (auto const icon : {platform::Icon::None, platform::Icon::Information, platform::Icon::Exclamation,
+                            platform::Icon::Critical, platform::Icon::Question}) {
+        if (NameOf(icon) == name) {
+            return icon;
+        }
+    }
+    throw std::out_of_range("No such icon: " + name);
+}
+
+std::string NameOf(platform::Icon icon) {
+    switch (icon) {
+    case platform::Icon::None:
+        return "none";
+    case platform::Icon::Information:
+        return "information";
+    case platform::Icon::Exclamation:
+        return "exclamation";
+    case platform::Icon::Critical:
+        return "critical";
+    case platform::Icon::Question:
+        return "question";
+    }
+    throw std::out_of_range("No such icon");
+}
+
+std::string Describe(platform::Message const& message) {
+    std::string const start = message.Title + '|' + NameOf(message.Shown) + '|';
+    switch (message.Offered) {
+    case platform::Buttons::Ok:
+        return start + message.Text;
+    case platform::Buttons::YesNo:
+        return start + "Yes No|" + message.Text;
+    case platform::Buttons::YesNoCancel:
+        return start + "Yes No Cancel|" + message.Text;
+    }
+    throw std::out_of_range("No such buttons");
 }
 
 } // namespace quorvex::tests

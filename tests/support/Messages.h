@@ -18,7 +18,11 @@ namespace quorvex::tests {
                                                      std::string const& text, std::string const& title,
                                                      platform::Icon icon);
 
-// The icon of this name in a reference vector.
+// The icon of this name in a reference vector, and the name of an icon.
 [[nodiscard]] platform::Icon IconNamed(std::string const& name);
+[[nodiscard]] std::string NameOf(platform::Icon icon);
+
+// What the message says, as "title|icon|text"; "title|icon|buttons|text" when it has not just an OK button.
+[[nodiscard]] std::string Describe(platform::Message const& message);
 
 } // namespace quorvex::tests

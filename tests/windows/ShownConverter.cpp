@@ -3,6 +3,8 @@
 
 #include "windows/ShownConverter.h"
 
+#include "support/Messages.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
@@ -12,27 +14,10 @@
 
 namespace quorvex::tests {
 
-namespace {
-
-QString NameOf(platform::Icon icon) {
-    switch (icon) {
-    case platform::Icon::Information:
-        return QStringLiteral("information");
-    case platform::Icon::Exclamation:
-        return QStringLiteral("exclamation");
-    default:
-        return QStringLiteral("none");
-    }
-}
-
-} // namespace
-
 QStringList ConverterSurroundings::TakeMessages() {
     QStringList messages;
     for (auto const& message : Dialogs.Messages) {
-        messages.append(QStringLiteral("%1|%2|%3")
-                            .arg(platform::qt::ToQt(message.Title), NameOf(message.Shown),
-                                 platform::qt::ToQt(message.Text)));
+        messages.append(platform::qt::ToQt(Describe(message)));
     }
     Dialogs.Messages.clear();
     return messages;

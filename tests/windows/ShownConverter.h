@@ -25,7 +25,7 @@ struct ConverterSurroundings {
     ModalAnswers Answers;
     int HelpCount = 0;
 
-    // What the messages said, as "title|icon|text", and forgets them.
+    // What the messages said, as "title|icon|text" where they had just an OK button, and forgets them.
     [[nodiscard]] QStringList TakeMessages();
 
     // The whole path of a name in the folder.

@@ -11,31 +11,53 @@ namespace quorvex::platform::fake {
 
 namespace {
 
-// Gives out the text up to the place where the device fails.
-class BreakingSource final : public text::ByteSource {
+using OpenPaths = std::multiset<std::string>;
+
+// Keeps the path among the open ones while it lives.
+class OpenMark {
 public:
-    BreakingSource(std::string_view text, std::size_t good, text::Fault fault)
-        : readable_(text.substr(0, good)),
-          fault_(fault) {}
+    OpenMark(OpenPaths& paths, std::string const& path) : paths_(paths), mark_(paths.insert(path)) {}
+
+    OpenMark(OpenMark const&) = delete;
+    OpenMark& operator=(OpenMark const&) = delete;
+
+    ~OpenMark() { paths_.erase(mark_); }
+
+private:
+    OpenPaths& paths_;
+    OpenPaths::iterator mark_;
+};
+
+// Behind so many bytes the device fails.
+using Break = std::optional<std::pair<std::size_t, text::Fault>>;
+
+class MemorySource final : public text::ByteSource {
+public:
+    MemorySource(std::string_view content, Break broken, OpenPaths& paths, std::string const& path)
+        : readable_(broken ? content.substr(0, broken->first) : content),
+          break_(broken),
+          mark_(paths, path) {}
 
     [[nodiscard]] std::size_t Read(std::span<char> buffer) override {
         std::size_t const count = readable_.Read(buffer);
-        if (count == 0) {
-            throw text::RunTimeError(fault_);
+        if (count == 0 && break_) {
+            throw text::RunTimeError(break_->second);
         }
         return count;
     }
 
 private:
     text::TextSource readable_;
-    text::Fault fault_;
+    Break break_;
+    OpenMark mark_;
 };
 
 class MemorySink final : public ByteSink {
 public:
-    using Break = std::optional<std::pair<std::size_t, text::Fault>>;
-
-    MemorySink(std::string& content, Break broken) : content_(content), break_(broken) {}
+    MemorySink(std::string& content, Break broken, OpenPaths& paths, std::string const& path)
+        : content_(content),
+          break_(broken),
+          mark_(std::in_place, paths, path) {}
 
     void Write(std::string_view bytes) override {
         std::size_t const room = break_ ? break_->first - content_.size() : bytes.size();
@@ -46,6 +68,7 @@ public:
     }
 
     void Close() override {
+        mark_.reset();
         if (break_) {
             throw text::RunTimeError(break_->second);
         }
@@ -54,6 +77,7 @@ public:
 private:
     std::string& content_;
     Break break_;
+    std::optional<OpenMark> mark_; // nothing when closed
 };
 
 } // namespace
@@ -63,10 +87,7 @@ std::unique_ptr<text::ByteSource> MemoryFiles::OpenForInput(std::string const& p
     if (file == Contents.end()) {
         throw text::RunTimeError(text::Fault::FileNotFound);
     }
-    if (BreakReading) {
-        return std::make_unique<BreakingSource>(file->second, BreakReading->first, BreakReading->second);
-    }
-    return std::make_unique<text::TextSource>(file->second);
+    return std::make_unique<MemorySource>(file->second, BreakReading, open_, path);
 }
 
 void MemoryFiles::Replace(std::string const& path, std::string_view content) {
@@ -78,12 +99,15 @@ void MemoryFiles::Replace(std::string const& path, std::string_view content) {
 
 std::unique_ptr<ByteSink> MemoryFiles::OpenForOutput(std::string const& path) {
     Replace(path, {});
-    return std::make_unique<MemorySink>(Contents[path], BreakOutput);
+    return std::make_unique<MemorySink>(Contents[path], BreakOutput, open_, path);
 }
 
 void MemoryFiles::Remove(std::string const& path) {
     if (BreakRemoving) {
         throw text::RunTimeError(*BreakRemoving);
+    }
+    if (open_.contains(path)) {
+        throw text::RunTimeError(text::Fault::PermissionDenied);
     }
     if (Contents.erase(path) == 0) {
         throw text::RunTimeError(text::Fault::FileNotFound);

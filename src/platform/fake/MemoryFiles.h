@@ -6,8 +6,10 @@
 #include "platform/Files.h"
 #include "text/RunTimeError.h"
 
+#include <cstddef>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,7 +17,7 @@
 namespace quorvex::platform::fake {
 
 // A file system in memory for tests. Files are named by their whole path, and listings follow the order of
-// paths.
+// paths. A file that is open cannot be removed. It must outlive what it opened.
 class MemoryFiles final : public Files {
 public:
     [[nodiscard]] std::unique_ptr<text::ByteSource> OpenForInput(std::string const& path) const override;
@@ -25,6 +27,9 @@ public:
     [[nodiscard]] std::uint64_t Length(std::string const& path) const override;
     [[nodiscard]] std::vector<std::string> List(std::string const& folder,
                                                 std::string_view pattern) const override;
+
+    // How many sources and sinks are not closed yet.
+    [[nodiscard]] std::size_t OpenCount() const { return open_.size(); }
 
     std::map<std::string, std::string> Contents;
 
@@ -40,6 +45,9 @@ public:
 
     // When set, every Remove raises this fault and changes nothing.
     std::optional<text::Fault> BreakRemoving;
+
+private:
+    mutable std::multiset<std::string> open_; // the path of every source and sink
 };
 
 } // namespace quorvex::platform::fake
