@@ -44,12 +44,33 @@ std::string_view BareName(std::string_view path) {
     return path.substr(path.find_last_of("/\\:") + 1); // 0 when there is none
 }
 
+bool StartsCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+}
+
+// The line with blanks up to the next stop in place of each tab, so that every character is one column wide.
+std::string ExpandTabs(std::string_view line) {
+    constexpr std::size_t ColumnsOfStop = 8;
+    std::string text;
+    std::size_t column = 0;
+    for (char const byte : line) {
+        if (byte == '\t') {
+            std::size_t const blanks = ColumnsOfStop - column % ColumnsOfStop;
+            text.append(blanks, ' ');
+            column += blanks;
+        } else {
+            text += byte;
+            column += StartsCharacter(byte) ? 1U : 0U;
+        }
+    }
+    return text;
+}
+
 // How long a start of the text, in bytes, has so many characters of UTF-8 at the most.
 std::size_t LengthOfCharacters(std::string_view text, std::size_t count) {
     std::size_t at = 0;
     for (; at < text.size(); ++at) {
-        bool const startsCharacter = (static_cast<unsigned char>(text[at]) & 0xC0U) != 0x80U;
-        if (startsCharacter && count-- == 0) {
+        if (StartsCharacter(text[at]) && count-- == 0) {
             break;
         }
     }
@@ -65,7 +86,9 @@ public:
         columns_ = static_cast<std::size_t>(std::max(1.0, printer_.Width() / printer_.TextWidth("0")));
     }
 
-    void Add(std::string_view line) {
+    void Add(std::string_view text) {
+        std::string const expanded = ExpandTabs(text);
+        std::string_view line = expanded;
         do {
             std::size_t const length = LengthOfCharacters(line, columns_);
             if (printer_.TextY() + printer_.TextHeight() > printer_.Height()) {

@@ -22,7 +22,7 @@ namespace quorvex::convert {
                                          platform::Dialogs& dialogs);
 
 // Prints the name and the contents on as many pages as they need; a line wider than the page goes on in the
-// next. A fault of the printer is shown.
+// next, and tabs lead to every eighth column. A fault of the printer is shown.
 void PrintSourceFile(std::string_view name, std::string_view contents, platform::PrintQueue& queue,
                      platform::Dialogs& dialogs);
 

@@ -22,6 +22,9 @@ using text::Fault;
 
 class SourcePreview : public testing::Test {
 protected:
+    // Every file is closed again, whatever a test did.
+    void TearDown() override { EXPECT_EQ(files.OpenCount(), 0U); }
+
     std::string Load(std::string const& name) { return LoadSourceFile(name, files, dialogs); }
 
     MemoryFiles files;
@@ -133,6 +136,24 @@ TEST_F(SourcePreview, WrapsBetweenCharactersNotBytes) {
     queue.Sheet.CharacterWidth = 100;
     PrintSourceFile("a", "\xC3\xA4\xC3\xB6\xC3\xBC\r\n", queue, dialogs);
     EXPECT_THAT(TextsOf(queue.Documents.at(0).Pages.at(0)), ElementsAre("a", "\xC3\xA4\xC3\xB6", "\xC3\xBC"));
+}
+
+TEST_F(SourcePreview, TabsLeadToEveryEighthColumn) {
+    RecordingPrintQueue queue;
+    queue.Sheet.Width = 2000;
+    queue.Sheet.CharacterWidth = 100;
+    PrintSourceFile("a", "\tb\r\n1234567\t8\r\n12345678\t9\r\n\xC3\xA4\xC3\xB6\tu\r\n", queue, dialogs);
+    EXPECT_THAT(TextsOf(queue.Documents.at(0).Pages.at(0)),
+                ElementsAre("a", "        b", "1234567 8", "12345678        9", "\xC3\xA4\xC3\xB6      u"));
+}
+
+TEST_F(SourcePreview, WrapsLinesWithTabsInsideThePage) {
+    RecordingPrintQueue queue;
+    queue.Sheet.Width = 2000;
+    queue.Sheet.CharacterWidth = 100;
+    PrintSourceFile("a", "01/15/02\t1\t2\t3\r\n", queue, dialogs);
+    EXPECT_THAT(TextsOf(queue.Documents.at(0).Pages.at(0)),
+                ElementsAre("a", "01/15/02        1   ", "    2       3"));
 }
 
 TEST_F(SourcePreview, TellsOfAPrinterThatFails) {
