@@ -9,6 +9,8 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <string_view>
+#include <vector>
 
 namespace quorvex::convert {
 namespace {
@@ -134,16 +136,27 @@ TEST(Barchart, FindsFormatsByTheirLetters) {
 }
 
 TEST(Barchart, CaptionsKeepTheirRunsOfBlanks) {
-    auto const& options = BarchartOptions();
-    EXPECT_EQ(options[0].Caption,
-              "  C Format:        Symbol,   MYYYY,   mm/dd/yyyy,   open,   high,   low,   "
-              "close   (no decimal)");
-    EXPECT_EQ(options[2].Caption, "  E Format:        SYYYYM    yymmdd    open    high     low    close    "
-                                  "volume    open interest   (no decimal)");
-    EXPECT_EQ(options[6].Caption, "  S Format:        S_MY,     yymmdd,   open,   high,   low,   close,   "
-                                  "volume,   open interest   (decimal)");
-    EXPECT_EQ(options[7].Caption, "  Y Format:        SMY,      yymmdd,   open,   high,   low,   close   "
-                                  "(decimal)");
+    std::vector<std::string_view> captions;
+    for (auto const& option : BarchartOptions()) {
+        captions.push_back(option.Caption);
+    }
+    EXPECT_THAT(captions,
+                ElementsAre("  C Format:        Symbol,   MYYYY,   mm/dd/yyyy,   "
+                            "open,   high,   low,   close   (no decimal)",
+                            "  D Format:        Symbol,   MYYYY,   mm/dd/yyyy,   "
+                            "open,   high,   low,   close   (decimal)",
+                            "  E Format:        SYYYYM    yymmdd    "
+                            "open    high     low    close    volume    open interest   (no decimal)",
+                            "  F Format:        Symbol,   YYYYM,   yymmdd,   "
+                            "open,   high,   low,   close,   volume,   open interest   (no decimal)",
+                            "  G Format:        Symbol,   MYYYY,   yymmdd,   "
+                            "open,   high,   low,   close,   volume,   open interest   (decimal)",
+                            "  N Format:        Symbol,   yymmdd,   "
+                            "open,   high,   low,   close,   volume,   open interest   (decimal)",
+                            "  S Format:        S_MY,     yymmdd,   "
+                            "open,   high,   low,   close,   volume,   open interest   (decimal)",
+                            "  Y Format:        SMY,      yymmdd,   "
+                            "open,   high,   low,   close   (decimal)"));
 }
 
 TEST(Barchart, WindowSaysWhatFilesAreWanted) {
@@ -153,9 +166,12 @@ TEST(Barchart, WindowSaysWhatFilesAreWanted) {
     EXPECT_EQ(texts.DefaultName, "*.txt");
     EXPECT_EQ(texts.Filter,
               "Text Files (*.txt)|*.txt|Comma Separated Values (*.csv)|*.csv|All Files (*.*)|*.*");
-    EXPECT_TRUE(
-        texts.Top.starts_with("\nBarchart provides quote data in over 10 different formats. Follow "));
-    EXPECT_TRUE(texts.Top.ends_with("before running the Veltrano Analytical Suite data conversion utility."));
+    EXPECT_EQ(texts.Top,
+              "\nBarchart provides quote data in over 10 different formats. Follow the instructions in their "
+              "User Manual or On-Line Help and download quote files in any of the formats listed below. The "
+              "download files must be single-contract expiration month and year. Aggregate files with more "
+              "than one contract expiration month must be broken into single-contract files before running "
+              "the Veltrano Analytical Suite data conversion utility.");
 }
 
 } // namespace
