@@ -7,7 +7,6 @@
 #include "windows/ShownConverter.h"
 #include "windows/WindowTest.h"
 
-#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
@@ -150,11 +149,8 @@ private Q_SLOTS:
         CsiWindow csi;
         csi.Folder.Write("fits.txt", std::string(65'000, 'x'));
         csi.Folder.Write("large.txt", std::string(65'001, 'x'));
-        QElapsedTimer clock;
-        clock.start();
         BrowseTo(csi, csi.Window, csi.Path("fits.txt"));
         QCOMPARE(PreviewOf(csi.Window).size(), 65'001); // with the line end
-        QVERIFY2(clock.elapsed() < 5000, "the preview took long");
         BrowseTo(csi, csi.Window, csi.Path("large.txt"));
         QCOMPARE(TextOf(csi.Window, "txtSrceFileName"), u""_s);
         QCOMPARE(PreviewOf(csi.Window), u""_s);
