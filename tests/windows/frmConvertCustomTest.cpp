@@ -25,14 +25,25 @@ struct CustomWindow : ConverterSurroundings {
 
     QComboBox& List(QString const& name) { return *Window.findChild<QComboBox*>(name); }
 
-    // Chooses by typing the text into the list that has the focus.
+    // Chooses with the arrow keys.
     void Choose(QString const& name, QString const& text) {
         QComboBox& list = List(name);
         list.setFocus();
-        QTest::keyClick(&list, Qt::Key_Home);
+        while (list.currentIndex() > 0) {
+            QTest::keyClick(&list, Qt::Key_Up);
+        }
         while (list.currentText() != text && list.currentIndex() + 1 < list.count()) {
             QTest::keyClick(&list, Qt::Key_Down);
         }
+        QCOMPARE(list.currentText(), text);
+    }
+
+    // Types over what stands in the list, without leaving it.
+    void TypeOver(QString const& name, QString const& text) {
+        QComboBox& list = List(name);
+        list.setFocus();
+        list.lineEdit()->selectAll();
+        QTest::keyClicks(&list, text);
         QCOMPARE(list.currentText(), text);
     }
 
@@ -115,6 +126,47 @@ private Q_SLOTS:
         custom.Choose(u"cboNumFields"_s, u"1"_s);
         QCOMPARE(custom.Rows(), QStringList(u"Field 1 date"_s));
         QCOMPARE(custom.Window.size(), size);
+    }
+
+    void ShowsAsManyRowsAsAreTyped() {
+        CustomWindow custom;
+        custom.TypeOver(u"cboNumFields"_s, u"3"_s);
+        QCOMPARE(custom.Rows(), QStringList({u"Field 1 date"_s, u"Field 2 open"_s, u"Field 3 high"_s}));
+        custom.TypeOver(u"cboNumFields"_s, u"10"_s);
+        QCOMPARE(custom.Rows().size(), 10);
+        custom.TypeOver(u"cboNumFields"_s, u"none"_s);
+        QCOMPARE(custom.Rows(), QStringList());
+        QCOMPARE(custom.List(u"cboNumFields"_s).count(), 10); // nothing is added to what is offered
+    }
+
+    void TellsOfATypedNumberThatIsTooLarge() {
+        CustomWindow custom;
+        custom.TypeOver(u"cboNumFields"_s, u"99999"_s);
+        QCOMPARE(custom.Rows().size(), 10);
+        QCOMPARE(custom.Answers.Shown().size(), 1);
+        QVERIFY2(custom.Answers.Shown().first().endsWith(u"|Overflow"_s),
+                 qPrintable(custom.Answers.Shown().first()));
+    }
+
+    void ConvertsWhatIsTyped() {
+        CustomWindow custom;
+        custom.TypeOver(u"cboNumFields"_s, u"6"_s);
+        custom.TypeOver(u"cboFieldDelimiter"_s, u";"_s);
+        custom.TypeOver(u"cboDateFormat"_s, u"yyyymmdd"_s);
+        custom.TypeOver(u"cboField_6"_s, u"remark"_s);
+        custom.Convert("20020115,1,2,3,4,x\r\n");
+        QCOMPARE(custom.Folder.Read("out.txt"), std::string("01/15/02, 1, 2, 3, 4, 0, 0\r\n"));
+    }
+
+    void NamesWhatHasTheFocus() {
+        CustomWindow custom;
+        for (auto const& [name, spoken] :
+             {std::pair(u"cboNumFields"_s, u"No. of Fields"_s),
+              std::pair(u"cboFieldDelimiter"_s, u"Field Delimiter"_s),
+              std::pair(u"cboDateFormat"_s, u"Date Format"_s), std::pair(u"cboField_10"_s, u"Field 10"_s)}) {
+            QCOMPARE(custom.List(name).accessibleName(), spoken);
+            QCOMPARE(custom.List(name).lineEdit()->accessibleName(), spoken);
+        }
     }
 
     void ConvertsAsDescribed() {

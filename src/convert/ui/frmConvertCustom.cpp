@@ -3,12 +3,14 @@
 
 #include "convert/ui/frmConvertCustom.h"
 
+#include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtTexts.h"
 
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <utility>
 #include <vector>
 
@@ -19,7 +21,7 @@ namespace {
 using platform::qt::FromQt;
 using platform::qt::ToQt;
 
-// A list that lets one of the texts be chosen, and the label that names it.
+// A list that lets one of the texts be chosen or another be typed, and the label that names it.
 QComboBox* MakeList(QString const& name, QLabel& label, std::span<std::string_view const> offers,
                     std::string_view text) {
     auto* list = new QComboBox(label.parentWidget());
@@ -29,7 +31,10 @@ QComboBox* MakeList(QString const& name, QLabel& label, std::span<std::string_vi
         list->addItem(ToQt(offer));
     }
     list->setMaxVisibleItems(list->count());
-    list->setCurrentText(ToQt(text));
+    list->setCurrentText(ToQt(text)); // chooses the item too, which it would not in an editable list
+    list->setEditable(true);
+    list->setInsertPolicy(QComboBox::NoInsert);
+    list->lineEdit()->setAccessibleName(label.text()); // it is what has the focus
     label.setBuddy(list);
     return list;
 }
@@ -56,7 +61,8 @@ frmConvertCustom::frmConvertCustom(QWidget* parent, platform::Files& files, plat
     PutTabStopsFirst(tabStops);
     constexpr int UsualWidth = 640;
     TakeWidth(UsualWidth);
-    connect(numFields_, &QComboBox::currentTextChanged, this, [this] { ShowRows(); });
+    connect(numFields_, &QComboBox::currentTextChanged, this,
+            [this] { platform::qt::RunGuarded(*this, [this] { ShowRows(); }); });
     ShowRows();
 }
 
