@@ -21,6 +21,8 @@ public:
     [[nodiscard]] std::optional<std::string> ChooseParameterFile(std::span<std::string const>) override {
         return std::nullopt;
     }
+
+    [[nodiscard]] std::string AskForFile(platform::FileQuestion const&) override { return {}; }
 };
 
 } // namespace quorvex::bench

@@ -25,4 +25,8 @@ std::optional<std::string> ConsoleDialogs::ChooseParameterFile(std::span<std::st
     return std::nullopt;
 }
 
+std::string ConsoleDialogs::AskForFile(platform::FileQuestion const&) {
+    return {};
+}
+
 } // namespace quorvex::cli

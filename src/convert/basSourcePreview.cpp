@@ -135,6 +135,18 @@ std::string LoadSourceFile(std::string const& name, platform::Files const& files
     return contents;
 }
 
+void BrowseForSource(ConverterTexts const& texts, platform::Files const& files, platform::Dialogs& dialogs,
+                     SourceBoxes& boxes) {
+    std::string const chosen = dialogs.AskForFile(
+        {std::string(BrowseFolder), std::string(texts.DefaultName), std::string(texts.Filter)});
+    std::string const name = AcceptChosenFile(chosen, files);
+    boxes.ShowSourceName(name);
+    boxes.ShowSourceContents({});
+    if (!name.empty()) {
+        boxes.ShowSourceContents(LoadSourceFile(name, files, dialogs));
+    }
+}
+
 void PrintSourceFile(std::string_view name, std::string_view contents, platform::PrintQueue& queue,
                      platform::Dialogs& dialogs) {
     auto const fault = text::Trap([&] {

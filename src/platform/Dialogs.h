@@ -31,6 +31,13 @@ struct Question {
     std::string Default;
 };
 
+// A dialog that opens a file, as it is at first.
+struct FileQuestion {
+    std::string Folder; // the user's own folder stands in where there is none of this name
+    std::string Name;   // in the name box, may be a pattern
+    std::string Filter; // description|pattern, all joined by "|", first one chosen
+};
+
 class Dialogs {
 public:
     Dialogs() = default;
@@ -51,6 +58,9 @@ public:
     // The parameter file chooser, likewise.
     [[nodiscard]] virtual std::optional<std::string>
     ChooseParameterFile(std::span<std::string const> names) = 0;
+
+    // The host's own file dialog: the whole path of an existing file, empty when it was cancelled.
+    [[nodiscard]] virtual std::string AskForFile(FileQuestion const& question) = 0;
 };
 
 } // namespace quorvex::platform

@@ -4,6 +4,8 @@
 #include "convert/basSourcePreview.h"
 
 #include "Conversion.h"
+#include "convert/basConvertBarChart.h"
+#include "convert/basConvertCSI.h"
 #include "platform/fake/RecordingPrinter.h"
 
 #include <gmock/gmock.h>
@@ -71,6 +73,80 @@ TEST_F(SourcePreview, TakesFilesOf65000BytesAndNoLarger) {
     EXPECT_EQ(AcceptChosenFile("b.txt", files), "");
     EXPECT_EQ(AcceptChosenFile("", files), "");
     EXPECT_EQ(AcceptChosenFile("gone.txt", files), "");
+}
+
+// Keeps what was shown in the boxes, and how many messages had been shown until then.
+class RecordingBoxes final : public SourceBoxes {
+public:
+    explicit RecordingBoxes(ScriptedDialogs const& dialogs) : dialogs_(dialogs) {}
+
+    void ShowSourceName(std::string const& name) override { Add("name", name); }
+
+    void ShowSourceContents(std::string const& contents) override { Add("contents", contents); }
+
+    std::vector<std::string> Shown;
+
+private:
+    void Add(std::string const& box, std::string const& text) {
+        Shown.push_back(box + '|' + text + '|' + std::to_string(dialogs_.Messages.size()));
+    }
+
+    ScriptedDialogs const& dialogs_;
+};
+
+class Browsing : public SourcePreview {
+protected:
+    // What is shown when this is chosen.
+    std::vector<std::string> Choose(std::string const& path) {
+        dialogs.Paths = {path};
+        RecordingBoxes boxes(dialogs);
+        BrowseForSource(CustomTexts(), files, dialogs, boxes);
+        return boxes.Shown;
+    }
+};
+
+TEST_F(Browsing, StartsOnTheDriveWithTheNamesAndFilterOfTheWindow) {
+    std::string const textFirst =
+        "Text Files (*.txt)|*.txt|Comma Separated Values (*.csv)|*.csv|All Files (*.*)|*.*";
+    std::string const commaFirst =
+        "Comma Separated Values (*.csv)|*.csv|Text Files (*.txt)|*.txt|All Files (*.*)|*.*";
+    RecordingBoxes boxes(dialogs);
+    for (auto const* texts : {&BarchartTexts(), &CsiTexts(), &CustomTexts()}) {
+        dialogs.Paths = {""};
+        BrowseForSource(*texts, files, dialogs, boxes);
+    }
+    std::vector<std::string> asked;
+    for (auto const& question : dialogs.FileQuestions) {
+        asked.push_back(question.Folder + ' ' + question.Name + ' ' + question.Filter);
+    }
+    EXPECT_THAT(
+        asked, ElementsAre("C:\\ *.txt " + textFirst, "C:\\ *.txt " + textFirst, "C:\\ *.csv " + commaFirst));
+}
+
+TEST_F(Browsing, ShowsTheNameAndTheContents) {
+    files.Contents["C:\\a.csv"] = "one\ntwo";
+    EXPECT_THAT(Choose("C:\\a.csv"),
+                ElementsAre("name|C:\\a.csv|0", "contents||0", "contents|one\r\ntwo\r\n|0"));
+    EXPECT_THAT(dialogs.Messages, IsEmpty());
+}
+
+TEST_F(Browsing, EmptiesBothBoxesWhenItIsCancelled) {
+    EXPECT_THAT(Choose(""), ElementsAre("name||0", "contents||0"));
+    EXPECT_THAT(dialogs.Messages, IsEmpty());
+}
+
+TEST_F(Browsing, RefusesFilesThatAreTooLargeSilently) {
+    files.Contents = {{"fits.csv", std::string(65'000, 'x')}, {"large.csv", std::string(65'001, 'x')}};
+    EXPECT_THAT(Choose("large.csv"), ElementsAre("name||0", "contents||0"));
+    EXPECT_THAT(Choose("fits.csv"), ElementsAre("name|fits.csv|0", "contents||0",
+                                                "contents|" + std::string(65'000, 'x') + "\r\n|0"));
+    EXPECT_THAT(dialogs.Messages, IsEmpty());
+}
+
+TEST_F(Browsing, ShowsTheNameOfAnEmptyFileBeforeItTellsOfIt) {
+    files.Contents["empty.csv"] = "";
+    EXPECT_THAT(Choose("empty.csv"), ElementsAre("name|empty.csv|0", "contents||0", "contents||1"));
+    EXPECT_THAT(BoxesOf(dialogs), ElementsAre("Data Conversion Utility|none|Source file not found"));
 }
 
 TEST_F(SourcePreview, IsPrintedBelowItsName) {

@@ -24,6 +24,11 @@ TEST(ScriptedDialogs, AnswerInOrder) {
     std::vector<std::string> const names = {"a.txt", "b.txt"};
     EXPECT_EQ(dialogs.ChooseQuoteFile(names), "a.txt");
     EXPECT_EQ(dialogs.ChooseParameterFile(names), std::nullopt);
+    dialogs.Paths = {"C:\\a.txt", ""};
+    EXPECT_EQ(dialogs.AskForFile({"C:\\", "*.txt", "Text (*.txt)|*.txt"}), "C:\\a.txt");
+    EXPECT_EQ(dialogs.AskForFile({"C:\\", "*.csv", "All|*.*"}), "");
+    ASSERT_EQ(dialogs.FileQuestions.size(), 2U);
+    EXPECT_EQ(dialogs.FileQuestions[1].Name, "*.csv");
     EXPECT_EQ(dialogs.Messages.size(), 3U);
     EXPECT_EQ(dialogs.OfferedFiles.size(), 2U);
 }
@@ -33,6 +38,7 @@ TEST(ScriptedDialogs, RefuseAQuestionThatTheTestDidNotForesee) {
     EXPECT_THROW(dialogs.Show({"Save?", "Title", Icon::None, Buttons::YesNoCancel}), std::logic_error);
     EXPECT_THROW(static_cast<void>(dialogs.Ask({"Name", "Title", ""})), std::logic_error);
     EXPECT_THROW(static_cast<void>(dialogs.ChooseQuoteFile({})), std::logic_error);
+    EXPECT_THROW(static_cast<void>(dialogs.AskForFile({})), std::logic_error);
 }
 
 } // namespace

@@ -52,20 +52,9 @@ void ChooseByKeys(QWidget& window, QString const& letters) {
 }
 
 void BrowseTo(ConverterSurroundings& around, QWidget& window, QString const& path) {
-    around.Answers.Next([path](QWidget& dialog) {
-        if (path.isEmpty()) {
-            QTest::keyClick(&dialog, Qt::Key_Escape);
-            return;
-        }
-        auto* name = dialog.findChild<QLineEdit*>();
-        QVERIFY2(name != nullptr, "no file dialog");
-        name->selectAll();
-        QTest::keyClick(name, Qt::Key_Delete);
-        QTest::keyClicks(name, path);
-        QTest::keyClick(name, Qt::Key_Return);
-    });
+    around.Dialogs.Paths.push_back(platform::qt::FromQt(path));
     ClickButton(window, QStringLiteral("cmdBrowse"));
-    QVERIFY(around.Answers.IsDone());
+    QVERIFY(around.Dialogs.Paths.empty());
 }
 
 QStringList TabStops(QWidget& window, int count) {

@@ -44,7 +44,7 @@ void TypeInto(QWidget& window, char const* name, QString const& text);
 // Chooses the menu item by its keys, such as "fp" for File > Print.
 void ChooseByKeys(QWidget& window, QString const& letters);
 
-// Clicks Browse and types this into the file dialog. The empty text cancels it.
+// Clicks Browse and chooses this in the file dialog. The empty text cancels it.
 void BrowseTo(ConverterSurroundings& around, QWidget& window, QString const& path);
 
 // The names of the controls that Tab visits, starting with the one that has the focus.

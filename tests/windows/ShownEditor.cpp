@@ -28,6 +28,10 @@ std::optional<std::string> WindowDialogs::ChooseParameterFile(std::span<std::str
     return std::nullopt;
 }
 
+std::string WindowDialogs::AskForFile(platform::FileQuestion const&) {
+    return {};
+}
+
 ShownEditor::ShownEditor(std::string const& content, std::string const& name)
     : Settings(prefs::DefaultSettings(Folder.Text())) {
     // The editor takes the name as it is, so that it saves into the test's folder only under a whole path.

@@ -7,7 +7,6 @@
 #include "windows/ShownConverter.h"
 #include "windows/WindowTest.h"
 
-#include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -115,24 +114,10 @@ private Q_SLOTS:
 
     void BrowseOffersTextFilesFirst() {
         CsiWindow csi;
-        QStringList filters;
-        QString name;
-        bool isAtStart = false;
-        csi.Answers.Next([&](QWidget& window) {
-            auto* dialog = qobject_cast<QFileDialog*>(&window);
-            filters = dialog->nameFilters();
-            filters.append(dialog->selectedNameFilter());
-            name = dialog->findChild<QLineEdit*>()->text();
-            QDir const drive(u"C:\\"_s);
-            bool const hasDrive = drive.isAbsolute() && drive.exists();
-            isAtStart = dialog->directory() == (hasDrive ? drive : QDir::home());
-            QTest::keyClick(&window, Qt::Key_Escape);
-        });
-        ClickButton(csi.Window, u"cmdBrowse"_s);
-        QCOMPARE(filters, QStringList({u"Text Files (*.txt)"_s, u"Comma Separated Values (*.csv)"_s,
-                                       u"All Files (*.*)"_s, u"Text Files (*.txt)"_s}));
-        QCOMPARE(name, u"*.txt"_s);
-        QVERIFY(isAtStart);
+        BrowseTo(csi, csi.Window, u""_s);
+        QCOMPARE(csi.Dialogs.FileQuestions.size(), 1U);
+        QCOMPARE(csi.Dialogs.FileQuestions[0].Name, std::string("*.txt"));
+        QVERIFY(csi.Dialogs.FileQuestions[0].Filter.starts_with("Text Files (*.txt)|*.txt|Comma"));
     }
 
     void CancellingBrowseEmptiesNameAndPreview() {

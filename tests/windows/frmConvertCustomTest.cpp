@@ -7,7 +7,6 @@
 #include "windows/WindowTest.h"
 
 #include <QComboBox>
-#include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -213,16 +212,11 @@ private Q_SLOTS:
 
     void BrowseOffersCommaSeparatedValuesFirst() {
         CustomWindow custom;
-        QStringList filters;
-        custom.Answers.Next([&](QWidget& window) {
-            auto* dialog = qobject_cast<QFileDialog*>(&window);
-            filters = dialog->nameFilters();
-            filters.append(dialog->findChild<QLineEdit*>()->text());
-            QTest::keyClick(&window, Qt::Key_Escape);
-        });
-        ClickButton(custom.Window, u"cmdBrowse"_s);
-        QCOMPARE(filters, QStringList({u"Comma Separated Values (*.csv)"_s, u"Text Files (*.txt)"_s,
-                                       u"All Files (*.*)"_s, u"*.csv"_s}));
+        BrowseTo(custom, custom.Window, u""_s);
+        QCOMPARE(custom.Dialogs.FileQuestions.size(), 1U);
+        QCOMPARE(custom.Dialogs.FileQuestions[0].Name, std::string("*.csv"));
+        QVERIFY(
+            custom.Dialogs.FileQuestions[0].Filter.starts_with("Comma Separated Values (*.csv)|*.csv|Text"));
     }
 
     void HelpOpensTheDocument() {

@@ -4,6 +4,7 @@
 #include "app/ui/MainDialogs.h"
 
 #include "cycles/ui/frmParameter.h"
+#include "platform/qt/OpenFileDialog.h"
 #include "platform/qt/QtDialogs.h"
 #include "quotes/ui/frmQuotes.h"
 
@@ -36,6 +37,10 @@ std::optional<std::string> MainDialogs::ChooseQuoteFile(std::span<std::string co
 
 std::optional<std::string> MainDialogs::ChooseParameterFile(std::span<std::string const> names) {
     return Choose(parameter_, window_, names);
+}
+
+std::string MainDialogs::AskForFile(platform::FileQuestion const& question) {
+    return platform::qt::AskForFile(window_, question);
 }
 
 } // namespace quorvex::app::ui

@@ -27,6 +27,7 @@ public:
     [[nodiscard]] std::string Ask(platform::Question const& question) override;
     [[nodiscard]] std::optional<std::string> ChooseQuoteFile(std::span<std::string const> names) override;
     [[nodiscard]] std::optional<std::string> ChooseParameterFile(std::span<std::string const> names) override;
+    [[nodiscard]] std::string AskForFile(platform::FileQuestion const& question) override;
 
 private:
     QWidget& window_;

@@ -3,8 +3,6 @@
 
 #include "convert/ui/ConvertWindow.h"
 
-#include "convert/basSourcePreview.h"
-#include "platform/qt/OpenFileDialog.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtTexts.h"
 #include "ui_ConvertWindow.h"
@@ -37,7 +35,8 @@ ConvertWindow::ConvertWindow(QWidget* parent, ConverterTexts const& texts, platf
     ui_->txtDestFileName->setText(ToQt(InitialDestination));
     ui_->txtContents->setFont(FixedPitchFont());
     AddMenu();
-    connect(ui_->cmdBrowse, &QPushButton::clicked, this, [this] { RunGuarded(*this, [this] { Browse(); }); });
+    connect(ui_->cmdBrowse, &QPushButton::clicked, this,
+            [this] { RunGuarded(*this, [this] { BrowseForSource(texts_, files_, dialogs_, *this); }); });
     connect(ui_->cmdConvert, &QPushButton::clicked, this,
             [this] { RunGuarded(*this, [this] { Convert(); }); });
 }
@@ -98,15 +97,12 @@ void ConvertWindow::RunModal() {
     exec();
 }
 
-void ConvertWindow::Browse() {
-    std::string const chosen =
-        platform::qt::AskForFile(*this, {BrowseFolder, texts_.DefaultName, texts_.Filter});
-    std::string const name = AcceptChosenFile(chosen, files_);
+void ConvertWindow::ShowSourceName(std::string const& name) {
     ui_->txtSrceFileName->setText(ToQt(name));
-    ui_->txtContents->clear();
-    if (!name.empty()) {
-        ui_->txtContents->setPlainText(ToQt(LoadSourceFile(name, files_, dialogs_)));
-    }
+}
+
+void ConvertWindow::ShowSourceContents(std::string const& contents) {
+    ui_->txtContents->setPlainText(ToQt(contents));
 }
 
 void ConvertWindow::Convert() {

@@ -5,6 +5,7 @@
 
 #include "convert/ConverterTexts.h"
 #include "convert/basConvertSubs.h"
+#include "convert/basSourcePreview.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/Printer.h"
@@ -23,7 +24,7 @@ namespace quorvex::convert::ui {
 
 // What the converter windows have in common: names of source and destination, a preview of the source, the
 // menu. A window keeps its texts when it is closed.
-class ConvertWindow : public QDialog {
+class ConvertWindow : public QDialog, private SourceBoxes {
     Q_OBJECT
 
 public:
@@ -56,7 +57,8 @@ protected:
 private:
     void AddMenu();
     void Connect(QAction& action, std::function<void()> const& command);
-    void Browse();
+    void ShowSourceName(std::string const& name) override;
+    void ShowSourceContents(std::string const& contents) override;
     void Convert();
     void Print();
 

@@ -40,6 +40,11 @@ std::optional<std::string> ScriptedDialogs::ChooseParameterFile(std::span<std::s
     return Choose(names);
 }
 
+std::string ScriptedDialogs::AskForFile(FileQuestion const& question) {
+    FileQuestions.push_back(question);
+    return TakeFirst(Paths, "which file to open");
+}
+
 std::optional<std::string> ScriptedDialogs::Choose(std::span<std::string const> names) {
     OfferedFiles.emplace_back(names.begin(), names.end());
     return TakeFirst(Choices, "which file");

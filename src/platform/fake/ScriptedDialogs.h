@@ -19,16 +19,19 @@ public:
     [[nodiscard]] std::string Ask(Question const& question) override;
     [[nodiscard]] std::optional<std::string> ChooseQuoteFile(std::span<std::string const> names) override;
     [[nodiscard]] std::optional<std::string> ChooseParameterFile(std::span<std::string const> names) override;
+    [[nodiscard]] std::string AskForFile(FileQuestion const& question) override;
 
     // What was shown, in order.
     std::vector<Message> Messages;
     std::vector<Question> Questions;
     std::vector<std::vector<std::string>> OfferedFiles;
+    std::vector<FileQuestion> FileQuestions;
 
     // What to answer, first one first. A box with only an OK button needs no answer.
     std::deque<Answer> Answers;
     std::deque<std::string> Texts;
     std::deque<std::optional<std::string>> Choices;
+    std::deque<std::string> Paths; // empty where the file dialog is cancelled
 
 private:
     std::optional<std::string> Choose(std::span<std::string const> names);

@@ -3,6 +3,7 @@
 
 #include "platform/qt/OpenFileDialog.h"
 
+#include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtTexts.h"
 
 #include <QDir>
@@ -31,7 +32,7 @@ QStringList DescriptionsOf(std::string_view filter) {
 } // namespace
 
 std::string AskForFile(QWidget& window, FileQuestion const& question) {
-    QFileDialog dialog(&window);
+    QFileDialog dialog(TopmostOf(window));
     dialog.setObjectName(QStringLiteral("OpenFileDialog"));
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);

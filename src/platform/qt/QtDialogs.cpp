@@ -22,11 +22,6 @@ namespace quorvex::platform::qt {
 
 namespace {
 
-QWidget* TopmostOf(QWidget& window) {
-    QWidget* const dialog = QApplication::activeModalWidget();
-    return dialog != nullptr ? dialog : &window;
-}
-
 QMessageBox::Icon IconOf(Icon icon) {
     switch (icon) {
     case Icon::Information:
@@ -109,6 +104,11 @@ void LeaveRoomForTitle(QMessageBox& box) {
 }
 
 } // namespace
+
+QWidget* TopmostOf(QWidget& window) {
+    QWidget* const dialog = QApplication::activeModalWidget();
+    return dialog != nullptr ? dialog : &window;
+}
 
 Answer ShowMessageBox(QWidget& window, Message const& message) {
     QMessageBox box(TopmostOf(window));

@@ -10,8 +10,10 @@
 
 namespace quorvex::platform::qt {
 
-// A message box over the window that the user is in, which is the given one or a dialog of it. The mouse
-// pointer is the usual one meanwhile.
+// The window that the user is in, which is the given one or a dialog of it.
+[[nodiscard]] QWidget* TopmostOf(QWidget& window);
+
+// A message box over the window that the user is in. The mouse pointer is the usual one meanwhile.
 Answer ShowMessageBox(QWidget& window, Message const& message);
 
 // An input box, likewise; the empty text when it was cancelled.
