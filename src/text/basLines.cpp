@@ -4,7 +4,6 @@
 #include "text/basLines.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace quorvex::text {
 
@@ -13,13 +12,6 @@ namespace {
 constexpr std::size_t Capacity = 65'536;
 constexpr char CtrlZ = '\x1a';
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
-
-// Where the next line end stands, the length of the text when there is none.
-std::size_t FindLineEnd(std::string_view text) {
-    // Lines mostly end with a LF, so a CR is looked for in front of the first LF only.
-    std::size_t const lf = std::min(text.find('\n'), text.size());
-    return std::min(text.substr(0, lf).find('\r'), lf);
-}
 
 } // namespace
 
@@ -30,6 +22,7 @@ LineReader::LineReader(ByteSource& source)
 bool LineReader::Refill() {
     at_ = 0;
     end_ = source_.Read({buffer_.get(), Capacity});
+    lf_.reset();
     return end_ > 0;
 }
 
@@ -78,10 +71,21 @@ std::string_view LineReader::TakeLine() {
     return line_;
 }
 
+// How much of the buffer belongs to the line: up to its end, or all when that is not there.
+std::size_t LineReader::LengthOfPiece() {
+    std::string_view const read(buffer_.get(), end_);
+    if (!lf_ || *lf_ < at_) {
+        lf_ = std::min(read.find('\n', at_), end_);
+    }
+    // Lines mostly end with a LF, so a CR is looked for in front of the next LF only.
+    std::size_t const untilLf = *lf_ - at_;
+    return std::min(read.substr(at_, untilLf).find('\r'), untilLf);
+}
+
 // Takes what the buffer holds of the line. Returns whether its end was there too.
 bool LineReader::TakePiece(std::string_view& piece) {
     std::string_view const rest(buffer_.get() + at_, end_ - at_);
-    std::size_t const length = FindLineEnd(rest);
+    std::size_t const length = LengthOfPiece();
     piece = rest.substr(0, length);
     at_ += length;
     if (length == rest.size()) {

@@ -6,6 +6,7 @@
 
 #include "text/basFields.h"
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
@@ -31,12 +32,16 @@ private:
     [[nodiscard]] bool Refill();
     void SkipByteOrderMark();
     [[nodiscard]] std::string_view TakeLine();
+    [[nodiscard]] std::size_t LengthOfPiece();
     [[nodiscard]] bool TakePiece(std::string_view& piece);
 
     ByteSource& source_;
     std::unique_ptr<char[]> buffer_; // bytes at_..end_-1 are still to be taken
     std::size_t at_ = 0;
     std::size_t end_ = 0;
+    // Where the next LF of the buffer stands, end_ when there is none; nothing when it was not looked for.
+    // Without it every line that ends with a CR alone would search the whole rest.
+    std::optional<std::size_t> lf_;
     bool isBehindCr_ = false; // a LF that follows belongs to the line end
     bool isAtStart_ = true;
     std::string line_; // a line that did not stand in the buffer whole

@@ -88,6 +88,17 @@ TEST(LineReader, TakesLinesThatCrossTheEdgeOfItsBuffer) {
     }
 }
 
+TEST(LineReader, TakesLinesOfEveryEndInOneTextOfManyBuffers) {
+    std::string text;
+    Lines expected;
+    for (std::size_t line = 0; line < 30'000; ++line) {
+        expected.push_back(std::to_string(line) + std::string(line % 7, 'x'));
+        bool const isStretchOfCr = line % 10'000 < 8000;
+        text += expected.back() + (isStretchOfCr ? "\r" : line % 2 == 0 ? "\n" : "\r\n");
+    }
+    EXPECT_EQ(LinesOf(text), expected);
+}
+
 TEST(LineReader, TakesALineLongerThanManyBuffers) {
     std::string const line(1'000'000, 'x');
     EXPECT_EQ(LinesOf("a\n" + line + "\r\nb"), (Lines{"a", line, "b"}));
