@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <algorithm>
 
 namespace quorvex::tests {
 
@@ -71,15 +72,18 @@ QStringList ClippedControls(QWidget const& window) {
     QStringList clipped;
     auto const look = [&](auto const& controls) {
         for (auto const* control : controls) {
-            bool const isSmall = control->height() < control->minimumSizeHint().height() ||
-                                 control->width() < control->minimumSizeHint().width();
+            QSize needed = control->minimumSizeHint();
+            if (control->hasHeightForWidth()) { // a text that wraps
+                needed.setHeight(std::max(needed.height(), control->heightForWidth(control->width())));
+            }
+            bool const isSmall = control->height() < needed.height() || control->width() < needed.width();
             if (control->isVisible() && isSmall) {
                 clipped.append(QStringLiteral("%1 %2x%3 of %4x%5")
                                    .arg(control->objectName())
                                    .arg(control->width())
                                    .arg(control->height())
-                                   .arg(control->minimumSizeHint().width())
-                                   .arg(control->minimumSizeHint().height()));
+                                   .arg(needed.width())
+                                   .arg(needed.height()));
             }
         }
     };
