@@ -3,14 +3,14 @@
 
 #include "cli/QuotePath.h"
 
-#include "platform/disk/DiskFiles.h"
+#include "platform/basFiles.h"
 
 namespace quorvex::cli {
 
 void TakeQuotePath(std::string_view path, prefs::Settings& settings, quotes::QuoteSeries& series) {
-    auto const folderEnd = path.find_last_of(platform::disk::FolderEnds) + 1; // 0 when there is none
-    settings.DataPath = path.substr(0, folderEnd);
-    series.QuoteFileName = path.substr(folderEnd);
+    std::string_view const name = platform::BareName(path);
+    settings.DataPath = path.substr(0, path.size() - name.size());
+    series.QuoteFileName = name;
 }
 
 } // namespace quorvex::cli

@@ -4,6 +4,7 @@
 #include "convert/basSourcePreview.h"
 
 #include "convert/basConvertSubs.h"
+#include "platform/basFiles.h"
 #include "text/RunTimeError.h"
 #include "text/basLines.h"
 
@@ -37,11 +38,6 @@ std::string ReadLines(std::string const& name, platform::Files const& files) {
         contents += "\r\n";
     }
     return contents;
-}
-
-// The part of the path behind its last separator.
-std::string_view BareName(std::string_view path) {
-    return path.substr(path.find_last_of("/\\:") + 1); // 0 when there is none
 }
 
 bool StartsCharacter(char byte) {
@@ -150,7 +146,7 @@ void BrowseForSource(ConverterTexts const& texts, platform::Files const& files, 
 void PrintSourceFile(std::string_view name, std::string_view contents, platform::PrintQueue& queue,
                      platform::Dialogs& dialogs) {
     auto const fault = text::Trap([&] {
-        auto const printer = queue.Start(name.empty() ? ConversionTitle : BareName(name));
+        auto const printer = queue.Start(name.empty() ? ConversionTitle : platform::BareName(name));
         Listing listing(*printer);
         for (std::string_view const line : {std::string_view(), name, std::string_view()}) {
             listing.Add(line);

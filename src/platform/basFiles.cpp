@@ -10,6 +10,16 @@
 
 namespace quorvex::platform {
 
+namespace {
+
+#ifdef _WIN32
+constexpr std::string_view FolderEnds = "/\\:";
+#else
+constexpr std::string_view FolderEnds = "/\\";
+#endif
+
+} // namespace
+
 std::string ReadWholeFile(Files const& files, std::string const& path) {
     constexpr std::size_t BufferSize = 4096;
     std::array<char, BufferSize> buffer{};
@@ -28,6 +38,10 @@ std::string ReadFileIfThere(Files const& files, std::string const& path) {
         throw text::RunTimeError(error->Kind());
     }
     return content;
+}
+
+std::string_view BareName(std::string_view path) {
+    return path.substr(path.find_last_of(FolderEnds) + 1); // 0 when there is none
 }
 
 } // namespace quorvex::platform

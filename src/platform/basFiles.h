@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-// Files read whole.
+// Files read whole, and the names of files.
 #pragma once
 
 #include "platform/Files.h"
 
 #include <string>
+#include <string_view>
 
 namespace quorvex::platform {
 
@@ -15,5 +16,8 @@ namespace quorvex::platform {
 
 // The same; the empty text when there is no such file in its folder.
 [[nodiscard]] std::string ReadFileIfThere(Files const& files, std::string const& path);
+
+// The name of the file without its folder: what stands behind the last separator of this system.
+[[nodiscard]] std::string_view BareName(std::string_view path);
 
 } // namespace quorvex::platform

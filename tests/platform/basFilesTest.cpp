@@ -35,5 +35,19 @@ TEST(ReadFileIfThere, ToleratesAMissingFileAlone) {
     EXPECT_THROW(static_cast<void>(ReadFileIfThere(files, "a.txt")), text::RunTimeError);
 }
 
+TEST(BareName, IsWhatStandsBehindTheLastSeparator) {
+    EXPECT_EQ(BareName("C:\\Quotes\\a.txt"), "a.txt");
+    EXPECT_EQ(BareName("/home/ann/a b.txt"), "a b.txt");
+    EXPECT_EQ(BareName("C:\\Quotes/a.txt"), "a.txt");
+    EXPECT_EQ(BareName("a.txt"), "a.txt");
+    EXPECT_EQ(BareName("Quotes\\"), "");
+    EXPECT_EQ(BareName(""), "");
+#ifdef _WIN32
+    EXPECT_EQ(BareName("C:a.txt"), "a.txt");
+#else
+    EXPECT_EQ(BareName("C:a.txt"), "C:a.txt");
+#endif
+}
+
 } // namespace
 } // namespace quorvex::platform

@@ -10,13 +10,6 @@
 
 namespace quorvex::platform::disk {
 
-// What ends the folder in a path of this system.
-#ifdef _WIN32
-inline constexpr std::string_view FolderEnds = "/\\:";
-#else
-inline constexpr std::string_view FolderEnds = "/\\";
-#endif
-
 // The path in the form of this system: where "/" separates folders, backslashes become "/".
 [[nodiscard]] std::filesystem::path HostPath(std::string_view path);
 
