@@ -77,7 +77,7 @@ public:
             return std::nullopt;
         }
         sink_.reset();
-        auto const fault = text::Trap([&] { files_.Remove(name_); });
+        auto fault = text::Trap([&] { files_.Remove(name_); });
         if (!fault || fault->Kind() == Fault::FileNotFound) {
             return std::nullopt;
         }

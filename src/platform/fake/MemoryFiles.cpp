@@ -6,6 +6,7 @@
 #include "text/basFolders.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quorvex::platform::fake {
 
@@ -56,7 +57,7 @@ class MemorySink final : public ByteSink {
 public:
     MemorySink(std::string& content, Break broken, OpenPaths& paths, std::string const& path)
         : content_(content),
-          break_(broken),
+          break_(std::move(broken)),
           mark_(std::in_place, paths, path) {}
 
     void Write(std::string_view bytes) override {
