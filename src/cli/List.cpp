@@ -32,7 +32,7 @@ ExitStatus List(ListOptions const& options, platform::PdfPrintQueue& queue) {
         PrintToPdf(queue, options.OutputPath, session.Files(), session.Dialogs(), [&](auto& printing) {
             if (auto const error = editor::PrintQuotes(session.Edited(), session.QuoteFileName(),
                                                        session.Settings(), printing, pointer)) {
-                throw *error;
+                throw text::RunTimeError(error->Kind());
             }
         });
     return written ? ExitStatus::Success : ExitStatus::Refused;

@@ -32,7 +32,8 @@ void CloseQuoteFile(QuoteSeries& series);
 // ".TXT" in either case.
 [[nodiscard]] bool IsQuoteFileName(std::string_view name);
 
-// Asks for the name to save under, with that of the open file in the box: the answer without blanks around it.
+// Asks for the name to save under, with that of the open file in the box: the answer without blanks around
+// it.
 [[nodiscard]] std::string AskQuoteFileName(QuoteSeries const& series, platform::Dialogs& dialogs);
 
 // Whether quotes can be saved under the name. When they cannot, tells the user.

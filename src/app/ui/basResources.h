@@ -13,7 +13,8 @@ namespace quorvex::app::ui {
 // Makes the resources known to Qt. To be called before the first window.
 void LoadResources();
 
-// Puts the sample files and the help documents into the folder, which is the user's own and new. Raises the faults of Files.
+// Puts the sample files and the help documents into the folder, which is the user's own and new. Raises the
+// faults of Files.
 void FillProgramFolder(std::string const& folder, platform::Files& files);
 
 } // namespace quorvex::app::ui

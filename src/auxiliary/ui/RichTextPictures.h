@@ -9,8 +9,8 @@
 
 namespace quorvex::auxiliary::ui {
 
-// Paints the pictures of a document on the screen so that every pixel of theirs contributes. Qt would take the
-// nearest ones only, and a chart that is shown smaller than it was drawn loses its lines.
+// Paints the pictures of a document on the screen so that every pixel of theirs contributes. Qt would take
+// the nearest ones only, and a chart that is shown smaller than it was drawn loses its lines.
 class RichTextPictures final : public QObject, public QTextObjectInterface {
     Q_OBJECT
     Q_INTERFACES(QTextObjectInterface)

@@ -23,7 +23,8 @@ void Fill(QComboBox& list, Texts const& offered, std::string const& text) {
     for (auto const& offer : offered) {
         list.addItem(ToQt(offer));
     }
-    list.setCurrentText(ToQt(text));
+    list.setCurrentIndex(list.findText(ToQt(text))); // where the arrow keys go on from
+    list.setEditText(ToQt(text));
 }
 
 } // namespace
