@@ -28,7 +28,9 @@ class Program:
 
     def __init__(self, desktop, executable):
         self._desktop = desktop
-        leaks = os.path.join(os.path.dirname(os.path.abspath(__file__)), "leaks.supp")
+        # The user of the desktop may not be able to read the checkout.
+        leaks = shutil.copy2(os.path.join(os.path.dirname(os.path.abspath(__file__)), "leaks.supp"), desktop.folder)
+        os.chmod(leaks, 0o644)
         environment = dict(desktop.environment, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
                            LSAN_OPTIONS=f"suppressions={leaks}:print_suppressions=0")
         self.process = desktop.start([executable], "Quorvex", env=environment)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "support/QuoteTexts.h"
+#include "windows/RunningWindow.h"
 #include "windows/ShownEditor.h"
 #include "windows/WindowTest.h"
 
@@ -51,6 +52,26 @@ private Q_SLOTS:
             QCOMPARE(shown.Cursor(), u"1,1"_s);
             QVERIFY(shown.Grid().hasFocus());
         });
+    }
+
+    // Qt itself asks for the cell under a cursor that is nowhere.
+    void KeysInAGridWithoutRowsDoNothing() {
+        RunningWindow main;
+        int rows = -1;
+        main.Answers.Next([&](QWidget& window) {
+            auto* grid = window.findChild<QTableView*>(u"Spread"_s);
+            rows = grid->model()->rowCount();
+            for (auto const key : {Qt::Key_C, Qt::Key_V, Qt::Key_X, Qt::Key_Insert}) {
+                QTest::keyClick(grid, key, Qt::ControlModifier);
+            }
+            QTest::keyClick(grid, Qt::Key_Delete);
+            QTest::keyClick(grid, Qt::Key_Down);
+            QTest::keyClick(grid, Qt::Key_F2);
+            window.findChild<QAction*>(u"mnuFileExit"_s)->trigger();
+        });
+        main.Choose("mnuFileEdit");
+        QCOMPARE(rows, 0);
+        QCOMPARE(main.Answers.TakeShown(), QStringList{u"frmEdit"_s});
     }
 
     void EvenRowsArePaleYellowAndReadable() {

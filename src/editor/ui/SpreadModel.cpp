@@ -37,7 +37,7 @@ Cell const& SpreadModel::CellAt(QModelIndex const& index) const {
 }
 
 QVariant SpreadModel::data(QModelIndex const& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+    if (!index.isValid()) { // the cursor of an empty grid
         return {};
     }
     Cell const& cell = CellAt(index);
@@ -75,7 +75,7 @@ Qt::ItemFlags SpreadModel::flags(QModelIndex const& index) const {
 }
 
 bool SpreadModel::setData(QModelIndex const& index, QVariant const& value, int role) {
-    if (role != Qt::EditRole || !checkIndex(index, CheckIndexOption::IndexIsValid)) {
+    if (role != Qt::EditRole || !index.isValid()) {
         return false;
     }
     PutText(sheet_, SheetNumber(index.row()), SheetNumber(index.column()),
