@@ -15,8 +15,10 @@ namespace {
 constexpr std::size_t KeptActions = 20;
 
 void HandleMessage(QtMsgType type, QMessageLogContext const&, QString const& text) {
-    // The offscreen platform tells what it cannot do, which says nothing about the windows.
-    bool const isOfPlatform = text.startsWith(QStringLiteral("This plugin does not support"));
+    // The offscreen platform tells what it cannot do, and which scripts the fonts of the machine cannot
+    // write; both say nothing about the windows.
+    bool const isOfPlatform = text.startsWith(QStringLiteral("This plugin does not support")) ||
+                              text.contains(QStringLiteral("OpenType support missing"));
     if (type == QtDebugMsg || type == QtInfoMsg || isOfPlatform) {
         return;
     }
