@@ -5,6 +5,7 @@
 
 #include "platform/MousePointer.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 
 namespace quorvex::platform::qt {
