@@ -19,7 +19,7 @@ namespace {
 
 // Permissions alone do not tell on every system; a file does.
 bool CanBeWritten(QString const& folder) {
-    QTemporaryFile file(folder + QStringLiteral("/.quorvex-XXXXXX.tmp"));
+    QTemporaryFile file(folder + QStringLiteral("/.quorvex-probe"));
     return file.open();
 }
 
