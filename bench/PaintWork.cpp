@@ -3,7 +3,7 @@
 
 #include "PaintWork.h"
 
-#include "platform/qt/Painting.h"
+#include "platform/pictures/Painting.h"
 
 #include <QPainter>
 #include <stdexcept>
@@ -15,7 +15,7 @@ PaintWork::PaintWork(RedrawWork const& window) {
         QImage const& shown = box->Picture();
         boxes_.push_back(
             {QImage(shown.size(), shown.format()), RecordPainting(shown.size(), [&](QPainter& painter) {
-                 platform::qt::PaintDrawing(painter, box->Drawing(), {});
+                 platform::pictures::PaintDrawing(painter, box->Drawing(), {});
              })});
     }
     Paint();

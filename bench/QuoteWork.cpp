@@ -51,7 +51,7 @@ private:
 QuoteWork::QuoteWork()
     : text_(GeneratedQuoteText()),
       file_(text_),
-      settings_(prefs::DefaultSettings(file_.Folder())),
+      settings_(settings::DefaultSettings(file_.Folder())),
       format_(settings_.CurrencyFormat) {
     series_->QuoteFileName = TemporaryQuoteFile::Name;
     Load();

@@ -6,8 +6,8 @@
 #include "SilentDialogs.h"
 #include "TemporaryQuoteFile.h"
 #include "platform/disk/DiskFiles.h"
-#include "prefs/Settings.h"
 #include "quotes/QuoteSeries.h"
+#include "settings/Settings.h"
 #include "text/basFormats.h"
 
 #include <cstddef>
@@ -44,7 +44,7 @@ private:
     TemporaryQuoteFile file_;
     platform::disk::DiskFiles files_;
     SilentDialogs dialogs_;
-    prefs::Settings settings_;
+    settings::Settings settings_;
     text::NumberFormat format_;
     std::unique_ptr<quotes::QuoteSeries> series_ = std::make_unique<quotes::QuoteSeries>();
 };

@@ -1,11 +1,33 @@
-# One target a subsystem. A target has a level and names the lower-level targets that it may use; it finds the
-# headers of those and of nothing else, because every target has an include folder of its own with one
-# forwarding header for each header that it lists. An include that the target's edges do not allow fails to
-# compile, and an edge that points upwards does not configure.
+# One target a subsystem. A target has a level and names the lower-level targets whose headers its own files or the
+# headers that they include need; it is compiled with the include folders of those and of nothing else, because every
+# target has an include folder of its own with one forwarding header for each header that it lists. An include that the
+# target's edges do not allow fails to compile; an edge that points upwards, or that nothing needs, does not configure.
+
+# Sets the variable to the folders of src that the files include from.
+function(included_folders variable)
+    set(folders)
+    foreach(file IN LISTS ARGN)
+        if(file MATCHES "\\.(cpp|h)$" AND NOT IS_ABSOLUTE ${file})
+            file(STRINGS ${CMAKE_CURRENT_SOURCE_DIR}/${file} includes REGEX "^#include \"")
+            foreach(include IN LISTS includes)
+                if(include MATCHES "^#include \"(.+)/[^/]+\"")
+                    list(APPEND folders ${CMAKE_MATCH_1})
+                endif()
+            endforeach()
+        endif()
+    endforeach()
+    list(REMOVE_DUPLICATES folders)
+    set(${variable} ${folders} PARENT_SCOPE)
+endfunction()
 
 # Checks the edges of a target and adds it with its forwarding headers.
 function(add_level_target name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "LEVEL" "FILES;USES")
+    file(RELATIVE_PATH folder ${PROJECT_SOURCE_DIR}/src ${CMAKE_CURRENT_SOURCE_DIR})
+    set(headers ${arg_FILES})
+    list(FILTER headers INCLUDE REGEX "\\.h$")
+    # Those of its own files, and those that come along with the headers of the edges.
+    included_folders(needed ${arg_FILES})
     foreach(used IN LISTS arg_USES)
         if(NOT TARGET quorvex_${used})
             message(FATAL_ERROR "${name} uses ${used}, which is no target of a lower level.")
@@ -15,25 +37,37 @@ function(add_level_target name)
             message(FATAL_ERROR
                 "${name} (level ${arg_LEVEL}) may not use ${used} (level ${usedLevel}): only lower levels.")
         endif()
-    endforeach()
-
-    file(RELATIVE_PATH folder ${PROJECT_SOURCE_DIR}/src ${CMAKE_CURRENT_SOURCE_DIR})
-    set(includeRoot ${PROJECT_BINARY_DIR}/include/${name})
-    set(forwarding)
-    foreach(header IN LISTS arg_FILES)
-        if(header MATCHES "\\.h$")
-            file(CONFIGURE OUTPUT ${includeRoot}/${folder}/${header}
-                CONTENT "#include \"${CMAKE_CURRENT_SOURCE_DIR}/${header}\"\n")
-            list(APPEND forwarding ${includeRoot}/${folder}/${header})
+        get_target_property(along quorvex_${used} QUORVEX_HEADER_FOLDERS)
+        if(along)
+            list(REMOVE_ITEM along "")
+            list(APPEND needed ${along})
         endif()
     endforeach()
 
+    set(includeRoot ${PROJECT_BINARY_DIR}/include/${name})
+    set(forwarding)
+    foreach(header IN LISTS headers)
+        # Relative, so that a compiler cache serves every checkout of the same sources.
+        file(RELATIVE_PATH target ${includeRoot}/${folder} ${CMAKE_CURRENT_SOURCE_DIR}/${header})
+        file(CONFIGURE OUTPUT ${includeRoot}/${folder}/${header} CONTENT "#include \"${target}\"\n")
+        list(APPEND forwarding ${includeRoot}/${folder}/${header})
+    endforeach()
+
     add_library(quorvex_${name} STATIC ${arg_FILES})
-    set_target_properties(quorvex_${name} PROPERTIES QUORVEX_LEVEL ${arg_LEVEL})
+    included_folders(headerFolders ${headers})
+    list(REMOVE_ITEM headerFolders "" ${folder})
+    set_target_properties(quorvex_${name} PROPERTIES
+        QUORVEX_LEVEL ${arg_LEVEL} QUORVEX_FOLDER "${folder}" QUORVEX_HEADER_FOLDERS "${headerFolders}")
     target_sources(quorvex_${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${includeRoot} FILES ${forwarding})
     target_link_libraries(quorvex_${name} PRIVATE quorvex_options)
     foreach(used IN LISTS arg_USES)
-        target_link_libraries(quorvex_${name} PUBLIC quorvex_${used})
+        get_target_property(usedFolder quorvex_${used} QUORVEX_FOLDER)
+        if(NOT usedFolder IN_LIST needed)
+            message(FATAL_ERROR "${name} names ${used}, and nothing in it includes a header of that.")
+        endif()
+        # Not linked for the compilation: the folders that the used one can include from stay out of reach.
+        target_include_directories(quorvex_${name} PRIVATE ${PROJECT_BINARY_DIR}/include/${used})
+        target_link_libraries(quorvex_${name} INTERFACE quorvex_${used})
     endforeach()
 endfunction()
 
@@ -67,7 +101,7 @@ function(add_windows name)
     if(arg_WITHOUT_WIDGETS)
         target_link_libraries(quorvex_${name} PUBLIC Qt6::Gui)
     else()
-        target_link_libraries(quorvex_${name} PUBLIC Qt6::Widgets)
+        target_link_libraries(quorvex_${name} PUBLIC Qt6::Widgets Qt6::PrintSupport)
     endif()
     target_compile_definitions(quorvex_${name} PUBLIC
         QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)

@@ -4,11 +4,11 @@
 // The input is a rich-text file.
 
 #include "Require.h"
-#include "auxiliary/richtext/BlockBuilder.h"
-#include "auxiliary/richtext/RichText.h"
-#include "auxiliary/richtext/RowDefinition.h"
-#include "auxiliary/richtext/RulerTable.h"
-#include "auxiliary/richtext/basRichText.h"
+#include "richtext/BlockBuilder.h"
+#include "richtext/RichText.h"
+#include "richtext/RowDefinition.h"
+#include "richtext/RulerTable.h"
+#include "richtext/basRichText.h"
 #include "text/RunTimeError.h"
 
 #include <algorithm>
@@ -22,7 +22,7 @@ namespace quorvex::fuzz {
 
 namespace {
 
-using namespace auxiliary::richtext;
+using namespace richtext;
 
 // A byte of the file is at most one character of three bytes; the words' characters are longer than that.
 constexpr std::size_t TextGrowth = 3;

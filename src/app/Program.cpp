@@ -3,7 +3,7 @@
 
 #include "app/Program.h"
 
-#include "prefs/basProfiles.h"
+#include "settings/basProfiles.h"
 
 namespace quorvex::app {
 
@@ -11,7 +11,7 @@ void StartUp(Program& program, cycles::ParameterGrid& grid, platform::Profile co
              std::string_view programFolder) {
     program.ProgramFolder = programFolder;
     cycles::ClearGrid(grid);
-    prefs::ReadProfile(program.Settings, profile, programFolder);
+    settings::ReadProfile(program.Settings, profile, programFolder);
 }
 
 } // namespace quorvex::app

@@ -17,9 +17,9 @@
 #include "platform/PendingMessages.h"
 #include "platform/Printer.h"
 #include "platform/Profile.h"
-#include "prefs/Settings.h"
 #include "quotes/PriceScale.h"
 #include "quotes/QuoteSeries.h"
+#include "settings/Settings.h"
 
 #include <string>
 #include <string_view>
@@ -30,7 +30,7 @@ inline constexpr std::string_view ProgramVersion = "2.0.b";
 
 // Owned by whoever runs the program. It is large: keep it off the stack.
 struct Program {
-    prefs::Settings Settings;
+    settings::Settings Settings;
     quotes::QuoteSeries Quotes;
     cycles::CycleParameterSet Cycles;
     cycles::CycleCurves Curves;

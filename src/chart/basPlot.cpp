@@ -50,7 +50,7 @@ void PrepareChart(platform::Canvas& box, std::int16_t workingCount) {
 }
 
 ChartFaults DrawQuoteChart(platform::Canvas& box, quotes::QuoteSeries const& series,
-                           prefs::Settings const& settings, quotes::PriceScale& scale,
+                           settings::Settings const& settings, quotes::PriceScale& scale,
                            cycles::QuoteCurve& movingAverageCurve) {
     ChartFaults faults;
     if (!series.HasQuotes()) {

@@ -7,9 +7,9 @@
 #include "chart/ChartFaults.h"
 #include "cycles/CycleCurves.h"
 #include "platform/Canvas.h"
-#include "prefs/Settings.h"
 #include "quotes/PriceScale.h"
 #include "quotes/QuoteSeries.h"
+#include "settings/Settings.h"
 #include "text/RunTimeError.h"
 
 #include <cstdint>
@@ -27,7 +27,7 @@ void PrepareChart(platform::Canvas& box, std::int16_t workingCount);
 // prices without a range, ends the drawing where it stands; one of the moving average ends that alone. Both
 // come back.
 ChartFaults DrawQuoteChart(platform::Canvas& box, quotes::QuoteSeries const& series,
-                           prefs::Settings const& settings, quotes::PriceScale& scale,
+                           settings::Settings const& settings, quotes::PriceScale& scale,
                            cycles::QuoteCurve& movingAverageCurve);
 
 // Computes the moving average's curve and, unless its length is 0, draws it on the price scale. A fault ends

@@ -148,7 +148,7 @@ QuoteShapes ShapesOnPage(double step) {
 } // namespace
 
 void PrintChart(platform::PrintQueue& queue, platform::MousePointer& pointer,
-                quotes::QuoteSeries const& series, prefs::Settings const& settings) {
+                quotes::QuoteSeries const& series, settings::Settings const& settings) {
     platform::Hourglass const hourglass(pointer);
     quotes::PriceScale const prices = PrintedPriceScale(series);
     auto const printer = queue.Start(DocumentName(series));

@@ -6,8 +6,8 @@
 
 #include "platform/MousePointer.h"
 #include "platform/Printer.h"
-#include "prefs/Settings.h"
 #include "quotes/QuoteSeries.h"
+#include "settings/Settings.h"
 
 namespace quorvex::chart {
 
@@ -16,6 +16,6 @@ namespace quorvex::chart {
 // is the hourglass until it is done. Raises "Printer error", and "Division by zero" for prices without a
 // range; nothing is printed then.
 void PrintChart(platform::PrintQueue& queue, platform::MousePointer& pointer,
-                quotes::QuoteSeries const& series, prefs::Settings const& settings);
+                quotes::QuoteSeries const& series, settings::Settings const& settings);
 
 } // namespace quorvex::chart

@@ -8,8 +8,8 @@
 #include "chart/ChartFaults.h"
 #include "cycles/CycleCurves.h"
 #include "cycles/CycleParameterSet.h"
-#include "prefs/Settings.h"
 #include "quotes/QuoteSeries.h"
+#include "settings/Settings.h"
 
 #include <string>
 #include <vector>
@@ -21,7 +21,7 @@ enum class ChartKind { Quotes, Cycles, Composite, Residual };
 // What the charts are drawn from.
 struct ChartContents {
     quotes::QuoteSeries const& Series;
-    prefs::Settings const& Settings;
+    settings::Settings const& Settings;
     cycles::CycleParameterSet const& Cycles;
     cycles::CycleCurves const& Curves;
 };

@@ -52,7 +52,7 @@ void AddAnalysisOptions(CLI::App& command, AnalysisOptions& options) {
 }
 
 void TakeAnalysisOptions(AnalysisOptions const& options, app::Program& program) {
-    prefs::Settings& settings = program.Settings;
+    settings::Settings& settings = program.Settings;
     settings.MovingAverageIndex = options.MovingAverage.value_or(settings.MovingAverageIndex);
     settings.CurrencyFormat = options.Format.value_or(settings.CurrencyFormat);
     settings.ChartType = options.ChartType.value_or(settings.ChartType);

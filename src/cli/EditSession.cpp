@@ -10,7 +10,7 @@
 namespace quorvex::cli {
 
 EditSession::EditSession(std::string const& quotePath, std::optional<std::string> const& format)
-    : settings_(prefs::DefaultSettings("./")) {
+    : settings_(settings::DefaultSettings("./")) {
     settings_.CurrencyFormat = format.value_or(settings_.CurrencyFormat);
     TakeQuotePath(quotePath, settings_, *series_);
 }

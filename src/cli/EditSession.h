@@ -7,8 +7,8 @@
 #include "editor/Editor.h"
 #include "editor/Sheet.h"
 #include "platform/disk/DiskFiles.h"
-#include "prefs/Settings.h"
 #include "quotes/QuoteSeries.h"
+#include "settings/Settings.h"
 
 #include <memory>
 #include <optional>
@@ -30,14 +30,14 @@ public:
 
     [[nodiscard]] std::string const& QuoteFileName() const { return series_->QuoteFileName; }
 
-    [[nodiscard]] prefs::Settings const& Settings() const { return settings_; }
+    [[nodiscard]] settings::Settings const& Settings() const { return settings_; }
 
     [[nodiscard]] platform::Dialogs& Dialogs() { return dialogs_; }
 
     [[nodiscard]] platform::Files& Files() { return files_; }
 
 private:
-    prefs::Settings settings_;
+    settings::Settings settings_;
     std::unique_ptr<quotes::QuoteSeries> series_ = std::make_unique<quotes::QuoteSeries>();
     editor::Sheet sheet_;
     std::unique_ptr<editor::Editor> editor_ = std::make_unique<editor::Editor>(editor::Editor{sheet_, {}, 0});

@@ -7,7 +7,7 @@
 
 namespace quorvex::cli {
 
-void TakeQuotePath(std::string_view path, prefs::Settings& settings, quotes::QuoteSeries& series) {
+void TakeQuotePath(std::string_view path, settings::Settings& settings, quotes::QuoteSeries& series) {
     std::string_view const name = platform::BareName(path);
     settings.DataPath = path.substr(0, path.size() - name.size());
     series.QuoteFileName = name;

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "prefs/Settings.h"
 #include "quotes/QuoteSeries.h"
+#include "settings/Settings.h"
 
 #include <string_view>
 
@@ -12,6 +12,6 @@ namespace quorvex::cli {
 
 // Makes the quote file of this path the one to be loaded: splits it into the data folder, with its separator,
 // and the bare name.
-void TakeQuotePath(std::string_view path, prefs::Settings& settings, quotes::QuoteSeries& series);
+void TakeQuotePath(std::string_view path, settings::Settings& settings, quotes::QuoteSeries& series);
 
 } // namespace quorvex::cli

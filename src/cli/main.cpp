@@ -16,8 +16,8 @@
 #include "platform/disk/HostArguments.h"
 #include "platform/disk/HostConsole.h"
 #ifdef QUORVEX_PICTURES
-#include "platform/qt/QtPdfPrintQueue.h"
-#include "platform/qt/QtPictureEncoder.h"
+#include "platform/pictures/QtPdfPrintQueue.h"
+#include "platform/pictures/QtPictureEncoder.h"
 #endif
 
 #include <CLI/CLI.hpp>
@@ -39,8 +39,8 @@ struct Outputs {
 
 Outputs MakeOutputs() {
 #ifdef QUORVEX_PICTURES
-    return {std::make_unique<platform::qt::QtPictureEncoder>(),
-            std::make_unique<platform::qt::QtPdfPrintQueue>()};
+    return {std::make_unique<platform::pictures::QtPictureEncoder>(),
+            std::make_unique<platform::pictures::QtPdfPrintQueue>()};
 #else
     return {};
 #endif

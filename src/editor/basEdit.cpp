@@ -27,7 +27,7 @@ bool RequireRoom(Spread const& spread, platform::Dialogs& dialogs) {
     return false;
 }
 
-quotes::QuoteRecord EmptyDay(prefs::Settings const& settings) {
+quotes::QuoteRecord EmptyDay(settings::Settings const& settings) {
     double const price = text::NumberFormat(settings.CurrencyFormat).Round(0);
     double const count = text::NumberFormat("#####0").Round(0);
     return {"", price, price, price, price, count, count};
@@ -76,7 +76,7 @@ void SizeGrid(Spread& spread, double windowWidth, double windowHeight) {
     spread.SetHeight(windowHeight * HeightShare);
 }
 
-void RebuildGrid(Editor& editor, prefs::Settings const& settings) {
+void RebuildGrid(Editor& editor, settings::Settings const& settings) {
     Spread& spread = editor.Grid;
     ShownNumbers const shown(settings);
     spread.SetVisible(false);
@@ -90,7 +90,7 @@ void RebuildGrid(Editor& editor, prefs::Settings const& settings) {
     spread.SetVisible(true);
 }
 
-void AppendRow(Editor& editor, prefs::Settings const& settings, platform::Dialogs& dialogs) {
+void AppendRow(Editor& editor, settings::Settings const& settings, platform::Dialogs& dialogs) {
     Spread& spread = editor.Grid;
     if (!RequireRoom(spread, dialogs)) {
         return;
@@ -102,7 +102,7 @@ void AppendRow(Editor& editor, prefs::Settings const& settings, platform::Dialog
     RebuildGrid(editor, settings);
 }
 
-void InsertRow(Editor& editor, prefs::Settings const& settings, platform::Dialogs& dialogs) {
+void InsertRow(Editor& editor, settings::Settings const& settings, platform::Dialogs& dialogs) {
     Spread& spread = editor.Grid;
     std::int16_t const row = spread.ActiveRow();
     if (row == 0 || !RequireRoom(spread, dialogs)) {
@@ -117,7 +117,7 @@ void InsertRow(Editor& editor, prefs::Settings const& settings, platform::Dialog
     RebuildGrid(editor, settings);
 }
 
-void DeleteRow(Editor& editor, prefs::Settings const& settings, platform::Dialogs& dialogs) {
+void DeleteRow(Editor& editor, settings::Settings const& settings, platform::Dialogs& dialogs) {
     Spread& spread = editor.Grid;
     std::int16_t const row = spread.ActiveRow();
     if (row == 0) {

@@ -7,8 +7,8 @@
 
 #include "editor/Editor.h"
 #include "platform/Dialogs.h"
-#include "prefs/Settings.h"
 #include "quotes/QuoteSeries.h"
+#include "settings/Settings.h"
 
 #include <string>
 
@@ -26,16 +26,16 @@ void OpenEditor(Editor& editor, quotes::QuoteSeries const& series);
 void SizeGrid(Spread& spread, double windowWidth, double windowHeight);
 
 // Fills the grid from the editor's copy.
-void RebuildGrid(Editor& editor, prefs::Settings const& settings);
+void RebuildGrid(Editor& editor, settings::Settings const& settings);
 
 // Adds an empty day behind the last row and moves the cursor there.
-void AppendRow(Editor& editor, prefs::Settings const& settings, platform::Dialogs& dialogs);
+void AppendRow(Editor& editor, settings::Settings const& settings, platform::Dialogs& dialogs);
 
 // Puts an empty day where the cursor is; the days from there on move down.
-void InsertRow(Editor& editor, prefs::Settings const& settings, platform::Dialogs& dialogs);
+void InsertRow(Editor& editor, settings::Settings const& settings, platform::Dialogs& dialogs);
 
 // Takes the row with the cursor out, if the user agrees.
-void DeleteRow(Editor& editor, prefs::Settings const& settings, platform::Dialogs& dialogs);
+void DeleteRow(Editor& editor, settings::Settings const& settings, platform::Dialogs& dialogs);
 
 // Tells what quote files look like.
 void ShowEditHelp(platform::Dialogs& dialogs);

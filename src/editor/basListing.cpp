@@ -58,7 +58,7 @@ void TurnPage(platform::Printer& printer, int page) {
 }
 
 void PrintListing(platform::Printer& printer, Editor const& editor, std::string_view quoteFileName,
-                  prefs::Settings const& settings) {
+                  settings::Settings const& settings) {
     ShownNumbers const shown(settings);
     platform::PrintLine(printer);
     PrintHeader(printer, editor, quoteFileName);
@@ -81,7 +81,7 @@ std::string DocumentName(std::string_view quoteFileName) {
 } // namespace
 
 std::optional<text::RunTimeError> PrintQuotes(Editor& editor, std::string_view quoteFileName,
-                                              prefs::Settings const& settings, platform::PrintQueue& queue,
+                                              settings::Settings const& settings, platform::PrintQueue& queue,
                                               platform::MousePointer& pointer) {
     platform::Hourglass const hourglass(pointer);
     return text::Trap([&] {

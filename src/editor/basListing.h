@@ -7,7 +7,7 @@
 #include "editor/Editor.h"
 #include "platform/MousePointer.h"
 #include "platform/Printer.h"
-#include "prefs/Settings.h"
+#include "settings/Settings.h"
 #include "text/RunTimeError.h"
 
 #include <optional>
@@ -22,7 +22,7 @@ inline constexpr int RowsPerPage = 50;
 // hourglass meanwhile. A fault, such as "Type mismatch" of a cell that is no number or "Printer error", ends
 // the listing, of which nothing is printed then, and is returned.
 [[nodiscard]] std::optional<text::RunTimeError> PrintQuotes(Editor& editor, std::string_view quoteFileName,
-                                                            prefs::Settings const& settings,
+                                                            settings::Settings const& settings,
                                                             platform::PrintQueue& queue,
                                                             platform::MousePointer& pointer);
 

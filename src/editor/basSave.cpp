@@ -28,7 +28,7 @@ void CopyRows(Editor& editor, std::int16_t count) {
 }
 
 std::string EditFileText(Editor const& editor, quotes::QuoteRecords const& master,
-                         prefs::Settings const& settings) {
+                         settings::Settings const& settings) {
     text::NumberFormat const priceFormat(settings.CurrencyFormat);
     text::NumberFormat const countFormat("######0");
     std::string text;
@@ -60,7 +60,7 @@ bool IsReadable(std::string_view cellText, text::NumberFormat const& format) {
 
 // The loader would refuse such a day, or read another price. Tells which row it is, with the cursor on the
 // cell.
-bool RequireReadablePrices(Spread& spread, prefs::Settings const& settings, platform::Dialogs& dialogs) {
+bool RequireReadablePrices(Spread& spread, settings::Settings const& settings, platform::Dialogs& dialogs) {
     text::NumberFormat const format(settings.CurrencyFormat);
     for (std::int16_t row = 1; row <= spread.RowCount(); ++row) {
         std::int16_t column = FirstNumberColumn;
@@ -79,7 +79,7 @@ bool RequireReadablePrices(Spread& spread, prefs::Settings const& settings, plat
     return true;
 }
 
-bool RequireGoodRows(Editor& editor, prefs::Settings const& settings, platform::Dialogs& dialogs) {
+bool RequireGoodRows(Editor& editor, settings::Settings const& settings, platform::Dialogs& dialogs) {
     return ValidateQuotes(editor.Grid, dialogs) && RequireReadablePrices(editor.Grid, settings, dialogs);
 }
 
@@ -90,20 +90,20 @@ void CopySpreadToArray(Editor& editor) {
 }
 
 bool SaveEditData(std::string const& fileName, Editor& editor, quotes::QuoteRecords const& master,
-                  prefs::Settings const& settings, platform::Files& files) {
+                  settings::Settings const& settings, platform::Files& files) {
     return !text::Trap([&] {
         CopyRows(editor, editor.EditCount);
         files.Replace(fileName, EditFileText(editor, master, settings));
     });
 }
 
-bool SaveEdits(Editor& editor, quotes::QuoteSeries const& series, prefs::Settings const& settings,
+bool SaveEdits(Editor& editor, quotes::QuoteSeries const& series, settings::Settings const& settings,
                platform::Files& files, platform::Dialogs& dialogs) {
     return RequireGoodRows(editor, settings, dialogs) &&
            SaveEditData(series.QuoteFileName, editor, series.Master, settings, files);
 }
 
-bool SaveEditsAs(Editor& editor, quotes::QuoteSeries& series, prefs::Settings const& settings,
+bool SaveEditsAs(Editor& editor, quotes::QuoteSeries& series, settings::Settings const& settings,
                  platform::Files& files, platform::Dialogs& dialogs) {
     std::string const name = quotes::AskQuoteFileName(series, dialogs);
     if (name.empty() || !quotes::RequireQuoteFileName(name, dialogs)) {

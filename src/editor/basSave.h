@@ -8,8 +8,8 @@
 #include "editor/Editor.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
-#include "prefs/Settings.h"
 #include "quotes/QuoteSeries.h"
+#include "settings/Settings.h"
 
 #include <string>
 
@@ -25,17 +25,17 @@ void CopySpreadToArray(Editor& editor);
 // the currency format spells prices in a way that would not read back, or when the file cannot be written:
 // then a file of that name is as it was.
 [[nodiscard]] bool SaveEditData(std::string const& fileName, Editor& editor,
-                                quotes::QuoteRecords const& master, prefs::Settings const& settings,
+                                quotes::QuoteRecords const& master, settings::Settings const& settings,
                                 platform::Files& files);
 
 // Checks the rows and writes them to the open file. Returns whether they were written. A price that the
 // currency format would spell as another number, or as 0, is told: the file would lose the day.
-bool SaveEdits(Editor& editor, quotes::QuoteSeries const& series, prefs::Settings const& settings,
+bool SaveEdits(Editor& editor, quotes::QuoteSeries const& series, settings::Settings const& settings,
                platform::Files& files, platform::Dialogs& dialogs);
 
 // Asks for a name, checks the rows and writes them under it, which becomes the open file's name when that
 // succeeds. Nothing else of the series changes. Returns whether the rows were written.
-bool SaveEditsAs(Editor& editor, quotes::QuoteSeries& series, prefs::Settings const& settings,
+bool SaveEditsAs(Editor& editor, quotes::QuoteSeries& series, settings::Settings const& settings,
                  platform::Files& files, platform::Dialogs& dialogs);
 
 } // namespace quorvex::editor

@@ -5,8 +5,8 @@
 #pragma once
 
 #include "editor/Spread.h"
-#include "prefs/Settings.h"
 #include "quotes/QuoteSeries.h"
+#include "settings/Settings.h"
 #include "text/basFormats.h"
 
 #include <array>
@@ -41,7 +41,7 @@ inline constexpr std::array<NumberColumn, 6> NumberColumns = {{
 
 // The formats in which the editor shows and prints numbers.
 struct ShownNumbers {
-    explicit ShownNumbers(prefs::Settings const& settings)
+    explicit ShownNumbers(settings::Settings const& settings)
         : Price(settings.CurrencyFormat),
           Count("#######0") {}
 

@@ -14,7 +14,7 @@
 #include "platform/qt/QtLauncher.h"
 #include "platform/qt/QtMousePointer.h"
 #include "platform/qt/QtPrintQueue.h"
-#include "prefs/basProfiles.h"
+#include "settings/basProfiles.h"
 #ifdef _WIN32
 #include "platform/windows/WindowsProfile.h"
 #include "platform/windows/WindowsRegistry.h"
@@ -56,7 +56,7 @@ int main(int argc, char** argv) {
         qt::EnterFolder(place.Folder);
     });
 
-    HostProfile profile(quorvex::prefs::ProfileFileName(place.Folder, place.ExecutableName), files);
+    HostProfile profile(quorvex::settings::ProfileFileName(place.Folder, place.ExecutableName), files);
     qt::QtPrintQueue printing([&] { return program->Settings.DataPath; },
                               [&](auto const& message) { qt::ShowMessageBox(*front, message); });
     qt::QtMousePointer pointer;

@@ -102,8 +102,8 @@ std::int16_t ReadQuotes(text::ByteSource& source, text::NumberFormat const& form
     return count;
 }
 
-std::int16_t LoadQuoteFile(QuoteSeries& series, prefs::Settings const& settings, platform::Files const& files,
-                           platform::Dialogs& dialogs) {
+std::int16_t LoadQuoteFile(QuoteSeries& series, settings::Settings const& settings,
+                           platform::Files const& files, platform::Dialogs& dialogs) {
     std::int16_t count = 0;
     bool const wasRead = platform::RunReported(dialogs, [&] {
         auto const source = files.OpenForInput(settings.DataPath + series.QuoteFileName);
@@ -148,7 +148,7 @@ std::string QuoteFileText(QuoteSeries const& series, text::NumberFormat const& f
     return text;
 }
 
-bool SaveQuoteFile(std::string const& fileName, QuoteSeries& series, prefs::Settings const& settings,
+bool SaveQuoteFile(std::string const& fileName, QuoteSeries& series, settings::Settings const& settings,
                    platform::Files& files, platform::Dialogs& dialogs) {
     bool const saved = platform::RunReported(dialogs, [&] {
         files.Replace(settings.DataPath + fileName,

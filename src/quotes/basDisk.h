@@ -6,8 +6,8 @@
 
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
-#include "prefs/Settings.h"
 #include "quotes/QuoteSeries.h"
+#include "settings/Settings.h"
 #include "text/basFields.h"
 #include "text/basFormats.h"
 
@@ -28,8 +28,8 @@ namespace quorvex::quotes {
 // rounded through the currency format. Returns the number of days, 25..500, or 0 when the file was refused:
 // then a message was shown and no file is open. A file that cannot be read returns 0 too, after its fault was
 // shown, and leaves the series as it was at that point.
-std::int16_t LoadQuoteFile(QuoteSeries& series, prefs::Settings const& settings, platform::Files const& files,
-                           platform::Dialogs& dialogs);
+std::int16_t LoadQuoteFile(QuoteSeries& series, settings::Settings const& settings,
+                           platform::Files const& files, platform::Dialogs& dialogs);
 
 // Puts the number behind the text in the form in which a quote file holds it. A quote file is the user's
 // data: raises "Type mismatch" when the format spells the number in a way that would not read back as the
@@ -41,7 +41,7 @@ void AppendReadableNumber(std::string& text, double value, text::NumberFormat co
 
 // Writes the working copy into the data folder under the name, which may be in use, and makes it the master
 // copy. Returns false after a fault was shown: then the series and any file of that name are as they were.
-bool SaveQuoteFile(std::string const& fileName, QuoteSeries& series, prefs::Settings const& settings,
+bool SaveQuoteFile(std::string const& fileName, QuoteSeries& series, settings::Settings const& settings,
                    platform::Files& files, platform::Dialogs& dialogs);
 
 } // namespace quorvex::quotes

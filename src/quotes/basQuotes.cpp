@@ -16,7 +16,7 @@ bool RequireQuotes(QuoteSeries const& series, platform::Dialogs& dialogs) {
     return series.HasQuotes();
 }
 
-void OpenQuoteFile(QuoteSeries& series, prefs::Settings const& settings, platform::Files const& files,
+void OpenQuoteFile(QuoteSeries& series, settings::Settings const& settings, platform::Files const& files,
                    platform::Dialogs& dialogs) {
     auto const names = files.List(settings.DataPath, QuoteFilePattern);
     if (names.empty()) {
@@ -55,7 +55,7 @@ bool RequireQuoteFileName(std::string_view name, platform::Dialogs& dialogs) {
     return false;
 }
 
-void SaveQuoteFileAs(QuoteSeries& series, prefs::Settings const& settings, platform::Files& files,
+void SaveQuoteFileAs(QuoteSeries& series, settings::Settings const& settings, platform::Files& files,
                      platform::Dialogs& dialogs) {
     std::string const name = AskQuoteFileName(series, dialogs);
     if (RequireQuoteFileName(name, dialogs) && SaveQuoteFile(name, series, settings, files, dialogs)) {

@@ -6,8 +6,8 @@
 
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
-#include "prefs/Settings.h"
 #include "quotes/QuoteSeries.h"
+#include "settings/Settings.h"
 
 #include <string>
 #include <string_view>
@@ -22,7 +22,7 @@ inline constexpr std::string_view QuoteFilePattern = "*.Txt";
 
 // Lets the user choose among the quote files of the data folder and loads the one chosen. Cancelling forgets
 // the name of the file that was open; a file that cannot be loaded leaves none open.
-void OpenQuoteFile(QuoteSeries& series, prefs::Settings const& settings, platform::Files const& files,
+void OpenQuoteFile(QuoteSeries& series, settings::Settings const& settings, platform::Files const& files,
                    platform::Dialogs& dialogs);
 
 // Closes the quote file. The records stay where they are; nothing uses them without a file name.
@@ -40,7 +40,7 @@ void CloseQuoteFile(QuoteSeries& series);
 [[nodiscard]] bool RequireQuoteFileName(std::string_view name, platform::Dialogs& dialogs);
 
 // Asks for a name and saves the working copy under it, which becomes the open file's name when that succeeds.
-void SaveQuoteFileAs(QuoteSeries& series, prefs::Settings const& settings, platform::Files& files,
+void SaveQuoteFileAs(QuoteSeries& series, settings::Settings const& settings, platform::Files& files,
                      platform::Dialogs& dialogs);
 
 } // namespace quorvex::quotes

@@ -4,7 +4,7 @@
 // The help documents tell of everything that the program offers.
 
 #include "app/MenuTable.h"
-#include "prefs/Settings.h"
+#include "settings/Settings.h"
 #include "support/HelpDocuments.h"
 
 #include <gmock/gmock.h>
@@ -34,8 +34,8 @@ TEST(IndexDocument, HasAnEntryForEveryMenuItem) {
 
 TEST(IndexDocument, NamesEverythingThatThePreferencesOffer) {
     std::string const text = tests::TextOf(tests::ReadHelp("Quorvex-Index.rtf"));
-    for (prefs::SettingRow const& row : prefs::SettingTable()) {
-        if (row.Member == &prefs::Settings::ChartType || row.Member == &prefs::Settings::DataSource) {
+    for (settings::SettingRow const& row : settings::SettingTable()) {
+        if (row.Member == &settings::Settings::ChartType || row.Member == &settings::Settings::DataSource) {
             for (auto const& offered : row.Offered) {
                 EXPECT_THAT(text, testing::HasSubstr(std::string(offered)));
             }
@@ -45,7 +45,7 @@ TEST(IndexDocument, NamesEverythingThatThePreferencesOffer) {
 
 TEST(ReadMeDocument, NamesEverySettingWithItsDefault) {
     std::string const text = tests::TextOf(tests::ReadHelp("Quorvex-ReadMe.rtf"));
-    for (prefs::SettingRow const& row : prefs::SettingTable()) {
+    for (settings::SettingRow const& row : settings::SettingTable()) {
         EXPECT_THAT(text, testing::HasSubstr(std::string(row.Key) + "\n"));
         EXPECT_THAT(text, testing::HasSubstr(std::string(row.Default)));
     }

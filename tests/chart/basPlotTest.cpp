@@ -41,7 +41,7 @@ public:
     }
 
     std::unique_ptr<quotes::QuoteSeries> series;
-    prefs::Settings settings = prefs::DefaultSettings("./");
+    settings::Settings settings = settings::DefaultSettings("./");
     quotes::PriceScale scale;
     cycles::QuoteCurve movingAverage;
 };

@@ -45,7 +45,7 @@ struct ChartPrint {
 
     platform::fake::RecordingPrintQueue Queue;
     std::unique_ptr<quotes::QuoteSeries> Series;
-    prefs::Settings Settings;
+    settings::Settings Settings;
 };
 
 // What was drawn, without the changes of colour.

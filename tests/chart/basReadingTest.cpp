@@ -67,7 +67,7 @@ public:
     }
 
     std::unique_ptr<quotes::QuoteSeries> Series = std::make_unique<quotes::QuoteSeries>();
-    prefs::Settings Settings = prefs::DefaultSettings("./");
+    settings::Settings Settings = settings::DefaultSettings("./");
     std::unique_ptr<cycles::CycleParameterSet> Set = std::make_unique<cycles::CycleParameterSet>();
     std::unique_ptr<cycles::CycleCurves> Curves = std::make_unique<cycles::CycleCurves>();
     ChartFaults Faults;

@@ -27,7 +27,7 @@ std::vector<std::string> LinesOf(std::string const& text) {
 // Thirty days that rise from 101 to 130 on a price axis of 100 to 130.
 std::unique_ptr<app::Program> RisingProgram() {
     auto program = std::make_unique<app::Program>();
-    program->Settings = prefs::DefaultSettings("./");
+    program->Settings = settings::DefaultSettings("./");
     program->Quotes = *tests::SeriesOf(tests::QuoteLines(30));
     program->PriceScale = {130, 100};
     return program;

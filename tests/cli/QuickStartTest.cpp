@@ -60,7 +60,7 @@ protected:
         }
     }
 
-    auxiliary::richtext::RichTextDocument document_ = ReadHelp("Quorvex-QuickStart.rtf");
+    richtext::RichTextDocument document_ = ReadHelp("Quorvex-QuickStart.rtf");
     std::string text_ = TextOf(document_);
 };
 

@@ -46,7 +46,7 @@ void ExpectLoads(std::string const& source, SourceLayout const& layout, double v
     ASSERT_THAT(result.Boxes, ElementsAre(InformationBox("Data file C:\\out.txt created successfully")));
     MemoryFiles files;
     ScriptedDialogs dialogs;
-    prefs::Settings const settings = prefs::DefaultSettings("C:\\");
+    settings::Settings const settings = settings::DefaultSettings("C:\\");
     auto const series = std::make_unique<quotes::QuoteSeries>();
     files.Contents["C:\\out.txt"] = result.Output.value();
     series->QuoteFileName = "out.txt";

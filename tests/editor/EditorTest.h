@@ -7,7 +7,7 @@
 #include "editor/Sheet.h"
 #include "platform/fake/MemoryFiles.h"
 #include "platform/fake/ScriptedDialogs.h"
-#include "prefs/Settings.h"
+#include "settings/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -40,7 +40,7 @@ protected:
     [[nodiscard]] bool IsQuiet() const;
 
     std::unique_ptr<quotes::QuoteSeries> series = std::make_unique<quotes::QuoteSeries>();
-    prefs::Settings settings = prefs::DefaultSettings("C:\\Quotes");
+    settings::Settings settings = settings::DefaultSettings("C:\\Quotes");
     platform::fake::MemoryFiles files;
     platform::fake::ScriptedDialogs dialogs;
     editor::Sheet sheet;

@@ -49,7 +49,7 @@ public:
 
 private:
     std::string path_;
-    prefs::Settings settings_ = prefs::DefaultSettings("./");
+    settings::Settings settings_ = settings::DefaultSettings("./");
     std::unique_ptr<quotes::QuoteSeries> series_ = SeriesOf(QuoteLines(Days));
     editor::Sheet sheet_;
     std::unique_ptr<editor::Editor> editor_ = std::make_unique<editor::Editor>(editor::Editor{sheet_, {}, 0});

@@ -41,7 +41,7 @@ protected:
 
     tests::TemporaryFolder folder;
     std::unique_ptr<QuoteSeries> series = std::make_unique<QuoteSeries>();
-    prefs::Settings settings = prefs::DefaultSettings(folder.Text());
+    settings::Settings settings = settings::DefaultSettings(folder.Text());
     platform::disk::DiskFiles disk;
     platform::fake::ScriptedDialogs dialogs;
 };

@@ -34,7 +34,7 @@ protected:
     bool Save(std::string const& name) { return SaveQuoteFile(name, *series, settings, files, dialogs); }
 
     std::unique_ptr<QuoteSeries> series = std::make_unique<QuoteSeries>();
-    prefs::Settings settings = prefs::DefaultSettings("C:\\Quotes");
+    settings::Settings settings = settings::DefaultSettings("C:\\Quotes");
     platform::fake::MemoryFiles files;
     platform::fake::ScriptedDialogs dialogs;
 };

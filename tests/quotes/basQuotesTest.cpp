@@ -32,7 +32,7 @@ protected:
     }
 
     std::unique_ptr<QuoteSeries> series = std::make_unique<QuoteSeries>();
-    prefs::Settings settings = prefs::DefaultSettings("C:\\Quotes");
+    settings::Settings settings = settings::DefaultSettings("C:\\Quotes");
     platform::fake::MemoryFiles files;
     platform::fake::ScriptedDialogs dialogs;
 };

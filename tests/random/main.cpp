@@ -15,10 +15,10 @@
 #include "platform/fake/RecordingPrinter.h"
 #include "platform/fake/RecordingWindow.h"
 #include "platform/qt/ProgramPlace.h"
-#include "prefs/basProfiles.h"
 #include "random/Journal.h"
 #include "random/RandomUser.h"
 #include "random/Watchdog.h"
+#include "settings/basProfiles.h"
 #include "support/QuoteTexts.h"
 #include "support/TemporaryFolder.h"
 #include "windows/WindowTest.h"
@@ -118,8 +118,8 @@ void UseWindows(Surroundings const& surroundings, platform::Files& files, Random
     while (!user.IsDone()) {
         auto const program = std::make_unique<app::Program>();
         platform::fake::RecordingPrintQueue printing;
-        platform::disk::DiskProfile profile(prefs::ProfileFileName(surroundings.ProgramFolder(), "Quorvex"),
-                                            files);
+        platform::disk::DiskProfile profile(
+            settings::ProfileFileName(surroundings.ProgramFolder(), "Quorvex"), files);
         app::ui::frmMain window(*program, surroundings.ProgramFolder(),
                                 {profile, files, launcher, registry, printing, printing});
         window.show();

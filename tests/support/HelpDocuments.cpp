@@ -3,7 +3,7 @@
 
 #include "support/HelpDocuments.h"
 
-#include "auxiliary/richtext/basRichText.h"
+#include "richtext/basRichText.h"
 
 #include <fstream>
 #include <iterator>
@@ -11,7 +11,7 @@
 
 namespace quorvex::tests {
 
-using namespace auxiliary::richtext;
+using namespace richtext;
 
 namespace {
 

@@ -4,7 +4,7 @@
 // The help documents under resources/help.
 #pragma once
 
-#include "auxiliary/richtext/RichText.h"
+#include "richtext/RichText.h"
 
 #include <array>
 #include <string>
@@ -20,27 +20,26 @@ inline constexpr std::array<std::string_view, 5> HelpFileNames = {
 // The bytes of the document.
 [[nodiscard]] std::string HelpFile(std::string_view name);
 
-[[nodiscard]] auxiliary::richtext::RichTextDocument ReadHelp(std::string_view name);
+[[nodiscard]] richtext::RichTextDocument ReadHelp(std::string_view name);
 
 // The paragraphs in reading order, those in the cells of tables too. They are part of the document.
-[[nodiscard]] std::vector<auxiliary::richtext::Paragraph const*>
-ParagraphsOf(auxiliary::richtext::RichTextDocument const& document);
+[[nodiscard]] std::vector<richtext::Paragraph const*>
+ParagraphsOf(richtext::RichTextDocument const& document);
 
 // The tables of the document's body. They are part of the document.
-[[nodiscard]] std::vector<auxiliary::richtext::Table const*>
-TablesOf(auxiliary::richtext::RichTextDocument const& document);
+[[nodiscard]] std::vector<richtext::Table const*> TablesOf(richtext::RichTextDocument const& document);
 
 // The text without pictures and markers.
-[[nodiscard]] std::string TextOf(auxiliary::richtext::Paragraph const& paragraph);
+[[nodiscard]] std::string TextOf(richtext::Paragraph const& paragraph);
 
 // The paragraphs of the cell, joined by blanks.
-[[nodiscard]] std::string TextOf(auxiliary::richtext::TableCell const& cell);
+[[nodiscard]] std::string TextOf(richtext::TableCell const& cell);
 
 // The paragraphs of the document, a line each.
-[[nodiscard]] std::string TextOf(auxiliary::richtext::RichTextDocument const& document);
+[[nodiscard]] std::string TextOf(richtext::RichTextDocument const& document);
 
 // The first run's style; that of no paragraph when there is no text.
-[[nodiscard]] auxiliary::richtext::CharacterStyle StyleOf(auxiliary::richtext::Paragraph const& paragraph);
+[[nodiscard]] richtext::CharacterStyle StyleOf(richtext::Paragraph const& paragraph);
 
 // One entry of the index: "Name (Place)" in bold, then its explanation. A message stands in quotation marks.
 struct IndexEntry {

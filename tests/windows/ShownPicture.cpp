@@ -3,7 +3,7 @@
 
 #include "windows/ShownPicture.h"
 
-#include "platform/qt/Painting.h"
+#include "platform/pictures/Painting.h"
 
 #include <QTest>
 #include <cmath>
@@ -13,7 +13,7 @@ namespace quorvex::tests {
 
 namespace {
 
-using platform::qt::TwipsPerPixel;
+using platform::pictures::TwipsPerPixel;
 
 constexpr double ColumnWidth = 30 * TwipsPerPixel;
 

@@ -4,7 +4,7 @@
 #include "app/ui/GridPanel.h"
 
 #include "app/ui/basPlacing.h"
-#include "platform/qt/QtTexts.h"
+#include "platform/pictures/QtTexts.h"
 
 #include <QKeyEvent>
 #include <cstddef>
@@ -13,8 +13,8 @@ namespace quorvex::app::ui {
 
 namespace {
 
-using platform::qt::FromQt;
-using platform::qt::ToQt;
+using platform::pictures::FromQt;
+using platform::pictures::ToQt;
 
 constexpr std::array<char const*, layout::GridRows> RowCaptions = {"", "Weight", "Period", "Shift", "Decay"};
 

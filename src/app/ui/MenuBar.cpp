@@ -3,7 +3,7 @@
 
 #include "app/ui/MenuBar.h"
 
-#include "platform/qt/QtTexts.h"
+#include "platform/pictures/QtTexts.h"
 
 #include <QHBoxLayout>
 #include <QMenu>
@@ -15,7 +15,7 @@ namespace quorvex::app::ui {
 
 namespace {
 
-using platform::qt::ToQt;
+using platform::pictures::ToQt;
 
 bool HasItems(MenuRow const& menu) {
     return std::ranges::any_of(MenuTable(), [&](MenuRow const& row) { return row.Parent == menu.Name; });

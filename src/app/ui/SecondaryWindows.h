@@ -19,19 +19,19 @@
 namespace quorvex::auxiliary::ui {
 class frmAbout;
 class frmHelp;
-class frmLegend;
 class frmProperties;
 } // namespace quorvex::auxiliary::ui
+
+namespace quorvex::chart::ui {
+class frmForecast;
+class frmLegend;
+} // namespace quorvex::chart::ui
 
 namespace quorvex::convert::ui {
 class frmConvertBarChart;
 class frmConvertCSI;
 class frmConvertCustom;
 } // namespace quorvex::convert::ui
-
-namespace quorvex::cycles::ui {
-class frmForecast;
-}
 
 namespace quorvex::editor::ui {
 class frmEdit;
@@ -75,9 +75,9 @@ private:
     QPointer<convert::ui::frmConvertCSI> convertCSI_;
     QPointer<convert::ui::frmConvertCustom> convertCustom_;
     QPointer<editor::ui::frmEdit> edit_;
-    QPointer<cycles::ui::frmForecast> forecast_;
+    QPointer<chart::ui::frmForecast> forecast_;
     QPointer<auxiliary::ui::frmHelp> help_;
-    QPointer<auxiliary::ui::frmLegend> legend_;
+    QPointer<chart::ui::frmLegend> legend_;
     QPointer<prefs::ui::frmPreferences> preferences_;
     QPointer<auxiliary::ui::frmProperties> properties_;
 };

@@ -3,7 +3,7 @@
 
 #include "app/ui/basPlacing.h"
 
-#include "platform/qt/Painting.h"
+#include "platform/pictures/Painting.h"
 
 #include <QPoint>
 #include <algorithm>
@@ -14,7 +14,7 @@ namespace quorvex::app::ui {
 namespace {
 
 int PixelOf(double twips) {
-    return static_cast<int>(std::lround(twips / platform::qt::TwipsPerPixel));
+    return static_cast<int>(std::lround(twips / platform::pictures::TwipsPerPixel));
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 
 #include "app/ui/basResources.h"
 
-#include "platform/qt/QtTexts.h"
+#include "platform/pictures/QtTexts.h"
 
 #include <QDir>
 #include <QFile>
@@ -24,7 +24,7 @@ void FillProgramFolder(std::string const& folder, platform::Files& files) {
         for (QString const& name : carried.entryList(QDir::Files)) {
             QFile file(carried.filePath(name));
             file.open(QIODevice::ReadOnly); // it is a part of the executable
-            files.Replace(folder + platform::qt::FromQt(name), file.readAll().toStdString());
+            files.Replace(folder + platform::pictures::FromQt(name), file.readAll().toStdString());
         }
     }
 }

@@ -7,9 +7,9 @@
 #include "app/layout/basLayout.h"
 #include "app/ui/MenuBar.h"
 #include "app/ui/basPlacing.h"
+#include "platform/pictures/QtTexts.h"
 #include "platform/qt/NominalFrame.h"
 #include "platform/qt/QtDialogs.h"
-#include "platform/qt/QtTexts.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -21,7 +21,7 @@ namespace quorvex::app::ui {
 
 namespace {
 
-using platform::qt::ToQt;
+using platform::pictures::ToQt;
 
 constexpr QSize InitialSize(1100, 800);
 

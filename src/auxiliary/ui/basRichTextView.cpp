@@ -4,8 +4,8 @@
 #include "auxiliary/ui/basRichTextView.h"
 
 #include "auxiliary/ui/RichTextPictures.h"
-#include "platform/qt/Painting.h"
-#include "platform/qt/QtTexts.h"
+#include "platform/pictures/Painting.h"
+#include "platform/pictures/QtTexts.h"
 
 #include <QFrame>
 #include <QImage>
@@ -19,8 +19,8 @@ namespace quorvex::auxiliary::ui {
 
 namespace {
 
-using platform::qt::ToQt;
-using platform::qt::TwipsPerPixel;
+using platform::pictures::ToQt;
+using platform::pictures::TwipsPerPixel;
 
 double Pixels(int twips) {
     return twips / TwipsPerPixel;
@@ -151,7 +151,7 @@ private:
         QTextTableCell shown = table.cellAt(row, cell.Column);
         QTextTableCellFormat format = shown.format().toTableCellFormat();
         if (cell.Shading) {
-            format.setBackground(platform::qt::ToQt(*cell.Shading));
+            format.setBackground(platform::pictures::ToQt(*cell.Shading));
         }
         shown.setFormat(format);
         QTextCursor cursor = shown.firstCursorPosition();
@@ -233,10 +233,10 @@ private:
                                             : QTextCharFormat::AlignSubScript);
         }
         if (style.Foreground) {
-            format.setForeground(platform::qt::ToQt(*style.Foreground));
+            format.setForeground(platform::pictures::ToQt(*style.Foreground));
         }
         if (style.Background) {
-            format.setBackground(platform::qt::ToQt(*style.Background));
+            format.setBackground(platform::pictures::ToQt(*style.Background));
         }
         return format;
     }

@@ -4,7 +4,7 @@
 // Rich-text documents as Qt shows them.
 #pragma once
 
-#include "auxiliary/richtext/RichText.h"
+#include "richtext/RichText.h"
 
 #include <QTextDocument>
 #include <memory>

@@ -3,8 +3,8 @@
 
 #include "auxiliary/ui/frmAbout.h"
 
+#include "platform/pictures/QtTexts.h"
 #include "platform/qt/QtDialogs.h"
-#include "platform/qt/QtTexts.h"
 #include "ui_frmAbout.h"
 
 #include <QIcon>
@@ -20,7 +20,7 @@ frmAbout::frmAbout(QWidget* parent, std::string_view version, std::function<void
     ui_->picIcon->setPixmap(
         QIcon(QStringLiteral(":/images/Quorvex.svg")).pixmap(QSize(IconSize, IconSize), devicePixelRatioF()));
     ui_->lblTitle->setText(QStringLiteral("Quorvex"));
-    ui_->lblVersion->setText(QStringLiteral("Version ") + platform::qt::ToQt(version));
+    ui_->lblVersion->setText(QStringLiteral("Version ") + platform::pictures::ToQt(version));
     ui_->lblDisclaimer->setText(QStringLiteral(
         "Quorvex is free software under the MIT licence and comes without warranty of any kind. "
         "Its cycles and forecasts describe past prices; they are no advice to buy or to sell. "

@@ -3,14 +3,14 @@
 
 #include "auxiliary/ui/frmHelp.h"
 
-#include "auxiliary/richtext/basRichText.h"
 #include "auxiliary/ui/basRichTextView.h"
 #include "platform/basFiles.h"
+#include "platform/pictures/Painting.h"
+#include "platform/pictures/QtTexts.h"
 #include "platform/qt/NominalFrame.h"
-#include "platform/qt/Painting.h"
 #include "platform/qt/QtDialogs.h"
-#include "platform/qt/QtTexts.h"
 #include "platform/qt/TextPrinting.h"
+#include "richtext/basRichText.h"
 #include "text/RunTimeError.h"
 #include "text/basFolders.h"
 
@@ -28,7 +28,7 @@ namespace quorvex::auxiliary::ui {
 
 namespace {
 
-using platform::qt::TwipsPerPixel;
+using platform::pictures::TwipsPerPixel;
 
 constexpr QSize InitialSize(760, 640);
 
@@ -45,7 +45,7 @@ QRect TextPlace(QSize client) {
 
 } // namespace
 
-frmHelp::frmHelp(QWidget* parent, std::string const& programFolder, prefs::Settings const& settings,
+frmHelp::frmHelp(QWidget* parent, std::string const& programFolder, settings::Settings const& settings,
                  platform::Files const& files, platform::Dialogs& dialogs)
     : QDialog(parent),
       programFolder_(programFolder),

@@ -5,7 +5,7 @@
 
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
-#include "prefs/Settings.h"
+#include "settings/Settings.h"
 
 #include <QDialog>
 #include <QTextEdit>
@@ -23,7 +23,7 @@ class frmHelp final : public QDialog {
 
 public:
     // All must outlive the window.
-    frmHelp(QWidget* parent, std::string const& programFolder, prefs::Settings const& settings,
+    frmHelp(QWidget* parent, std::string const& programFolder, settings::Settings const& settings,
             platform::Files const& files, platform::Dialogs& dialogs);
 
     // Shows the document of this name and waits until the window is closed.
@@ -40,7 +40,7 @@ private:
     void Print();
 
     std::string const& programFolder_;
-    prefs::Settings const& settings_;
+    settings::Settings const& settings_;
     platform::Files const& files_;
     platform::Dialogs& dialogs_;
     std::string helpFileName_;

@@ -5,8 +5,8 @@
 
 #include "auxiliary/basProperties.h"
 #include "platform/basMessages.h"
+#include "platform/pictures/QtTexts.h"
 #include "platform/qt/QtDialogs.h"
-#include "platform/qt/QtTexts.h"
 #include "ui_frmProperties.h"
 
 #include <QEvent>
@@ -15,7 +15,7 @@
 namespace quorvex::auxiliary::ui {
 
 frmProperties::frmProperties(QWidget* parent, quotes::QuoteSeries const& series,
-                             prefs::Settings const& settings, platform::Dialogs& dialogs)
+                             settings::Settings const& settings, platform::Dialogs& dialogs)
     : QDialog(parent),
       series_(series),
       settings_(settings),
@@ -43,7 +43,8 @@ void frmProperties::ShowFigures() {
     std::vector<PropertyCaption> captions;
     auto const fault = text::Trap([&] { captions = DescribeQuotes(series_, settings_.CurrencyFormat); });
     for (PropertyCaption const& caption : captions) {
-        findChild<QLabel*>(platform::qt::ToQt(caption.Label))->setText(platform::qt::ToQt(caption.Caption));
+        findChild<QLabel*>(platform::pictures::ToQt(caption.Label))
+            ->setText(platform::pictures::ToQt(caption.Caption));
     }
     // Closing the message activates this window once more: once is enough.
     if (fault && !std::exchange(isFaultShown_, true)) {

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "platform/Dialogs.h"
-#include "prefs/Settings.h"
 #include "quotes/QuoteSeries.h"
+#include "settings/Settings.h"
 
 #include <QDialog>
 #include <memory>
@@ -22,7 +22,7 @@ class frmProperties final : public QDialog {
 
 public:
     // All must outlive the window.
-    frmProperties(QWidget* parent, quotes::QuoteSeries const& series, prefs::Settings const& settings,
+    frmProperties(QWidget* parent, quotes::QuoteSeries const& series, settings::Settings const& settings,
                   platform::Dialogs& dialogs);
     ~frmProperties() override;
 
@@ -36,7 +36,7 @@ private:
     void ShowFigures();
 
     quotes::QuoteSeries const& series_;
-    prefs::Settings const& settings_;
+    settings::Settings const& settings_;
     platform::Dialogs& dialogs_;
     bool isFaultShown_ = false;
     std::unique_ptr<Ui::frmProperties> ui_;

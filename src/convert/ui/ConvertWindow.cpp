@@ -3,8 +3,8 @@
 
 #include "convert/ui/ConvertWindow.h"
 
+#include "platform/pictures/QtTexts.h"
 #include "platform/qt/QtDialogs.h"
-#include "platform/qt/QtTexts.h"
 #include "ui_ConvertWindow.h"
 
 #include <QMenuBar>
@@ -12,9 +12,9 @@
 
 namespace quorvex::convert::ui {
 
-using platform::qt::FromQt;
+using platform::pictures::FromQt;
+using platform::pictures::ToQt;
 using platform::qt::RunGuarded;
-using platform::qt::ToQt;
 
 ConvertWindow::ConvertWindow(QWidget* parent, ConverterTexts const& texts, platform::Files& files,
                              platform::Dialogs& dialogs, platform::PrintQueue& printing)

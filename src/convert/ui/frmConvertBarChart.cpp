@@ -3,7 +3,7 @@
 
 #include "convert/ui/frmConvertBarChart.h"
 
-#include "platform/qt/QtTexts.h"
+#include "platform/pictures/QtTexts.h"
 
 #include <QGroupBox>
 #include <QRadioButton>
@@ -16,7 +16,7 @@ namespace quorvex::convert::ui {
 namespace {
 
 QRadioButton* MakeButton(BarchartOption const& option, QWidget& frame) {
-    auto* button = new QRadioButton(platform::qt::ToQt(option.Caption), &frame);
+    auto* button = new QRadioButton(platform::pictures::ToQt(option.Caption), &frame);
     button->setObjectName(QStringLiteral("optFormat_%1").arg(QLatin1Char(option.Letter)));
     button->setAccessibleName(button->text().simplified());
     button->setFont(FixedPitchFont());

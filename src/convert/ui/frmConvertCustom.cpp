@@ -3,8 +3,8 @@
 
 #include "convert/ui/frmConvertCustom.h"
 
+#include "platform/pictures/QtTexts.h"
 #include "platform/qt/QtDialogs.h"
-#include "platform/qt/QtTexts.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -18,8 +18,8 @@ namespace quorvex::convert::ui {
 
 namespace {
 
-using platform::qt::FromQt;
-using platform::qt::ToQt;
+using platform::pictures::FromQt;
+using platform::pictures::ToQt;
 
 // A list that lets one of the texts be chosen or another be typed, and the label that names it.
 QComboBox* MakeList(QString const& name, QLabel& label, std::span<std::string_view const> offers,

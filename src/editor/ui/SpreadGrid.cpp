@@ -4,9 +4,9 @@
 #include "editor/ui/SpreadGrid.h"
 
 #include "editor/basBlocks.h"
-#include "platform/qt/Painting.h"
+#include "platform/pictures/Painting.h"
+#include "platform/pictures/QtTexts.h"
 #include "platform/qt/QtDialogs.h"
-#include "platform/qt/QtTexts.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -19,7 +19,7 @@ namespace quorvex::editor::ui {
 
 namespace {
 
-using platform::qt::TwipsPerPixel;
+using platform::pictures::TwipsPerPixel;
 
 int PixelsOf(double twips) {
     return std::max(0, static_cast<int>(std::lround(twips / TwipsPerPixel)));
@@ -156,7 +156,7 @@ bool SpreadGrid::WorkOnBlock(QKeyEvent const& event) {
 }
 
 void SpreadGrid::Copy(Block const& block) {
-    QGuiApplication::clipboard()->setText(platform::qt::ToQt(BlockText(*this, block)));
+    QGuiApplication::clipboard()->setText(platform::pictures::ToQt(BlockText(*this, block)));
 }
 
 void SpreadGrid::Clear(Block const& block) {
@@ -165,7 +165,8 @@ void SpreadGrid::Clear(Block const& block) {
 }
 
 void SpreadGrid::Paste(Block const& block) {
-    bool const hasAll = PasteText(sheet_, block, platform::qt::FromQt(QGuiApplication::clipboard()->text()));
+    bool const hasAll =
+        PasteText(sheet_, block, platform::pictures::FromQt(QGuiApplication::clipboard()->text()));
     TellChanged();
     if (!hasAll) {
         Q_EMIT CellsLeftOut();

@@ -4,14 +4,14 @@
 #include "editor/ui/SpreadModel.h"
 
 #include "editor/basSpread.h"
-#include "platform/qt/Painting.h"
-#include "platform/qt/QtTexts.h"
+#include "platform/pictures/Painting.h"
+#include "platform/pictures/QtTexts.h"
 
 namespace quorvex::editor::ui {
 
 namespace {
 
-using platform::qt::ToQt;
+using platform::pictures::ToQt;
 
 // Views count rows and columns from 0, the sheet from 1.
 std::int16_t SheetNumber(int section) {
@@ -79,7 +79,7 @@ bool SpreadModel::setData(QModelIndex const& index, QVariant const& value, int r
         return false;
     }
     PutText(sheet_, SheetNumber(index.row()), SheetNumber(index.column()),
-            platform::qt::FromQt(value.toString()));
+            platform::pictures::FromQt(value.toString()));
     Q_EMIT dataChanged(index, index);
     return true;
 }

@@ -7,9 +7,9 @@
 #include "editor/basListing.h"
 #include "editor/basSave.h"
 #include "platform/basMessages.h"
+#include "platform/pictures/QtTexts.h"
 #include "platform/qt/NominalFrame.h"
 #include "platform/qt/QtDialogs.h"
-#include "platform/qt/QtTexts.h"
 
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -32,7 +32,7 @@ QMenu& AddMenu(QMenuBar& bar, char const* name, char const* caption) {
 
 } // namespace
 
-frmEdit::frmEdit(QWidget* parent, quotes::QuoteSeries& series, prefs::Settings const& settings,
+frmEdit::frmEdit(QWidget* parent, quotes::QuoteSeries& series, settings::Settings const& settings,
                  platform::Files& files, platform::Dialogs& dialogs, platform::PrintQueue& printer,
                  platform::MousePointer& pointer)
     : QDialog(parent),
@@ -126,7 +126,7 @@ void frmEdit::RunModal() {
 void frmEdit::LoadQuotes() {
     PlaceGrid(); // the width of the columns follows from its width
     OpenEditor(*editor_, series_);
-    setWindowTitle(platform::qt::ToQt(EditorCaption(series_)));
+    setWindowTitle(platform::pictures::ToQt(EditorCaption(series_)));
     spread_->MoveCursor(spread_->RowCount() > 0 ? 1 : 0, 1);
     Activate();
 }

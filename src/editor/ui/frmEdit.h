@@ -9,8 +9,8 @@
 #include "platform/Files.h"
 #include "platform/MousePointer.h"
 #include "platform/Printer.h"
-#include "prefs/Settings.h"
 #include "quotes/QuoteSeries.h"
+#include "settings/Settings.h"
 
 #include <QDialog>
 #include <functional>
@@ -28,7 +28,7 @@ class frmEdit final : public QDialog {
 
 public:
     // Of the series only the file's name is ever changed, by Save As. All must outlive the window.
-    frmEdit(QWidget* parent, quotes::QuoteSeries& series, prefs::Settings const& settings,
+    frmEdit(QWidget* parent, quotes::QuoteSeries& series, settings::Settings const& settings,
             platform::Files& files, platform::Dialogs& dialogs, platform::PrintQueue& printer,
             platform::MousePointer& pointer);
     ~frmEdit() override;
@@ -60,7 +60,7 @@ private:
     void Print();
 
     quotes::QuoteSeries& series_;
-    prefs::Settings const& settings_;
+    settings::Settings const& settings_;
     platform::Files& files_;
     platform::Dialogs& dialogs_;
     platform::PrintQueue& printer_;

@@ -3,8 +3,8 @@
 
 #include "platform/qt/FileChooser.h"
 
+#include "platform/pictures/QtTexts.h"
 #include "platform/qt/QtDialogs.h"
-#include "platform/qt/QtTexts.h"
 #include "ui_FileChooser.h"
 
 #include <QPushButton>
@@ -38,7 +38,7 @@ std::optional<std::string> FileChooser::Choose(std::span<std::string const> name
 void FileChooser::ListNames(std::span<std::string const> names) {
     ui_->lstFiles->clear();
     for (std::string const& name : names) {
-        auto* item = new QListWidgetItem(ToQt(name), ui_->lstFiles);
+        auto* item = new QListWidgetItem(pictures::ToQt(name), ui_->lstFiles);
         // A name that is no good Unicode comes back as the bytes that it is.
         item->setData(Qt::UserRole, QByteArray::fromStdString(name));
     }

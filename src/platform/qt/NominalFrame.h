@@ -5,7 +5,7 @@
 // is, a frame of one size.
 #pragma once
 
-#include "platform/qt/Painting.h"
+#include "platform/pictures/Painting.h"
 
 #include <QSize>
 
@@ -17,11 +17,11 @@ inline constexpr double NominalFrameHeight = 690;
 
 // In twips, of the window whose client area below the menu has this size in pixels.
 [[nodiscard]] inline double OuterWidth(QSize client) {
-    return client.width() * TwipsPerPixel + NominalFrameWidth;
+    return client.width() * pictures::TwipsPerPixel + NominalFrameWidth;
 }
 
 [[nodiscard]] inline double OuterHeight(QSize client) {
-    return client.height() * TwipsPerPixel + NominalFrameHeight;
+    return client.height() * pictures::TwipsPerPixel + NominalFrameHeight;
 }
 
 } // namespace quorvex::platform::qt

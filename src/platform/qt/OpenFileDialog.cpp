@@ -3,8 +3,8 @@
 
 #include "platform/qt/OpenFileDialog.h"
 
+#include "platform/pictures/QtTexts.h"
 #include "platform/qt/QtDialogs.h"
-#include "platform/qt/QtTexts.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -15,14 +15,14 @@ namespace quorvex::platform::qt {
 namespace {
 
 QString StartFolder(std::string_view folder) {
-    QDir const wanted(ToQt(folder));
+    QDir const wanted(pictures::ToQt(folder));
     return wanted.isAbsolute() && wanted.exists() ? wanted.path() : QDir::homePath();
 }
 
 // Qt reads the patterns from the descriptions, which name them.
 QStringList DescriptionsOf(std::string_view filter) {
     QStringList descriptions;
-    QStringList const parts = ToQt(filter).split(u'|');
+    QStringList const parts = pictures::ToQt(filter).split(u'|');
     for (qsizetype index = 0; index < parts.size(); index += 2) {
         descriptions.append(parts[index]);
     }
@@ -38,11 +38,11 @@ std::string AskForFile(QWidget& window, FileQuestion const& question) {
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setDirectory(StartFolder(question.Folder));
     dialog.setNameFilters(DescriptionsOf(question.Filter));
-    dialog.selectFile(ToQt(question.Name));
+    dialog.selectFile(pictures::ToQt(question.Name));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};
     }
-    return FromQt(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
+    return pictures::FromQt(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
 }
 
 } // namespace quorvex::platform::qt

@@ -4,9 +4,9 @@
 #include "platform/qt/PictureBox.h"
 
 #include "platform/basMessages.h"
-#include "platform/qt/Painting.h"
-#include "platform/qt/QtPictureEncoder.h"
-#include "platform/qt/QtTexts.h"
+#include "platform/pictures/Painting.h"
+#include "platform/pictures/QtPictureEncoder.h"
+#include "platform/pictures/QtTexts.h"
 
 #include <QAccessibleWidget>
 #include <QClipboard>
@@ -76,12 +76,12 @@ void PictureBox::Rasterise() {
         picture_ = QImage(pixels, QImage::Format_RGB32);
     }
     picture_.setDevicePixelRatio(1);
-    QSizeF const drawn = QSizeF(drawing_.Width(), drawing_.Height()) * (ratio / TwipsPerPixel);
+    QSizeF const drawn = QSizeF(drawing_.Width(), drawing_.Height()) * (ratio / pictures::TwipsPerPixel);
     if (drawn.width() < pixels.width() || drawn.height() < pixels.height()) {
         picture_.fill(Qt::white); // the drawing is white as far as it reaches
     }
     QPainter painter(&picture_);
-    PaintDrawing(painter, drawing_, {ratio / TwipsPerPixel, Medium::Pixels});
+    pictures::PaintDrawing(painter, drawing_, {ratio / pictures::TwipsPerPixel, pictures::Medium::Pixels});
     painter.end();
     picture_.setDevicePixelRatio(ratio);
 }
@@ -90,7 +90,7 @@ bool PictureBox::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
         auto const* help = static_cast<QHelpEvent*>(event);
         int const column = readings_ != nullptr && readings_->Columns() > 0
-                               ? readings_->ColumnAt(help->pos().x() * TwipsPerPixel)
+                               ? readings_->ColumnAt(help->pos().x() * pictures::TwipsPerPixel)
                                : 0;
         ShowReading(column, help->globalPos());
         return true;
@@ -109,10 +109,12 @@ void PictureBox::paintEvent(QPaintEvent*) {
         PaintCursor(painter);
     } else {
         painter.setClipRect(rect());
-        PaintDrawing(painter, drawing_,
-                     {1 / TwipsPerPixel, Medium::Vectors}); // a page has a resolution of its own
+        pictures::PaintDrawing(
+            painter, drawing_,
+            {1 / pictures::TwipsPerPixel, pictures::Medium::Vectors}); // a page has a resolution of its own
     }
-    painter.setPen(QPen(hasFocus() ? ToQt(CursorColour) : ToQt(BorderColour), 1));
+    painter.setPen(
+        QPen(hasFocus() ? pictures::ToQt(CursorColour) : pictures::ToQt(pictures::BorderColour), 1));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
@@ -120,13 +122,13 @@ void PictureBox::PaintCursor(QPainter& painter) const {
     if (cursor_ == 0 || !hasFocus() || readings_ == nullptr || cursor_ > readings_->Columns()) {
         return;
     }
-    int const x = static_cast<int>(std::floor(readings_->PlaceOf(cursor_) / TwipsPerPixel));
-    painter.setPen(QPen(ToQt(CursorColour), 1, Qt::DotLine));
+    int const x = static_cast<int>(std::floor(readings_->PlaceOf(cursor_) / pictures::TwipsPerPixel));
+    painter.setPen(QPen(pictures::ToQt(CursorColour), 1, Qt::DotLine));
     painter.drawLine(x, 0, x, height());
 }
 
 void PictureBox::ShowReading(int column, QPoint place) {
-    QString const text = column > 0 ? ToQt(readings_->Describe(column)) : QString();
+    QString const text = column > 0 ? pictures::ToQt(readings_->Describe(column)) : QString();
     if (text.isEmpty()) {
         QToolTip::hideText();
     } else {
@@ -136,7 +138,7 @@ void PictureBox::ShowReading(int column, QPoint place) {
 
 void PictureBox::MoveCursor(int column) {
     cursor_ = std::clamp(column, 1, readings_->Columns());
-    int const x = static_cast<int>(readings_->PlaceOf(cursor_) / TwipsPerPixel);
+    int const x = static_cast<int>(readings_->PlaceOf(cursor_) / pictures::TwipsPerPixel);
     ShowReading(cursor_, mapToGlobal(QPoint(x, height() / 2)));
     update();
 }
@@ -211,11 +213,11 @@ void PictureBox::SaveImageAs() {
     if (dialog.exec() != QDialog::Accepted) {
         return;
     }
-    std::string const path = FromQt(dialog.selectedFiles().constFirst());
-    auto const kindOfFilter = PictureKindOf(FromQt(u'.' + dialog.defaultSuffix()));
+    std::string const path = pictures::FromQt(dialog.selectedFiles().constFirst());
+    auto const kindOfFilter = PictureKindOf(pictures::FromQt(u'.' + dialog.defaultSuffix()));
     PictureKind const kind = PictureKindOf(path).value_or(kindOfFilter.value_or(PictureKind::Png));
     std::array<PlacedDrawing, 1> const drawings = {{{0, 0, &drawing_}}};
-    QtPictureEncoder encoder;
+    pictures::QtPictureEncoder encoder;
     RunReported(*dialogs_, [&] {
         files_->Replace(path, encoder.Encode({drawing_.Width(), drawing_.Height(), drawings}, kind));
     });

@@ -3,7 +3,7 @@
 
 #include "platform/qt/ProgramPlace.h"
 
-#include "platform/qt/QtTexts.h"
+#include "platform/pictures/QtTexts.h"
 #include "text/RunTimeError.h"
 #include "text/basFolders.h"
 
@@ -24,13 +24,13 @@ bool CanBeWritten(QString const& folder) {
 }
 
 std::string FolderText(QString const& folder) {
-    return text::EndWithSeparator(FromQt(QDir::toNativeSeparators(folder)));
+    return text::EndWithSeparator(pictures::FromQt(QDir::toNativeSeparators(folder)));
 }
 
 ProgramPlace PlaceOf(QFileInfo const& executable) {
     bool const hasExtension = executable.suffix().compare(QStringLiteral("exe"), Qt::CaseInsensitive) == 0;
     return {FolderText(executable.absolutePath()),
-            FromQt(hasExtension ? executable.completeBaseName() : executable.fileName())};
+            pictures::FromQt(hasExtension ? executable.completeBaseName() : executable.fileName())};
 }
 
 void Require(bool isDone) {
@@ -56,16 +56,16 @@ ProgramPlace ExecutablePlace() {
 
 ProgramPlace FindProgramPlace(FillFolder const& fill) {
     QString const dataFolder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    return PlaceOf(FromQt(QCoreApplication::applicationFilePath()),
-                   FromQt(dataFolder + QStringLiteral("/Quorvex")), fill);
+    return PlaceOf(pictures::FromQt(QCoreApplication::applicationFilePath()),
+                   pictures::FromQt(dataFolder + QStringLiteral("/Quorvex")), fill);
 }
 
 ProgramPlace PlaceOf(std::string const& executablePath, std::string const& ownFolder,
                      FillFolder const& fill) {
-    QFileInfo const executable(ToQt(executablePath));
+    QFileInfo const executable(pictures::ToQt(executablePath));
     ProgramPlace place = PlaceOf(executable);
     if (!CanBeWritten(executable.absolutePath())) {
-        QDir const own(ToQt(ownFolder));
+        QDir const own(pictures::ToQt(ownFolder));
         if (!own.exists()) {
             MakeFolder(own.absolutePath(), fill);
         }
@@ -75,7 +75,7 @@ ProgramPlace PlaceOf(std::string const& executablePath, std::string const& ownFo
 }
 
 void EnterFolder(std::string const& folder) {
-    Require(QDir::setCurrent(ToQt(folder)));
+    Require(QDir::setCurrent(pictures::ToQt(folder)));
 }
 
 } // namespace quorvex::platform::qt

@@ -4,8 +4,8 @@
 #include "platform/qt/QtDialogs.h"
 
 #include "platform/basMessages.h"
-#include "platform/qt/HeadlessApplication.h"
-#include "platform/qt/QtTexts.h"
+#include "platform/pictures/HeadlessApplication.h"
+#include "platform/pictures/QtTexts.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -113,9 +113,9 @@ QWidget* TopmostOf(QWidget& window) {
 Answer ShowMessageBox(QWidget& window, Message const& message) {
     QMessageBox box(TopmostOf(window));
     box.setObjectName(QStringLiteral("MessageBox"));
-    box.setWindowTitle(ToQt(message.Title));
+    box.setWindowTitle(pictures::ToQt(message.Title));
     box.setTextFormat(Qt::PlainText);
-    box.setText(ToQt(message.Text));
+    box.setText(pictures::ToQt(message.Text));
     box.setIcon(IconOf(message.Shown));
     OfferButtons(box, message.Offered);
     LeaveRoomForTitle(box);
@@ -127,15 +127,15 @@ std::string AskInputBox(QWidget& window, Question const& question) {
     QInputDialog box(TopmostOf(window));
     box.setObjectName(QStringLiteral("InputBox"));
     box.setInputMode(QInputDialog::TextInput);
-    box.setWindowTitle(ToQt(question.Title));
-    box.setLabelText(ToQt(question.Prompt));
-    box.setTextValue(ToQt(question.Default));
+    box.setWindowTitle(pictures::ToQt(question.Title));
+    box.setLabelText(pictures::ToQt(question.Prompt));
+    box.setTextValue(pictures::ToQt(question.Default));
     constexpr QSize UsualSize(360, 0); // names are long
     box.resize(box.sizeHint().expandedTo(UsualSize));
     if (auto* edit = box.findChild<QLineEdit*>()) {
         edit->setAccessibleName(box.labelText());
     }
-    return box.exec() == QDialog::Accepted ? FromQt(box.textValue()) : std::string();
+    return box.exec() == QDialog::Accepted ? pictures::FromQt(box.textValue()) : std::string();
 }
 
 bool RunGuarded(QWidget& window, bool isShown, std::function<void()> const& routine) {
@@ -168,7 +168,7 @@ void CloseMenus() {
 
 void SetProgramFont() {
     constexpr int PointSize = 9;
-    UseStandInFonts();
+    pictures::UseStandInFonts();
     QApplication::setFont(QFont(QStringLiteral("Arial"), PointSize));
 }
 

@@ -3,7 +3,7 @@
 
 #include "platform/qt/QtLauncher.h"
 
-#include "platform/qt/QtTexts.h"
+#include "platform/pictures/QtTexts.h"
 
 #include <QProcess>
 #include <QStandardPaths>
@@ -21,7 +21,7 @@ struct ProgramCall {
 // What stands for the program on this system, the best first.
 std::vector<ProgramCall> CallsOf(std::string_view program) {
 #if defined(Q_OS_WIN)
-    return {{ToQt(program), {}}};
+    return {{pictures::ToQt(program), {}}};
 #elif defined(Q_OS_MACOS)
     if (program == ControlPanel) {
         return {{QStringLiteral("open"),
@@ -35,7 +35,7 @@ std::vector<ProgramCall> CallsOf(std::string_view program) {
                 {QStringLiteral("system-config-printer"), {}}};
     }
 #endif
-    return {{ToQt(program), {}}};
+    return {{pictures::ToQt(program), {}}};
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 
 #include "platform/qt/QtPrintQueue.h"
 
-#include "platform/qt/QtPrinter.h"
+#include "platform/pictures/QtPrinter.h"
 
 #include <utility>
 
@@ -14,7 +14,8 @@ QtPrintQueue::QtPrintQueue(std::function<std::string()> folder, ShowMessage show
       show_(std::move(show)) {}
 
 std::unique_ptr<Printer> QtPrintQueue::Start(std::string_view documentName) {
-    return std::make_unique<QtPrinter>(StartSystemJob(documentName, folder_(), PdfPage(), show_));
+    return std::make_unique<pictures::QtPrinter>(
+        StartSystemJob(documentName, folder_(), pictures::PdfPage(), show_));
 }
 
 } // namespace quorvex::platform::qt

@@ -4,7 +4,7 @@
 #include "platform/qt/SystemJob.h"
 
 #include "platform/basMessages.h"
-#include "platform/qt/QtTexts.h"
+#include "platform/pictures/QtTexts.h"
 
 #include <QDir>
 #include <QFile>
@@ -20,13 +20,13 @@ namespace {
 // Only ever makes a file, and leaves none that is not whole.
 void WriteNewFile(QString const& path, QByteArray const& content) {
     QFile file(path);
-    RequirePrinted(file.open(QIODevice::WriteOnly | QIODevice::NewOnly));
+    pictures::RequirePrinted(file.open(QIODevice::WriteOnly | QIODevice::NewOnly));
     bool const isWritten = file.write(content) == content.size() && file.flush();
     file.close();
     if (!isWritten) {
         file.remove();
     }
-    RequirePrinted(isWritten);
+    pictures::RequirePrinted(isWritten);
 }
 
 } // namespace
@@ -36,37 +36,38 @@ bool HasPrinter() {
 }
 
 PrinterJob::PrinterJob(std::string_view documentName) : printer_(QPrinter::HighResolution) {
-    printer_.setDocName(ToQt(documentName));
+    printer_.setDocName(pictures::ToQt(documentName));
 }
 
 void PrinterJob::Finish() {
-    RequirePrinted(printer_.printerState() != QPrinter::Error);
+    pictures::RequirePrinted(printer_.printerState() != QPrinter::Error);
 }
 
-std::unique_ptr<PrintJob> StartSystemJob(std::string_view documentName, std::string_view folder,
-                                         PdfPage const& page, ShowMessage show) {
+std::unique_ptr<pictures::PrintJob> StartSystemJob(std::string_view documentName, std::string_view folder,
+                                                   pictures::PdfPage const& page, ShowMessage show) {
     if (HasPrinter()) {
         return std::make_unique<PrinterJob>(documentName);
     }
     auto save = [name = std::string(documentName), folder = std::string(folder),
                  show = std::move(show)](QByteArray const& pdf) {
         std::string const path = NewPdfPath(folder, name);
-        WriteNewFile(ToQt(path), pdf);
+        WriteNewFile(pictures::ToQt(path), pdf);
         show({"No printer is installed. The page was saved as\n" +
-                  FromQt(QDir::toNativeSeparators(ToQt(path))),
+                  pictures::FromQt(QDir::toNativeSeparators(pictures::ToQt(path))),
               std::string(ApplicationTitle), Icon::Information});
     };
-    return std::make_unique<PdfJob>(documentName, page, std::move(save));
+    return std::make_unique<pictures::PdfJob>(documentName, page, std::move(save));
 }
 
 std::string NewPdfPath(std::string_view folder, std::string_view documentName) {
     static QRegularExpression const notInFileNames(QStringLiteral(R"([<>:"/\\|?*\x00-\x1f])"));
-    QString const start = ToQt(folder).replace(u'\\', u'/') + ToQt(documentName).remove(notInFileNames);
+    QString const start =
+        pictures::ToQt(folder).replace(u'\\', u'/') + pictures::ToQt(documentName).remove(notInFileNames);
     QString path = start + QStringLiteral(".pdf");
     for (int copy = 2; QFileInfo::exists(path); ++copy) {
         path = QStringLiteral("%1 (%2).pdf").arg(start).arg(copy);
     }
-    return FromQt(path);
+    return pictures::FromQt(path);
 }
 
 } // namespace quorvex::platform::qt

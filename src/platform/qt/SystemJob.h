@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/Dialogs.h"
-#include "platform/qt/PdfJob.h"
+#include "platform/pictures/PdfJob.h"
 
 #include <QPrinter>
 #include <functional>
@@ -19,7 +19,7 @@ using ShowMessage = std::function<void(Message const&)>;
 [[nodiscard]] bool HasPrinter();
 
 // A job for the default printer, or another one that the user chooses before the first page.
-class PrinterJob final : public PrintJob {
+class PrinterJob final : public pictures::PrintJob {
 public:
     explicit PrinterJob(std::string_view documentName);
 
@@ -34,8 +34,10 @@ private:
 // Starts a job for the default printer. Where no printer is installed, finishing the job saves it as a PDF
 // file of such pages named after the document in the folder, never over an existing one, and a message names
 // it.
-[[nodiscard]] std::unique_ptr<PrintJob> StartSystemJob(std::string_view documentName, std::string_view folder,
-                                                       PdfPage const& page, ShowMessage show);
+[[nodiscard]] std::unique_ptr<pictures::PrintJob> StartSystemJob(std::string_view documentName,
+                                                                 std::string_view folder,
+                                                                 pictures::PdfPage const& page,
+                                                                 ShowMessage show);
 
 // A path in the folder, which ends with a separator, for a PDF file named after the document, such that no
 // file has it yet. What no file name can hold is left out.

@@ -49,14 +49,14 @@ public:
 
     void Paint() {
         QPainter painter;
-        RequirePrinted(painter.begin(&paper_));
+        pictures::RequirePrinted(painter.begin(&paper_));
         painter.scale(paper_.logicalDpiX() / screenDpi_, paper_.logicalDpiY() / screenDpi_);
         painter.translate(origin_);
         for (int page = 0; page < document_.pageCount(); ++page) {
-            RequirePrinted(page == 0 || paper_.newPage());
+            pictures::RequirePrinted(page == 0 || paper_.newPage());
             PaintPage(painter, page);
         }
-        RequirePrinted(painter.end());
+        pictures::RequirePrinted(painter.end());
     }
 
 private:
@@ -111,7 +111,7 @@ PrintedText::PrintedText(QTextEdit const& text) : whole_(text.document()->clone(
     }
 }
 
-void PrintedText::Print(bool isSelection, PrintJob& job) {
+void PrintedText::Print(bool isSelection, pictures::PrintJob& job) {
     TextPages(isSelection ? *selection_ : *whole_, job.Device()).Paint();
     job.Finish();
 }
@@ -120,7 +120,7 @@ void PrintText(QTextEdit& text, std::string_view documentName, std::string_view 
     // Before any dialog: what happens to the text while one is open must not change what is printed.
     PrintedText printed(text);
     if (!HasPrinter()) {
-        auto const job = StartSystemJob(documentName, folder, PdfPage(),
+        auto const job = StartSystemJob(documentName, folder, pictures::PdfPage(),
                                         [&dialogs](Message const& message) { dialogs.Show(message); });
         printed.Print(printed.HasSelection(), *job);
         return;

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/Dialogs.h"
-#include "platform/qt/PrintJob.h"
+#include "platform/pictures/PrintJob.h"
 
 #include <QPrintDialog>
 #include <QTextDocument>
@@ -27,7 +27,7 @@ public:
 
     // Prints one of both on numbered pages and finishes the job. REQUIRES: there is a selection when it is
     // asked for.
-    void Print(bool isSelection, PrintJob& job);
+    void Print(bool isSelection, pictures::PrintJob& job);
 
 private:
     std::unique_ptr<QTextDocument> whole_;

@@ -3,8 +3,8 @@
 
 #include "prefs/ui/frmPreferences.h"
 
+#include "platform/pictures/QtTexts.h"
 #include "platform/qt/QtDialogs.h"
-#include "platform/qt/QtTexts.h"
 #include "ui_frmPreferences.h"
 
 #include <QLineEdit>
@@ -14,8 +14,8 @@ namespace quorvex::prefs::ui {
 
 namespace {
 
-using platform::qt::FromQt;
-using platform::qt::ToQt;
+using platform::pictures::FromQt;
+using platform::pictures::ToQt;
 
 template <class Texts>
 void Fill(QComboBox& list, Texts const& offered, std::string const& text) {
@@ -29,7 +29,7 @@ void Fill(QComboBox& list, Texts const& offered, std::string const& text) {
 
 } // namespace
 
-frmPreferences::frmPreferences(QWidget* parent, Settings& settings, quotes::QuoteSeries& series,
+frmPreferences::frmPreferences(QWidget* parent, settings::Settings& settings, quotes::QuoteSeries& series,
                                platform::Profile& profile, platform::Dialogs& dialogs)
     : QDialog(parent),
       settings_(settings),
@@ -63,11 +63,11 @@ void frmPreferences::AddMenu() {
     };
     add("mnuFileSave", "&Save Settings", [this] {
         ReadBoxes();
-        window::SaveSettings(fields_, settings_, profile_, dialogs_);
+        SaveSettings(fields_, settings_, profile_, dialogs_);
     });
     add("mnuFileRestore", "&Restore Defaults", [this] {
         ReadBoxes();
-        window::RestoreDefaults(fields_, series_);
+        RestoreDefaults(fields_, series_);
         ShowFields();
     });
     menu->addSeparator();
@@ -78,18 +78,18 @@ void frmPreferences::AddMenu() {
 void frmPreferences::ConnectLists() {
     connect(ui_->cboChartType, &QComboBox::activated, this, [this] {
         ReadBoxes();
-        window::ChooseChartType(fields_, settings_);
+        ChooseChartType(fields_, settings_);
     });
     connect(ui_->cboDataSource, &QComboBox::activated, this, [this] {
         ReadBoxes();
-        window::ChooseDataSource(fields_, settings_);
+        ChooseDataSource(fields_, settings_);
     });
     connect(ui_->cboStartDate, &QComboBox::activated, this, [this] { ChooseDateRange(); });
     connect(ui_->cboEndDate, &QComboBox::activated, this, [this] { ChooseDateRange(); });
 }
 
 void frmPreferences::RunModal() {
-    fields_ = window::OpenPreferences(settings_, series_);
+    fields_ = OpenPreferences(settings_, series_);
     ShowFields();
     adjustSize(); // the dates that are offered may be wider than the last time
     platform::qt::CentreForm(*this);
@@ -99,12 +99,12 @@ void frmPreferences::RunModal() {
 
 void frmPreferences::done(int result) {
     ReadBoxes();
-    window::ExitPreferences(fields_, settings_);
+    ExitPreferences(fields_, settings_);
     QDialog::done(result);
 }
 
 void frmPreferences::ShowFields() {
-    for (SettingRow const& row : SettingTable()) {
+    for (settings::SettingRow const& row : settings::SettingTable()) {
         if (auto* list = findChild<QComboBox*>(QStringLiteral("cbo") + ToQt(row.Key))) {
             Fill(*list, row.Offered, fields_.Boxes.*row.Member);
         }
@@ -123,7 +123,7 @@ void frmPreferences::ShowDateRange() {
 }
 
 void frmPreferences::ReadBoxes() {
-    for (SettingRow const& row : SettingTable()) {
+    for (settings::SettingRow const& row : settings::SettingTable()) {
         if (auto const* list = findChild<QComboBox*>(QStringLiteral("cbo") + ToQt(row.Key))) {
             fields_.Boxes.*row.Member = FromQt(list->currentText());
         }
@@ -134,7 +134,7 @@ void frmPreferences::ReadBoxes() {
 
 void frmPreferences::ChooseDateRange() {
     ReadBoxes();
-    platform::qt::RunGuarded(*this, [this] { window::ChooseDateRange(fields_, series_); });
+    platform::qt::RunGuarded(*this, [this] { prefs::ChooseDateRange(fields_, series_); });
     ShowDateRange();
 }
 

@@ -5,9 +5,9 @@
 
 #include "platform/Dialogs.h"
 #include "platform/Profile.h"
-#include "prefs/Settings.h"
-#include "prefs/window/basPreferences.h"
+#include "prefs/basPreferences.h"
 #include "quotes/QuoteSeries.h"
+#include "settings/Settings.h"
 
 #include <QDialog>
 #include <memory>
@@ -27,7 +27,7 @@ class frmPreferences final : public QDialog {
 
 public:
     // All must outlive the window.
-    frmPreferences(QWidget* parent, Settings& settings, quotes::QuoteSeries& series,
+    frmPreferences(QWidget* parent, settings::Settings& settings, quotes::QuoteSeries& series,
                    platform::Profile& profile, platform::Dialogs& dialogs);
     ~frmPreferences() override;
 
@@ -45,11 +45,11 @@ private:
     void ReadBoxes();
     void ChooseDateRange();
 
-    Settings& settings_;
+    settings::Settings& settings_;
     quotes::QuoteSeries& series_;
     platform::Profile& profile_;
     platform::Dialogs& dialogs_;
-    window::PreferencesFields fields_;
+    PreferencesFields fields_;
     std::unique_ptr<Ui::frmPreferences> ui_;
 };
 

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// Recorded drawings on whatever Qt paints on.
+#pragma once
+
+#include "platform/RecordingCanvas.h"
+
+#include <QColor>
+#include <QFont>
+#include <QPainter>
+
+namespace quorvex::platform::pictures {
+
+// Twips to the logical pixel.
+inline constexpr double TwipsPerPixel = 15;
+
+// Of boxes and pictures.
+inline constexpr Colour BorderColour = 0x808080;
+
+enum class Medium {
+    Pixels,  // upright and level lines fill whole ones, so that they are sharp; only curves are antialiased
+    Vectors, // a file for any resolution: lines stand exactly where they were drawn
+    Paper,   // likewise, and texts do, too
+};
+
+// How twips become units of the painter. On pixels, a unit is one device pixel.
+struct PaintScale {
+    double UnitsPerTwip = 1 / TwipsPerPixel;
+    Medium On = Medium::Pixels;
+};
+
+[[nodiscard]] QColor ToQt(Colour colour);
+
+// The font that the operation sets, for a device where twips are so many units.
+[[nodiscard]] QFont FontOf(DrawingOperation const& operation, double unitsPerTwip);
+
+// Paints the drawing with its top left corner at the painter's origin; on white, unless it is paper.
+void PaintDrawing(QPainter& painter, RecordingCanvas const& drawing, PaintScale scale);
+
+} // namespace quorvex::platform::pictures

@@ -1,0 +1,261 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "editor/ui/ShownEditor.h"
+#include "support/QuoteTexts.h"
+#include "windows/WindowTest.h"
+
+#include <QMenu>
+#include <QMenuBar>
+
+namespace quorvex::tests {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString CaptionsOf(QMenu const& menu) {
+    QStringList captions;
+    for (QAction const* item : menu.actions()) {
+        captions.append(item->isSeparator() ? u"-"_s : item->text() + u' ' + item->objectName());
+    }
+    return captions.join(u'|');
+}
+
+} // namespace
+
+class frmEditTest final : public WindowTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+
+    void CarriesItsCaptions() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Series->QuoteFileName = "corn.txt";
+        shown.Run([&] {
+            QCOMPARE(shown.Window->windowTitle(), u"Quorvex - Edit - [corn.txt]"_s);
+            QCOMPARE(
+                CaptionsOf(*shown.Window->findChild<QMenu*>(u"mnuFile"_s)),
+                u"&Save mnuFileSave|Save &As... mnuFileSaveAs|-|&Print mnuFilePrint|-|E&xit mnuFileExit"_s);
+            QCOMPARE(CaptionsOf(*shown.Window->findChild<QMenu*>(u"mnuEdit"_s)),
+                     u"&Insert Row mnuEditInsert|&Append Row mnuEditAppend|-|&Delete Row mnuEditDelete|"
+                     "&Help mnuEditHelp"_s);
+            QStringList menus;
+            for (QAction const* menu : shown.Window->findChild<QMenuBar*>()->actions()) {
+                menus.append(menu->text());
+            }
+            QCOMPARE(menus, QStringList({u"&File"_s, u"&Edit"_s}));
+        });
+    }
+
+    void WithoutAnOpenFileIsEmpty() {
+        ShownEditor shown("", "");
+        shown.Run([&] {
+            QCOMPARE(shown.Window->windowTitle(), u"Quorvex - Edit"_s);
+            QCOMPARE(shown.Grid().model()->rowCount(), 0);
+            shown.Choose("mnuEditInsert");
+            shown.Choose("mnuEditDelete");
+            shown.Choose("mnuEditAppend");
+            QCOMPARE(shown.Text(1, 2), u"0.00"_s);
+            QCOMPARE(shown.Cursor(), u"1,1"_s);
+        });
+        QCOMPARE(shown.Answers.Shown(), QStringList(u"frmEdit"_s));
+    }
+
+    void RowCommandsDropWhatWasTyped() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            shown.Type(2, 5, u"555"_s);
+            shown.Choose("mnuEditAppend");
+            QCOMPARE(shown.Text(2, 5), u"102.00"_s);
+            QCOMPARE(shown.Cursor(), u"31,1"_s);
+            QVERIFY(shown.Grid()
+                        .visualRect(shown.Grid().currentIndex())
+                        .intersects(shown.Grid().viewport()->rect()));
+            shown.GoTo(3, 4);
+            shown.Choose("mnuEditInsert");
+            QCOMPARE(shown.Text(3, 1), u""_s);
+            QCOMPARE(shown.Text(4, 1), u"01/03/01"_s);
+            QCOMPARE(shown.Cursor(), u"3,4"_s);
+            shown.Answers.Click(QMessageBox::Yes);
+            shown.Choose("mnuEditDelete");
+            QCOMPARE(shown.Text(3, 1), u"01/03/01"_s);
+            QCOMPARE(shown.Grid().model()->rowCount(), 31);
+        });
+        QCOMPARE(shown.Answers.Shown().mid(1),
+                 QStringList(u"Delete Row|question|Yes No|Delete row no. 3?"_s));
+    }
+
+    void ANewSizeAndComingBackDropWhatWasTyped() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            shown.Type(2, 5, u"555"_s);
+            shown.Window->resize(shown.Window->size() + QSize(30, 30));
+            QCoreApplication::processEvents();
+            QCOMPARE(shown.Text(2, 5), u"102.00"_s);
+            shown.Type(2, 5, u"555"_s);
+            shown.ComeBack();
+            QCOMPARE(shown.Text(2, 5), u"102.00"_s);
+        });
+    }
+
+    void AMessageOfItsOwnKeepsWhatWasTyped() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            shown.Type(2, 5, u"555"_s);
+            shown.Type(4, 3, u"abc"_s);
+            shown.Choose("mnuFileSave");
+            QCOMPARE(shown.Text(2, 5), u"555"_s);
+            QCOMPARE(shown.Cursor(), u"4,3"_s);
+            shown.Choose("mnuEditHelp");
+            QCOMPARE(shown.Text(2, 5), u"555"_s);
+            shown.ComeBack(); // this is another matter
+            QCOMPARE(shown.Text(2, 5), u"102.00"_s);
+        });
+        QCOMPARE(shown.Answers.Shown().at(1), OkMessage(u"Edit - Invalid Data Entry"_s, u"exclamation"_s,
+                                                        u"Invalid data entry on row 4"_s));
+        QVERIFY(
+            shown.Answers.Shown().at(2).startsWith(u"Quorvex - Edit Help|information|OK|\n\n\nQuorvex"_s));
+        QCOMPARE(shown.Folder.Read("corn.txt"), QuoteLines(30));
+    }
+
+    void AMessageThatClosesLateKeepsWhatWasTyped() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            shown.Type(2, 5, u"555"_s);
+            QWidget other;
+            other.setWindowModality(Qt::ApplicationModal); // else the box would keep it from becoming active
+            shown.Answers.Next([](QWidget&) {});           // it stays open
+            shown.Answers.NextMessage([&](QWidget& box) {
+                QTest::keyClick(&box, Qt::Key_Return);
+                other.show(); // the desktop does not give the editor back at once
+                other.activateWindow();
+                QCoreApplication::processEvents();
+            });
+            shown.Choose("mnuEditHelp");
+            QVERIFY(!shown.Window->isActiveWindow());
+            other.hide();
+            shown.Window->activateWindow();
+            QCoreApplication::processEvents();
+            QVERIFY(shown.Window->isActiveWindow());
+            QCOMPARE(shown.Text(2, 5), u"555"_s);
+            shown.ComeBack();
+            QCOMPARE(shown.Text(2, 5), u"102.00"_s);
+        });
+    }
+
+    void ANewSizeBehindAMessageKeepsWhatWasTyped() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            shown.Type(2, 5, u"555"_s);
+            shown.Answers.NextMessage([&](QWidget& box) {
+                shown.Window->resize(600, 400);
+                QCoreApplication::processEvents();
+                QTest::keyClick(&box, Qt::Key_Return);
+            });
+            shown.Choose("mnuEditHelp");
+            QCOMPARE(shown.Grid().width(), 600);
+            QCOMPARE(shown.Text(2, 5), u"555"_s);
+        });
+    }
+
+    void SaveWritesWhatIsBeingTyped() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            shown.GoTo(2, 5);
+            shown.Press(Qt::Key_7); // and no Enter
+            shown.Choose("mnuFileSave");
+        });
+        std::string const written = shown.Folder.Read("corn.txt");
+        QVERIFY(written.find("01/02/01, 102.25, 102.75, 102.00, 7.00, 1200, 3400\r\n") != std::string::npos);
+        QCOMPARE(shown.Answers.Shown(), QStringList(u"frmEdit"_s));
+        QCOMPARE(shown.Series->Master[2].Close, 102.0);
+    }
+
+    void SaveAsWritesAndTakesTheName() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        std::string const path = shown.Folder.File("new.txt");
+        shown.Run([&] {
+            QString const caption = shown.Window->windowTitle();
+            shown.Type(2, 5, u"7"_s);
+            shown.Answers.Type(QString::fromStdString(path));
+            shown.Choose("mnuFileSaveAs");
+            QCOMPARE(shown.Window->windowTitle(), caption);
+            QCOMPARE(shown.Text(2, 5), u"7.00"_s); // shown as it was written
+        });
+        QCOMPARE(shown.Series->QuoteFileName, path);
+        QVERIFY(shown.Folder.Read("new.txt").find(", 7.00, 1200, 3400\r\n") != std::string::npos);
+        QCOMPARE(shown.Folder.Read("corn.txt"), QuoteLines(30));
+    }
+
+    void OpensAnewEachTime() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            shown.Choose("mnuEditAppend");
+            shown.Choose("mnuFileExit");
+            QVERIFY(!shown.Window->isVisible());
+        });
+        shown.Run([&] {
+            QCOMPARE(shown.Grid().model()->rowCount(), 30);
+            QCOMPARE(shown.Cursor(), u"1,1"_s);
+        });
+        QCOMPARE(shown.Answers.Shown(), QStringList({u"frmEdit"_s, u"frmEdit"_s}));
+    }
+
+    void RefusesTheRowBehindFiveHundred() {
+        ShownEditor shown(QuoteLines(500), "corn.txt");
+        shown.Run([&] {
+            shown.Choose("mnuEditAppend");
+            QCOMPARE(shown.Grid().model()->rowCount(), 500);
+        });
+        QCOMPARE(shown.Answers.Shown().mid(1),
+                 QStringList(OkMessage(u"Edit"_s, u"exclamation"_s,
+                                       u"Maximum number of daily quotes (500) has been reached."_s)));
+    }
+
+    void PrintsTheGrid() {
+        ShownEditor shown(QuoteLines(51), "corn.txt");
+        shown.Run([&] {
+            shown.Type(1, 5, u"7"_s);
+            shown.Choose("mnuFilePrint");
+            QCOMPARE(shown.Text(1, 5), u"7"_s);
+        });
+        QCOMPARE(shown.Printer.Documents.size(), 1U);
+        QVERIFY(shown.Printer.Documents[0].IsEnded);
+        QCOMPARE(shown.Printer.Documents[0].Pages.size(), 2U);
+        QCOMPARE(shown.Printer.Documents[0].Pages[0].Texts.at(15).Text, std::string("7.00"));
+        QCOMPARE(shown.Printer.HourglassCount, 0);
+        QCOMPARE(shown.Answers.Shown(), QStringList(u"frmEdit"_s));
+    }
+
+    void TellsThatThePrinterFails() {
+        ShownEditor shown(QuoteLines(51), "corn.txt");
+        shown.Printer.Sheet.FailingText = 30;
+        shown.Run([&] { shown.Choose("mnuFilePrint"); });
+        QCOMPARE(shown.Answers.Shown().mid(1),
+                 QStringList(OkMessage(u"Quorvex"_s, u"none"_s, u"Printer error"_s)));
+        QCOMPARE(shown.Printer.HourglassCount, 0);
+    }
+
+    void ACommandWaitsForTheOneBefore() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            shown.Answers.NextMessage([&](QWidget& box) {
+                shown.Choose("mnuEditAppend"); // as assistive technology can
+                QCOMPARE(shown.Grid().model()->rowCount(), 30);
+                QTest::keyClick(&box, Qt::Key_Return);
+            });
+            shown.Choose("mnuEditHelp");
+            shown.Choose("mnuEditAppend");
+            QCOMPARE(shown.Grid().model()->rowCount(), 31);
+        });
+    }
+};
+
+} // namespace quorvex::tests
+
+int main(int argc, char** argv) {
+    return quorvex::tests::RunWindowTest<quorvex::tests::frmEditTest>(argc, argv);
+}
+
+#include "frmEditTest.moc"

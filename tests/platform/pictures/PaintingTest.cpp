@@ -1,0 +1,211 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/pictures/Painting.h"
+
+#include "platform/PictureEncoder.h"
+#include "platform/pictures/QtPictureEncoder.h"
+#include "text/RunTimeError.h"
+#include "windows/WindowTest.h"
+
+#include <QImage>
+#include <QPainter>
+
+namespace quorvex::tests {
+
+using platform::Fill;
+using platform::RecordingCanvas;
+using platform::pictures::TwipsPerPixel;
+
+namespace {
+
+// The drawing at so many device pixels to the logical one.
+QImage Painted(RecordingCanvas const& drawing, double scale = 1) {
+    QImage image(static_cast<int>(drawing.Width() / TwipsPerPixel * scale),
+                 static_cast<int>(drawing.Height() / TwipsPerPixel * scale), QImage::Format_RGB32);
+    image.fill(Qt::green);
+    QPainter painter(&image);
+    platform::pictures::PaintDrawing(painter, drawing,
+                                     {scale / TwipsPerPixel, platform::pictures::Medium::Pixels});
+    return image;
+}
+
+// How many pixels of the column or row have exactly this colour.
+int CountInColumn(QImage const& image, int x, QRgb colour) {
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        count += image.pixel(x, y) == colour ? 1 : 0;
+    }
+    return count;
+}
+
+int CountInRow(QImage const& image, int y, QRgb colour) {
+    int count = 0;
+    for (int x = 0; x < image.width(); ++x) {
+        count += image.pixel(x, y) == colour ? 1 : 0;
+    }
+    return count;
+}
+
+constexpr QRgb Black = 0xFF000000;
+constexpr QRgb White = 0xFFFFFFFF;
+
+} // namespace
+
+class PaintingTest final : public WindowTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+
+    void LevelAndUprightLinesAreOneDevicePixelWide_data() {
+        QTest::addColumn<double>("scale");
+        for (double const scale : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+            QTest::addRow("%g", scale) << scale;
+        }
+    }
+
+    void LevelAndUprightLinesAreOneDevicePixelWide() {
+        QFETCH(double, scale);
+        RecordingCanvas drawing(1500, 1500);
+        drawing.Line(0, 707, 1500, 707, 0);
+        drawing.Rectangle(333, 1500, 338, 1335, 0, Fill::Outline); // a tick
+        QImage const image = Painted(drawing, scale);
+        QCOMPARE(CountInColumn(image, image.width() - 1, Black), 1);
+        QCOMPARE(CountInRow(image, static_cast<int>(707 / TwipsPerPixel * scale), Black), image.width());
+        QCOMPARE(CountInRow(image, image.height() - 2, Black), 1);
+    }
+
+    void NothingIsSmeared() {
+        RecordingCanvas drawing(1500, 1500);
+        drawing.Line(0, 707, 1500, 707, 0);
+        drawing.Rectangle(300, 200, 400, 600, 0, Fill::Outline);
+        QImage const image = Painted(drawing, 1.5);
+        for (int y = 0; y < image.height(); ++y) {
+            QCOMPARE(CountInRow(image, y, Black) + CountInRow(image, y, White), image.width());
+        }
+    }
+
+    void AWickStandsInTheMiddleOfItsCandle() {
+        for (int x = 700; x < 760; ++x) {
+            RecordingCanvas drawing(1500, 1500);
+            drawing.Rectangle(x, 100, x + 0.5, 400, 0, Fill::Outline);
+            drawing.Rectangle(x - 50, 400, x + 50, 900, 0, Fill::Filled);
+            QImage const image = Painted(drawing);
+            int const wickRow = 10;
+            int const bodyRow = 40;
+            int left = 0;
+            while (image.pixel(left, bodyRow) != Black) {
+                ++left;
+            }
+            int const width = CountInRow(image, bodyRow, Black);
+            QCOMPARE(CountInRow(image, wickRow, Black), 1);
+            QCOMPARE(image.pixel(left + width / 2, wickRow), Black);
+            QCOMPARE(width % 2, 1);
+        }
+    }
+
+    void AHollowBodyIsWhiteInside() {
+        RecordingCanvas drawing(1500, 1500);
+        drawing.Rectangle(300, 300, 400, 900, 0, Fill::Outline);
+        drawing.Rectangle(800, 300, 900, 900, 0, Fill::Filled);
+        QImage const image = Painted(drawing);
+        QCOMPARE(image.pixel(23, 40), White);
+        QCOMPARE(image.pixel(56, 40), Black);
+        QCOMPARE(CountInRow(image, 40, Black), 2 + 7);
+    }
+
+    void AFlatBodyIsALine() {
+        RecordingCanvas drawing(1500, 1500);
+        drawing.Rectangle(300, 700, 400, 700, 0, Fill::Outline);
+        QImage const image = Painted(drawing);
+        QCOMPARE(CountInColumn(image, 23, Black), 1);
+    }
+
+    void ACurveIsAntialiasedInItsColour() {
+        RecordingCanvas drawing(1500, 1500);
+        drawing.Point(0, 0, platform::Magenta);
+        drawing.LineTo(700, 500, platform::Magenta);
+        drawing.LineTo(1500, 1400, platform::Magenta);
+        QImage const image = Painted(drawing);
+        int between = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                QRgb const pixel = image.pixel(x, y);
+                QCOMPARE(qRed(pixel), 255);
+                QCOMPARE(qBlue(pixel), 255);
+                between += qGreen(pixel) > 0 && qGreen(pixel) < 255 ? 1 : 0;
+            }
+        }
+        QVERIFY(between > 100);
+    }
+
+    void TextHasTheForeColourAndStaysOffTheEdge() {
+        RecordingCanvas drawing(1500, 1500);
+        drawing.SetForeColour(0xC00000);
+        drawing.SetFont("Arial", 8, true);
+        drawing.SetTextPosition(0, 0);
+        drawing.Print("IIIII");
+        QImage const image = Painted(drawing);
+        QCOMPARE(CountInColumn(image, 0, White), image.height());
+        QVERIFY(CountInRow(image, 7, 0xFFC00000) > 0);
+        QCOMPARE(CountInRow(image, 20, White), image.width());
+    }
+
+    void AClearWipesWhatWasThere() {
+        RecordingCanvas drawing(1500, 1500);
+        drawing.Rectangle(0, 0, 1500, 1500, 0, Fill::Filled);
+        drawing.Clear();
+        QImage const image = Painted(drawing);
+        for (int y = 0; y < image.height(); ++y) {
+            QCOMPARE(CountInRow(image, y, White), image.width());
+        }
+    }
+
+    void WhatLiesFarAwayDoesNoHarm() {
+        RecordingCanvas drawing(1500, 1500);
+        for (double const far : {1e9, -1e9, 1e300, -1e300}) {
+            drawing.Rectangle(700, far, 701, -far, 0, Fill::Outline);
+            drawing.Line(0, far, 1500, far, 0);
+            drawing.Point(0, 700, 0);
+            drawing.LineTo(800, far, 0);
+            drawing.LineTo(1500, 700, 0);
+            drawing.SetTextPosition(far, far);
+            drawing.Print("far");
+        }
+        QImage const image = Painted(drawing);
+        QCOMPARE(CountInColumn(image, 46, Black), image.height());
+    }
+
+    void ASheetWithoutAnExtentIsAFault() {
+        RecordingCanvas const drawing(1500, 0);
+        std::array<platform::PlacedDrawing, 1> const placed = {{{0, 0, &drawing}}};
+        platform::pictures::QtPictureEncoder encoder;
+        for (auto const kind :
+             {platform::PictureKind::Png, platform::PictureKind::Svg, platform::PictureKind::Pdf}) {
+            QVERIFY_THROWS_EXCEPTION(text::RunTimeError,
+                                     static_cast<void>(encoder.Encode({1500, 0, placed}, kind)));
+        }
+    }
+
+    void APngHasTheChartsInsideTheirBorders() {
+        RecordingCanvas drawing(1500, 1500);
+        drawing.Rectangle(-3000, -3000, 3000, 3000, 0xFF0000, Fill::Filled); // beyond the box
+        std::array<platform::PlacedDrawing, 1> const placed = {{{150, 150, &drawing}}};
+        platform::pictures::QtPictureEncoder encoder;
+        auto const png = encoder.Encode({1800, 1800, placed}, platform::PictureKind::Png);
+        QImage const image = QImage::fromData(QByteArray::fromStdString(png), "PNG");
+        QCOMPARE(image.size(), QSize(120, 120));
+        QCOMPARE(image.pixel(9, 60), White);
+        QCOMPARE(image.pixel(10, 60), 0xFF000000 | platform::pictures::BorderColour);
+        QCOMPARE(image.pixel(11, 60), 0xFFFF0000);
+        QCOMPARE(image.pixel(110, 60), White);
+    }
+};
+
+} // namespace quorvex::tests
+
+int main(int argc, char** argv) {
+    return quorvex::tests::RunWindowTest<quorvex::tests::PaintingTest>(argc, argv);
+}
+
+#include "PaintingTest.moc"
