@@ -10,21 +10,26 @@
 #include "quotes/basQuotes.h"
 #include "text/basNumbers.h"
 
+#include <memory>
 #include <optional>
+#include <utility>
 
 namespace quorvex::editor {
 
 namespace {
 
+// The copy changes as a whole or not at all.
 void CopyRows(Editor& editor, std::int16_t count) {
+    auto copied = std::make_unique<quotes::QuoteRecords>(editor.EditQuotes); // too large for some stacks
     for (std::int16_t row = 1; row <= count; ++row) {
-        quotes::QuoteRecord& record = editor.EditQuotes[row];
+        quotes::QuoteRecord& record = (*copied)[row];
         record.Date = TextAt(editor.Grid, row, DateColumn);
         std::int16_t column = FirstNumberColumn;
         for (NumberColumn const& number : NumberColumns) {
             record.*number.Field = text::StrictNumber(TextAt(editor.Grid, row, column++));
         }
     }
+    editor.EditQuotes = std::move(*copied);
 }
 
 std::string EditFileText(Editor const& editor, quotes::QuoteRecords const& master,

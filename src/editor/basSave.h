@@ -16,7 +16,7 @@
 namespace quorvex::editor {
 
 // Copies the grid into the editor's copy. Raises "Type mismatch" at a number cell whose whole text is no
-// number: the cells in front of it are copied.
+// number; then the copy is as it was.
 void CopySpreadToArray(Editor& editor);
 
 // Copies the grid into the editor's copy and writes that to the file, whose name is taken as it is: a bare

@@ -248,10 +248,12 @@ TEST_F(Listing, HoldsTheHourglassWhileItPrints) {
 
 TEST_F(Listing, OfACellThatIsNoNumberIsNotPrinted) {
     OpenDays(3);
+    Type(1, 5, "555");
     Type(2, 6, "abc");
     auto const error = Print();
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Description(), "Type mismatch");
+    EXPECT_EQ(edited->EditQuotes[1].Close, 101); // the copy is as it was
     EXPECT_TRUE(queue.Documents.empty());
     EXPECT_EQ(queue.HourglassCount, 0);
     EXPECT_TRUE(dialogs.Messages.empty());

@@ -132,8 +132,6 @@ TEST_F(SavedEdits, AreRefusedQuietlyWhenACellIsNoNumber) {
         Type(2, column, "12abc");
         EXPECT_FALSE(Save());
         EXPECT_TRUE(IsQuiet());
-        // What stands in front of the cell is copied.
-        EXPECT_EQ(edited->EditQuotes[3].Date, "01/03/01");
         EXPECT_EQ(series->QuoteFileName, "test.txt");
     }
 }
@@ -311,15 +309,31 @@ TEST_F(SavedEdits, OnDiskReplaceTheOldFileOrLeaveIt) {
     EXPECT_EQ(folder.EntryCount(), 1);
 }
 
-TEST_F(SavedEdits, CopiesStopAtTheFirstCellThatIsNoNumber) {
+TEST_F(SavedEdits, OfRowsWithABadVolumeLeaveEveryDayInItsPlace) {
+    OpenDays(4);
+    auto const opened = GridTexts();
+    Type(1, 1, "2/1/2001"); // the check puts this row last
+    Type(3, 6, "abc");
+    EXPECT_FALSE(Save());
+    EXPECT_EQ(RowTexts(4).front(), "2/1/2001"); // the grid is sorted
+    sheet.MoveCursor(4, 1);
+    editor::InsertRow(*edited, settings, dialogs);
+    auto expected = opened;
+    expected.insert(expected.begin() + 3, {"", "0.00", "0.00", "0.00", "0.00", "0", "0"});
+    EXPECT_EQ(GridTexts(), expected);
+}
+
+TEST_F(SavedEdits, CopiesWithACellThatIsNoNumberAreNotMade) {
     OpenDays(3);
     Type(1, 5, "555");
     Type(2, 1, "13/45/02");
     Type(2, 3, "x");
     Type(2, 4, "444");
-    EXPECT_THROW(editor::CopySpreadToArray(*edited), text::RunTimeError);
-    EXPECT_EQ(edited->EditQuotes[1].Close, 555);
-    EXPECT_EQ(edited->EditQuotes[2].Date, "13/45/02");
+    auto const error = text::Trap([&] { editor::CopySpreadToArray(*edited); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Kind(), text::Fault::TypeMismatch);
+    EXPECT_EQ(edited->EditQuotes[1].Close, 101);
+    EXPECT_EQ(edited->EditQuotes[2].Date, "01/02/01");
     EXPECT_EQ(edited->EditQuotes[2].Low, 102);
 }
 
@@ -334,7 +348,7 @@ TEST_F(SavedEdits, CopiesOfMoreThan500RowsFault) {
     auto const error = text::Trap([&] { editor::CopySpreadToArray(*edited); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Kind(), text::Fault::SubscriptOutOfRange);
-    EXPECT_EQ(edited->EditQuotes[500].Close, 1);
+    EXPECT_EQ(edited->EditQuotes[1].Close, 101);
 }
 
 } // namespace
