@@ -19,6 +19,8 @@
 #include <QPointer>
 #include <QResizeEvent>
 #include <QScreen>
+#include <QScrollBar>
+#include <QTextCursor>
 #include <QTextDocument>
 #include <algorithm>
 #include <memory>
@@ -85,14 +87,14 @@ void frmHelp::AddMenu() {
 void frmHelp::RunModal(std::string const& helpFileName) {
     helpFileName_ = helpFileName;
     platform::qt::CentreForm(*this);
-    platform::qt::RunGuarded(*this, [this] { ShowDocument(); });
+    platform::qt::RunGuarded(*this, [this] { LoadDocument(); });
     richTextBox1_->setFocus();
     exec();
 }
 
 bool frmHelp::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate) {
-        platform::qt::RunGuarded(*this, [this] { ShowDocument(); });
+        platform::qt::RunGuarded(*this, [this] { LoadDocument(); });
     }
     return QDialog::event(event);
 }
@@ -100,24 +102,45 @@ bool frmHelp::event(QEvent* event) {
 void frmHelp::resizeEvent(QResizeEvent* event) {
     QDialog::resizeEvent(event);
     if (isVisible()) {
-        platform::qt::RunGuarded(*this, [this] { ShowDocument(); });
+        platform::qt::RunGuarded(*this, [this] { LoadDocument(); });
     }
 }
 
-void frmHelp::ShowDocument() {
+void frmHelp::LayOut() {
     menuBar_->setGeometry(0, 0, width(), menuBar_->sizeHint().height());
     QSize const client(width(), height() - menuBar_->height());
     richTextBox1_->setGeometry(TextPlace(client).translated(0, menuBar_->height()));
-    auto document = std::make_unique<QTextDocument>();
-    // A document that cannot be read leaves the box empty.
-    static_cast<void>(text::Trap([&] {
-        std::string const path = text::EndWithSeparator(programFolder_) + helpFileName_;
-        document = MakeTextDocument(richtext::ReadRichText(platform::ReadWholeFile(files_, path)));
-    }));
-    Show(std::move(document));
 }
 
-// The box starts at the top of a new document, and has only this one.
+// Opening a window activates it and may change its size, so that the file is read more than once: only what
+// is new in it is made into a document.
+void frmHelp::LoadDocument() {
+    LayOut();
+    std::optional<std::string> content = ReadDocument();
+    if (content != content_) {
+        content_ = std::move(content);
+        auto document = std::make_unique<QTextDocument>();
+        // What cannot be understood leaves the box empty.
+        static_cast<void>(text::Trap([&] {
+            if (content_) {
+                document = MakeTextDocument(richtext::ReadRichText(*content_));
+            }
+        }));
+        Show(std::move(document));
+    }
+    GoToTop();
+}
+
+// Nothing when the file cannot be read.
+std::optional<std::string> frmHelp::ReadDocument() const {
+    std::optional<std::string> content;
+    static_cast<void>(text::Trap([&] {
+        content = platform::ReadWholeFile(files_, text::EndWithSeparator(programFolder_) + helpFileName_);
+    }));
+    return content;
+}
+
+// The box has only this document.
 void frmHelp::Show(std::unique_ptr<QTextDocument> document) {
     constexpr double Margin = 12;
     QPointer<QTextDocument> const former = richTextBox1_->document();
@@ -125,6 +148,13 @@ void frmHelp::Show(std::unique_ptr<QTextDocument> document) {
     document->setParent(richTextBox1_);
     richTextBox1_->setDocument(document.release());
     delete former; // unless the box did
+}
+
+// The cursor alone would leave the margin above the first line out of sight.
+void frmHelp::GoToTop() {
+    richTextBox1_->setTextCursor(QTextCursor(richTextBox1_->document()));
+    richTextBox1_->verticalScrollBar()->setValue(0);
+    richTextBox1_->horizontalScrollBar()->setValue(0);
 }
 
 void frmHelp::Print() {

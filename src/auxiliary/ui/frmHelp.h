@@ -10,14 +10,16 @@
 #include <QDialog>
 #include <QTextEdit>
 #include <memory>
+#include <optional>
 #include <string>
 
 class QMenuBar;
 
 namespace quorvex::auxiliary::ui {
 
-// Shows one rich-text document of the program folder and prints it or what is selected of it. The document is
-// read anew whenever the window is activated or changes its size; one that cannot be read leaves it empty.
+// Shows one rich-text document of the program folder and prints it or what is selected of it. The file is
+// read anew whenever the window is activated or changes its size: the view then goes to the top with nothing
+// selected. One that cannot be read leaves the window empty.
 class frmHelp final : public QDialog {
     Q_OBJECT
 
@@ -35,8 +37,11 @@ protected:
 
 private:
     void AddMenu();
-    void ShowDocument();
+    void LayOut();
+    void LoadDocument();
+    [[nodiscard]] std::optional<std::string> ReadDocument() const;
     void Show(std::unique_ptr<QTextDocument> document);
+    void GoToTop();
     void Print();
 
     std::string const& programFolder_;
@@ -44,6 +49,7 @@ private:
     platform::Files const& files_;
     platform::Dialogs& dialogs_;
     std::string helpFileName_;
+    std::optional<std::string> content_; // of the file that is shown, nothing when none is
     QMenuBar* menuBar_;
     QTextEdit* richTextBox1_;
 };

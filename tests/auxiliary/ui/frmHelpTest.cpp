@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
+#include "auxiliary/ui/frmHelp.h"
+
+#include "platform/fake/ScriptedDialogs.h"
 #include "platform/qt/SystemJob.h"
 #include "platform/qt/TextPrinting.h"
 #include "windows/PrintedPdf.h"
@@ -8,6 +11,7 @@
 #include "windows/WindowTest.h"
 
 #include <QBuffer>
+#include <QChildEvent>
 #include <QGuiApplication>
 #include <QMenuBar>
 #include <QPrintDialog>
@@ -15,6 +19,7 @@
 #include <QPrinterInfo>
 #include <QScreen>
 #include <QScrollBar>
+#include <QSet>
 #include <QTextBlock>
 #include <QTextEdit>
 #include <QTextTable>
@@ -66,6 +71,66 @@ void OnHelp(RunningWindow& main, std::function<void(QWidget&)> const& deed) {
     });
     main.Choose("mnuHelpReadMe");
 }
+
+// Files that all have this content, and how often one was read.
+class CountedFile final : public platform::Files {
+public:
+    [[nodiscard]] std::unique_ptr<text::ByteSource> OpenForInput(std::string const& path) const override {
+        Paths.append(QString::fromStdString(path));
+        return std::make_unique<text::TextSource>(Content);
+    }
+
+    void Replace(std::string const& /*path*/, std::string_view /*content*/) override {}
+
+    [[nodiscard]] std::unique_ptr<platform::ByteSink> OpenForOutput(std::string const& /*path*/) override {
+        return nullptr;
+    }
+
+    void Remove(std::string const& /*path*/) override {}
+
+    [[nodiscard]] std::uint64_t Length(std::string const& /*path*/) const override { return Content.size(); }
+
+    [[nodiscard]] std::vector<std::string> List(std::string const& /*folder*/,
+                                                std::string_view /*pattern*/) const override {
+        return {};
+    }
+
+    std::string Content;
+    mutable QStringList Paths;
+};
+
+// Counts the documents that a text box is given.
+class DocumentCount final : public QObject {
+public:
+    explicit DocumentCount(QTextEdit& box) { box.installEventFilter(this); }
+
+    int Count = 0;
+
+protected:
+    bool eventFilter(QObject* /*box*/, QEvent* event) override {
+        if (event->type() == QEvent::ChildAdded &&
+            qobject_cast<QTextDocument*>(static_cast<QChildEvent*>(event)->child()) != nullptr) {
+            ++Count;
+        }
+        return false;
+    }
+};
+
+void Resize(QWidget& window) {
+    window.resize(window.width() + 40, window.height());
+    QTest::qWait(0);
+}
+
+// What another program's window in front of it and back again does.
+void Activate(QWidget& window) {
+    for (QEvent::Type const type : {QEvent::WindowDeactivate, QEvent::WindowActivate}) {
+        QEvent event(type);
+        QCoreApplication::sendEvent(&window, &event);
+    }
+}
+
+// A way to have the document loaded again.
+using Reload = void (*)(QWidget&);
 
 } // namespace
 
@@ -183,6 +248,111 @@ private Q_SLOTS:
         });
         main.Choose("mnuHelpIndex");
         QCOMPARE(text, u"Second"_s);
+    }
+
+    void EachConvertersHelpShowsTheDocumentOnConverting_data() {
+        QTest::addColumn<QString>("item");
+        QTest::addColumn<QString>("converter");
+        QTest::addRow("Barchart") << u"mnuFileConvertBARCHART"_s << u"frmConvertBarChart"_s;
+        QTest::addRow("Custom") << u"mnuFileConvertCustom"_s << u"frmConvertCustom"_s;
+    }
+
+    void EachConvertersHelpShowsTheDocumentOnConverting() {
+        QFETCH(QString, item);
+        QFETCH(QString, converter);
+        RunningWindow main;
+        main.Folder.Write("ConvertCustom.rtf", R"({\rtf1 On converting})");
+        QString text;
+        main.Answers.Next([&](QWidget& window) {
+            Choose(window, "mnuHelp");
+            Choose(window, "mnuFileExit");
+        });
+        main.Answers.Next([&](QWidget& window) {
+            text = TextOf(window).toPlainText();
+            Choose(window, "mnuFileExit");
+        });
+        main.Choose(qPrintable(item));
+        QCOMPARE(text, u"On converting"_s);
+        QCOMPARE(main.Answers.TakeShown(), (QStringList{converter, u"frmHelp"_s}));
+    }
+
+    void TheHelpOfCsiIsAMessage() {
+        RunningWindow main;
+        main.Folder.Write("ConvertCustom.rtf", R"({\rtf1 On converting})");
+        main.Answers.Next([&](QWidget& window) {
+            Choose(window, "mnuHelp");
+            Choose(window, "mnuFileExit");
+        });
+        main.Choose("mnuFileConvertCSI");
+        QStringList const shown = main.Answers.TakeShown();
+        QCOMPARE(shown.size(), 2);
+        QCOMPARE(shown.first(), u"frmConvertCSI"_s);
+        QVERIFY2(shown.last().startsWith(u"Data Conversion Utility|information|OK|Locate"_s),
+                 qPrintable(shown.last()));
+    }
+
+    void TheFileIsReadAnewAndItsDocumentMadeOnlyWhenItHasChanged() {
+        CountedFile file;
+        file.Content = R"({\rtf1 First})";
+        settings::Settings const settings;
+        platform::fake::ScriptedDialogs dialogs;
+        std::string const folder = "folder/";
+        auxiliary::ui::frmHelp help(nullptr, folder, settings, file, dialogs);
+        DocumentCount const documents(TextOf(help));
+        ModalAnswers answers;
+        answers.Next([&](QWidget& window) {
+            QVERIFY(!file.Paths.isEmpty());
+            QCOMPARE(documents.Count, 1); // however often the window system activated and sized the window
+            for (Reload const reload : {Resize, Activate}) {
+                auto const readings = file.Paths.size();
+                reload(window);
+                QVERIFY(file.Paths.size() > readings);
+                QCOMPARE(documents.Count, 1);
+                QCOMPARE(TextOf(window).toPlainText(), u"First"_s);
+            }
+            file.Content = R"({\rtf1 Second})";
+            Activate(window);
+            Resize(window);
+            QCOMPARE(documents.Count, 2);
+            QCOMPARE(TextOf(window).toPlainText(), u"Second"_s);
+            Choose(window, "mnuFileExit");
+        });
+        help.RunModal("Some.rtf");
+        QVERIFY(answers.IsDone());
+        QCOMPARE(QSet<QString>(file.Paths.begin(), file.Paths.end()), QSet<QString>{u"folder/Some.rtf"_s});
+    }
+
+    void AReloadGoesToTheVeryTopWithNothingSelected_data() {
+        QTest::addColumn<bool>("isResized");
+        QTest::addColumn<bool>("isWrittenAnew");
+        for (bool const isResized : {false, true}) {
+            for (bool const isWrittenAnew : {false, true}) {
+                QTest::addRow("%s, %s", isResized ? "resized" : "activated",
+                              isWrittenAnew ? "written anew" : "the same")
+                    << isResized << isWrittenAnew;
+            }
+        }
+    }
+
+    void AReloadGoesToTheVeryTopWithNothingSelected() {
+        QFETCH(bool, isResized);
+        QFETCH(bool, isWrittenAnew);
+        RunningWindow main;
+        main.Folder.Write(ReadMe, LongDocument());
+        OnHelp(main, [&](QWidget& window) {
+            QTextEdit& text = TextOf(window);
+            QCOMPARE(text.verticalScrollBar()->value(), 0); // when it opens
+            text.selectAll();
+            text.verticalScrollBar()->setValue(text.verticalScrollBar()->maximum());
+            QVERIFY(text.verticalScrollBar()->value() > 0);
+            if (isWrittenAnew) {
+                main.Folder.Write(ReadMe, LongDocument() + ' ');
+            }
+            (isResized ? Resize : Activate)(window);
+            QTest::qWait(0);
+            QCOMPARE(text.verticalScrollBar()->value(), 0);
+            QVERIFY(!text.textCursor().hasSelection());
+        });
     }
 
     void ResizingReloadsTheDocumentAndGoesBackToItsTop() {
