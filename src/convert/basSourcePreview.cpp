@@ -4,6 +4,7 @@
 #include "convert/basSourcePreview.h"
 
 #include "convert/basConvertSubs.h"
+#include "convert/basSourceText.h"
 #include "platform/basFiles.h"
 #include "text/RunTimeError.h"
 #include "text/basLines.h"
@@ -34,7 +35,7 @@ std::string ReadLines(std::string const& name, platform::Files const& files) {
     auto const source = files.OpenForInput(name);
     text::LineReader lines(*source);
     while (auto const line = lines.Next()) {
-        contents += *line;
+        contents += ReadableText(*line);
         contents += "\r\n";
     }
     return contents;

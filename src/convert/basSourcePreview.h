@@ -35,7 +35,8 @@ public:
 void BrowseForSource(ConverterTexts const& texts, platform::Files const& files, platform::Dialogs& dialogs,
                      SourceBoxes& boxes);
 
-// The lines of the file, each with CR LF behind it. Empty after a message told why the file cannot be shown.
+// The lines of the file as UTF-8, each with CR LF behind it. Empty after a message told why the file cannot
+// be shown.
 [[nodiscard]] std::string LoadSourceFile(std::string const& name, platform::Files const& files,
                                          platform::Dialogs& dialogs);
 

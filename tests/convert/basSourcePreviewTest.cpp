@@ -47,6 +47,11 @@ TEST_F(SourcePreview, HasEveryLineWithItsLineEnd) {
     EXPECT_THAT(dialogs.Messages, IsEmpty());
 }
 
+TEST_F(SourcePreview, ShowsWhatIsNoUtf8AsWindows1252) {
+    files.Contents["a.txt"] = "Caf\xE9\r\nCaf\xC3\xA9";
+    EXPECT_EQ(Load("a.txt"), "Caf\xC3\xA9\r\nCaf\xC3\xA9\r\n");
+}
+
 TEST_F(SourcePreview, WantsAName) {
     EXPECT_EQ(Load(""), "");
     EXPECT_THAT(BoxesOf(dialogs), ElementsAre("Data Conversion Utility|none|Invalid source file name"));

@@ -112,6 +112,13 @@ private Q_SLOTS:
         QCOMPARE(csi.TakeMessages(), QStringList());
     }
 
+    void BytesThatAreNoUtf8AreShownAsWindows1252() {
+        CsiWindow csi;
+        csi.Folder.Write("in.txt", "Caf\xE9 \x80 Caf\xC3\xA9\r\n");
+        BrowseTo(csi, csi.Window, csi.Path("in.txt"));
+        QCOMPARE(PreviewOf(csi.Window), u"Caf\u00E9 \u20AC Caf\u00E9\n"_s);
+    }
+
     void BrowseOffersTextFilesFirst() {
         CsiWindow csi;
         BrowseTo(csi, csi.Window, u""_s);
