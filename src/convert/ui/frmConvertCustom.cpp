@@ -5,6 +5,7 @@
 
 #include "platform/pictures/QtTexts.h"
 #include "platform/qt/QtDialogs.h"
+#include "text/RunTimeError.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -61,8 +62,13 @@ frmConvertCustom::frmConvertCustom(QWidget* parent, platform::Files& files, plat
     PutTabStopsFirst(tabStops);
     constexpr int UsualWidth = 640;
     TakeWidth(UsualWidth);
+    // The rows follow what is typed; a number that is not finished is nothing to complain about yet.
     connect(numFields_, &QComboBox::currentTextChanged, this,
-            [this] { platform::qt::RunGuarded(*this, [this] { ShowRows(); }); });
+            [this] { static_cast<void>(text::Trap([this] { ShowRows(); })); });
+    // Once the click that left the entry is over: a message would keep the button pressed.
+    connect(
+        numFields_->lineEdit(), &QLineEdit::editingFinished, this,
+        [this] { platform::qt::RunGuarded(*this, [this] { CheckNumFields(); }); }, Qt::QueuedConnection);
     ShowRows();
 }
 
@@ -123,6 +129,17 @@ void frmConvertCustom::ShowRows() {
     for (std::int16_t row = 1; row <= MostFields; ++row) {
         rows_[row].Caption->setVisible(row <= count);
         rows_[row].Name->setVisible(row <= count);
+    }
+}
+
+// Enter finishes the entry without leaving it, and like a click on Convert starts a conversion, which itself
+// tells what is wrong.
+void frmConvertCustom::CheckNumFields() {
+    if (numFields_->lineEdit()->hasFocus() || platform::qt::TopmostOf(*this) != this || !isVisible()) {
+        return;
+    }
+    if (auto const fault = text::Trap([this] { ShowRows(); })) {
+        Dialogs().Show(Complaint(fault->Description()));
     }
 }
 

@@ -38,6 +38,7 @@ private:
     void AddFields(CustomChoices const& choices);
     void AddField(std::int16_t row, std::string const& name, QGridLayout& grid);
     void ShowRows();
+    void CheckNumFields();
 
     std::function<void()> showHelp_;
     QComboBox* numFields_ = nullptr;

@@ -138,13 +138,46 @@ private Q_SLOTS:
         QCOMPARE(custom.List(u"cboNumFields"_s).count(), 10); // nothing is added to what is offered
     }
 
-    void TellsOfATypedNumberThatIsTooLarge() {
+    void TellsOfANumberThatIsTooLargeWhenItsEntryIsLeft() {
         CustomWindow custom;
         custom.TypeOver(u"cboNumFields"_s, u"99999"_s);
+        QCoreApplication::processEvents();
+        QCOMPARE(custom.Rows().size(), 10); // as 9999 showed
+        QCOMPARE(custom.TakeMessages(), QStringList());
+        QTest::keyClick(custom.Window.focusWidget(), Qt::Key_Tab);
+        QCoreApplication::processEvents();
         QCOMPARE(custom.Rows().size(), 10);
-        QCOMPARE(custom.Answers.Shown().size(), 1);
-        QVERIFY2(custom.Answers.Shown().first().endsWith(u"|Overflow"_s),
-                 qPrintable(custom.Answers.Shown().first()));
+        QCOMPARE(custom.TakeMessages(), QStringList(ConverterBox(u"exclamation"_s, u"Overflow"_s)));
+        QCOMPARE(custom.Answers.Shown(), QStringList());
+    }
+
+    void TellsNothingOfANumberThatIsCorrectedInTime() {
+        CustomWindow custom;
+        custom.TypeOver(u"cboNumFields"_s, u"99999"_s);
+        custom.Choose(u"cboNumFields"_s, u"2"_s);
+        QTest::keyClick(custom.Window.focusWidget(), Qt::Key_Tab);
+        QCoreApplication::processEvents();
+        QCOMPARE(custom.Rows().size(), 2);
+        QCOMPARE(custom.TakeMessages(), QStringList());
+    }
+
+    void TellsOfANumberThatIsTooLargeOnceWhenEnterConverts() {
+        CustomWindow custom;
+        TypeInto(custom.Window, "txtSrceFileName", u"a"_s);
+        TypeInto(custom.Window, "txtDestFileName", u"b"_s);
+        QCoreApplication::processEvents();
+        custom.TypeOver(u"cboNumFields"_s, u"99999"_s);
+        QTest::keyClick(custom.Window.focusWidget(), Qt::Key_Return);
+        QCoreApplication::processEvents();
+        QCOMPARE(custom.TakeMessages(), QStringList(ConverterBox(u"exclamation"_s, u"Overflow"_s)));
+    }
+
+    void TellsNothingOfANumberOnceTheWindowIsClosed() {
+        CustomWindow custom;
+        custom.TypeOver(u"cboNumFields"_s, u"99999"_s);
+        custom.Window.close();
+        QCoreApplication::processEvents();
+        QCOMPARE(custom.TakeMessages(), QStringList());
     }
 
     void ConvertsWhatIsTyped() {
