@@ -126,6 +126,11 @@ TEST(Custom, ReadsEveryDateFormat) {
     }
 }
 
+TEST(Custom, TakesTheCenturyForTheYearOfALongerDate) {
+    auto const layout = ChoicesOf({"date", "open", "high", "low", "close"}, "mm/dd/yy");
+    EXPECT_EQ(LineOf(layout, "11/05/1999,1,2,3,4"), "11/05/19, 1, 2, 3, 4, 0, 0\r\n");
+}
+
 TEST(Custom, RefusesEveryDateInAFormatThatIsNone) {
     EXPECT_EQ(LineOf(ChoicesOf({"date", "open", "high", "low", "close"}, "dd.mm.yy"), "15.01.02,1,2,3,4"),
               "refused");

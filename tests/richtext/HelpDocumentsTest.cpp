@@ -178,6 +178,79 @@ TEST(IndexDocument, RefersToEntriesThatExist) {
     }
 }
 
+// The explanation of an entry, which must be there.
+std::string ExplanationOf(std::string_view name, std::string_view place) {
+    for (tests::IndexEntry const& entry : tests::ReadIndexEntries()) {
+        if (entry.Name == name && entry.Place == place) {
+            return entry.Explanation;
+        }
+    }
+    ADD_FAILURE() << "no entry " << name;
+    return {};
+}
+
+TEST(IndexDocument, TellsThatADateFormatCanTakeTheCenturyForTheYear) {
+    EXPECT_THAT(
+        ExplanationOf("Date Format", "Custom converter"),
+        testing::HasSubstr("mm/dd/yy also accepts mm/dd/yyyy and then takes the century for the year, "
+                           "so that 11/05/1999 becomes 11/05/19."));
+}
+
+TEST(IndexDocument, TellsWhatATooLargeNumberOfFieldsGives) {
+    EXPECT_THAT(ExplanationOf("No. of Fields", "Custom converter"),
+                testing::HasSubstr("A larger number that you type is refused with \u201CSubscript out of "
+                                   "range\u201D or, beyond 32767, with \u201COverflow\u201D."));
+    EXPECT_THAT(ExplanationOf("\u201CSubscript out of range\u201D", "message"),
+                testing::HasSubstr("when No. of Fields is more than 10; choose 1 to 10."));
+    EXPECT_THAT(ExplanationOf("\u201COverflow\u201D", "message"),
+                testing::HasSubstr("when No. of Fields is more than 32767; choose 1 to 10."));
+}
+
+TEST(IndexDocument, TellsHowDecimalCommasBecomePoints) {
+    EXPECT_THAT(ExplanationOf("Field Delimiter", "Custom converter"),
+                testing::HasSubstr("304,75;305,00 has to become 304.75,305.00."));
+}
+
+TEST(IndexDocument, TellsThatSwitchingProgramsReadsAHelpDocumentAgain) {
+    EXPECT_THAT(
+        ExplanationOf("Help viewer", "window"),
+        testing::HasSubstr("switching to another program and back, reads the document again: the view "
+                           "goes back to its top, and nothing is selected any more."));
+}
+
+TEST(IndexDocument, TellsWhichCharactersTheContentsBoxShows) {
+    EXPECT_THAT(ExplanationOf("Contents box", "converters"),
+                testing::HasSubstr("Characters are shown as UTF-8 or, where they are none, as Windows-1252"));
+}
+
+TEST(ConvertingDocument, TellsWhatGoesUnnoticedAndWhatIsRefused) {
+    std::string const text = TextOf(tests::ReadHelp("ConvertCustom.rtf"));
+    for (std::string_view const sentence :
+         {"mm/dd/yy also accepts dates written mm/dd/yyyy and then takes the century for the year: "
+          "11/05/1999 becomes 11/05/19, and the message still says \u201Ccreated successfully\u201D.",
+          "No. of Fields goes up to 10. A larger number that you type is refused with \u201CSubscript out of "
+          "range\u201D or, beyond 32767, with \u201COverflow\u201D.",
+          "Many programs write semicolons between the fields and commas within the numbers, as in "
+          "01/15/02;302,50;305,00;301,25;304,75. Such a file is refused. First replace every comma by a "
+          "point, then every semicolon by a comma."}) {
+        EXPECT_THAT(text, testing::HasSubstr(sentence));
+    }
+}
+
+TEST(ConvertingDocument, ExplainsTheMessagesOfANumberThatIsTooLarge) {
+    auto const document = tests::ReadHelp("ConvertCustom.rtf");
+    std::vector<std::string> meanings;
+    for (TableRow const& row : TableHeaded(document, "Message").Rows) {
+        auto const cells = CellsOf(row);
+        if (cells.at(0) == "Overflow" || cells.at(0) == "Subscript out of range") {
+            meanings.push_back(cells.at(1));
+        }
+    }
+    EXPECT_THAT(meanings, testing::ElementsAre(
+                              testing::HasSubstr("Custom: or No. of Fields is more than 32767."),
+                              testing::HasSubstr("No. of Fields of the Custom converter is more than 10.")));
+}
+
 TEST(SymbolsDocument, HasATableOfContracts) {
     auto const document = tests::ReadHelp("CommoditySymbols.rtf");
     Table const& table = TableHeaded(document, "Exchange");
