@@ -3,7 +3,7 @@
 
 // The commands of the main window, without the window: what each does to the program's data and what it tells
 // the user. Every command runs under an error trap; a fault that a command does not report otherwise is shown
-// as its description.
+// as its description. What looks odd in them is meant: docs/behaviour.md tells why.
 #pragma once
 
 #include "app/Program.h"
@@ -14,7 +14,7 @@ namespace quorvex::app {
 
 void FileOpen(Program& program, Services& services);
 
-// Leaves the charts of the cycles as they are: they do not depend on the quotes.
+// Leaves the charts of the cycles as they are: they do not depend on the quotes (docs/behaviour.md).
 void FileClose(Program& program, Services& services);
 
 // Opens the quote editor. Saving under another name there changes the name of the open file.
@@ -27,8 +27,8 @@ void FileConvertCSI(Program& program, Services& services);
 void FileConvertBarChart(Program& program, Services& services);
 void FileConvertCustom(Program& program, Services& services);
 
-// Prints the chart page once, or says that no quotes are open; then prints it once more in either case. An
-// error ends the command.
+// Prints the chart page once, or says that no quotes are open; then prints it once more in either case: see
+// docs/behaviour.md. An error ends the command.
 void FilePrint(Program& program, Services& services);
 
 // Starts the system's printer settings.
@@ -44,7 +44,7 @@ void ParametersOpen(Program& program, Services& services);
 void ParametersSave(Program& program, Services& services);
 void ParametersSaveAs(Program& program, Services& services);
 
-// Nothing: the item is there and has no action.
+// Nothing: the item is there and has no action (docs/behaviour.md).
 void ParametersPrint(Program& program, Services& services);
 
 // Fits 1, 2 or 3 cycles to the moving average and takes them up from the grid.

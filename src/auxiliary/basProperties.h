@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-// The summary of the quotes that are analysed.
+// The summary of the quotes that are analysed. What looks odd in it is meant: docs/behaviour.md.
 #pragma once
 
 #include "quotes/QuoteSeries.h"

@@ -15,7 +15,7 @@ namespace quorvex::chart {
 [[nodiscard]] quotes::PriceScale ComputePriceRange(quotes::QuoteSeries const& series);
 
 // The range from the lowest Low to the highest High of the working days, widened by a tenth at the top and
-// then by a tenth of the widened range at the bottom, which is therefore the larger margin.
+// then by a tenth of the widened range at the bottom: the larger margin is meant (docs/behaviour.md).
 [[nodiscard]] quotes::PriceScale ComputePriceScale(quotes::QuoteSeries const& series);
 
 // The distance of two columns in a box of this width, which leaves a column's width empty at each end: column

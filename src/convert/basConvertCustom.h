@@ -44,7 +44,7 @@ struct CustomChoices {
 // A checked description of a file.
 struct CustomDescription {
     std::int16_t FieldCount = 0;
-    std::string Delimiter; // as chosen; records are separated by commas nonetheless
+    std::string Delimiter; // as chosen; commas separate nonetheless: docs/behaviour.md
     std::string DateFormat;
     // Which field of a record, counted from 1, has the value of this name; 0 where none has.
     std::array<std::int16_t, FieldNames.size()> Positions{};

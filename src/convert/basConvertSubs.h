@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // What all converters share: the checks and the conversion of a whole file.
-// docs/formats/vendor-files.md describes the files.
+// docs/formats/vendor-files.md describes the files, docs/behaviour.md what is meant in the checks.
 #pragma once
 
 #include "convert/SourceLayout.h"

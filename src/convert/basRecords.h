@@ -31,7 +31,7 @@ struct DatePlaces {
 };
 
 // Appends the date as "mm/dd/yy". Returns false and appends nothing when the month is outside 1..12 or the
-// day outside 1..31; that the month has the day is not checked, nor is the year.
+// day outside 1..31; neither the month's length nor the year is checked (docs/behaviour.md).
 [[nodiscard]] bool AppendDate(std::string_view field, DatePlaces const& places, std::string& line);
 
 // Appends the field and, in front of it, what joins it to the one before.

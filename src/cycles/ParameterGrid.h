@@ -47,7 +47,7 @@ void ClearGrid(ParameterGrid& grid);
 // Takes what was typed into the set: weights outside 0..100 become "0", the others are scaled to percent of
 // their sum, all parameters become whole numbers, and the cells show them. Returns whether the set was taken
 // from the grid: not when all weights are zero, which leaves the set alone, and not after a fault, which ends
-// it quietly and may leave it half done.
+// it quietly and may leave it half done. Weights that are read twice may be scaled twice: docs/behaviour.md.
 bool ReadGrid(ParameterGrid& grid, CycleParameterSet& set, platform::PendingMessages& pending);
 
 // Shows the set, rounded to whole numbers. Raises "Overflow" for a parameter outside -32768..32767.

@@ -23,7 +23,7 @@ struct SinusoidFit {
     double SineCoefficient = 0;
 };
 
-// The angle whose cosine is x, in radians; 0 for x of -1 or below as well as of 1 or above.
+// The angle whose cosine is x, in radians; 0 from 1 on and from -1 down (docs/behaviour.md).
 [[nodiscard]] double ArcCosine(double x);
 
 // Fits one sinusoid to the values 1..count. Raises "Division by zero" when no point tells a frequency or the

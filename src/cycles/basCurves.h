@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-// The curves of the four charts: what each day's value is. Drawing them is the charts' business.
+// The curves of the four charts: what each day's value is. What looks odd here is meant: docs/behaviour.md.
 #pragma once
 
 #include "cycles/CycleCurves.h"

@@ -24,7 +24,7 @@ using ForecastDates = text::SlotArray<std::string, ForecastDays>;
 [[nodiscard]] bool RequireForecastWeights(ParameterGrid const& grid, platform::Dialogs& dialogs);
 
 // The last close plus four times the sum of the active cycles' unit sines, each with the phase 4 pi Shift /
-// n. The weights take no part. Raises "Division by zero" without working days.
+// n. The weights take no part (docs/behaviour.md). Raises "Division by zero" without working days.
 [[nodiscard]] ForecastCurve ComputeForecast(CycleParameterSet const& set, quotes::QuoteSeries const& series);
 
 // The 25 weekdays behind the last quote's date as "mm/dd/yy"; holidays count as trading days. Raises "Type

@@ -35,7 +35,7 @@ void OpenParameters(CycleParameterSet& set, ParameterGrid& grid, std::string_vie
                     platform::Files const& files, platform::Dialogs& dialogs);
 
 // Checks that there is something to save. Parameter files are only ever read by the program: no file is
-// written.
+// written (docs/behaviour.md).
 void SaveParameters(ParameterGrid const& grid, platform::Dialogs& dialogs);
 
 // As SaveParameters, asking for a name until one is good or empty, and reporting the current name as saved.

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // Opening the quote editor, filling its grid, and its row commands. Every command that fills the grid anew
-// drops what was typed and not saved.
+// drops what was typed and not saved (docs/behaviour.md).
 #pragma once
 
 #include "editor/Editor.h"

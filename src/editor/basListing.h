@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-// The listing of the editor's rows on paper.
+// The listing of the editor's rows on paper. docs/behaviour.md tells why its last page has no number.
 #pragma once
 
 #include "editor/Editor.h"

@@ -21,9 +21,9 @@ void CopySpreadToArray(Editor& editor);
 
 // Copies the grid into the editor's copy and writes that to the file, whose name is taken as it is: a bare
 // one lies in the current folder of the process. Volume and open interest of row r are those of record r of
-// the master copy, whatever the grid says. Returns false, and shows nothing, when a cell is no number, when
-// the currency format spells prices in a way that would not read back, or when the file cannot be written:
-// then a file of that name is as it was.
+// the master copy, whatever the grid says: both are meant, see docs/behaviour.md. Returns false, and shows
+// nothing, when a cell is no number, when the currency format spells prices in a way that would not read
+// back, or when the file cannot be written: then a file of that name is as it was.
 [[nodiscard]] bool SaveEditData(std::string const& fileName, Editor& editor,
                                 quotes::QuoteRecords const& master, settings::Settings const& settings,
                                 platform::Files& files);

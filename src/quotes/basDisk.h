@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-// Reading and writing quote files. docs/formats/quote-file.md describes the format.
+// Reading and writing quote files: docs/formats/quote-file.md. What looks odd is meant: docs/behaviour.md.
 #pragma once
 
 #include "platform/Dialogs.h"

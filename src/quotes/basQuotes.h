@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-// The File commands that choose, close and save a quote file, without their windows.
+// The File commands that choose, close and save a quote file, without their windows (docs/behaviour.md).
 #pragma once
 
 #include "platform/Dialogs.h"

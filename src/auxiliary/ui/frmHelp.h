@@ -19,7 +19,7 @@ namespace quorvex::auxiliary::ui {
 
 // Shows one rich-text document of the program folder and prints it or what is selected of it. The file is
 // read anew whenever the window is activated or changes its size: the view then goes to the top with nothing
-// selected. One that cannot be read leaves the window empty.
+// selected. One that cannot be read leaves the window empty. docs/behaviour.md tells why.
 class frmHelp final : public QDialog {
     Q_OBJECT
 
