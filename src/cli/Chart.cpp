@@ -75,7 +75,7 @@ bool WriteChart(std::string const& path, ChartSheet const& sheet, platform::Pict
     }
     return platform::RunReported(session.Dialogs(), [&] {
         auto const kind = platform::PictureKindOf(path);
-        session.Files().Replace(path, kind ? sheet.Encode(*encoder, *kind) : ChartJson(sheet.Drawings()));
+        session.Files().Overwrite(path, kind ? sheet.Encode(*encoder, *kind) : ChartJson(sheet.Drawings()));
     });
 }
 

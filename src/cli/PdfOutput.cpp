@@ -39,7 +39,7 @@ bool PrintToPdf(platform::PdfPrintQueue& queue, std::string const& path, platfor
         if (path == "-") {
             isWritten = PrintBytes(queue.Pdf());
         } else {
-            files.Replace(path, queue.Pdf());
+            files.Overwrite(path, queue.Pdf());
         }
     });
     return isPrinted && isWritten;

@@ -15,6 +15,22 @@ void PipeFiles::Replace(std::string const& path, std::string_view content) {
     disk_.Replace(path, content);
 }
 
+void PipeFiles::Overwrite(std::string const& path, std::string_view content) {
+    if (path != PipeName) {
+        disk_.Overwrite(path, content);
+        return;
+    }
+    auto const output = platform::disk::OpenStandardOutput();
+    output->Write(content);
+    output->Close();
+}
+
+void PipeFiles::Keep(std::string const& path) {
+    if (path != PipeName) {
+        disk_.Keep(path);
+    }
+}
+
 std::unique_ptr<platform::ByteSink> PipeFiles::OpenForOutput(std::string const& path) {
     return path == PipeName ? platform::disk::OpenStandardOutput() : disk_.OpenForOutput(path);
 }

@@ -65,6 +65,7 @@ public:
     }
 
     platform::ByteSink& Open() {
+        files_.Keep(name_);
         sink_ = files_.OpenForOutput(name_);
         return *sink_;
     }

@@ -31,6 +31,9 @@ public:
     virtual void Close() = 0;
 };
 
+// What stands behind the name of a file that keeps what another one held.
+inline constexpr std::string_view BackupMark = "~";
+
 // The faults are those of text::RunTimeError: "Bad file name or number" for a name that no file can have,
 // "File not found", "Path not found" when its folder is missing, "Permission denied" (a folder, a pipe or a
 // device in place of a file included), "Disk full".
@@ -44,9 +47,18 @@ public:
     // Opens the file for reading; it is closed when the source goes.
     [[nodiscard]] virtual std::unique_ptr<text::ByteSource> OpenForInput(std::string const& path) const = 0;
 
-    // Gives the file these bytes as its whole content, creating it when missing. On a fault, and also when
-    // the program or the machine stops half-way, the file is as it was before.
+    // Gives the file these bytes as its whole content, creating it when missing. What it held before stays as
+    // Keep tells, unless that is the same. On a fault, and also when the program or the machine stops
+    // half-way, the file is as it was before.
     virtual void Replace(std::string const& path, std::string_view content) = 0;
+
+    // The same for what can be made again, such as a picture: what the file held before is not kept.
+    virtual void Overwrite(std::string const& path, std::string_view content) = 0;
+
+    // Puts a copy of the file, with its rights, under its name with BackupMark behind it, in place of an
+    // older one. A link is followed: the copy lies beside the file that it names. A file that is missing or
+    // empty needs none. On a fault, and also when the program stops half-way, the older copy is whole.
+    virtual void Keep(std::string const& path) = 0;
 
     // Makes the file empty at once, creating it when missing, and opens it for writing; what was in it is
     // lost. A file that a link names is the one that is written. A fault leaves everything as it was.

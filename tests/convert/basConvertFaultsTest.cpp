@@ -55,7 +55,24 @@ TEST_F(ConversionFaults, ABadFileTakesAnOlderDestinationWithIt) {
     EXPECT_THAT(ConvertTo("out.txt"),
                 ElementsAre(ExclamationBox("Invalid record at line 2 in\nfile " + folder.File("in.txt"))));
     EXPECT_FALSE(Exists("out.txt"));
+    EXPECT_EQ(folder.Read("out.txt~"), "older");
     EXPECT_TRUE(Exists("in.txt"));
+}
+
+TEST_F(ConversionFaults, AGoodFileKeepsWhatTheDestinationHeld) {
+    folder.Write("in.txt", GoodLine);
+    folder.Write("out.txt", "older");
+    EXPECT_THAT(ConvertTo("out.txt"),
+                ElementsAre(InformationBox("Data file " + folder.File("out.txt") + " created successfully")));
+    EXPECT_EQ(folder.Read("out.txt~"), "older");
+}
+
+TEST_F(ConversionFaults, ADestinationThatCannotBeKeptStays) {
+    folder.Write("in.txt", GoodLine);
+    folder.Write("out.txt", "older");
+    std::filesystem::create_directory(folder.File("out.txt~"));
+    EXPECT_THAT(ConvertTo("out.txt"), ElementsAre(ExclamationBox("Permission denied")));
+    EXPECT_EQ(folder.Read("out.txt"), "older");
 }
 
 TEST_F(ConversionFaults, AMissingSourceCreatesNothing) {
@@ -80,6 +97,7 @@ TEST_F(ConversionFaults, ASourceThatIsTheDestinationUnderAnotherNameIsEmptied) {
     EXPECT_THAT(ConvertTo("link.txt"), ElementsAre(InformationBox("Data file " + folder.File("link.txt") +
                                                                   " created successfully")));
     EXPECT_EQ(folder.Read("in.txt"), "");
+    EXPECT_EQ(folder.Read("link.txt~"), std::string(GoodLine) + GoodLine);
 }
 
 #ifndef _WIN32
@@ -112,7 +130,7 @@ TEST_F(ConversionFaults, AWritableDestinationInAnUnwritableFolderIsLeftEmpty) {
         text += GoodLine;
     }
     folder.Write("in.txt", text + "x\r\n");
-    folder.Write("out.txt", "older");
+    folder.Write("out.txt", "");
     for (auto const* name : {"in.txt", "out.txt"}) {
         std::filesystem::permissions(folder.File(name), std::filesystem::perms(0666));
     }

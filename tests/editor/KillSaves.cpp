@@ -1,25 +1,35 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-// Kills a process that saves over and over, so many times at random moments, and looks at the file each time:
-// it must be one of the two that are saved in turn, whole. For POSIX systems.
+// Kills a process that saves over and over, so many times at random moments for each kind of save, and looks
+// at the files each time: the name holds one of the two contents that are saved in turn, whole, or else what
+// stood there before does under the name with the mark behind it. For POSIX systems.
 //
 //   kill_saves [COUNT [SEED]]
 
+#include "convert/basConvertCSI.h"
+#include "convert/basConvertSubs.h"
 #include "editor/Sheet.h"
 #include "editor/basEdit.h"
 #include "editor/basSave.h"
 #include "editor/basSpread.h"
 #include "platform/disk/DiskFiles.h"
+#include "platform/disk/DiskProfile.h"
+#include "platform/fake/ScriptedDialogs.h"
+#include "quotes/basQuotes.h"
+#include "settings/basProfiles.h"
 #include "support/QuoteTexts.h"
 #include "support/TemporaryFolder.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <random>
 #include <string>
 #include <string_view>
@@ -30,30 +40,112 @@ namespace quorvex::tests {
 namespace {
 
 constexpr std::string_view FileName = "quotes.txt";
+constexpr std::string_view BackupName = "quotes.txt~";
 constexpr int Days = 500;
 
-// Two sets of quotes that differ in every row, in length as well.
+// Saves one of two contents under FileName. They differ throughout, and in length.
 class Saver {
 public:
-    explicit Saver(TemporaryFolder const& folder) : path_(folder.File(FileName)) {
+    explicit Saver(TemporaryFolder const& folder) : folder_(folder) {}
+
+    Saver(Saver const&) = delete;
+    Saver& operator=(Saver const&) = delete;
+    virtual ~Saver() = default;
+
+    // Returns whether it went well.
+    [[nodiscard]] virtual bool Save(bool isLong) = 0;
+
+protected:
+    [[nodiscard]] TemporaryFolder const& Folder() const { return folder_; }
+
+    [[nodiscard]] std::string Path() const { return folder_.File(FileName); }
+
+    [[nodiscard]] platform::disk::DiskFiles& Files() { return files_; }
+
+private:
+    TemporaryFolder const& folder_;
+    platform::disk::DiskFiles files_;
+};
+
+class EditorSaver final : public Saver {
+public:
+    explicit EditorSaver(TemporaryFolder const& folder) : Saver(folder) {
         editor::OpenEditor(*editor_, *series_);
         editor::RebuildGrid(*editor_, settings_);
     }
 
-    [[nodiscard]] bool Save(bool isLong) {
+    [[nodiscard]] bool Save(bool isLong) override {
         for (std::int16_t row = 1; row <= Days; ++row) {
             editor::PutText(sheet_, row, editor::FirstNumberColumn, isLong ? "123456.75" : "1.5");
         }
-        return editor::SaveEditData(path_, *editor_, series_->Master, settings_, files_);
+        return editor::SaveEditData(Path(), *editor_, series_->Master, settings_, Files());
     }
 
 private:
-    std::string path_;
     settings::Settings settings_ = settings::DefaultSettings("./");
     std::unique_ptr<quotes::QuoteSeries> series_ = SeriesOf(QuoteLines(Days));
     editor::Sheet sheet_;
     std::unique_ptr<editor::Editor> editor_ = std::make_unique<editor::Editor>(editor::Editor{sheet_, {}, 0});
-    platform::disk::DiskFiles files_;
+};
+
+class QuoteFileSaver final : public Saver {
+public:
+    explicit QuoteFileSaver(TemporaryFolder const& folder)
+        : Saver(folder),
+          settings_(settings::DefaultSettings(folder.Text())) {}
+
+    [[nodiscard]] bool Save(bool isLong) override {
+        for (std::int16_t day = 1; day <= Days; ++day) {
+            series_->Working[day].Volume = isLong ? 123456.75 : 1.5;
+        }
+        platform::fake::ScriptedDialogs dialogs;
+        dialogs.Texts = {std::string(FileName)};
+        quotes::SaveQuoteFileAs(*series_, settings_, Files(), dialogs);
+        return dialogs.Messages.empty();
+    }
+
+private:
+    settings::Settings settings_;
+    std::unique_ptr<quotes::QuoteSeries> series_ = SeriesOf(QuoteLines(Days));
+};
+
+class ConverterSaver final : public Saver {
+public:
+    // More lines than are kept back before the first writing, so that there is a half-written destination.
+    explicit ConverterSaver(TemporaryFolder const& folder) : Saver(folder) {
+        constexpr int Lines = 3000;
+        for (bool const isLong : {false, true}) {
+            std::string text;
+            for (int line = 0; line < Lines; ++line) {
+                text += isLong ? "20020115,1145.00,1150.00,1140.00,1148.00,25000,400000\r\n"
+                               : "20020116,2145.0,2150.0,2140.0,2148.0,2500,40000\r\n";
+            }
+            sources_.Write(SourceName(isLong), text);
+        }
+    }
+
+    [[nodiscard]] bool Save(bool isLong) override {
+        platform::fake::ScriptedDialogs dialogs;
+        return convert::ConvertFile({sources_.File(SourceName(isLong)), Path()}, convert::CsiLayout(),
+                                    Files(), dialogs);
+    }
+
+private:
+    static std::string_view SourceName(bool isLong) { return isLong ? "long.txt" : "short.txt"; }
+
+    TemporaryFolder sources_;
+};
+
+class ProfileSaver final : public Saver {
+public:
+    explicit ProfileSaver(TemporaryFolder const& folder) : Saver(folder) {}
+
+    [[nodiscard]] bool Save(bool isLong) override {
+        platform::disk::DiskProfile profile(Path(), Files());
+        settings::Settings settings = settings::DefaultSettings(isLong ? "C:\\Quotes\\" : "D:\\");
+        settings.DataSource = isLong ? std::string(200, 'x') : "";
+        return !text::Trap([&] { settings::WriteProfile(settings, profile); });
+    }
 };
 
 // Ends when a save fails, or when it is killed.
@@ -78,25 +170,55 @@ bool KillAfter(int microseconds, Saver& saver, bool isFirstLong) {
     return waitpid(child, &status, 0) == child && WIFSIGNALED(status);
 }
 
-// Removes what the killed one left beside the file. Returns whether there was anything: then it was killed
-// half-way through a save.
-bool RemoveLeftovers(TemporaryFolder const& folder) {
-    bool hasAny = false;
+// What the killed one left.
+struct Remains {
+    std::string Content; // under the name
+    std::optional<std::string> Backup;
+    bool HasTemporary = false;
+};
+
+// Reads what is there and leaves nothing of it.
+Remains TakeRemains(TemporaryFolder const& folder) {
+    Remains remains;
     for (auto const& entry : std::filesystem::directory_iterator(folder.Path())) {
-        if (entry.path().filename() != FileName) {
-            hasAny = true;
-            std::filesystem::remove(entry.path());
+        auto const name = entry.path().filename();
+        if (name == FileName) {
+            remains.Content = folder.Read(FileName);
+        } else if (name == BackupName) {
+            remains.Backup = folder.Read(BackupName);
+        } else {
+            remains.HasTemporary = true;
         }
+        std::filesystem::remove(entry.path());
     }
-    return hasAny;
+    return remains;
 }
 
 struct Tally {
     int Short = 0;
     int Long = 0;
+    int OnlyBackup = 0;
     int Broken = 0;
     int HalfWay = 0;
 };
+
+// The two contents that are saved in turn.
+struct Contents {
+    std::string Short;
+    std::string Long;
+
+    [[nodiscard]] bool Has(std::string const& text) const { return text == Short || text == Long; }
+};
+
+void Count(Remains const& remains, Contents const& contents, Tally& tally) {
+    bool const isWhole = contents.Has(remains.Content);
+    bool const hasBackup = remains.Backup && contents.Has(*remains.Backup);
+    tally.Short += remains.Content == contents.Short ? 1 : 0;
+    tally.Long += remains.Content == contents.Long ? 1 : 0;
+    tally.OnlyBackup += !isWhole && hasBackup ? 1 : 0;
+    tally.Broken += (remains.Backup && !hasBackup) || (!isWhole && !hasBackup) ? 1 : 0;
+    tally.HalfWay += remains.HasTemporary || !isWhole ? 1 : 0;
+}
 
 // 0 for what is no number: no kills show nothing.
 unsigned NumberOf(std::string_view argument) {
@@ -105,38 +227,59 @@ unsigned NumberOf(std::string_view argument) {
     return std::from_chars(argument.data(), end, number).ptr == end ? number : 0;
 }
 
-int Run(unsigned count, unsigned seed) {
+// What one save of each content leaves; nothing when a save fails.
+std::optional<Contents> SaveBoth(Saver& saver, TemporaryFolder const& folder) {
+    Contents contents;
+    for (bool const isLong : {false, true}) {
+        if (!saver.Save(isLong)) {
+            return std::nullopt;
+        }
+        (isLong ? contents.Long : contents.Short) = TakeRemains(folder).Content;
+    }
+    return contents;
+}
+
+bool RunKills(std::string_view kind, unsigned count, std::mt19937& random, TemporaryFolder const& folder,
+              Saver& saver) {
     constexpr int LongestMicroseconds = 15'000;
-    TemporaryFolder const folder;
-    Saver saver(folder);
-    if (!saver.Save(true)) {
-        return EXIT_FAILURE;
+    auto const contents = SaveBoth(saver, folder);
+    if (!contents || contents->Short == contents->Long) {
+        return false;
     }
-    std::string const longText = folder.Read(FileName);
-    if (!saver.Save(false)) {
-        return EXIT_FAILURE;
-    }
-    std::string const shortText = folder.Read(FileName);
-    std::mt19937 random(seed);
     std::uniform_int_distribution<int> pause(0, LongestMicroseconds);
     Tally tally;
     for (unsigned turn = 0; turn < count; ++turn) {
-        if (!KillAfter(pause(random), saver, turn % 2 == 0)) {
+        bool const isLongFirst = turn % 2 == 0;
+        folder.Write(FileName, isLongFirst ? contents->Short : contents->Long);
+        if (!KillAfter(pause(random), saver, isLongFirst)) {
             std::printf("Turn %u: the save failed by itself.\n", turn);
-            return EXIT_FAILURE;
+            return false;
         }
-        std::string const text = folder.Read(FileName);
-        tally.Short += text == shortText ? 1 : 0;
-        tally.Long += text == longText ? 1 : 0;
-        tally.Broken += text != shortText && text != longText ? 1 : 0;
-        tally.HalfWay += RemoveLeftovers(folder) ? 1 : 0;
+        Count(TakeRemains(folder), *contents, tally);
     }
-    std::printf("%u kills, seed %u: the file was %d times the one, %d times the other, %d times broken; "
-                "%d kills came half-way through a save.\n",
-                count, seed, tally.Short, tally.Long, tally.Broken, tally.HalfWay);
+    std::printf("%.*s, %u kills: %d times the one, %d times the other, %d times only under the name with the "
+                "mark, %d times broken; %d kills came half-way through a save.\n",
+                static_cast<int>(kind.size()), kind.data(), count, tally.Short, tally.Long, tally.OnlyBackup,
+                tally.Broken, tally.HalfWay);
     // Kills that all miss the saves, or all come before the first one, show nothing.
-    bool const isTelling = tally.HalfWay > 0 && tally.Short > 0 && tally.Long > 0;
-    return tally.Broken == 0 && isTelling ? EXIT_SUCCESS : EXIT_FAILURE;
+    return tally.Broken == 0 && tally.HalfWay > 0 && tally.Short > 0 && tally.Long > 0;
+}
+
+template <class SaverOfKind>
+bool KillSaves(std::string_view kind, unsigned count, std::mt19937& random) {
+    TemporaryFolder const folder;
+    SaverOfKind saver(folder);
+    return RunKills(kind, count, random, folder, saver);
+}
+
+int Run(unsigned count, unsigned seed) {
+    std::printf("Seed %u\n", seed);
+    std::mt19937 random(seed);
+    std::array<bool, 4> const good = {KillSaves<QuoteFileSaver>("Save As", count, random),
+                                      KillSaves<EditorSaver>("Editor", count, random),
+                                      KillSaves<ConverterSaver>("Converter", count, random),
+                                      KillSaves<ProfileSaver>("INI file", count, random)};
+    return std::ranges::find(good, false) == good.end() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 } // namespace

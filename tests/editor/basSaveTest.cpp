@@ -306,7 +306,8 @@ TEST_F(SavedEdits, OnDiskReplaceTheOldFileOrLeaveIt) {
     EXPECT_TRUE(folder.Read("quotes.txt").starts_with("01/01/01, 101.25"));
     EXPECT_FALSE(
         editor::SaveEditData(folder.File("none/quotes.txt"), *edited, series->Master, settings, disk));
-    EXPECT_EQ(folder.EntryCount(), 1);
+    EXPECT_EQ(folder.Read("quotes.txt~"), "old");
+    EXPECT_EQ(folder.EntryCount(), 2);
 }
 
 TEST_F(SavedEdits, OfRowsWithABadVolumeLeaveEveryDayInItsPlace) {

@@ -190,25 +190,133 @@ TEST(DiskFilesFaults, AnUnreadableFileIsDenied) {
     EXPECT_EQ(FaultOfOpening(folder.File("a.txt")), Fault::PermissionDenied);
 }
 
-TEST(DiskFilesFaults, AFileKeepsItsPermissions) {
-    tests::TemporaryFolder const folder;
-    folder.Write("a.txt", "old");
-    chmod(folder.File("a.txt").c_str(), 0640);
-    EXPECT_EQ(FaultOfReplacing(folder.File("a.txt"), "new"), std::nullopt);
-
+struct stat StatusOf(std::string const& path) {
     struct stat status {};
 
-    ASSERT_EQ(stat(folder.File("a.txt").c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777U, 0640U);
+    EXPECT_EQ(stat(path.c_str(), &status), 0);
+    return status;
 }
 
-TEST(DiskFilesFaults, ALinkKeepsPointingAtTheReplacedFile) {
+TEST(DiskFilesFaults, AFileAndWhatItReplacesKeepTheirPermissions) {
     tests::TemporaryFolder const folder;
-    folder.Write("real.txt", "old");
-    std::filesystem::create_symlink(folder.File("real.txt"), folder.File("link.txt"));
+    folder.Write("a.txt", "old");
+    folder.Write("a.txt~", "older");
+    chmod(folder.File("a.txt").c_str(), 0640);
+    EXPECT_EQ(FaultOfReplacing(folder.File("a.txt"), "new"), std::nullopt);
+    EXPECT_EQ(StatusOf(folder.File("a.txt")).st_mode & 0777U, 0640U);
+    EXPECT_EQ(StatusOf(folder.File("a.txt~")).st_mode & 0777U, 0640U);
+}
+
+TEST(DiskFilesFaults, AFileAndWhatItReplacesKeepTheirOwner) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "only the administrator may give files away";
+    }
+    constexpr uid_t Somebody = 4711;
+    constexpr gid_t SomeGroup = 4712;
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "old");
+    ASSERT_EQ(chown(folder.File("a.txt").c_str(), Somebody, SomeGroup), 0);
+    EXPECT_EQ(FaultOfReplacing(folder.File("a.txt"), "new"), std::nullopt);
+    for (auto const* name : {"a.txt", "a.txt~"}) {
+        EXPECT_EQ(StatusOf(folder.File(name)).st_uid, Somebody);
+        EXPECT_EQ(StatusOf(folder.File(name)).st_gid, SomeGroup);
+    }
+}
+
+TEST(DiskFilesFaults, AnotherGroupGetsNoMoreThanEverybody) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "only the administrator may give files away";
+    }
+    constexpr gid_t SomeGroup = 4712;
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "old");
+    ASSERT_EQ(chown(folder.File("a.txt").c_str(), 0, SomeGroup), 0);
+    chmod(folder.File("a.txt").c_str(), 0676);
+    chmod(folder.Path().c_str(), 0777);
+    {
+        AsOrdinaryUser const user;
+        EXPECT_EQ(FaultOfReplacing(folder.File("a.txt"), "new"), std::nullopt);
+    }
+    EXPECT_EQ(StatusOf(folder.File("a.txt~")).st_mode & 0777U, 0666U);
+    EXPECT_EQ(folder.Read("a.txt~"), "old");
+}
+
+TEST(DiskFilesFaults, AWriteProtectedCopyOfBeforeStaysAndNothingIsReplaced) {
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "old");
+    folder.Write("a.txt~", "precious");
+    chmod(folder.File("a.txt").c_str(), 0666);
+    chmod(folder.File("a.txt~").c_str(), 0444);
+    chmod(folder.Path().c_str(), 0777);
+    {
+        AsOrdinaryUser const user;
+        EXPECT_EQ(FaultOfReplacing(folder.File("a.txt"), "new"), Fault::PermissionDenied);
+    }
+    EXPECT_EQ(folder.Read("a.txt"), "old");
+    EXPECT_EQ(folder.Read("a.txt~"), "precious");
+    EXPECT_EQ(folder.EntryCount(), 2);
+}
+
+TEST(DiskFilesFaults, AFileThatMayNotBeReadCannotBeKeptAndStays) {
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "old");
+    chmod(folder.File("a.txt").c_str(), 0222);
+    chmod(folder.Path().c_str(), 0777);
+    {
+        AsOrdinaryUser const user;
+        EXPECT_EQ(FaultOfReplacing(folder.File("a.txt"), "new"), Fault::PermissionDenied);
+    }
+    chmod(folder.File("a.txt").c_str(), 0666);
+    EXPECT_EQ(folder.Read("a.txt"), "old");
+    EXPECT_EQ(folder.EntryCount(), 1);
+}
+
+TEST(DiskFilesFaults, ADiskWithoutRoomForTheCopyKeepsTheOldFile) {
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", std::string(5000, 'o'));
+    folder.Write("a.txt~", "older");
+    {
+        SmallDisk const small(1000);
+        EXPECT_EQ(FaultOfReplacing(folder.File("a.txt"), "new"), Fault::DiskFull);
+    }
+    EXPECT_EQ(folder.Read("a.txt"), std::string(5000, 'o'));
+    EXPECT_EQ(folder.Read("a.txt~"), "older");
+    EXPECT_EQ(folder.EntryCount(), 2);
+}
+
+TEST(DiskFilesFaults, ALinkInPlaceOfTheCopyIsReplacedAndNotFollowed) {
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "old");
+    folder.Write("other.txt", "other");
+    std::filesystem::create_symlink("other.txt", folder.File("a.txt~"));
+    EXPECT_EQ(FaultOfReplacing(folder.File("a.txt"), "new"), std::nullopt);
+    EXPECT_FALSE(std::filesystem::is_symlink(folder.File("a.txt~")));
+    EXPECT_EQ(folder.Read("a.txt~"), "old");
+    EXPECT_EQ(folder.Read("other.txt"), "other");
+}
+
+TEST(DiskFilesFaults, ADeadLinkInPlaceOfTheCopyIsReplaced) {
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "old");
+    std::filesystem::create_symlink("nowhere/gone.txt", folder.File("a.txt~"));
+    EXPECT_EQ(FaultOfReplacing(folder.File("a.txt"), "new"), std::nullopt);
+    EXPECT_EQ(folder.Read("a.txt~"), "old");
+    EXPECT_EQ(folder.EntryCount(), 2);
+}
+
+TEST(DiskFilesFaults, ALinkKeepsPointingAtTheReplacedFileBesideWhichTheCopyLies) {
+    tests::TemporaryFolder const folder;
+    std::filesystem::create_directory(folder.File("sub"));
+    folder.Write("sub/real.txt", "old");
+    std::filesystem::create_symlink(folder.File("sub/real.txt"), folder.File("link.txt"));
     EXPECT_EQ(FaultOfReplacing(folder.File("link.txt"), "new"), std::nullopt);
     EXPECT_TRUE(std::filesystem::is_symlink(folder.File("link.txt")));
-    EXPECT_EQ(folder.Read("real.txt"), "new");
+    EXPECT_EQ(folder.Read("sub/real.txt"), "new");
+    EXPECT_EQ(folder.Read("sub/real.txt~"), "old");
+    EXPECT_EQ(folder.EntryCount(), 2);
+    DiskFiles().Keep(folder.File("link.txt"));
+    EXPECT_EQ(folder.Read("sub/real.txt~"), "new");
+    EXPECT_EQ(folder.EntryCount(), 2);
 }
 
 TEST(DiskFilesFaults, ANewFileIsReadableAsTheUserWants) {

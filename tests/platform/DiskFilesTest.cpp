@@ -128,7 +128,78 @@ TEST(DiskFiles, ReplaceCreatesAndOverwrites) {
     EXPECT_EQ(folder.Read("a.txt"), "second");
     files.Replace(folder.File("a.txt"), "");
     EXPECT_EQ(folder.Read("a.txt"), "");
+    EXPECT_EQ(folder.EntryCount(), 2); // with what was replaced last
+}
+
+TEST(DiskFiles, ReplaceKeepsTheContentOfBefore) {
+    tests::TemporaryFolder const folder;
+    DiskFiles files;
+    files.Replace(folder.File("a.txt"), "one");
     EXPECT_EQ(folder.EntryCount(), 1);
+    files.Replace(folder.File("a.txt"), "two");
+    EXPECT_EQ(folder.Read("a.txt~"), "one");
+    files.Replace(folder.File("a.txt"), "three");
+    EXPECT_EQ(folder.Read("a.txt"), "three");
+    EXPECT_EQ(folder.Read("a.txt~"), "two");
+    EXPECT_EQ(folder.EntryCount(), 2);
+}
+
+TEST(DiskFiles, ReplaceKeepsAnOlderCopyWhenNothingIsLost) {
+    tests::TemporaryFolder const folder;
+    DiskFiles files;
+    std::string const large(200'000, 'x');
+    folder.Write("a.txt~", "older");
+    folder.Write("a.txt", "");
+    files.Replace(folder.File("a.txt"), large);
+    files.Replace(folder.File("a.txt"), large);
+    EXPECT_EQ(folder.Read("a.txt~"), "older");
+    files.Replace(folder.File("a.txt"), large.substr(1) + "y");
+    EXPECT_EQ(folder.Read("a.txt~"), large);
+}
+
+TEST(DiskFiles, OverwriteKeepsNothing) {
+    tests::TemporaryFolder const folder;
+    DiskFiles files;
+    files.Overwrite(folder.File("a.png"), "one");
+    files.Overwrite(folder.File("a.png"), "two");
+    EXPECT_EQ(folder.Read("a.png"), "two");
+    EXPECT_EQ(folder.EntryCount(), 1);
+}
+
+TEST(DiskFiles, KeepCopiesWhatThereIs) {
+    tests::TemporaryFolder const folder;
+    DiskFiles files;
+    files.Keep(folder.File("a.txt"));
+    folder.Write("a.txt", "");
+    files.Keep(folder.File("a.txt"));
+    EXPECT_EQ(folder.EntryCount(), 1);
+    folder.Write("a.txt", std::string(200'000, 'x'));
+    files.Keep(folder.File("a.txt"));
+    EXPECT_EQ(folder.Read("a.txt"), std::string(200'000, 'x'));
+    EXPECT_EQ(folder.Read("a.txt~"), std::string(200'000, 'x'));
+    EXPECT_EQ(folder.EntryCount(), 2);
+}
+
+TEST(DiskFiles, WhatWasReplacedIsNotListed) {
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "");
+    folder.Write("a.txt~", "");
+    folder.Write("b.dat~", "");
+    EXPECT_THAT(DiskFiles().List(folder.Text(), "*.Txt"), UnorderedElementsAre("a.txt"));
+    EXPECT_TRUE(DiskFiles().List(folder.Text(), "*.dat").empty());
+}
+
+TEST(DiskFiles, WithoutRoomForACopyNothingIsReplaced) {
+    tests::TemporaryFolder const folder;
+    DiskFiles files;
+    folder.Write("a.txt", "old");
+    std::filesystem::create_directory(folder.File("a.txt~"));
+    EXPECT_EQ(FaultOfReplacing(folder.File("a.txt")), Fault::PermissionDenied);
+    auto const error = text::Trap([&] { files.Keep(folder.File("a.txt")); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Kind(), Fault::PermissionDenied);
+    EXPECT_EQ(folder.Read("a.txt"), "old");
+    EXPECT_EQ(folder.EntryCount(), 2);
 }
 
 TEST(DiskFiles, ReplaceTellsWhyItCannot) {

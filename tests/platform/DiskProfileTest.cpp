@@ -89,7 +89,8 @@ TEST_F(DiskProfileTest, KeepsForeignContent) {
     folder_.Write("Quorvex.INI", before + "a" + after);
     WriteDataPath("C:\\Quotes\\");
     EXPECT_EQ(folder_.Read("Quorvex.INI"), before + "C:\\Quotes\\" + after);
-    EXPECT_EQ(folder_.EntryCount(), 1);
+    EXPECT_EQ(folder_.Read("Quorvex.INI~"), before + "a" + after);
+    EXPECT_EQ(folder_.EntryCount(), 2);
 }
 
 TEST_F(DiskProfileTest, ReadsAFileLargerThanItsBuffer) {

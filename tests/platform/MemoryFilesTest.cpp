@@ -43,6 +43,27 @@ TEST(MemoryFiles, FailAsTold) {
     EXPECT_EQ(files.Contents.at("a.txt"), "hello");
 }
 
+TEST(MemoryFiles, KeepWhatIsReplaced) {
+    MemoryFiles files;
+    files.Contents = {{"a.txt", "old"}, {"empty.txt", ""}};
+    files.Replace("a.txt", "old");
+    files.Replace("empty.txt", "new");
+    files.Overwrite("empty.txt", "newer");
+    files.Keep("gone.txt");
+    EXPECT_EQ(files.Contents.size(), 2U);
+    files.BreakKeeping = text::Fault::PermissionDenied;
+    EXPECT_THROW(files.Replace("a.txt", "new"), text::RunTimeError);
+    EXPECT_THROW(files.Keep("a.txt"), text::RunTimeError);
+    EXPECT_EQ(files.Contents.at("a.txt"), "old");
+    EXPECT_EQ(files.Contents.size(), 2U);
+    files.BreakKeeping.reset();
+    files.Replace("a.txt", "new");
+    EXPECT_EQ(files.Contents.at("a.txt"), "new");
+    EXPECT_EQ(files.Contents.at("a.txt~"), "old");
+    files.Keep("a.txt");
+    EXPECT_EQ(files.Contents.at("a.txt~"), "new");
+}
+
 TEST(MemoryFiles, AreEmptiedWrittenMeasuredAndRemoved) {
     MemoryFiles files;
     files.Contents = {{"a.txt", "old text"}};

@@ -176,7 +176,8 @@ TEST_F(QuoteFileFaults, SavesOverTheFileThatIsOpen) {
     EXPECT_TRUE(SaveQuoteFile("test.txt", *series, settings, disk, dialogs));
     EXPECT_EQ(Load("test.txt"), 30);
     EXPECT_EQ(series->Working[30].Close, 999);
-    EXPECT_EQ(folder.EntryCount(), 1);
+    EXPECT_EQ(folder.Read("test.txt~"), QuoteLines(30));
+    EXPECT_EQ(folder.EntryCount(), 2);
 }
 
 } // namespace

@@ -38,11 +38,9 @@ protected:
 };
 
 TEST_F(QuoteCommands, OpenOffersTheTextFilesOfTheDataFolder) {
-    files.Contents = {{"C:\\Quotes\\corn.TXT", QuoteLines(25)},
-                      {"C:\\Quotes\\wheat.txt", QuoteLines(26)},
-                      {"C:\\Quotes\\notes.doc", ""},
-                      {"C:\\Quotes\\old\\rye.txt", ""},
-                      {"C:\\Other\\oats.txt", ""}};
+    files.Contents = {{"C:\\Quotes\\corn.TXT", QuoteLines(25)},   {"C:\\Quotes\\wheat.txt", QuoteLines(26)},
+                      {"C:\\Quotes\\wheat.txt~", QuoteLines(27)}, {"C:\\Quotes\\notes.doc", ""},
+                      {"C:\\Quotes\\old\\rye.txt", ""},           {"C:\\Other\\oats.txt", ""}};
     dialogs.Choices = {"wheat.txt"};
     Open();
     ASSERT_EQ(dialogs.OfferedFiles.size(), 1U);
@@ -117,7 +115,18 @@ TEST_F(QuoteCommands, SaveAsWritesOverAnExistingFileWithoutAsking) {
     files.Contents["C:\\Quotes\\copy.txt"] = "old";
     SaveAs("copy.txt");
     EXPECT_EQ(files.Contents.at("C:\\Quotes\\copy.txt"), QuoteLines(30));
+    EXPECT_EQ(files.Contents.at("C:\\Quotes\\copy.txt~"), "old");
     EXPECT_TRUE(dialogs.Messages.empty());
+}
+
+TEST_F(QuoteCommands, SaveAsThatCannotKeepTheOldFileShowsWhyAndLeavesIt) {
+    series = tests::SeriesOf(QuoteLines(30), "####0.00", "corn.txt");
+    files.Contents["C:\\Quotes\\copy.txt"] = "old";
+    files.BreakKeeping = text::Fault::DiskFull;
+    SaveAs("copy.txt");
+    EXPECT_TRUE(IsOnlyMessage(dialogs.Messages, "Disk full", "Quorvex", Icon::None));
+    EXPECT_EQ(files.Contents.at("C:\\Quotes\\copy.txt"), "old");
+    EXPECT_EQ(series->QuoteFileName, "corn.txt");
 }
 
 TEST_F(QuoteCommands, SaveAsAcceptsAndRefusesTheReferenceNames) {

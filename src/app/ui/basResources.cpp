@@ -24,7 +24,7 @@ void FillProgramFolder(std::string const& folder, platform::Files& files) {
         for (QString const& name : carried.entryList(QDir::Files)) {
             QFile file(carried.filePath(name));
             file.open(QIODevice::ReadOnly); // it is a part of the executable
-            files.Replace(folder + platform::pictures::FromQt(name), file.readAll().toStdString());
+            files.Overwrite(folder + platform::pictures::FromQt(name), file.readAll().toStdString());
         }
     }
 }

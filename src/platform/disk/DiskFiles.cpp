@@ -4,10 +4,13 @@
 #include "platform/disk/DiskFiles.h"
 
 #include "platform/disk/HostFile.h"
+#include "platform/disk/TemporaryFile.h"
 #include "text/RunTimeError.h"
 #include "text/basFolders.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <optional>
 #include <system_error>
 #include <utility>
@@ -61,6 +64,58 @@ bool RequireFileOrNone(std::filesystem::path const& path) {
     return exists;
 }
 
+void RequireWritableOrNone(std::filesystem::path const& path) {
+    if (RequireFileOrNone(path) && IsWriteProtected(path)) {
+        throw RunTimeError(Fault::PermissionDenied);
+    }
+}
+
+// The file that takes new content for this name.
+std::filesystem::path WritableTarget(std::string_view path) {
+    RequireName(path);
+    std::filesystem::path target = BehindLinks(HostPath(path));
+    RequireWritableOrNone(target);
+    return target;
+}
+
+TemporaryFile Written(std::filesystem::path const& target, std::string_view content) {
+    text::TextSource bytes(content);
+    return {target, bytes, target};
+}
+
+bool IsThere(std::filesystem::path const& path) {
+    std::error_code ignored;
+    return std::filesystem::exists(path, ignored);
+}
+
+bool HoldsAlready(std::filesystem::path const& file, std::string_view content) {
+    if (!IsThere(file) || HostFileLength(file) != content.size()) {
+        return false;
+    }
+    constexpr std::size_t BufferSize = 65'536;
+    std::array<char, BufferSize> buffer{};
+    auto const source = OpenHostFile(file);
+    std::size_t count = 0;
+    while ((count = source->Read(buffer)) > 0) {
+        if (!content.starts_with({buffer.data(), count})) {
+            return false;
+        }
+        content.remove_prefix(count);
+    }
+    return content.empty();
+}
+
+void KeepContent(std::filesystem::path const& file) {
+    if (!IsThere(file) || HostFileLength(file) == 0) {
+        return;
+    }
+    std::filesystem::path backup = file;
+    backup += BackupMark;
+    RequireWritableOrNone(backup);
+    auto const content = OpenHostFile(file);
+    TemporaryFile(backup, *content, file).MoveTo(backup);
+}
+
 } // namespace
 
 std::filesystem::path HostPath(std::string_view path) {
@@ -88,18 +143,21 @@ std::unique_ptr<text::ByteSource> DiskFiles::OpenForInput(std::string const& pat
 }
 
 void DiskFiles::Replace(std::string const& path, std::string_view content) {
-    RequireName(path);
-    std::filesystem::path const target = BehindLinks(HostPath(path));
-    if (RequireFileOrNone(target) && IsWriteProtected(target)) {
-        throw RunTimeError(Fault::PermissionDenied);
+    std::filesystem::path const target = WritableTarget(path);
+    TemporaryFile fresh = Written(target, content);
+    if (!HoldsAlready(target, content)) {
+        KeepContent(target);
     }
-    std::filesystem::path const temporary = WriteTemporaryHostFile(target, content);
-    auto const fault = text::Trap([&] { MoveHostFile(temporary, target); });
-    if (fault) {
-        std::error_code ignored;
-        std::filesystem::remove(temporary, ignored);
-        throw RunTimeError(fault->Kind());
-    }
+    fresh.MoveTo(target);
+}
+
+void DiskFiles::Overwrite(std::string const& path, std::string_view content) {
+    std::filesystem::path const target = WritableTarget(path);
+    Written(target, content).MoveTo(target);
+}
+
+void DiskFiles::Keep(std::string const& path) {
+    KeepContent(WritableTarget(path));
 }
 
 std::unique_ptr<ByteSink> DiskFiles::OpenForOutput(std::string const& path) {

@@ -7,8 +7,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <random>
-#include <string>
 #include <system_error>
 #include <utility>
 
@@ -16,6 +14,7 @@
 #include <fcntl.h>
 #include <io.h>
 #include <sys/stat.h>
+#include <vector>
 #include <windows.h>
 #else
 #include <fcntl.h>
@@ -229,7 +228,7 @@ private:
     HostFile file_;
 };
 
-class HostFileSink final : public ByteSink {
+class HostFileSink : public ByteSink {
 public:
     HostFileSink(std::filesystem::path const& path, int descriptor) : file_(path, descriptor) {}
 
@@ -237,8 +236,25 @@ public:
 
     void Close() override { file_.Close(); }
 
+protected:
+    void Flush() const { file_.Flush(); }
+
 private:
     HostFile file_;
+};
+
+// Its content is on the disk once it is closed.
+class LastingHostFileSink final : public HostFileSink {
+public:
+    using HostFileSink::HostFileSink;
+
+    void Close() override {
+        auto const error = text::Trap([this] { Flush(); });
+        HostFileSink::Close();
+        if (error) {
+            throw RunTimeError(error->Kind());
+        }
+    }
 };
 
 } // namespace
@@ -249,6 +265,14 @@ std::unique_ptr<text::ByteSource> OpenHostFile(std::filesystem::path const& path
 
 std::unique_ptr<ByteSink> CreateHostFile(std::filesystem::path const& path) {
     return std::make_unique<HostFileSink>(path, OpenDescriptor(path, EmptyFlags, false));
+}
+
+std::unique_ptr<ByteSink> CreateNewHostFile(std::filesystem::path const& path, bool onlyForOwner) {
+    int const descriptor = OpenDescriptor(path, CreateFlags, onlyForOwner);
+    if (descriptor < 0 && errno == EEXIST) {
+        return nullptr;
+    }
+    return std::make_unique<LastingHostFileSink>(path, descriptor);
 }
 
 std::unique_ptr<text::ByteSource> OpenStandardInput() {
@@ -276,29 +300,6 @@ std::uint64_t HostFileLength(std::filesystem::path const& path) {
     return length;
 }
 
-std::filesystem::path WriteTemporaryHostFile(std::filesystem::path const& target, std::string_view content) {
-    std::error_code ignored;
-    bool const onlyForOwner = std::filesystem::exists(target, ignored);
-    std::random_device random;
-    std::filesystem::path path;
-    int descriptor = -1;
-    do {
-        path = target.parent_path() / (".quorvex-" + std::to_string(random()) + ".tmp");
-        descriptor = OpenDescriptor(path, CreateFlags, onlyForOwner);
-    } while (descriptor < 0 && errno == EEXIST);
-    HostFile file(path, descriptor);
-    auto const error = text::Trap([&] {
-        file.Write(content);
-        file.Flush();
-        file.Close();
-    });
-    if (error) {
-        std::filesystem::remove(path, ignored);
-        throw RunTimeError(error->Kind());
-    }
-    return path;
-}
-
 #ifdef _WIN32
 
 Fault FaultOfLastError() {
@@ -316,13 +317,24 @@ Fault FaultOfLastError() {
     }
 }
 
+// Who may do what is in the access list; hidden files stay hidden. The owner goes along only for
+// administrators, and is left alone.
+void CopyHostFileRights(std::filesystem::path const& from, std::filesystem::path const& to) {
+    DWORD size = 0;
+    GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    std::vector<std::byte> descriptor(size);
+    DWORD const attributes = GetFileAttributesW(from.c_str());
+    bool const isCopied =
+        attributes != INVALID_FILE_ATTRIBUTES && SetFileAttributesW(to.c_str(), attributes) != 0 &&
+        GetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, descriptor.data(), size, &size) != 0 &&
+        SetFileSecurityW(to.c_str(), DACL_SECURITY_INFORMATION, descriptor.data()) != 0;
+    if (!isCopied) {
+        throw RunTimeError(FaultOfLastError());
+    }
+}
+
 void MoveHostFile(std::filesystem::path const& from, std::filesystem::path const& to) {
-    // Replacing keeps what the old file's security allows; moving alone would not.
-    std::error_code ignored;
-    bool const moved = std::filesystem::exists(to, ignored)
-                           ? ReplaceFileW(to.c_str(), from.c_str(), nullptr, 0, nullptr, nullptr) != 0
-                           : MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH) != 0;
-    if (!moved) {
+    if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0) {
         throw RunTimeError(FaultOfLastError());
     }
 }
@@ -334,12 +346,32 @@ bool IsWriteProtected(std::filesystem::path const& path) {
 
 #else
 
-void MoveHostFile(std::filesystem::path const& from, std::filesystem::path const& to) {
+void CopyHostFileRights(std::filesystem::path const& from, std::filesystem::path const& to) {
+    constexpr mode_t Rights = 07777;
+    constexpr mode_t WithoutSetId = 0777;
+    constexpr mode_t WithoutGroup = 0707;
+    constexpr mode_t Others = 0007;
+    constexpr uid_t SameOwner = static_cast<uid_t>(-1);
+
     struct stat status {};
 
-    if (stat(to.c_str(), &status) == 0 && chmod(from.c_str(), status.st_mode & 07777) != 0) {
+    if (stat(from.c_str(), &status) != 0) {
+        Raise(errno, from);
+    }
+    mode_t mode = status.st_mode & Rights;
+    if (chown(to.c_str(), status.st_uid, status.st_gid) != 0) {
+        mode &= WithoutSetId;
+        if (chown(to.c_str(), SameOwner, status.st_gid) != 0) {
+            // Another group than the one that the rights were meant for gets no more than everybody.
+            mode = (mode & WithoutGroup) | (mode & Others) << 3U;
+        }
+    }
+    if (chmod(to.c_str(), mode) != 0) {
         Raise(errno, to);
     }
+}
+
+void MoveHostFile(std::filesystem::path const& from, std::filesystem::path const& to) {
     if (rename(from.c_str(), to.c_str()) != 0) {
         Raise(errno, to);
     }

@@ -31,14 +31,16 @@ void RemoveHostFile(std::filesystem::path const& path);
 // In bytes.
 [[nodiscard]] std::uint64_t HostFileLength(std::filesystem::path const& path);
 
-// Writes the content to a new file beside the target, under a name that is not in use, and waits until the
-// disk holds it. Only its owner may read it when the target exists, whose permissions it gets on moving. A
-// file that could not be written whole is gone again.
-[[nodiscard]] std::filesystem::path WriteTemporaryHostFile(std::filesystem::path const& target,
-                                                           std::string_view content);
+// A new file opened for writing, whose content is on the disk once it is closed. Nothing when the name is in
+// use.
+[[nodiscard]] std::unique_ptr<ByteSink> CreateNewHostFile(std::filesystem::path const& path,
+                                                          bool onlyForOwner);
 
-// Puts the file in the place of the other one in a single step, with the other one's permissions when there
-// is one.
+// Gives the second file the permissions of the first one and, where the system lets the user, its owner and
+// group. Permissions of a group that cannot be given are left out.
+void CopyHostFileRights(std::filesystem::path const& from, std::filesystem::path const& to);
+
+// Puts the file in the place of the other one, which need not be there, in a single step that the disk holds.
 void MoveHostFile(std::filesystem::path const& from, std::filesystem::path const& to);
 
 // Whether the file exists and may not be written.

@@ -95,11 +95,33 @@ void MemoryFiles::Replace(std::string const& path, std::string_view content) {
     if (BreakWriting) {
         throw text::RunTimeError(*BreakWriting);
     }
+    auto const file = Contents.find(path);
+    if (file != Contents.end() && file->second != content) {
+        Keep(path);
+    }
     Contents[path] = content;
 }
 
+void MemoryFiles::Overwrite(std::string const& path, std::string_view content) {
+    if (BreakWriting) {
+        throw text::RunTimeError(*BreakWriting);
+    }
+    Contents[path] = content;
+}
+
+void MemoryFiles::Keep(std::string const& path) {
+    auto const file = Contents.find(path);
+    if (file == Contents.end() || file->second.empty()) {
+        return;
+    }
+    if (BreakKeeping) {
+        throw text::RunTimeError(*BreakKeeping);
+    }
+    Contents[path + std::string(BackupMark)] = file->second;
+}
+
 std::unique_ptr<ByteSink> MemoryFiles::OpenForOutput(std::string const& path) {
-    Replace(path, {});
+    Overwrite(path, {});
     return std::make_unique<MemorySink>(Contents[path], BreakOutput, open_, path);
 }
 

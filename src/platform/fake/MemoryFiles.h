@@ -22,6 +22,8 @@ class MemoryFiles final : public Files {
 public:
     [[nodiscard]] std::unique_ptr<text::ByteSource> OpenForInput(std::string const& path) const override;
     void Replace(std::string const& path, std::string_view content) override;
+    void Overwrite(std::string const& path, std::string_view content) override;
+    void Keep(std::string const& path) override;
     [[nodiscard]] std::unique_ptr<ByteSink> OpenForOutput(std::string const& path) override;
     void Remove(std::string const& path) override;
     [[nodiscard]] std::uint64_t Length(std::string const& path) const override;
@@ -36,8 +38,11 @@ public:
     // When set, reading breaks with this fault behind so many bytes.
     std::optional<std::pair<std::size_t, text::Fault>> BreakReading;
 
-    // When set, every Replace and OpenForOutput raises this fault and changes nothing.
+    // When set, every Replace, Overwrite and OpenForOutput raises this fault and changes nothing.
     std::optional<text::Fault> BreakWriting;
+
+    // When set, keeping what a file holds raises this fault and changes nothing.
+    std::optional<text::Fault> BreakKeeping;
 
     // When set, a file that is being written takes so many bytes and then raises this fault, on closing when
     // it has taken them all.

@@ -219,7 +219,7 @@ void PictureBox::SaveImageAs() {
     std::array<PlacedDrawing, 1> const drawings = {{{0, 0, &drawing_}}};
     pictures::QtPictureEncoder encoder;
     RunReported(*dialogs_, [&] {
-        files_->Replace(path, encoder.Encode({drawing_.Width(), drawing_.Height(), drawings}, kind));
+        files_->Overwrite(path, encoder.Encode({drawing_.Width(), drawing_.Height(), drawings}, kind));
     });
 }
 

@@ -6,7 +6,7 @@
 #include "platform/basFiles.h"
 #include "platform/basProfileTexts.h"
 #include "platform/disk/DiskFiles.h"
-#include "platform/disk/HostFile.h"
+#include "platform/disk/TemporaryFile.h"
 #include "text/RunTimeError.h"
 
 #include <array>
@@ -72,30 +72,10 @@ std::filesystem::path ScratchFolder() {
     return Checked(std::move(folder), error);
 }
 
-// A file of this content in the folder for temporary files, gone with the object.
-class ScratchFile {
-public:
-    explicit ScratchFile(std::string_view content)
-        : path_(disk::WriteTemporaryHostFile(ScratchFolder() / "Quorvex.INI", content)) {}
-
-    ScratchFile(ScratchFile const&) = delete;
-    ScratchFile& operator=(ScratchFile const&) = delete;
-
-    ~ScratchFile() {
-        std::error_code ignored;
-        std::filesystem::remove(path_, ignored);
-    }
-
-    [[nodiscard]] std::filesystem::path const& Path() const { return path_; }
-
-    [[nodiscard]] std::string Text() const {
-        std::u8string const name = path_.u8string();
-        return ReadWholeFile(disk::DiskFiles(), std::string(name.begin(), name.end()));
-    }
-
-private:
-    std::filesystem::path path_;
-};
+std::string ReadBack(disk::TemporaryFile const& file) {
+    std::u8string const name = file.Path().u8string();
+    return ReadWholeFile(disk::DiskFiles(), std::string(name.begin(), name.end()));
+}
 
 } // namespace
 
@@ -124,7 +104,9 @@ std::string WindowsProfile::ReadString(std::string_view section, std::string_vie
 void WindowsProfile::WriteStrings(std::string_view section, std::span<ProfileEntry const> entries) {
     // The system's function writes over the file, one value at a time. It works on a copy, so that a crash or
     // a full disk costs neither the old values nor half of the new ones.
-    ScratchFile const copy(ReadFileIfThere(files_, path_));
+    std::string const before = ReadFileIfThere(files_, path_);
+    text::TextSource bytes(before);
+    disk::TemporaryFile const copy(ScratchFolder() / "Quorvex.INI", bytes, disk::HostPath(path_));
     std::string const path = SystemPath(copy.Path());
     for (ProfileEntry const& entry : entries) {
         RequireProfileValue(entry.Value);
@@ -135,7 +117,7 @@ void WindowsProfile::WriteStrings(std::string_view section, std::span<ProfileEnt
     }
     // Flushes what the system keeps of the file; by its own description the call returns no success.
     WritePrivateProfileStringA(nullptr, nullptr, nullptr, path.c_str());
-    files_.Replace(path_, copy.Text());
+    files_.Replace(path_, ReadBack(copy));
 }
 
 } // namespace quorvex::platform::windows
