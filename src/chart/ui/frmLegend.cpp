@@ -6,9 +6,8 @@
 #include "chart/basLegend.h"
 #include "platform/pictures/Painting.h"
 #include "platform/qt/QtDialogs.h"
+#include "platform/qt/WindowMenu.h"
 #include "ui_frmLegend.h"
-
-#include <QMenuBar>
 
 namespace quorvex::chart::ui {
 
@@ -25,13 +24,9 @@ void DrawSample(platform::qt::PictureBox& box, chart::LegendSample sample) {
 
 frmLegend::frmLegend(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmLegend>()) {
     ui_->setupUi(this);
-    auto* bar = new QMenuBar(this);
-    bar->setNativeMenuBar(false);
-    QAction* exit = bar->addAction(QStringLiteral("E&xit"));
-    exit->setObjectName(QStringLiteral("mnuExit"));
-    exit->setMenuRole(QAction::NoRole);
-    connect(exit, &QAction::triggered, this, &QDialog::accept);
-    layout()->setMenuBar(bar);
+    platform::qt::WindowMenu menu(*this);
+    menu.Item("mnuExit", "E&xit", [this] { accept(); });
+    layout()->setMenuBar(&menu.Bar());
 }
 
 frmLegend::~frmLegend() = default;

@@ -5,10 +5,10 @@
 
 #include "platform/pictures/QtTexts.h"
 #include "platform/qt/QtDialogs.h"
+#include "platform/qt/WindowMenu.h"
 #include "ui_frmPreferences.h"
 
 #include <QLineEdit>
-#include <QMenuBar>
 
 namespace quorvex::prefs::ui {
 
@@ -17,14 +17,18 @@ namespace {
 using platform::pictures::FromQt;
 using platform::pictures::ToQt;
 
+void ShowText(QComboBox& list, std::string const& text) {
+    list.setCurrentIndex(list.findText(ToQt(text))); // where arrow keys and wheel go on from
+    list.setEditText(ToQt(text));
+}
+
 template <class Texts>
 void Fill(QComboBox& list, Texts const& offered, std::string const& text) {
     list.clear();
     for (auto const& offer : offered) {
         list.addItem(ToQt(offer));
     }
-    list.setCurrentIndex(list.findText(ToQt(text))); // where the arrow keys go on from
-    list.setEditText(ToQt(text));
+    ShowText(list, text);
 }
 
 } // namespace
@@ -48,31 +52,26 @@ frmPreferences::frmPreferences(QWidget* parent, settings::Settings& settings, qu
 frmPreferences::~frmPreferences() = default;
 
 void frmPreferences::AddMenu() {
-    auto* bar = new QMenuBar(this);
-    bar->setNativeMenuBar(false);
-    QMenu* menu = bar->addMenu(QStringLiteral("&File"));
-    menu->setObjectName(QStringLiteral("mnuFile"));
-    auto const add = [&](char const* name, char const* caption, auto command) {
-        QAction* action = menu->addAction(QString::fromLatin1(caption));
-        action->setObjectName(QString::fromLatin1(name));
-        action->setMenuRole(QAction::NoRole);
-        connect(action, &QAction::triggered, this, [this, command] {
-            platform::qt::CloseMenus();
-            platform::qt::RunGuarded(*this, command);
+    platform::qt::WindowMenu menu(*this);
+    menu.Menu("mnuFile", "&File")
+        .Item("mnuFileSave", "&Save Settings",
+              [this] {
+                  ReadBoxes();
+                  SaveSettings(fields_, settings_, profile_, dialogs_);
+              })
+        .Item("mnuFileRestore", "&Restore Defaults",
+              [this] {
+                  ReadBoxes();
+                  RestoreDefaults(fields_, series_);
+                  ShowFields();
+              })
+        .Separator()
+        .Item("mnuFileExit", "E&xit", [this] {
+            ReadBoxes();
+            ExitPreferences(fields_, settings_);
+            accept();
         });
-    };
-    add("mnuFileSave", "&Save Settings", [this] {
-        ReadBoxes();
-        SaveSettings(fields_, settings_, profile_, dialogs_);
-    });
-    add("mnuFileRestore", "&Restore Defaults", [this] {
-        ReadBoxes();
-        RestoreDefaults(fields_, series_);
-        ShowFields();
-    });
-    menu->addSeparator();
-    add("mnuFileExit", "E&xit", [this] { accept(); });
-    layout()->setMenuBar(bar);
+    layout()->setMenuBar(&menu.Bar());
 }
 
 void frmPreferences::ConnectLists() {
@@ -97,12 +96,6 @@ void frmPreferences::RunModal() {
     exec();
 }
 
-void frmPreferences::done(int result) {
-    ReadBoxes();
-    ExitPreferences(fields_, settings_);
-    QDialog::done(result);
-}
-
 void frmPreferences::ShowFields() {
     for (settings::SettingRow const& row : settings::SettingTable()) {
         if (auto* list = findChild<QComboBox*>(QStringLiteral("cbo") + ToQt(row.Key))) {
@@ -116,8 +109,8 @@ void frmPreferences::ShowFields() {
 }
 
 void frmPreferences::ShowDateRange() {
-    ui_->cboStartDate->setCurrentText(ToQt(fields_.Range.Start));
-    ui_->cboEndDate->setCurrentText(ToQt(fields_.Range.End));
+    ShowText(*ui_->cboStartDate, fields_.Range.Start);
+    ShowText(*ui_->cboEndDate, fields_.Range.End);
     ui_->txtNumQuotes->setText(ToQt(fields_.ShownNumQuotes));
     ui_->lblNumQuotes->setText(ToQt(fields_.WholeNumQuotes));
 }

@@ -20,8 +20,9 @@ class frmPreferences;
 
 namespace quorvex::prefs::ui {
 
-// Edits the settings and narrows the days that are analysed. Closing the window takes its texts over for this
-// run; only Save Settings writes them to the INI file.
+// Edits the settings and narrows the days that are analysed. File > Exit takes its texts over for this run,
+// and only Save Settings writes them to the INI file. Closed by other means, the window changes no setting
+// but what was chosen as chart type or data source, which counts at once.
 class frmPreferences final : public QDialog {
     Q_OBJECT
 
@@ -33,9 +34,6 @@ public:
 
     // Shows the window and waits until it is closed.
     void RunModal();
-
-    // However the window is closed, its texts become the settings.
-    void done(int result) override;
 
 private:
     void AddMenu();

@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 
 namespace quorvex::tests {
 
@@ -79,8 +80,8 @@ private Q_SLOTS:
                   "lblStartDate", "lblEndDate", "lblNumQuotesCaption"}) {
                 captions.append(window.findChild<QLabel*>(QLatin1String(name))->text());
             }
-            for (char const* name : {"mnuFileSave", "mnuFileRestore", "mnuFileExit"}) {
-                captions.append(window.findChild<QAction*>(QLatin1String(name))->text());
+            for (QAction const* item : window.findChild<QMenu*>(u"mnuFile"_s)->actions()) {
+                captions.append(item->isSeparator() ? u"-"_s : item->objectName() + u' ' + item->text());
             }
             QTest::keyClick(&window, Qt::Key_Escape);
         });
@@ -89,7 +90,8 @@ private Q_SLOTS:
                  QStringList({u"Calculation Options"_s, u"Display Options"_s, u"Data Path"_s, u"Date Range"_s,
                               u"Data Source"_s, u"Moving Average Index"_s, u"Chart Type"_s,
                               u"Currency Format"_s, u"Start Date"_s, u"End Date"_s, u"Number of Quotes"_s,
-                              u"&Save Settings"_s, u"&Restore Defaults"_s, u"E&xit"_s}));
+                              u"mnuFileSave &Save Settings"_s, u"mnuFileRestore &Restore Defaults"_s, u"-"_s,
+                              u"mnuFileExit E&xit"_s}));
     }
 
     void ExitTakesTheTextsOverAndTheChartsFollow() {
@@ -109,6 +111,57 @@ private Q_SLOTS:
         QVERIFY(main.Picture(1) != bars);
         QVERIFY(main.Box(1).accessibleDescription().startsWith(u"Candlestick chart of 60 days"_s));
         QCOMPARE(main.Profile.ReadString("Globals", "ChartType", "none"), std::string("none")); // not saved
+    }
+
+    void ClosedOtherwiseOnlyWhatTookEffectAtOnceStays_data() {
+        QTest::addColumn<bool>("byEscape");
+        QTest::newRow("Escape") << true;
+        QTest::newRow("the frame's button") << false;
+    }
+
+    void ClosedOtherwiseOnlyWhatTookEffectAtOnceStays() {
+        QFETCH(bool, byEscape);
+        RunningWindow main;
+        main.OpenQuotes("q060.txt");
+        settings::Settings expected = main.Data->Settings;
+        expected.ChartType = "Candlestick Chart";
+        expected.DataSource = "OHLC Average";
+        main.Answers.Next([&](QWidget& window) {
+            Choose(List(window, "cboChartType"), u"Candlestick Chart"_s);
+            Choose(List(window, "cboDataSource"), u"OHLC Average"_s);
+            Choose(List(window, "cboStartDate"), platform::pictures::ToQt(main.Data->Quotes.Master[11].Date));
+            List(window, "cboChartType").setEditText(u"typed"_s);
+            List(window, "cboMovingAverageIndex").setEditText(u"9"_s);
+            List(window, "cboCurrencyFormat").setEditText(u"0.000"_s);
+            window.findChild<QLineEdit*>(u"txtDataPath"_s)->setText(u"C:\\Elsewhere"_s);
+            if (byEscape) {
+                QTest::keyClick(&window, Qt::Key_Escape);
+            } else {
+                window.close();
+            }
+        });
+        main.Choose("mnuPreferences");
+        for (settings::SettingRow const& row : settings::SettingTable()) {
+            QCOMPARE(main.Data->Settings.*row.Member, expected.*row.Member);
+        }
+        QCOMPARE(main.Data->Quotes.WorkingCount, 50);
+        QCOMPARE(main.Profile.ReadString("Globals", "ChartType", "none"), std::string("none"));
+    }
+
+    void TheNextOpeningShowsTheSettingsAgain() {
+        RunningWindow main;
+        main.Answers.Next([](QWidget& window) {
+            List(window, "cboCurrencyFormat").setEditText(u"0.000"_s);
+            QTest::keyClick(&window, Qt::Key_Escape);
+        });
+        main.Choose("mnuPreferences");
+        QString shown;
+        main.Answers.Next([&shown](QWidget& window) {
+            shown = List(window, "cboCurrencyFormat").currentText();
+            QTest::keyClick(&window, Qt::Key_Escape);
+        });
+        main.Choose("mnuPreferences");
+        QCOMPARE(shown, u"####0.00"_s);
     }
 
     void SaveWritesTheFile() {
@@ -143,6 +196,54 @@ private Q_SLOTS:
         QCOMPARE(count, u"40"_s);
         QCOMPARE(main.Data->Quotes.WorkingCount, 40);
         QVERIFY(main.Box(1).accessibleDescription().contains(u"40 days, "_s + start + u" to "_s + end));
+    }
+
+    void AResetRangeShowsItsCountBesideTheBox() {
+        RunningWindow main;
+        main.OpenQuotes("q060.txt");
+        QStringList counts;
+        main.Answers.Next([&](QWidget& window) {
+            auto const note = [&] {
+                counts.append(window.findChild<QLineEdit*>(u"txtNumQuotes"_s)->text() + u'|' +
+                              window.findChild<QLabel*>(u"lblNumQuotes"_s)->text());
+            };
+            note();
+            Choose(List(window, "cboStartDate"), platform::pictures::ToQt(main.Data->Quotes.Master[11].Date));
+            note();
+            Choose(List(window, "cboEndDate"), platform::pictures::ToQt(main.Data->Quotes.Master[1].Date));
+            note();
+            QTest::keyClick(&window, Qt::Key_Escape);
+        });
+        main.Choose("mnuPreferences");
+        QCOMPARE(counts, QStringList({u"60|"_s, u"50|"_s, u"50|60"_s}));
+    }
+
+    void AfterAResetArrowKeysGoOnFromTheDatesThatAreShown() {
+        RunningWindow main;
+        main.OpenQuotes("q060.txt");
+        auto const dateOf = [&main](std::int16_t day) {
+            return platform::pictures::ToQt(main.Data->Quotes.Master[day].Date);
+        };
+        QStringList texts;
+        main.Answers.Next([&](QWidget& window) {
+            QComboBox& start = List(window, "cboStartDate");
+            QComboBox& end = List(window, "cboEndDate");
+            auto const note = [&] { texts.append(start.currentText() + u' ' + end.currentText()); };
+            Choose(end, dateOf(1)); // not after the start: all days again
+            note();
+            QCOMPARE(end.itemText(end.currentIndex()), end.currentText());
+            QTest::keyClick(&end, Qt::Key_Up);
+            note();
+            Choose(start, dateOf(60));
+            note();
+            QTest::keyClick(&start, Qt::Key_Down);
+            note();
+            QTest::keyClick(&window, Qt::Key_Escape);
+        });
+        main.Choose("mnuPreferences");
+        QCOMPARE(texts, QStringList({dateOf(1) + u' ' + dateOf(60), dateOf(1) + u' ' + dateOf(59),
+                                     dateOf(1) + u' ' + dateOf(60), dateOf(2) + u' ' + dateOf(60)}));
+        QCOMPARE(main.Data->Quotes.WorkingCount, 59);
     }
 
     void RestoreDefaultsUndoesTheRangeAndKeepsThePath() {
