@@ -5,11 +5,13 @@
 
 import configparser
 import os
+import re
 import shutil
 import subprocess
 import tempfile
 
 from accessible import AccessibilityBus
+from frames import frame_of
 from waiting import wait_for
 
 A11Y_SERVICE = "/usr/share/dbus-1/services/org.a11y.Bus.service"
@@ -133,6 +135,11 @@ class Desktop:
         if not line:
             raise AssertionError(f"{name} did not start: " + self.errors_of(name))
         return line
+
+    def frame(self, title):
+        """Left, top, width and height of the window of this title with the frame that the window manager gave it."""
+        window = int(self.xdotool("search", "--onlyvisible", "--name", f"^{re.escape(title)}$").stdout.split()[0])
+        return frame_of(self.environment["DISPLAY"], window)
 
     def xdotool(self, *arguments, check=True):
         return subprocess.run(["xdotool", *arguments], env=self.environment, check=check, capture_output=True,

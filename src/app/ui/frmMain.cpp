@@ -176,7 +176,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
 }
 
 void frmMain::SetCaption(std::string_view caption) {
-    setWindowTitle(ToQt(caption));
+    platform::qt::SetCaption(*this, caption);
 }
 
 void frmMain::LayOut() {

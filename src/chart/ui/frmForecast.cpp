@@ -10,11 +10,11 @@
 #include "platform/pictures/Painting.h"
 #include "platform/pictures/QtTexts.h"
 #include "platform/qt/QtDialogs.h"
+#include "platform/qt/WindowMenu.h"
 #include "platform/qt/WindowPrinting.h"
 #include "ui_frmForecast.h"
 
 #include <QFont>
-#include <QMenuBar>
 #include <span>
 #include <utility>
 
@@ -63,21 +63,11 @@ frmForecast::~frmForecast() {
 }
 
 void frmForecast::AddMenu() {
-    auto* bar = new QMenuBar(this);
-    bar->setNativeMenuBar(false);
-    QMenu* menu = bar->addMenu(QStringLiteral("&File"));
-    menu->setObjectName(QStringLiteral("mnuFile"));
-    QAction* print = menu->addAction(QStringLiteral("&Print"));
-    print->setObjectName(QStringLiteral("mnuFilePrint"));
-    connect(print, &QAction::triggered, this, [this] { Print(); });
-    QAction* exit = menu->addAction(QStringLiteral("E&xit"));
-    exit->setObjectName(QStringLiteral("mnuFileExit"));
-    exit->setMenuRole(QAction::NoRole);
-    connect(exit, &QAction::triggered, this, [this] {
-        platform::qt::CloseMenus();
-        accept();
-    });
-    layout()->setMenuBar(bar);
+    platform::qt::WindowMenu menu(*this);
+    menu.Menu("mnuFile", "&File")
+        .Item("mnuFilePrint", "&Print", [this] { Print(); })
+        .Item("mnuFileExit", "E&xit", [this] { accept(); });
+    layout()->setMenuBar(&menu.Bar());
 }
 
 void frmForecast::RunModal() {
@@ -102,7 +92,7 @@ bool frmForecast::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmForecast::Compute() {
-    setWindowTitle(ToQt("Quorvex Forecast - [" + series_.QuoteFileName + "]"));
+    platform::qt::SetCaption(*this, Caption());
     auto const fault = text::Trap([this] {
         values_ = cycles::ComputeForecast(set_, series_);
         dates_ = cycles::ComputeForecastDates(series_.LastQuoteDate);
@@ -117,6 +107,10 @@ void frmForecast::Compute() {
     if (fault && !std::exchange(isFaultShown_, true)) {
         platform::ShowError(dialogs_, *fault);
     }
+}
+
+std::string frmForecast::Caption() const {
+    return "Quorvex Forecast - [" + series_.QuoteFileName + "]";
 }
 
 void frmForecast::FillLists() {
@@ -142,10 +136,7 @@ void frmForecast::Draw() {
 }
 
 void frmForecast::Print() {
-    platform::qt::CloseMenus();
-    platform::qt::RunGuarded(*this, [this] {
-        platform::qt::PrintWindow(*this, windowTitle().toStdString(), settings_.DataPath, dialogs_);
-    });
+    platform::qt::PrintWindow(*this, Caption(), settings_.DataPath, dialogs_);
 }
 
 int frmForecast::Columns() const {

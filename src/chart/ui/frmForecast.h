@@ -41,6 +41,7 @@ protected:
 private:
     void AddMenu();
     void Compute();
+    [[nodiscard]] std::string Caption() const;
     void FillLists();
     void Draw();
     void Print();

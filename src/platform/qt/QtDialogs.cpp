@@ -8,13 +8,16 @@
 #include "platform/pictures/QtTexts.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QGridLayout>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QScopeGuard>
 #include <QScreen>
+#include <QWindow>
 #include <exception>
 #include <new>
 
@@ -94,14 +97,74 @@ auto ShowUsualPointer() {
 }
 
 // Keeps a short text from cutting the title off.
-void LeaveRoomForTitle(QMessageBox& box) {
+void LeaveRoomForTitle(QMessageBox& box, QString const& title) {
     constexpr int FrameButtons = 160; // and the icon of the frame
     auto* grid = qobject_cast<QGridLayout*>(box.layout());
     if (grid != nullptr) {
-        int const width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + FrameButtons;
+        int const width = box.fontMetrics().horizontalAdvance(title) + FrameButtons;
         grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
     }
 }
+
+// As plain text: a label that names its box takes access keys from its text, and markup is read as such.
+void ShowPrompt(QInputDialog& box, QString const& prompt) {
+    static_cast<void>(box.sizeHint()); // makes the label and its relation to the box
+    if (auto* label = box.findChild<QLabel*>()) {
+        label->setTextFormat(Qt::PlainText);
+        label->setBuddy(nullptr);
+    }
+    box.setLabelText(prompt);
+    if (auto* edit = box.findChild<QLineEdit*>()) {
+        edit->setAccessibleName(prompt);
+    }
+}
+
+bool HasFrame(QWidget const& window) {
+    QWindow const* const handle = window.windowHandle();
+    return handle != nullptr && !handle->frameMargins().isNull();
+}
+
+// The frame of a window that has none yet will be like that of the window under it.
+QMargins FrameOf(QWidget const& window) {
+    for (QWidget const* widget = &window; widget != nullptr; widget = widget->parentWidget()) {
+        if (HasFrame(*widget)) {
+            return widget->windowHandle()->frameMargins();
+        }
+    }
+    return {};
+}
+
+void Place(QWidget& window) {
+    QRect const screen = window.screen()->geometry();
+    QSize const size = window.size().grownBy(FrameOf(window));
+    window.move(screen.left() + (screen.width() - size.width()) / 2,
+                screen.top() + (screen.height() - size.height()) / 2);
+}
+
+// Waits for the window's frame, which it has when the system asks to paint it for the first time.
+class FrameWatch final : public QObject {
+public:
+    explicit FrameWatch(QWidget& window) : QObject(&window), window_(window) {
+        window.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == &window_ && event->type() == QEvent::Show) {
+            window_.windowHandle()->installEventFilter(this);
+        } else if (event->type() == QEvent::Expose) {
+            watched->removeEventFilter(this);
+            window_.removeEventFilter(this);
+            if (HasFrame(window_)) {
+                Place(window_);
+            }
+            deleteLater();
+        }
+        return false;
+    }
+
+private:
+    QWidget& window_;
+};
 
 } // namespace
 
@@ -113,12 +176,12 @@ QWidget* TopmostOf(QWidget& window) {
 Answer ShowMessageBox(QWidget& window, Message const& message) {
     QMessageBox box(TopmostOf(window));
     box.setObjectName(QStringLiteral("MessageBox"));
-    box.setWindowTitle(pictures::ToQt(message.Title));
+    SetCaption(box, message.Title);
     box.setTextFormat(Qt::PlainText);
     box.setText(pictures::ToQt(message.Text));
     box.setIcon(IconOf(message.Shown));
     OfferButtons(box, message.Offered);
-    LeaveRoomForTitle(box);
+    LeaveRoomForTitle(box, pictures::ToQt(message.Title));
     auto const pointer = ShowUsualPointer();
     return AnswerOf(box.exec(), message.Offered);
 }
@@ -127,14 +190,11 @@ std::string AskInputBox(QWidget& window, Question const& question) {
     QInputDialog box(TopmostOf(window));
     box.setObjectName(QStringLiteral("InputBox"));
     box.setInputMode(QInputDialog::TextInput);
-    box.setWindowTitle(pictures::ToQt(question.Title));
-    box.setLabelText(pictures::ToQt(question.Prompt));
+    SetCaption(box, question.Title);
+    ShowPrompt(box, pictures::ToQt(question.Prompt));
     box.setTextValue(pictures::ToQt(question.Default));
     constexpr QSize UsualSize(360, 0); // names are long
     box.resize(box.sizeHint().expandedTo(UsualSize));
-    if (auto* edit = box.findChild<QLineEdit*>()) {
-        edit->setAccessibleName(box.labelText());
-    }
     return box.exec() == QDialog::Accepted ? pictures::FromQt(box.textValue()) : std::string();
 }
 
@@ -172,14 +232,20 @@ void SetProgramFont() {
     QApplication::setFont(QFont(QStringLiteral("Arial"), PointSize));
 }
 
+void SetCaption(QWidget& window, std::string_view caption) {
+    // Once is a place for Qt to mark a change at, twice is the text itself.
+    QString const placeholder = QStringLiteral("[*]");
+    window.setWindowTitle(pictures::ToQt(caption).replace(placeholder, placeholder + placeholder));
+}
+
 void CentreForm(QWidget& window) {
     if (window.layout() != nullptr) {
         window.layout()->activate(); // a size that the layout fixes is not known before
     }
-    QRect const screen = window.screen()->geometry();
-    QSize const size = window.frameGeometry().size();
-    window.move(screen.left() + (screen.width() - size.width()) / 2,
-                screen.top() + (screen.height() - size.height()) / 2);
+    Place(window);
+    if (!HasFrame(window)) {
+        new FrameWatch(window);
+    }
 }
 
 } // namespace quorvex::platform::qt

@@ -7,6 +7,7 @@
 
 #include <QWidget>
 #include <functional>
+#include <string_view>
 
 namespace quorvex::platform::qt {
 
@@ -30,7 +31,11 @@ void CloseMenus();
 // Makes Arial the font of all windows, with Liberation Sans as its stand-in.
 void SetProgramFont();
 
-// Puts the window into the middle of the screen that it is on.
+// Gives the window this caption, in which no part stands for anything but itself.
+void SetCaption(QWidget& window, std::string_view caption);
+
+// Puts the window with its frame into the middle of the screen that it is on. One that was never shown is put
+// there once more when it is shown, because the system gives it its frame no earlier.
 void CentreForm(QWidget& window);
 
 } // namespace quorvex::platform::qt

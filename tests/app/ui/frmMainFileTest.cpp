@@ -3,12 +3,15 @@
 
 #include "support/Golden.h"
 #include "support/QuoteTexts.h"
+#include "windows/PaintedLabel.h"
 #include "windows/RunningWindow.h"
 #include "windows/WindowTest.h"
 
 #include <QListWidget>
 #include <QSignalSpy>
 #include <QTimer>
+#include <QWindow>
+#include <filesystem>
 
 namespace quorvex::tests {
 
@@ -148,6 +151,26 @@ private Q_SLOTS:
         QCOMPARE(main.Answers.Shown(), QStringList(u"Save As...|Save corn.txt As...|corn.txt"_s));
         QCOMPARE(main.Folder.Read("copy.TXT"), QuoteLines(30));
         QCOMPARE(main.Window->windowTitle(), CaptionOf(main, u"copy.TXT"_s));
+    }
+
+    // In names of files and folders, what means something to Qt stands for itself.
+    void CaptionAndPromptShowNamesLetterForLetter() {
+        RunningWindow main;
+        std::string const folder = main.Folder.File("[*]/");
+        std::filesystem::create_directory(folder);
+        main.Data->Settings.DataPath = folder;
+        main.Folder.Write("[*]/S&P<b>[*].txt", QuoteLines(30));
+        main.Answers.Choose(u"S&P<b>[*].txt"_s);
+        main.Choose("mnuFileOpen");
+        QCOMPARE(main.Window->windowHandle()->title(),
+                 u"Quorvex - [%1S&P<b>[*].txt]"_s.arg(QString::fromStdString(folder)));
+        bool isPlain = false;
+        main.Answers.Next([&isPlain](QWidget& box) {
+            isPlain = ShowsLetterForLetter(*box.findChild<QLabel*>(), u"Save S&P<b>[*].txt As..."_s);
+            QTest::keyClick(&box, Qt::Key_Escape);
+        });
+        main.Choose("mnuFileSaveAs");
+        QVERIFY(isPlain);
     }
 
     void SaveAsRefusesABadName_data() {

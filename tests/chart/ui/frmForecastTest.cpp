@@ -17,6 +17,7 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QToolTip>
+#include <QWindow>
 #include <cmath>
 
 namespace quorvex::tests {
@@ -52,6 +53,14 @@ private Q_SLOTS:
         shown.Show();
         QCOMPARE(shown.Window->windowTitle(), u"Quorvex Forecast - [corn.txt]"_s);
         QCOMPARE(shown.Window->objectName(), u"frmForecast"_s);
+    }
+
+    void TheNameInTheCaptionIsShownLetterForLetter() {
+        ShownForecast shown(QuoteLines(100), "a[*].txt");
+        shown.Show();
+        QCOMPARE(shown.Window->windowHandle()->title(), u"Quorvex Forecast - [a[*].txt]"_s);
+        shown.Choose("mnuFilePrint");
+        QVERIFY(!shown.Folder.Read("Quorvex Forecast - [a[].txt].pdf").empty()); // no name has a star
     }
 
     void ASingleCycleSwingsByFourAroundTheLastClose() {

@@ -4,6 +4,7 @@
 #include "cycles/ui/frmParameter.h"
 #include "quotes/ui/frmQuotes.h"
 #include "windows/ModalAnswers.h"
+#include "windows/PaintedLabel.h"
 #include "windows/WindowTest.h"
 
 #include <QLabel>
@@ -77,6 +78,20 @@ private Q_SLOTS:
         }));
         QVERIFY(!quotes::ui::frmQuotes(nullptr).Choose(Names));
         QVERIFY(answers.IsDone());
+    }
+
+    void ANameIsShownLetterForLetter() {
+        ModalAnswers answers;
+        QString const name = QString::fromLatin1(AmbiguousName);
+        answers.Next([&name](QWidget& chooser) {
+            QListWidget& list = ListOf(chooser);
+            QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, PlaceOf(list, 0));
+            QVERIFY(ShowsLetterForLetter(*chooser.findChild<QLabel*>(u"lblFileName"_s), name));
+            QCOMPARE(list.item(0)->text(), name);
+            ClickButton(chooser, u"cmdOK"_s);
+        });
+        QCOMPARE(quotes::ui::frmQuotes(nullptr).Choose(std::array{std::string(AmbiguousName)}),
+                 std::optional<std::string>(AmbiguousName));
     }
 
     void AClickShowsTheNameAndOkChoosesIt() {

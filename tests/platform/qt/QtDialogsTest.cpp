@@ -5,13 +5,16 @@
 
 #include "text/RunTimeError.h"
 #include "windows/ModalAnswers.h"
+#include "windows/PaintedLabel.h"
 #include "windows/WindowTest.h"
 
+#include <QAccessible>
 #include <QDialog>
 #include <QFontInfo>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QWindow>
 #include <new>
 #include <stdexcept>
 
@@ -52,6 +55,72 @@ private Q_SLOTS:
         });
         ShowMessageBox(window, {"<i>a</i>\nb", "Title"});
         QCOMPARE(answers.Shown(), QStringList(u"Title|none|OK|<i>a</i>\nb"_s));
+    }
+
+    void AMessageShowsNamesLetterForLetter() {
+        ModalAnswers answers;
+        QWidget window;
+        bool isPlain = false;
+        answers.NextMessage([&isPlain](QWidget& shown) {
+            isPlain = ShowsLetterForLetter(*shown.findChild<QLabel*>(u"qt_msgbox_label"_s),
+                                           QString::fromLatin1(AmbiguousName));
+            shown.close();
+        });
+        ShowMessageBox(window, {AmbiguousName, "Title"});
+        QVERIFY(isPlain);
+    }
+
+    void APromptShowsNamesLetterForLetter() {
+        ModalAnswers answers;
+        QWidget window;
+        QString const prompt = u"Save %1 As..."_s.arg(QLatin1String(AmbiguousName));
+        bool isPlain = false;
+        answers.Next([&](QWidget& shown) {
+            isPlain = ShowsLetterForLetter(*shown.findChild<QLabel*>(), prompt);
+            // Nor does the letter after the sign move the focus.
+            shown.findChild<QPushButton*>()->setFocus();
+            QTest::keyClick(&shown, Qt::Key_P, Qt::AltModifier);
+            QVERIFY(QApplication::focusWidget() != shown.findChild<QLineEdit*>());
+            QTest::keyClick(&shown, Qt::Key_Escape);
+        });
+        QCOMPARE(AskInputBox(window, {prompt.toStdString(), "Title", AmbiguousName}), std::string());
+        QVERIFY(isPlain);
+        QCOMPARE(answers.Shown(), QStringList(u"Title|%1|%2"_s.arg(prompt, QLatin1String(AmbiguousName))));
+    }
+
+    void ACaptionIsShownAsItIs_data() {
+        QTest::addColumn<QByteArray>("caption");
+        QTest::newRow("once") << QByteArray("Quorvex - [a[*]b.txt]");
+        QTest::newRow("twice") << QByteArray("[*][*].txt");
+        QTest::newRow("three times") << QByteArray("[*][*][*] [*]");
+        QTest::newRow("markup") << QByteArray(AmbiguousName);
+    }
+
+    void ACaptionIsShownAsItIs() {
+        QFETCH(QByteArray, caption);
+        QWidget window;
+        platform::qt::SetCaption(window, caption.toStdString());
+        window.show();
+        QCOMPARE(window.windowHandle()->title(), QString::fromLatin1(caption));
+        QCOMPARE(QAccessible::queryAccessibleInterface(&window)->text(QAccessible::Name),
+                 QString::fromLatin1(caption));
+    }
+
+    void TheCaptionOfABoxIsShownAsItIs() {
+        ModalAnswers answers;
+        QWidget window;
+        QStringList captions;
+        answers.NextMessage([&captions](QWidget& shown) {
+            captions.append(shown.windowHandle()->title());
+            shown.close();
+        });
+        ShowMessageBox(window, {"Text", "a[*]b"});
+        answers.Next([&captions](QWidget& shown) {
+            captions.append(shown.windowHandle()->title());
+            shown.close();
+        });
+        static_cast<void>(AskInputBox(window, {"Prompt", "a[*]b", ""}));
+        QCOMPARE(captions, QStringList({u"a[*]b"_s, u"a[*]b"_s}));
     }
 
     void AMessageIsOkHoweverItIsClosed() {
