@@ -19,14 +19,16 @@ QString StartFolder(std::string_view folder) {
     return wanted.isAbsolute() && wanted.exists() ? wanted.path() : QDir::homePath();
 }
 
-// Qt reads the patterns from the descriptions, which name them.
-QStringList DescriptionsOf(std::string_view filter) {
-    QStringList descriptions;
+// For Qt, which reads the patterns from the last brackets and here shows what stands before them.
+QStringList NameFiltersOf(std::string_view filter) {
+    QStringList filters;
     QStringList const parts = pictures::ToQt(filter).split(u'|');
-    for (qsizetype index = 0; index < parts.size(); index += 2) {
-        descriptions.append(parts[index]);
+    for (qsizetype index = 0; index + 1 < parts.size(); index += 2) {
+        // To Qt, only names with a dot match *.*
+        QString const pattern = parts[index + 1] == u"*.*" ? QStringLiteral("*") : parts[index + 1];
+        filters.append(QStringLiteral("%1(%2)").arg(parts[index], pattern));
     }
-    return descriptions;
+    return filters;
 }
 
 } // namespace
@@ -37,7 +39,8 @@ std::string AskForFile(QWidget& window, FileQuestion const& question) {
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setDirectory(StartFolder(question.Folder));
-    dialog.setNameFilters(DescriptionsOf(question.Filter));
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilters(NameFiltersOf(question.Filter));
     dialog.selectFile(pictures::ToQt(question.Name));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};

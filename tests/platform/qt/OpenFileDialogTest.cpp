@@ -9,10 +9,12 @@
 #include "windows/ModalAnswers.h"
 #include "windows/WindowTest.h"
 
+#include <QComboBox>
 #include <QDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QListView>
 
 namespace quorvex::tests {
 
@@ -24,6 +26,17 @@ namespace {
 
 FileQuestion QuestionIn(std::string const& folder) {
     return {folder, "*.csv", "Comma Separated Values (*.csv)|*.csv|All Files (*.*)|*.*"};
+}
+
+// What the list of the dialog shows.
+QStringList ListedNames(QWidget& dialog) {
+    QStringList names;
+    auto const* list = dialog.findChild<QListView*>(u"listView"_s);
+    for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row) {
+        names.append(list->model()->index(row, 0, list->rootIndex()).data().toString());
+    }
+    names.sort();
+    return names;
 }
 
 } // namespace
@@ -42,8 +55,8 @@ private Q_SLOTS:
         answers.Next([&](QWidget& dialog) {
             auto* files = qobject_cast<QFileDialog*>(&dialog);
             QVERIFY(files != nullptr);
-            shown = files->nameFilters();
-            shown.append(files->selectedNameFilter());
+            auto const* kinds = files->findChild<QComboBox*>(u"fileTypeCombo"_s);
+            shown = {kinds->itemText(0), kinds->itemText(1), kinds->currentText()};
             shown.append(files->findChild<QLineEdit*>()->text());
             start = files->directory();
             QTest::keyClick(&dialog, Qt::Key_Escape);
@@ -53,6 +66,26 @@ private Q_SLOTS:
                                      u"Comma Separated Values (*.csv)"_s, u"*.csv"_s}));
         QCOMPARE(start.canonicalPath(), QDir(platform::pictures::ToQt(folder.Text())).canonicalPath());
         QCOMPARE(answers.Shown(), QStringList(u"OpenFileDialog"_s));
+    }
+
+    void AllFilesAreThoseWithoutADotToo() {
+        TemporaryFolder const folder;
+        for (char const* name : {"a.csv", "b.txt", "README", "S&P<b>500"}) {
+            folder.Write(name, "x");
+        }
+        ModalAnswers answers;
+        QWidget window;
+        answers.Next([&](QWidget& dialog) {
+            QTRY_COMPARE(ListedNames(dialog), QStringList(u"a.csv"_s));
+            auto* kinds = dialog.findChild<QComboBox*>(u"fileTypeCombo"_s);
+            kinds->setFocus();
+            QTest::keyClick(kinds, Qt::Key_Down);
+            QTRY_COMPARE(ListedNames(dialog),
+                         QStringList({u"README"_s, u"S&P<b>500"_s, u"a.csv"_s, u"b.txt"_s}));
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+        QCOMPARE(AskForFile(window, QuestionIn(folder.Text())), std::string());
+        QVERIFY(answers.IsDone());
     }
 
     void StartsInTheUsersFolderWhereThereIsNoOther() {
