@@ -19,7 +19,7 @@ inline constexpr std::string_view SeparatorCaption = "-";
 // or a separator.
 struct MenuRow {
     std::string_view Name;
-    std::string_view Caption; // "&" marks the access key
+    std::string_view Caption; // "&" marks the access key; of several marks the last one counts
     std::string_view Parent;  // name of the menu it stands in; empty on the menu bar
     Command Run = nullptr;
 };

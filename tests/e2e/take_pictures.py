@@ -19,7 +19,7 @@ SIZES = (("", 1100, 800, 1), ("-1920x1080", 1920, 1080, 1), ("-3840x2160", 3840,
 CHART_TYPES = (("bars", "Daily Bar Chart"), ("candlesticks", "Candlestick Chart"), ("line", "Line Chart"))
 
 
-CONVERT = ("File", "Con&vert")
+CONVERT = ("File", "Convert")
 UTILITY = "Data Conversion Utility - "
 
 # Name of the picture, menu item that closes the window, its title, and the menu item that opens it.

@@ -10,7 +10,6 @@ from session import Session
 from waiting import wait_for
 
 UTILITY = "Data Conversion Utility"
-CONVERT = "Con&vert"  # of its two marks of access keys the bus takes one away
 
 
 class Converting(Session):
@@ -29,7 +28,7 @@ class Converting(Session):
         return path
 
     def open_converter(self, item, caption):
-        self.program.choose("File", CONVERT, item)
+        self.program.choose("File", "Convert", item)
         return self.program.window(f"{UTILITY} - {caption}")
 
     def convert(self, window, frame, source, destination):

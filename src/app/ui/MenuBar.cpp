@@ -21,8 +21,16 @@ bool HasItems(MenuRow const& menu) {
     return std::ranges::any_of(MenuTable(), [&](MenuRow const& row) { return row.Parent == menu.Name; });
 }
 
+// Of several marks the last one counts; Qt would go by the first and underline the letters of all.
+QString ShownCaption(MenuRow const& row) {
+    QString const caption = ToQt(row.Caption);
+    qsizetype const last = caption.lastIndexOf(u'&');
+    return last < 0 ? caption : caption.left(last).remove(u'&') + caption.mid(last);
+}
+
 QMenu* AddMenu(QMenuBar& bar, QMenu* parent, MenuRow const& row) {
-    QMenu* menu = parent == nullptr ? bar.addMenu(ToQt(row.Caption)) : parent->addMenu(ToQt(row.Caption));
+    QString const caption = ShownCaption(row);
+    QMenu* menu = parent == nullptr ? bar.addMenu(caption) : parent->addMenu(caption);
     menu->setObjectName(ToQt(row.Name));
     menu->menuAction()->setObjectName(ToQt(row.Name));
     return menu;
@@ -35,7 +43,7 @@ void AddItem(QWidget& parent, MenuRow const& row, RunCommand const& run) {
     if (row.Caption == SeparatorCaption) {
         action->setSeparator(true);
     } else {
-        action->setText(ToQt(row.Caption));
+        action->setText(ShownCaption(row));
         QObject::connect(action, &QAction::triggered, &parent, [run, &row] { run(row); });
     }
     parent.addAction(action);

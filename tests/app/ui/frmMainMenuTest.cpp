@@ -6,6 +6,7 @@
 #include "windows/RunningWindow.h"
 #include "windows/WindowTest.h"
 
+#include <QAccessible>
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolButton>
@@ -25,7 +26,7 @@ QStringList const ExpectedMenu = {
     u"  mnuFileEdit \"&Edit\""_s,
     u"  mnuFileSaveAs \"Save &As...\""_s,
     u"  Sep2000 \"-\""_s,
-    u"  mnuFileConvert \"&Con&vert\""_s,
+    u"  mnuFileConvert \"Con&vert\""_s,
     u"    mnuFileConvertCSI \"Commodity Systems, Inc.\""_s,
     u"    mnuFileConvertBARCHART \"Barchart\""_s,
     u"    mnuSep393 \"-\""_s,
@@ -121,6 +122,32 @@ private Q_SLOTS:
             QVERIFY2(row != rows.end(), name.c_str());
             QCOMPARE(row->Run != nullptr, item->menu() == nullptr && !item->isSeparator());
         }
+    }
+
+    void InTheFileMenuVOpensConvertAndCCloses() {
+        RunningWindow main;
+        main.OpenQuotes("q060.txt");
+        main.Answers.Next([&main](QWidget& menu) {
+            main.Answers.Next([](QWidget& inner) { QTest::keyClick(&inner, Qt::Key_Escape); });
+            QTest::keyClick(&menu, Qt::Key_V);
+            QTRY_COMPARE(main.Answers.Shown().last(), u"mnuFileConvert"_s);
+            QTest::keyClick(&menu, Qt::Key_C);
+        });
+        QTest::keyClick(main.Window.get(), Qt::Key_F, Qt::AltModifier);
+        QTRY_VERIFY(main.Answers.IsDone());
+        QTRY_COMPARE(main.Window->windowTitle(), u"Quorvex"_s);
+        QCOMPARE(main.Answers.Shown(), QStringList({u"mnuFile"_s, u"mnuFileConvert"_s}));
+    }
+
+    void TheNameOfConvertIsToldWithoutMarks() {
+        RunningWindow main;
+        auto* menu = main.Window->findChild<QMenu*>(u"mnuFile"_s);
+        QAccessibleInterface* items = QAccessible::queryAccessibleInterface(menu);
+        QStringList names;
+        for (int item = 0; item < items->childCount(); ++item) {
+            names.append(items->child(item)->text(QAccessible::Name));
+        }
+        QVERIFY2(names.contains(u"Convert"_s), qPrintable(names.join(u' ')));
     }
 
     void NoItemHasAShortcutKey() {
