@@ -12,6 +12,7 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -103,19 +104,40 @@ void PictureBox::paintEvent(QPaintEvent*) {
         Rasterise(); // the window was moved to a screen of another density
     }
     QPainter painter(this);
-    painter.fillRect(rect(), Qt::white);
     if (painter.paintEngine()->type() == QPaintEngine::Raster) {
-        painter.drawImage(QPoint(), picture_);
+        PaintPixels(painter);
         PaintCursor(painter);
     } else {
+        painter.fillRect(rect(), Qt::white);
         painter.setClipRect(rect());
         pictures::PaintDrawing(
             painter, drawing_,
             {1 / pictures::TwipsPerPixel, pictures::Medium::Vectors}); // a page has a resolution of its own
+        PaintBorder(painter, rect());
     }
+}
+
+// Where the screen's scale is no whole number, the edges of the box lie between pixels in units of the
+// window.
+void PictureBox::PaintPixels(QPainter& painter) const {
+    QTransform const toPixels = painter.deviceTransform();
+    QRectF const edges = toPixels.mapRect(QRectF(rect()));
+    QRect const box(QPoint(qRound(edges.left()), qRound(edges.top())),
+                    QPoint(qRound(edges.right()) - 1, qRound(edges.bottom()) - 1));
+    painter.setWorldTransform(toPixels.inverted());
+    painter.fillRect(box, Qt::white);
+    if (!picture_.isNull()) {
+        double const scale = toPixels.m11() / picture_.devicePixelRatio(); // 1 on the screen
+        painter.drawImage(QRectF(box.topLeft(), QSizeF(picture_.size()) * scale), picture_);
+    }
+    PaintBorder(painter, box);
+    painter.resetTransform();
+}
+
+void PictureBox::PaintBorder(QPainter& painter, QRect const& box) const {
     painter.setPen(
         QPen(hasFocus() ? pictures::ToQt(CursorColour) : pictures::ToQt(pictures::BorderColour), 1));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.drawRect(box.adjusted(0, 0, -1, -1));
 }
 
 void PictureBox::PaintCursor(QPainter& painter) const {
@@ -205,14 +227,17 @@ void PictureBox::SaveImageAs() {
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters({QStringLiteral("PNG image (*.png)"), QStringLiteral("SVG drawing (*.svg)"),
                            QStringLiteral("PDF document (*.pdf)")});
-    // The dialog itself completes the name, so that it asks before an existing file is replaced.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite); // Qt's own question takes markup in a name as such
+    // The dialog itself completes the name, so that the question is about the file that will be written.
     auto const complete = [&dialog](QString const& filter) { dialog.setDefaultSuffix(EndingOf(filter)); };
     complete(dialog.selectedNameFilter());
     connect(&dialog, &QFileDialog::filterSelected, &dialog, complete);
     dialog.selectFile(suggestedName_);
-    if (dialog.exec() != QDialog::Accepted) {
-        return;
-    }
+    do {
+        if (dialog.exec() != QDialog::Accepted) {
+            return;
+        }
+    } while (!MayWrite(dialog.selectedFiles().constFirst()));
     std::string const path = pictures::FromQt(dialog.selectedFiles().constFirst());
     auto const kindOfFilter = PictureKindOf(pictures::FromQt(u'.' + dialog.defaultSuffix()));
     PictureKind const kind = PictureKindOf(path).value_or(kindOfFilter.value_or(PictureKind::Png));
@@ -221,6 +246,13 @@ void PictureBox::SaveImageAs() {
     RunReported(*dialogs_, [&] {
         files_->Overwrite(path, encoder.Encode({drawing_.Width(), drawing_.Height(), drawings}, kind));
     });
+}
+
+bool PictureBox::MayWrite(QString const& path) {
+    QFileInfo const file(path);
+    return !file.exists() ||
+           dialogs_->Show({pictures::FromQt(file.fileName()) + " already exists.\nDo you want to replace it?",
+                           "Save Image As", Icon::Exclamation, Buttons::YesNo}) == Answer::Yes;
 }
 
 } // namespace quorvex::platform::qt

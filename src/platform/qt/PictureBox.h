@@ -46,11 +46,14 @@ protected:
 
 private:
     void Rasterise();
+    void PaintPixels(QPainter& painter) const;
     void PaintCursor(QPainter& painter) const;
+    void PaintBorder(QPainter& painter, QRect const& box) const;
     void ShowReading(int column, QPoint place);
     void MoveCursor(int column);
     void CopyImage() const;
     void SaveImageAs();
+    [[nodiscard]] bool MayWrite(QString const& path);
 
     RecordingCanvas drawing_{0, 0, Keep::SinceClear};
     int shownClearCount_ = 0;

@@ -150,30 +150,38 @@ private Q_SLOTS:
 
     void AnExistingFileIsReplacedOnlyOnRequest_data() {
         QTest::addColumn<QByteArray>("typed");
-        QTest::newRow("typed with its ending") << QByteArray("chart.png");
-        QTest::newRow("typed without") << QByteArray("chart");
+        QTest::addColumn<QByteArray>("name");
+        QTest::newRow("typed with its ending") << QByteArray("chart.png") << QByteArray("chart.png");
+        QTest::newRow("typed without") << QByteArray("chart") << QByteArray("chart.png");
+        QTest::newRow("what could be markup") << QByteArray("S&P<b>500.png") << QByteArray("S&P<b>500.png");
     }
 
+    // After No the dialog comes back.
     void AnExistingFileIsReplacedOnlyOnRequest() {
         QFETCH(QByteArray, typed);
+        QFETCH(QByteArray, name);
         TemporaryFolder folder;
-        folder.Write("chart.png", "precious");
+        folder.Write(name.toStdString(), "precious");
         ShownPicture shown;
         shown.Draw();
         ModalAnswers answers;
+        auto const type = TypeName(folder.File(typed.toStdString()));
+        shown.Dialogs.Answers = {platform::Answer::No, platform::Answer::Yes};
         SaveImageAs(shown, answers, [&](QWidget& dialog) {
-            answers.Click(QMessageBox::No);
-            TypeName(folder.File(typed.toStdString()))(dialog);
-            QTest::keyClick(&dialog, Qt::Key_Escape);
+            answers.Next([&](QWidget& again) {
+                QVERIFY(shown.Files.Contents.empty());
+                type(again);
+            });
+            type(dialog);
         });
-        QVERIFY(answers.IsDone());
-        QVERIFY(shown.Files.Contents.empty());
-        SaveImageAs(shown, answers, [&](QWidget& dialog) {
-            answers.Click(QMessageBox::Yes);
-            TypeName(folder.File(typed.toStdString()))(dialog);
-        });
-        QCOMPARE(shown.Files.Contents.size(), 1U);
-        QVERIFY(IsPng(shown.Files.Contents.at(folder.File("chart.png"))));
+        QCOMPARE(answers.Shown(), QStringList({u"mnuPicture"_s, u"SavePicture"_s, u"SavePicture"_s}));
+        QCOMPARE(shown.Dialogs.Messages.size(), 2U);
+        platform::Message const& question = shown.Dialogs.Messages[0];
+        QCOMPARE(question.Text, name.toStdString() + " already exists.\nDo you want to replace it?");
+        QCOMPARE(question.Title, std::string("Save Image As"));
+        QCOMPARE(question.Shown, platform::Icon::Exclamation);
+        QCOMPARE(question.Offered, platform::Buttons::YesNo);
+        QVERIFY(IsPng(shown.Files.Contents.at(folder.File(name.toStdString()))));
     }
 
     void APathThatCannotBeWrittenShowsTheDescription() {

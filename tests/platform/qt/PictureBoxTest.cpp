@@ -37,6 +37,38 @@ int CursorDots(QWidget& box, int x) {
     return dots;
 }
 
+// Which pixels along the edges of the box are no border of one pixel.
+QString BorderFaults(QImage const& screen, QRect const& box) {
+    QString faults;
+    auto const require = [&](QPoint pixel, bool isBorder) {
+        if ((screen.pixelColor(pixel) == BorderColour) != isBorder) {
+            faults += u" %1,%2"_s.arg(pixel.x()).arg(pixel.y());
+        }
+    };
+    for (int x = box.left(); x <= box.right(); ++x) {
+        require({x, box.top() - 1}, false);
+        require({x, box.top()}, true);
+        require({x, box.bottom()}, true);
+        require({x, box.bottom() + 1}, false);
+    }
+    for (int y = box.top(); y <= box.bottom(); ++y) {
+        require({box.left() - 1, y}, false);
+        require({box.left(), y}, true);
+        require({box.right(), y}, true);
+        require({box.right() + 1, y}, false);
+    }
+    QRect const inside = box.adjusted(1, 1, -1, -1);
+    for (int x = inside.left(); x <= inside.right(); ++x) {
+        require({x, inside.top()}, false);
+        require({x, inside.bottom()}, false);
+    }
+    for (int y = inside.top(); y <= inside.bottom(); ++y) {
+        require({inside.left(), y}, false);
+        require({inside.right(), y}, false);
+    }
+    return faults;
+}
+
 } // namespace
 
 class PictureBoxTest final : public WindowTest {
@@ -80,6 +112,31 @@ private Q_SLOTS:
         QCOMPARE(screen.pixelColor(45, 30), QColor(Qt::blue));
         shown.Box.setFocus();
         QCOMPARE(shown.Box.grab().toImage().pixelColor(0, 0), FocusColour);
+    }
+
+    void TheBorderIsOnePixelOnAllSidesAtEveryScale_data() {
+        QTest::addColumn<double>("scale");
+        for (double const scale : {1.0, 1.25, 1.5, 1.75, 2.0, 3.0}) {
+            QTest::addRow("%g", scale) << scale;
+        }
+    }
+
+    void TheBorderIsOnePixelOnAllSidesAtEveryScale() {
+        QFETCH(double, scale);
+        ShownPicture shown;
+        shown.Draw();
+        shown.Box.clearFocus();
+        for (int step = 0; step < 16; ++step) {
+            QRect const place(1 + step, 2 + step, 100 + step % 4, 60 + step % 5);
+            shown.Box.setGeometry(place);
+            QImage screen((QSizeF(shown.Window.size()) * scale).toSize(), QImage::Format_RGB32);
+            screen.setDevicePixelRatio(scale);
+            shown.Window.render(&screen);
+            QRect const box(QPoint(qRound(place.x() * scale), qRound(place.y() * scale)),
+                            QPoint(qRound((place.x() + place.width()) * scale) - 1,
+                                   qRound((place.y() + place.height()) * scale) - 1));
+            QCOMPARE(BorderFaults(screen, box), QString());
+        }
     }
 
     void RestingThePointerTellsTheColumn() {
