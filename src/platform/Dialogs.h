@@ -38,6 +38,24 @@ struct FileQuestion {
     std::string Filter; // description|pattern, all joined by "|", first one chosen
 };
 
+enum class PrintRange { All, Selection };
+
+// The host's print dialog for a document. Whoever prints the document makes it; Dialogs decides whether it is
+// shown.
+class PrintDialog {
+public:
+    PrintDialog() = default;
+    PrintDialog(PrintDialog const&) = delete;
+    PrintDialog& operator=(PrintDialog const&) = delete;
+    virtual ~PrintDialog() = default;
+
+    // What stands in it at first. Selection is not offered unless it is that.
+    [[nodiscard]] virtual PrintRange Offered() const = 0;
+
+    // Shows it. Returns what to print, nothing when it was cancelled.
+    [[nodiscard]] virtual std::optional<PrintRange> Show() = 0;
+};
+
 class Dialogs {
 public:
     Dialogs() = default;
@@ -61,6 +79,11 @@ public:
 
     // The host's own file dialog: the whole path of an existing file, empty when it was cancelled.
     [[nodiscard]] virtual std::string AskForFile(FileQuestion const& question) = 0;
+
+    // The host's own print dialog: what to print of the document, nothing when it was cancelled.
+    [[nodiscard]] virtual std::optional<PrintRange> AskWhatToPrint(PrintDialog& dialog) {
+        return dialog.Show();
+    }
 };
 
 } // namespace quorvex::platform

@@ -10,6 +10,14 @@
 namespace quorvex::platform::fake {
 namespace {
 
+// Nobody may show it.
+class HiddenPrintDialog final : public PrintDialog {
+public:
+    [[nodiscard]] PrintRange Offered() const override { return PrintRange::Selection; }
+
+    [[nodiscard]] std::optional<PrintRange> Show() override { throw std::logic_error("shown"); }
+};
+
 TEST(ScriptedDialogs, AnswerInOrder) {
     ScriptedDialogs dialogs;
     dialogs.Answers = {Answer::No, Answer::Cancel};
@@ -29,6 +37,11 @@ TEST(ScriptedDialogs, AnswerInOrder) {
     EXPECT_EQ(dialogs.AskForFile({"C:\\", "*.csv", "All|*.*"}), "");
     ASSERT_EQ(dialogs.FileQuestions.size(), 2U);
     EXPECT_EQ(dialogs.FileQuestions[1].Name, "*.csv");
+    HiddenPrintDialog dialog;
+    dialogs.Ranges = {PrintRange::All, std::nullopt};
+    EXPECT_EQ(dialogs.AskWhatToPrint(dialog), PrintRange::All);
+    EXPECT_EQ(dialogs.AskWhatToPrint(dialog), std::nullopt);
+    EXPECT_EQ(dialogs.OfferedRanges, (std::vector{PrintRange::Selection, PrintRange::Selection}));
     EXPECT_EQ(dialogs.Messages.size(), 3U);
     EXPECT_EQ(dialogs.OfferedFiles.size(), 2U);
 }
@@ -39,6 +52,8 @@ TEST(ScriptedDialogs, RefuseAQuestionThatTheTestDidNotForesee) {
     EXPECT_THROW(static_cast<void>(dialogs.Ask({"Name", "Title", ""})), std::logic_error);
     EXPECT_THROW(static_cast<void>(dialogs.ChooseQuoteFile({})), std::logic_error);
     EXPECT_THROW(static_cast<void>(dialogs.AskForFile({})), std::logic_error);
+    HiddenPrintDialog dialog;
+    EXPECT_THROW(static_cast<void>(dialogs.AskWhatToPrint(dialog)), std::logic_error);
 }
 
 } // namespace

@@ -94,4 +94,14 @@ std::vector<PrintedPage> ReadPdf(std::string const& pdf) {
     return pages;
 }
 
+QString WordsOf(std::string const& pdf) {
+    QStringList words;
+    for (PrintedPage const& page : ReadPdf(pdf)) {
+        for (PrintedWord const& word : page.Words) {
+            words.append(word.Text);
+        }
+    }
+    return words.join(u' ');
+}
+
 } // namespace quorvex::tests

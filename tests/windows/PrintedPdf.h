@@ -36,4 +36,7 @@ inline constexpr double PictureResolution = 300;
 // The pages of the file; a test whose file cannot be read cannot go on.
 [[nodiscard]] std::vector<PrintedPage> ReadPdf(std::string const& pdf);
 
+// All words of the file in order, joined by blanks.
+[[nodiscard]] QString WordsOf(std::string const& pdf);
+
 } // namespace quorvex::tests

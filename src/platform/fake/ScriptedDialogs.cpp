@@ -45,6 +45,11 @@ std::string ScriptedDialogs::AskForFile(FileQuestion const& question) {
     return TakeFirst(Paths, "which file to open");
 }
 
+std::optional<PrintRange> ScriptedDialogs::AskWhatToPrint(PrintDialog& dialog) {
+    OfferedRanges.push_back(dialog.Offered());
+    return TakeFirst(Ranges, "what to print");
+}
+
 std::optional<std::string> ScriptedDialogs::Choose(std::span<std::string const> names) {
     OfferedFiles.emplace_back(names.begin(), names.end());
     return TakeFirst(Choices, "which file");

@@ -21,17 +21,21 @@ public:
     [[nodiscard]] std::optional<std::string> ChooseParameterFile(std::span<std::string const> names) override;
     [[nodiscard]] std::string AskForFile(FileQuestion const& question) override;
 
+    [[nodiscard]] std::optional<PrintRange> AskWhatToPrint(PrintDialog& dialog) override;
+
     // What was shown, in order.
     std::vector<Message> Messages;
     std::vector<Question> Questions;
     std::vector<std::vector<std::string>> OfferedFiles;
     std::vector<FileQuestion> FileQuestions;
+    std::vector<PrintRange> OfferedRanges;
 
     // What to answer, first one first. A box with only an OK button needs no answer.
     std::deque<Answer> Answers;
     std::deque<std::string> Texts;
     std::deque<std::optional<std::string>> Choices;
-    std::deque<std::string> Paths; // empty where the file dialog is cancelled
+    std::deque<std::string> Paths;                // empty where the file dialog is cancelled
+    std::deque<std::optional<PrintRange>> Ranges; // nothing where the print dialog is cancelled
 
 private:
     std::optional<std::string> Choose(std::span<std::string const> names);

@@ -97,7 +97,7 @@ private:
 
     [[nodiscard]] bool OnPixels() const { return scale_.On == Medium::Pixels; }
 
-    // Of a line where there are no pixels.
+    // Lines are this wide where there are no pixels.
     [[nodiscard]] double LineWidth() const {
         return Unit(scale_.On == Medium::Paper ? PaperLine : VectorLine);
     }

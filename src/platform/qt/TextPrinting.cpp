@@ -3,8 +3,6 @@
 
 #include "platform/qt/TextPrinting.h"
 
-#include "platform/qt/SystemJob.h"
-
 #include <QAbstractTextDocumentLayout>
 #include <QGuiApplication>
 #include <QPainter>
@@ -64,7 +62,7 @@ private:
         return millimetres / MillimetresPerInch * screenDpi_;
     }
 
-    // Of the pages, as high in dots as 9 points are on the screen.
+    // Page numbers are as high in dots as 9 points are on the screen.
     [[nodiscard]] QFont NumberFont() const {
         QFont font = QGuiApplication::font();
         font.setPixelSize(static_cast<int>(std::lround(9 * screenDpi_ / 72)));
@@ -81,6 +79,9 @@ private:
         painter.setClipRect(context.clip);
         document_.documentLayout()->draw(&painter, context);
         painter.restore();
+        if (page + 1 == document_.pageCount()) {
+            return; // nobody has to put a single page in order
+        }
         painter.setFont(NumberFont());
         QRectF const below(0, body_.height(), body_.width(), Dots(PaperMargin / 2));
         painter.drawText(below, Qt::AlignRight | Qt::AlignBottom, QString::number(page + 1));
@@ -95,10 +96,24 @@ private:
 
 } // namespace
 
-void OfferRanges(QPrintDialog& dialog, bool hasSelection) {
-    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
-    dialog.setOption(QAbstractPrintDialog::PrintSelection, hasSelection);
-    dialog.setPrintRange(hasSelection ? QAbstractPrintDialog::Selection : QAbstractPrintDialog::AllPages);
+TextPrintDialog::TextPrintDialog(PrinterJob& job, bool hasSelection, QWidget* parent)
+    : dialog_(&job.Device(), parent),
+      hasSelection_(hasSelection) {
+    dialog_.setObjectName(QStringLiteral("PrintDialog"));
+    dialog_.setOption(QAbstractPrintDialog::PrintPageRange, false);
+    dialog_.setOption(QAbstractPrintDialog::PrintSelection, hasSelection);
+    dialog_.setPrintRange(hasSelection ? QAbstractPrintDialog::Selection : QAbstractPrintDialog::AllPages);
+}
+
+PrintRange TextPrintDialog::Offered() const {
+    return hasSelection_ ? PrintRange::Selection : PrintRange::All;
+}
+
+std::optional<PrintRange> TextPrintDialog::Show() {
+    if (dialog_.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return dialog_.printRange() == QAbstractPrintDialog::Selection ? PrintRange::Selection : PrintRange::All;
 }
 
 PrintedText::PrintedText(QTextEdit const& text) : whole_(text.document()->clone()) {
@@ -111,9 +126,16 @@ PrintedText::PrintedText(QTextEdit const& text) : whole_(text.document()->clone(
     }
 }
 
-void PrintedText::Print(bool isSelection, pictures::PrintJob& job) {
-    TextPages(isSelection ? *selection_ : *whole_, job.Device()).Paint();
+void PrintedText::Print(PrintRange range, pictures::PrintJob& job) {
+    TextPages(range == PrintRange::Selection ? *selection_ : *whole_, job.Device()).Paint();
     job.Finish();
+}
+
+void PrintedText::PrintAsChosen(PrinterJob& job, Dialogs& dialogs, QWidget* parent) {
+    TextPrintDialog dialog(job, HasSelection(), parent);
+    if (auto const range = dialogs.AskWhatToPrint(dialog)) {
+        Print(*range, job);
+    }
 }
 
 void PrintText(QTextEdit& text, std::string_view documentName, std::string_view folder, Dialogs& dialogs) {
@@ -122,15 +144,11 @@ void PrintText(QTextEdit& text, std::string_view documentName, std::string_view 
     if (!HasPrinter()) {
         auto const job = StartSystemJob(documentName, folder, pictures::PdfPage(),
                                         [&dialogs](Message const& message) { dialogs.Show(message); });
-        printed.Print(printed.HasSelection(), *job);
+        printed.Print(printed.HasSelection() ? PrintRange::Selection : PrintRange::All, *job);
         return;
     }
     PrinterJob job(documentName);
-    QPrintDialog dialog(&job.Device(), &text);
-    OfferRanges(dialog, printed.HasSelection());
-    if (dialog.exec() == QDialog::Accepted) {
-        printed.Print(dialog.printRange() == QAbstractPrintDialog::Selection, job);
-    }
+    printed.PrintAsChosen(job, dialogs, &text);
 }
 
 } // namespace quorvex::platform::qt

@@ -4,8 +4,6 @@
 #include "auxiliary/ui/frmHelp.h"
 
 #include "platform/fake/ScriptedDialogs.h"
-#include "platform/qt/SystemJob.h"
-#include "platform/qt/TextPrinting.h"
 #include "windows/PrintedPdf.h"
 #include "windows/RunningWindow.h"
 #include "windows/WindowTest.h"
@@ -14,8 +12,6 @@
 #include <QChildEvent>
 #include <QGuiApplication>
 #include <QMenuBar>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QPrinterInfo>
 #include <QScreen>
 #include <QScrollBar>
@@ -24,7 +20,6 @@
 #include <QTextEdit>
 #include <QTextTable>
 #include <filesystem>
-#include <map>
 
 namespace quorvex::tests {
 
@@ -50,17 +45,6 @@ std::string LongDocument() {
         document += "Line " + std::to_string(line) + R"(\par )";
     }
     return document + "}";
-}
-
-// The words of a printed file in order, the numbers of the pages included.
-QString WordsOf(std::string const& pdf) {
-    QStringList words;
-    for (PrintedPage const& page : ReadPdf(pdf)) {
-        for (PrintedWord const& word : page.Words) {
-            words.append(word.Text);
-        }
-    }
-    return words.join(u' ');
 }
 
 // The help window with this document, closed when the deed is over.
@@ -395,7 +379,7 @@ private Q_SLOTS:
         RunningWindow main;
         main.Folder.Write(ReadMe, R"({\rtf1 One two three})");
         OnHelp(main, [](QWidget& window) { Choose(window, "mnuFilePrint"); });
-        QCOMPARE(WordsOf(main.Folder.Read(ReadMePdf)), u"One two three 1"_s); // and the number of the page
+        QCOMPARE(WordsOf(main.Folder.Read(ReadMePdf)), u"One two three"_s);
         QCOMPARE(
             main.Answers.TakeShown(),
             (QStringList{u"frmHelp"_s, OkMessage(u"Quorvex"_s, u"information"_s,
@@ -415,58 +399,7 @@ private Q_SLOTS:
             }
             Choose(window, "mnuFilePrint");
         });
-        QCOMPARE(WordsOf(main.Folder.Read(ReadMePdf)), u"two 1"_s);
-    }
-
-    // As with a printer, but into a file: nothing of the text that changes meanwhile matters.
-    void APrinterGetsTheTextAsItWas() {
-        TemporaryFolder folder;
-        QTextEdit text;
-        text.setPlainText(u"One two three"_s);
-        QTextCursor cursor(text.document());
-        cursor.setPosition(4);
-        cursor.setPosition(7, QTextCursor::KeepAnchor);
-        text.setTextCursor(cursor);
-        platform::qt::PrintedText printed(text);
-        text.clear();
-        QVERIFY(printed.HasSelection());
-        for (auto const& [isSelection, words] :
-             std::map<bool, QString>{{true, u"two 1"_s}, {false, u"One two three 1"_s}}) {
-            platform::qt::PrinterJob job("Text");
-            job.Device().setOutputFormat(QPrinter::PdfFormat);
-            job.Device().setOutputFileName(QString::fromStdString(folder.File("text.pdf")));
-            printed.Print(isSelection, job);
-            QCOMPARE(WordsOf(folder.Read("text.pdf")), words);
-        }
-    }
-
-    void APrinterThatFailsIsTold() {
-        TemporaryFolder folder;
-        QTextEdit text;
-        platform::qt::PrintedText printed(text);
-        platform::qt::PrinterJob job("Text");
-        job.Device().setOutputFormat(QPrinter::PdfFormat);
-        job.Device().setOutputFileName(QString::fromStdString(folder.File("missing/text.pdf")));
-        QTest::ignoreMessage(QtWarningMsg, "QPainter::begin(): Returned false");
-        try {
-            printed.Print(false, job);
-            QFAIL("It was printed.");
-        } catch (text::RunTimeError const& error) {
-            QCOMPARE(error.Kind(), text::Fault::PrinterError);
-        }
-    }
-
-    void ThePrintDialogOffersAllOrTheSelectionAndNoPages() {
-        QPrinter printer;
-        QPrintDialog dialog(&printer);
-        platform::qt::OfferRanges(dialog, false);
-        QVERIFY(!dialog.testOption(QAbstractPrintDialog::PrintPageRange));
-        QVERIFY(!dialog.testOption(QAbstractPrintDialog::PrintSelection));
-        QCOMPARE(dialog.printRange(), QAbstractPrintDialog::AllPages);
-        platform::qt::OfferRanges(dialog, true);
-        QVERIFY(!dialog.testOption(QAbstractPrintDialog::PrintPageRange));
-        QVERIFY(dialog.testOption(QAbstractPrintDialog::PrintSelection));
-        QCOMPARE(dialog.printRange(), QAbstractPrintDialog::Selection);
+        QCOMPARE(WordsOf(main.Folder.Read(ReadMePdf)), u"two"_s);
     }
 
     void AFolderThatCannotBeWrittenIsTold() {
