@@ -10,12 +10,11 @@
 #include "platform/qt/NominalFrame.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/TextPrinting.h"
+#include "platform/qt/WindowMenu.h"
 #include "richtext/basRichText.h"
 #include "text/RunTimeError.h"
 #include "text/basFolders.h"
 
-#include <QApplication>
-#include <QMenuBar>
 #include <QPointer>
 #include <QResizeEvent>
 #include <QScreen>
@@ -54,12 +53,11 @@ frmHelp::frmHelp(QWidget* parent, std::string const& programFolder, settings::Se
       settings_(settings),
       files_(files),
       dialogs_(dialogs),
-      menuBar_(new QMenuBar(this)),
+      menuBar_(MakeMenu()),
       richTextBox1_(new QTextEdit(this)) {
     setObjectName(QStringLiteral("frmHelp"));
     setWindowTitle(QStringLiteral("Quorvex Help"));
     setSizeGripEnabled(true);
-    AddMenu();
     richTextBox1_->setObjectName(QStringLiteral("RichTextBox1"));
     richTextBox1_->setAccessibleName(QStringLiteral("Help document"));
     richTextBox1_->setReadOnly(true);
@@ -67,21 +65,13 @@ frmHelp::frmHelp(QWidget* parent, std::string const& programFolder, settings::Se
     resize(InitialSize.boundedTo(screen()->availableSize()));
 }
 
-void frmHelp::AddMenu() {
-    menuBar_->setNativeMenuBar(false);
-    QMenu* menu = menuBar_->addMenu(QStringLiteral("&File"));
-    menu->setObjectName(QStringLiteral("mnuFile"));
-    QAction* print = menu->addAction(QStringLiteral("&Print"));
-    print->setObjectName(QStringLiteral("mnuFilePrint"));
-    connect(print, &QAction::triggered, this, [this] { Print(); });
-    menu->addSeparator();
-    QAction* exit = menu->addAction(QStringLiteral("E&xit"));
-    exit->setObjectName(QStringLiteral("mnuFileExit"));
-    exit->setMenuRole(QAction::NoRole);
-    connect(exit, &QAction::triggered, this, [this] {
-        platform::qt::CloseMenus();
-        accept();
-    });
+QMenuBar* frmHelp::MakeMenu() {
+    platform::qt::WindowMenu menu(*this);
+    menu.Menu("mnuFile", "&File")
+        .Item("mnuFilePrint", "&Print", [this] { Print(); })
+        .Separator()
+        .Item("mnuFileExit", "E&xit", [this] { accept(); });
+    return &menu.Bar();
 }
 
 void frmHelp::RunModal(std::string const& helpFileName) {
@@ -158,14 +148,8 @@ void frmHelp::GoToTop() {
 }
 
 void frmHelp::Print() {
-    platform::qt::CloseMenus();
-    // Keys and mouse do not come through while a dialog is open; assistive technology does.
-    if (QApplication::activeModalWidget() != this) {
-        return;
-    }
     std::string const documentName = helpFileName_.substr(0, helpFileName_.rfind('.'));
-    platform::qt::RunGuarded(
-        *this, [&] { platform::qt::PrintText(*richTextBox1_, documentName, settings_.DataPath, dialogs_); });
+    platform::qt::PrintText(*richTextBox1_, documentName, settings_.DataPath, dialogs_);
 }
 
 } // namespace quorvex::auxiliary::ui

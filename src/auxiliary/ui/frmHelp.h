@@ -36,7 +36,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void AddMenu();
+    [[nodiscard]] QMenuBar* MakeMenu();
     void LayOut();
     void LoadDocument();
     [[nodiscard]] std::optional<std::string> ReadDocument() const;

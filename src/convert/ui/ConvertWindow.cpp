@@ -5,9 +5,9 @@
 
 #include "platform/pictures/QtTexts.h"
 #include "platform/qt/QtDialogs.h"
+#include "platform/qt/WindowMenu.h"
 #include "ui_ConvertWindow.h"
 
-#include <QMenuBar>
 #include <algorithm>
 
 namespace quorvex::convert::ui {
@@ -44,28 +44,13 @@ ConvertWindow::ConvertWindow(QWidget* parent, ConverterTexts const& texts, platf
 ConvertWindow::~ConvertWindow() = default;
 
 void ConvertWindow::AddMenu() {
-    auto* bar = new QMenuBar(this);
-    bar->setNativeMenuBar(false); // a menu bar of the system's own shows no commands outside of menus
-    QMenu* file = bar->addMenu(QStringLiteral("&File"));
-    file->setObjectName(QStringLiteral("mnuFile"));
-    QAction* print = file->addAction(QStringLiteral("&Print"));
-    print->setObjectName(QStringLiteral("mnuFilePrint"));
-    Connect(*print, [this] { Print(); });
-    QAction* exit = file->addAction(QStringLiteral("E&xit"));
-    exit->setObjectName(QStringLiteral("mnuFileExit"));
-    Connect(*exit, [this] { close(); });
-    QAction* help = bar->addAction(QStringLiteral("&Help"));
-    help->setObjectName(QStringLiteral("mnuHelp"));
-    Connect(*help, [this] { ShowHelp(); });
-    layout()->setMenuBar(bar);
-}
-
-void ConvertWindow::Connect(QAction& action, std::function<void()> const& command) {
-    action.setMenuRole(QAction::NoRole);
-    connect(&action, &QAction::triggered, this, [this, command] {
-        platform::qt::CloseMenus();
-        RunGuarded(*this, command);
-    });
+    platform::qt::WindowMenu menu(*this);
+    menu.Menu("mnuFile", "&File")
+        .Item("mnuFilePrint", "&Print", [this] { Print(); })
+        .Item("mnuFileExit", "E&xit", [this] { close(); })
+        .OnBar()
+        .Item("mnuHelp", "&Help", [this] { ShowHelp(); });
+    layout()->setMenuBar(&menu.Bar());
 }
 
 QBoxLayout& ConvertWindow::LayoutFrames() {

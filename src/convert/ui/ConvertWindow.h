@@ -11,7 +11,6 @@
 #include "platform/Printer.h"
 
 #include <QDialog>
-#include <functional>
 #include <memory>
 
 class QBoxLayout;
@@ -56,7 +55,6 @@ protected:
 
 private:
     void AddMenu();
-    void Connect(QAction& action, std::function<void()> const& command);
     void ShowSourceName(std::string const& name) override;
     void ShowSourceContents(std::string const& contents) override;
     void Convert();

@@ -7,6 +7,7 @@
 #include "convert/ui/ConvertWindow.h"
 
 #include <array>
+#include <functional>
 
 class QRadioButton;
 

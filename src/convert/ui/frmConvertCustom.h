@@ -6,6 +6,7 @@
 #include "convert/basConvertCustom.h"
 #include "convert/ui/ConvertWindow.h"
 
+#include <functional>
 #include <span>
 #include <string_view>
 

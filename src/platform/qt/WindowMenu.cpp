@@ -35,6 +35,11 @@ WindowMenu& WindowMenu::Menu(char const* name, char const* caption) {
     return *this;
 }
 
+WindowMenu& WindowMenu::OnBar() {
+    current_ = bar_;
+    return *this;
+}
+
 WindowMenu& WindowMenu::Item(char const* name, char const* caption, Command command) {
     auto* const action = new QAction(QString::fromLatin1(caption), &window_);
     action->setObjectName(QString::fromLatin1(name));

@@ -17,8 +17,11 @@ public:
     // An empty bar that belongs to the window. Captions mark their access keys by "&".
     explicit WindowMenu(QWidget& window);
 
-    // What follows stands in this menu. Without one it stands on the bar itself.
+    // What follows stands in this menu.
     WindowMenu& Menu(char const* name, char const* caption);
+
+    // What follows stands on the bar itself, as at first.
+    WindowMenu& OnBar();
 
     WindowMenu& Item(char const* name, char const* caption, Command command);
     WindowMenu& Separator();

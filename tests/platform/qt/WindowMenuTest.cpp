@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/qt/WindowMenu.h"
+
+#include "platform/qt/QtDialogs.h"
+#include "text/RunTimeError.h"
+#include "windows/ModalAnswers.h"
+#include "windows/WindowTest.h"
+
+#include <QDialog>
+
+namespace quorvex::tests {
+
+using namespace Qt::StringLiterals;
+using platform::qt::WindowMenu;
+
+namespace {
+
+QStringList Outline(QList<QAction*> const& actions, QString const& indent) {
+    QStringList lines;
+    for (QAction const* action : actions) {
+        QMenu const* menu = action->menu();
+        QString const name = menu == nullptr ? action->objectName() : menu->objectName();
+        lines.append(indent + (action->isSeparator() ? u"-"_s : name + u' ' + action->text()));
+        if (menu != nullptr) {
+            lines += Outline(menu->actions(), indent + u"  "_s);
+        }
+    }
+    return lines;
+}
+
+} // namespace
+
+class WindowMenuTest final : public WindowTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+
+    void ItemsStandInTheirMenusOrOnTheBar() {
+        QWidget window;
+        WindowMenu menu(window);
+        menu.Item("mnuFirst", "F&irst", [] {})
+            .Menu("mnuFile", "&File")
+            .Item("mnuFilePrint", "&Print", [] {})
+            .Separator()
+            .Item("mnuFileExit", "E&xit", [] {})
+            .OnBar()
+            .Item("mnuHelp", "&Help", [] {});
+        QCOMPARE(Outline(menu.Bar().actions(), QString()),
+                 QStringList({u"mnuFirst F&irst"_s, u"mnuFile &File"_s, u"  mnuFilePrint &Print"_s, u"  -"_s,
+                              u"  mnuFileExit E&xit"_s, u"mnuHelp &Help"_s}));
+        QVERIFY(!menu.Bar().isNativeMenuBar());
+        QCOMPARE(menu.Bar().parentWidget(), &window);
+    }
+
+    void AnItemRunsItsCommandOnceTheMenuIsClosed() {
+        QWidget window;
+        window.resize(300, 200);
+        WindowMenu menu(window);
+        bool isMenuOpen = true;
+        menu.Menu("mnuFile", "&File").Item("mnuFilePrint", "&Print", [&isMenuOpen] {
+            isMenuOpen = QApplication::activePopupWidget() != nullptr;
+        });
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        ModalAnswers answers;
+        answers.Next([&window](QWidget&) { window.findChild<QAction*>(u"mnuFilePrint"_s)->trigger(); });
+        QTest::keyClick(&window, Qt::Key_F, Qt::AltModifier);
+        QTRY_VERIFY(!isMenuOpen);
+        QCOMPARE(answers.Shown(), QStringList(u"mnuFile"_s));
+    }
+
+    void WhatEndsACommandIsShown() {
+        QWidget window;
+        ModalAnswers answers;
+        WindowMenu menu(window);
+        menu.Item("mnuPrint", "&Print", [] { throw text::RunTimeError(text::Fault::PrinterError); });
+        window.findChild<QAction*>(u"mnuPrint"_s)->trigger();
+        QCOMPARE(answers.Shown(), QStringList(OkMessage(u"Quorvex"_s, u"none"_s, u"Printer error"_s)));
+    }
+
+    void NoCommandRunsWhileAnotherWindowWaits() {
+        QDialog window;
+        WindowMenu menu(window);
+        int runs = 0;
+        menu.Item("mnuPrint", "&Print", [&runs] { ++runs; });
+        auto* item = window.findChild<QAction*>(u"mnuPrint"_s);
+        ModalAnswers answers;
+        answers.Next([&](QWidget& shown) {
+            item->trigger();
+            QCOMPARE(runs, 1);
+            answers.NextMessage([&](QWidget& message) {
+                item->trigger();
+                message.close();
+            });
+            platform::qt::ShowMessageBox(window, {"Text", "Title"});
+            shown.close();
+        });
+        window.exec();
+        QCOMPARE(runs, 1);
+        QVERIFY(answers.IsDone());
+    }
+};
+
+} // namespace quorvex::tests
+
+int main(int argc, char** argv) {
+    return quorvex::tests::RunWindowTest<quorvex::tests::WindowMenuTest>(argc, argv);
+}
+
+#include "WindowMenuTest.moc"
