@@ -5,7 +5,7 @@
 
 #include "cli/ConsoleDialogs.h"
 #include "editor/Editor.h"
-#include "editor/Sheet.h"
+#include "editor/PlainSpread.h"
 #include "platform/disk/DiskFiles.h"
 #include "quotes/QuoteSeries.h"
 #include "settings/Settings.h"
@@ -40,7 +40,9 @@ private:
     settings::Settings settings_;
     std::unique_ptr<quotes::QuoteSeries> series_ = std::make_unique<quotes::QuoteSeries>();
     editor::Sheet sheet_;
-    std::unique_ptr<editor::Editor> editor_ = std::make_unique<editor::Editor>(editor::Editor{sheet_, {}, 0});
+    editor::PlainSpread spread_{sheet_};
+    std::unique_ptr<editor::Editor> editor_ =
+        std::make_unique<editor::Editor>(editor::Editor{sheet_, spread_, {}, 0});
     ConsoleDialogs dialogs_;
     platform::disk::DiskFiles files_;
 };

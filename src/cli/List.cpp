@@ -30,10 +30,8 @@ ExitStatus List(ListOptions const& options, platform::PdfPrintQueue& queue) {
     platform::NoMousePointer pointer;
     bool const written =
         PrintToPdf(queue, options.OutputPath, session.Files(), session.Dialogs(), [&](auto& printing) {
-            if (auto const error = editor::PrintQuotes(session.Edited(), session.QuoteFileName(),
-                                                       session.Settings(), printing, pointer)) {
-                throw text::RunTimeError(error->Kind());
-            }
+            editor::PrintQuotes(session.Edited(), session.QuoteFileName(), session.Settings(), printing,
+                                pointer);
         });
     return written ? ExitStatus::Success : ExitStatus::Refused;
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "editor/Sheet.h"
 #include "editor/Spread.h"
 #include "quotes/QuoteSeries.h"
 
@@ -12,7 +13,8 @@ namespace quorvex::editor {
 // grid, but for what was typed since the grid was filled: that stands in the grid alone until it is copied
 // back.
 struct Editor {
-    Spread& Grid; // must outlive the editor
+    Sheet& Cells; // of the grid; both must outlive the editor
+    Spread& Grid;
     quotes::QuoteRecords EditQuotes;
     std::int16_t EditCount = 0; // rows of the grid
 };

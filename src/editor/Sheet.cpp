@@ -30,9 +30,6 @@ void Sheet::SetRowCount(std::int16_t count) {
         throw text::RunTimeError(text::Fault::InvalidProcedureCall);
     }
     rows_.resize(static_cast<std::size_t>(count) + 1);
-    if (cursor_.Row > count) {
-        cursor_ = count == 0 ? Place() : Place{count, cursor_.Column};
-    }
 }
 
 Sheet::Row const& Sheet::RowAt(std::ptrdiff_t row) const {
@@ -56,13 +53,8 @@ void Sheet::ChangeCells(Block const& block, Change const& change) {
     }
 }
 
-void Sheet::SetText(std::string_view text) {
-    ChangeCells({row_, column_, row_, column_}, [text](Cell& cell) { cell.Text = text; });
-}
-
-void Sheet::MoveCursor(std::int16_t row, std::int16_t column) {
-    static_cast<void>(CellAt(row, column));
-    cursor_ = {row, column};
+void Sheet::SetText(std::int16_t row, std::int16_t column, std::string_view text) {
+    ChangeCells({row, column, row, column}, [text](Cell& cell) { cell.Text = text; });
 }
 
 void Sheet::SetCellKind(Block const& block, CellKind kind) {
@@ -91,10 +83,6 @@ void Sheet::SortByDate(Block const& block, std::int16_t keyColumn) {
         }
         ++row;
     }
-}
-
-void Sheet::SetColumnWidth(std::int16_t column, double width) {
-    columnWidths_[column] = width;
 }
 
 } // namespace quorvex::editor

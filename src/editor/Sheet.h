@@ -3,13 +3,19 @@
 
 #pragma once
 
-#include "editor/Spread.h"
+#include "platform/Canvas.h"
 #include "text/SlotArray.h"
 
+#include <cstdint>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace quorvex::editor {
+
+// What a cell holds; the text in it may be anything.
+enum class CellKind { Text, Date, Number };
 
 struct Cell {
     std::string Text;
@@ -17,59 +23,41 @@ struct Cell {
     std::optional<platform::Colour> BackColour; // nothing is the grid's own
 };
 
-// A grid of seven columns without a display.
-class Sheet final : public Spread {
+// The cells between two corners, both of them included.
+struct Block {
+    std::int16_t Row = 0;
+    std::int16_t Column = 0;
+    std::int16_t ToRow = 0;
+    std::int16_t ToColumn = 0;
+};
+
+// The cells of the editor's grid. Rows and columns count from 1; row 0 is the head row. Addressing a cell
+// that is not there raises "Subscript out of range".
+class Sheet {
 public:
     static constexpr std::int16_t Columns = 7;
 
-    [[nodiscard]] std::int16_t RowCount() const override;
-    void SetRowCount(std::int16_t count) override;
+    // The rows below the head row. New rows come to the end, empty; the last ones go.
+    [[nodiscard]] std::int16_t RowCount() const;
+    void SetRowCount(std::int16_t count);
 
-    [[nodiscard]] std::int16_t ColumnCount() const override { return Columns; }
-
-    void SetRow(std::int16_t row) override { row_ = row; }
-
-    void SetColumn(std::int16_t column) override { column_ = column; }
-
-    [[nodiscard]] std::int16_t Column() const override { return column_; }
-
-    [[nodiscard]] std::string Text() const override { return CellAt(row_, column_).Text; }
-
-    void SetText(std::string_view text) override;
-
-    [[nodiscard]] std::int16_t ActiveRow() const override { return cursor_.Row; }
-
-    void MoveCursor(std::int16_t row, std::int16_t column) override;
-    void SetCellKind(Block const& block, CellKind kind) override;
-    void SetBackColour(Block const& block, platform::Colour colour) override;
-    void SortByDate(Block const& block, std::int16_t keyColumn) override;
-    void SetColumnWidth(std::int16_t column, double width) override;
-
-    void SetVisible(bool isVisible) override { isVisible_ = isVisible; }
-
-    [[nodiscard]] double Width() const override { return width_; }
-
-    void SetWidth(double width) override { width_ = width; }
-
-    void SetHeight(double height) override { height_ = height; }
-
-    // What was set.
     [[nodiscard]] Cell const& CellAt(std::int16_t row, std::int16_t column) const;
 
-    [[nodiscard]] std::int16_t ActiveColumn() const { return cursor_.Column; }
+    [[nodiscard]] std::string const& Text(std::int16_t row, std::int16_t column) const {
+        return CellAt(row, column).Text;
+    }
 
-    [[nodiscard]] double ColumnWidth(std::int16_t column) const { return columnWidths_[column]; }
+    void SetText(std::int16_t row, std::int16_t column, std::string_view text);
 
-    [[nodiscard]] bool IsVisible() const { return isVisible_; }
+    // Of every cell of the block.
+    void SetCellKind(Block const& block, CellKind kind);
+    void SetBackColour(Block const& block, platform::Colour colour);
 
-    [[nodiscard]] double Height() const { return height_; }
+    // Puts the rows of the block into the order of the dates in the key column, oldest first; texts that are
+    // no dates come before all. Rows of one date keep their order. Colours stay where they are.
+    void SortByDate(Block const& block, std::int16_t keyColumn);
 
 private:
-    struct Place {
-        std::int16_t Row = 0; // 0 is nowhere
-        std::int16_t Column = 0;
-    };
-
     // Slot 0 is not used.
     using Row = text::SlotArray<Cell, Columns>;
 
@@ -79,13 +67,6 @@ private:
     void ChangeCells(Block const& block, Change const& change);
 
     std::vector<Row> rows_{1}; // the head row first
-    std::int16_t row_ = 0;
-    std::int16_t column_ = 1;
-    Place cursor_;
-    text::SlotArray<double, Columns> columnWidths_;
-    double width_ = 0;
-    double height_ = 0;
-    bool isVisible_ = true;
 };
 
 } // namespace quorvex::editor

@@ -3,8 +3,6 @@
 
 #include "editor/basBlocks.h"
 
-#include "editor/basSpread.h"
-
 #include <vector>
 
 namespace quorvex::editor {
@@ -55,26 +53,24 @@ std::vector<CellTexts> SplitRows(std::string_view text) {
 
 } // namespace
 
-std::string BlockText(Spread& spread, Block const& block) {
+std::string BlockText(Sheet const& sheet, Block const& block) {
     std::string text;
     VisitCells(block, [&](std::int16_t row, std::int16_t column) {
-        text += TextAt(spread, row, column);
+        text += sheet.Text(row, column);
         text += column == block.ToColumn ? '\n' : '\t';
     });
     return text;
 }
 
-void ClearBlock(Spread& spread, Block const& block) {
-    VisitCells(block, [&](std::int16_t row, std::int16_t column) {
-        PutText(spread, row, column, std::string_view());
-    });
+void ClearBlock(Sheet& sheet, Block const& block) {
+    VisitCells(block, [&](std::int16_t row, std::int16_t column) { sheet.SetText(row, column, {}); });
 }
 
-bool PasteText(Spread& spread, Block const& block, std::string_view text) {
+bool PasteText(Sheet& sheet, Block const& block, std::string_view text) {
     auto const rows = SplitRows(text);
     if (rows.size() == 1 && rows.front().size() == 1) {
         VisitCells(block, [&](std::int16_t row, std::int16_t column) {
-            PutText(spread, row, column, rows.front().front());
+            sheet.SetText(row, column, rows.front().front());
         });
         return true;
     }
@@ -83,9 +79,9 @@ bool PasteText(Spread& spread, Block const& block, std::string_view text) {
     for (CellTexts const& cells : rows) {
         int column = block.Column;
         for (std::string_view const cell : cells) {
-            bool const isInside = row <= spread.RowCount() && column <= spread.ColumnCount();
+            bool const isInside = row <= sheet.RowCount() && column <= Sheet::Columns;
             if (isInside) {
-                PutText(spread, static_cast<std::int16_t>(row), static_cast<std::int16_t>(column), cell);
+                sheet.SetText(static_cast<std::int16_t>(row), static_cast<std::int16_t>(column), cell);
             }
             hasAll = hasAll && isInside;
             ++column;

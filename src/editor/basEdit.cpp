@@ -18,8 +18,8 @@ std::int16_t Changed(std::int16_t count, int by) {
 }
 
 // Whether the grid can have one more row; when not, tells the user.
-bool RequireRoom(Spread const& spread, platform::Dialogs& dialogs) {
-    if (spread.RowCount() != MaxQuotes) {
+bool RequireRoom(Sheet const& sheet, platform::Dialogs& dialogs) {
+    if (sheet.RowCount() != MaxQuotes) {
         return true;
     }
     dialogs.Show({"Maximum number of daily quotes (" + std::to_string(MaxQuotes) + ") has been reached.",
@@ -33,11 +33,11 @@ quotes::QuoteRecord EmptyDay(settings::Settings const& settings) {
     return {"", price, price, price, price, count, count};
 }
 
-void FillRow(Spread& spread, std::int16_t row, quotes::QuoteRecord const& record, ShownNumbers const& shown) {
-    PutText(spread, row, DateColumn, ShownDate(record.Date));
+void FillRow(Sheet& sheet, std::int16_t row, quotes::QuoteRecord const& record, ShownNumbers const& shown) {
+    sheet.SetText(row, DateColumn, ShownDate(record.Date));
     std::int16_t column = FirstNumberColumn;
     for (NumberColumn const& number : NumberColumns) {
-        PutText(spread, row, column++, shown.Of(number.Style).Format(record.*number.Field));
+        sheet.SetText(row, column++, shown.Of(number.Style).Format(record.*number.Field));
     }
 }
 
@@ -50,66 +50,63 @@ std::string EditorCaption(quotes::QuoteSeries const& series) {
 
 void OpenEditor(Editor& editor, quotes::QuoteSeries const& series) {
     constexpr double WidthShares = 7.9; // a column's share of the grid, which has its row numbers as well
-    Spread& spread = editor.Grid;
-    spread.SetVisible(false);
+    Sheet& sheet = editor.Cells;
+    HiddenSpread const hidden(editor.Grid);
     editor.EditCount = series.QuoteCount;
     for (std::int16_t row = 1; row <= editor.EditCount; ++row) {
         editor.EditQuotes[row] = series.Master[row];
     }
-    spread.SetRowCount(editor.EditCount);
-    double const columnWidth = spread.Width() / WidthShares;
-    for (std::int16_t column = 1; column <= spread.ColumnCount(); ++column) {
-        spread.SetColumnWidth(column, columnWidth);
+    sheet.SetRowCount(editor.EditCount);
+    double const columnWidth = editor.Grid.Width() / WidthShares;
+    for (std::int16_t column = 1; column <= Sheet::Columns; ++column) {
+        editor.Grid.SetColumnWidth(column, columnWidth);
     }
-    PutText(spread, 0, DateColumn, DateHead);
+    sheet.SetText(0, DateColumn, DateHead);
     std::int16_t column = FirstNumberColumn;
     for (NumberColumn const& number : NumberColumns) {
-        PutText(spread, 0, column++, number.Head);
+        sheet.SetText(0, column++, number.Head);
     }
-    spread.SetVisible(true);
 }
 
 void SizeGrid(Spread& spread, double windowWidth, double windowHeight) {
     constexpr double Border = 100;
     constexpr double HeightShare = 0.88;
-    spread.SetWidth(windowWidth - Border);
-    spread.SetHeight(windowHeight * HeightShare);
+    spread.SetSize(windowWidth - Border, windowHeight * HeightShare);
 }
 
 void RebuildGrid(Editor& editor, settings::Settings const& settings) {
-    Spread& spread = editor.Grid;
+    Sheet& sheet = editor.Cells;
     ShownNumbers const shown(settings);
-    spread.SetVisible(false);
-    std::int16_t const rows = spread.RowCount();
-    spread.SetCellKind({1, DateColumn, rows, DateColumn}, CellKind::Date);
-    spread.SetCellKind({1, FirstNumberColumn, rows, spread.ColumnCount()}, CellKind::Number);
+    HiddenSpread const hidden(editor.Grid);
+    std::int16_t const rows = sheet.RowCount();
+    sheet.SetCellKind({1, DateColumn, rows, DateColumn}, CellKind::Date);
+    sheet.SetCellKind({1, FirstNumberColumn, rows, Sheet::Columns}, CellKind::Number);
     for (std::int16_t row = 1; row <= editor.EditCount; ++row) {
-        FillRow(spread, row, editor.EditQuotes[row], shown);
+        FillRow(sheet, row, editor.EditQuotes[row], shown);
     }
-    StripeRows(spread);
-    spread.SetVisible(true);
+    StripeRows(sheet);
 }
 
 void AppendRow(Editor& editor, settings::Settings const& settings, platform::Dialogs& dialogs) {
-    Spread& spread = editor.Grid;
-    if (!RequireRoom(spread, dialogs)) {
+    Sheet& sheet = editor.Cells;
+    if (!RequireRoom(sheet, dialogs)) {
         return;
     }
     editor.EditQuotes[editor.EditCount + 1] = EmptyDay(settings);
     editor.EditCount = Changed(editor.EditCount, 1);
-    spread.SetRowCount(editor.EditCount);
-    GotoCell(spread, spread.RowCount(), DateColumn);
+    sheet.SetRowCount(editor.EditCount);
+    editor.Grid.GotoCell(sheet.RowCount(), DateColumn);
     RebuildGrid(editor, settings);
 }
 
 void InsertRow(Editor& editor, settings::Settings const& settings, platform::Dialogs& dialogs) {
-    Spread& spread = editor.Grid;
-    std::int16_t const row = spread.ActiveRow();
-    if (row == 0 || !RequireRoom(spread, dialogs)) {
+    Sheet& sheet = editor.Cells;
+    std::int16_t const row = editor.Grid.ActiveRow();
+    if (row == 0 || !RequireRoom(sheet, dialogs)) {
         return;
     }
-    spread.SetRowCount(Changed(spread.RowCount(), 1));
-    for (int from = spread.RowCount() - 1; from >= row; --from) {
+    sheet.SetRowCount(Changed(sheet.RowCount(), 1));
+    for (int from = sheet.RowCount() - 1; from >= row; --from) {
         editor.EditQuotes[from + 1] = editor.EditQuotes[from];
     }
     editor.EditCount = Changed(editor.EditCount, 1);
@@ -118,8 +115,8 @@ void InsertRow(Editor& editor, settings::Settings const& settings, platform::Dia
 }
 
 void DeleteRow(Editor& editor, settings::Settings const& settings, platform::Dialogs& dialogs) {
-    Spread& spread = editor.Grid;
-    std::int16_t const row = spread.ActiveRow();
+    Sheet& sheet = editor.Cells;
+    std::int16_t const row = editor.Grid.ActiveRow();
     if (row == 0) {
         return;
     }
@@ -128,11 +125,11 @@ void DeleteRow(Editor& editor, settings::Settings const& settings, platform::Dia
     if (answer != platform::Answer::Yes) {
         return;
     }
-    for (int to = row; to < spread.RowCount(); ++to) {
+    for (int to = row; to < sheet.RowCount(); ++to) {
         editor.EditQuotes[to] = editor.EditQuotes[to + 1];
     }
     editor.EditCount = Changed(editor.EditCount, -1);
-    spread.SetRowCount(Changed(spread.RowCount(), -1));
+    sheet.SetRowCount(Changed(sheet.RowCount(), -1));
     RebuildGrid(editor, settings);
 }
 

@@ -18,8 +18,7 @@ namespace quorvex::editor {
 [[nodiscard]] std::string EditorCaption(quotes::QuoteSeries const& series);
 
 // Takes over all quotes that were read from the file, also those that a date range hides, and gives the grid
-// its rows, heads and column widths, which follow from the width that it has. REQUIRES: a grid of seven
-// columns.
+// its rows, heads and column widths, which follow from the width that it has.
 void OpenEditor(Editor& editor, quotes::QuoteSeries const& series);
 
 // Fits the grid into a window of this outer size, in twips.

@@ -80,15 +80,12 @@ std::string DocumentName(std::string_view quoteFileName) {
 
 } // namespace
 
-std::optional<text::RunTimeError> PrintQuotes(Editor& editor, std::string_view quoteFileName,
-                                              settings::Settings const& settings, platform::PrintQueue& queue,
-                                              platform::MousePointer& pointer) {
+void PrintQuotes(Editor& editor, std::string_view quoteFileName, settings::Settings const& settings,
+                 platform::PrintQueue& queue, platform::MousePointer& pointer) {
     platform::Hourglass const hourglass(pointer);
-    return text::Trap([&] {
-        CopySpreadToArray(editor);
-        auto const printer = queue.Start(DocumentName(quoteFileName));
-        PrintListing(*printer, editor, quoteFileName, settings);
-    });
+    CopySpreadToArray(editor);
+    auto const printer = queue.Start(DocumentName(quoteFileName));
+    PrintListing(*printer, editor, quoteFileName, settings);
 }
 
 void PrintHeader(platform::Printer& printer, Editor const& editor, std::string_view quoteFileName) {

@@ -8,9 +8,7 @@
 #include "platform/MousePointer.h"
 #include "platform/Printer.h"
 #include "settings/Settings.h"
-#include "text/RunTimeError.h"
 
-#include <optional>
 #include <string_view>
 
 namespace quorvex::editor {
@@ -19,12 +17,10 @@ namespace quorvex::editor {
 inline constexpr int RowsPerPage = 50;
 
 // Prints the grid as it stands, unchecked and unsorted, what was typed included; the mouse pointer is the
-// hourglass meanwhile. A fault, such as "Type mismatch" of a cell that is no number or "Printer error", ends
-// the listing, of which nothing is printed then, and is returned.
-[[nodiscard]] std::optional<text::RunTimeError> PrintQuotes(Editor& editor, std::string_view quoteFileName,
-                                                            settings::Settings const& settings,
-                                                            platform::PrintQueue& queue,
-                                                            platform::MousePointer& pointer);
+// hourglass meanwhile. Raises "Type mismatch" at a cell that is no number and "Printer error"; nothing is
+// printed then.
+void PrintQuotes(Editor& editor, std::string_view quoteFileName, settings::Settings const& settings,
+                 platform::PrintQueue& queue, platform::MousePointer& pointer);
 
 // Prints the head of a page: the file's name, its first and last date and the heads of the columns. What
 // follows is in the font of the rows, in inches.

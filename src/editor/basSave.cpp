@@ -23,10 +23,10 @@ void CopyRows(Editor& editor, std::int16_t count) {
     auto copied = std::make_unique<quotes::QuoteRecords>(editor.EditQuotes); // too large for some stacks
     for (std::int16_t row = 1; row <= count; ++row) {
         quotes::QuoteRecord& record = (*copied)[row];
-        record.Date = TextAt(editor.Grid, row, DateColumn);
+        record.Date = editor.Cells.Text(row, DateColumn);
         std::int16_t column = FirstNumberColumn;
         for (NumberColumn const& number : NumberColumns) {
-            record.*number.Field = text::StrictNumber(TextAt(editor.Grid, row, column++));
+            record.*number.Field = text::StrictNumber(editor.Cells.Text(row, column++));
         }
     }
     editor.EditQuotes = std::move(*copied);
@@ -65,17 +65,17 @@ bool IsReadable(std::string_view cellText, text::NumberFormat const& format) {
 
 // The loader would refuse such a day, or read another price. Tells which row it is, with the cursor on the
 // cell.
-bool RequireReadablePrices(Spread& spread, settings::Settings const& settings, platform::Dialogs& dialogs) {
+bool RequireReadablePrices(Editor& editor, settings::Settings const& settings, platform::Dialogs& dialogs) {
     text::NumberFormat const format(settings.CurrencyFormat);
-    for (std::int16_t row = 1; row <= spread.RowCount(); ++row) {
+    for (std::int16_t row = 1; row <= editor.Cells.RowCount(); ++row) {
         std::int16_t column = FirstNumberColumn;
         for (NumberColumn const& number : NumberColumns) {
-            if (number.Style == NumberStyle::Price && !IsReadable(TextAt(spread, row, column), format)) {
+            if (number.Style == NumberStyle::Price && !IsReadable(editor.Cells.Text(row, column), format)) {
                 dialogs.Show({"The currency format " + settings.CurrencyFormat +
                                   " cannot hold the price on row " + std::to_string(row) +
                                   ". Nothing was saved.",
                               "Edit", platform::Icon::Exclamation});
-                GotoCell(spread, row, column);
+                editor.Grid.GotoCell(row, column);
                 return false;
             }
             ++column;
@@ -85,13 +85,13 @@ bool RequireReadablePrices(Spread& spread, settings::Settings const& settings, p
 }
 
 bool RequireGoodRows(Editor& editor, settings::Settings const& settings, platform::Dialogs& dialogs) {
-    return ValidateQuotes(editor.Grid, dialogs) && RequireReadablePrices(editor.Grid, settings, dialogs);
+    return ValidateQuotes(editor, dialogs) && RequireReadablePrices(editor, settings, dialogs);
 }
 
 } // namespace
 
 void CopySpreadToArray(Editor& editor) {
-    CopyRows(editor, editor.Grid.RowCount());
+    CopyRows(editor, editor.Cells.RowCount());
 }
 
 bool SaveEditData(std::string const& fileName, Editor& editor, quotes::QuoteRecords const& master,

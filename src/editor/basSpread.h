@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-// What routines of the editor do with a grid, and what its columns are.
+// What the columns of the grid are, and how they show dates and numbers.
 #pragma once
 
-#include "editor/Spread.h"
+#include "editor/Sheet.h"
 #include "quotes/QuoteSeries.h"
 #include "settings/Settings.h"
 #include "text/basFormats.h"
@@ -56,14 +56,7 @@ struct ShownNumbers {
 // The date as "mm/dd/yy"; a text that is no date as it stands.
 [[nodiscard]] std::string ShownDate(std::string_view date);
 
-// The text of a cell, which becomes the current one.
-[[nodiscard]] std::string TextAt(Spread& spread, std::int16_t row, std::int16_t column);
-void PutText(Spread& spread, std::int16_t row, std::int16_t column, std::string_view text);
-
-// Makes the cell the current one and moves the cursor to it.
-void GotoCell(Spread& spread, std::int16_t row, std::int16_t column);
-
 // Paints every second row pale yellow.
-void StripeRows(Spread& spread);
+void StripeRows(Sheet& sheet);
 
 } // namespace quorvex::editor

@@ -20,19 +20,19 @@ bool IsPrice(std::string_view cell) {
     return isPrice;
 }
 
-bool IsGood(Spread& spread, std::int16_t row, std::int16_t column) {
-    std::string const cell = TextAt(spread, row, column);
+bool IsGood(Sheet const& sheet, std::int16_t row, std::int16_t column) {
+    std::string const& cell = sheet.Text(row, column);
     return column == DateColumn ? text::ParseDate(cell).has_value() : IsPrice(cell);
 }
 
 // The first column of the row that fails, 0 when none does.
-std::int16_t FindBadColumn(Spread& spread, std::int16_t row) {
-    if (!IsGood(spread, row, DateColumn)) {
+std::int16_t FindBadColumn(Sheet const& sheet, std::int16_t row) {
+    if (!IsGood(sheet, row, DateColumn)) {
         return DateColumn;
     }
     std::int16_t column = FirstNumberColumn;
     for (NumberColumn const& number : NumberColumns) {
-        if (number.Style == NumberStyle::Price && !IsGood(spread, row, column)) {
+        if (number.Style == NumberStyle::Price && !IsGood(sheet, row, column)) {
             return column;
         }
         ++column;
@@ -40,26 +40,27 @@ std::int16_t FindBadColumn(Spread& spread, std::int16_t row) {
     return 0;
 }
 
-bool AreRowsGood(Spread& spread, platform::Dialogs& dialogs) {
-    for (std::int16_t row = 1; row <= spread.RowCount(); ++row) {
-        if (std::int16_t const column = FindBadColumn(spread, row); column != 0) {
+bool AreRowsGood(Editor& editor, platform::Dialogs& dialogs) {
+    for (std::int16_t row = 1; row <= editor.Cells.RowCount(); ++row) {
+        if (std::int16_t const column = FindBadColumn(editor.Cells, row); column != 0) {
             dialogs.Show({"Invalid data entry on row " + std::to_string(row), "Edit - Invalid Data Entry",
                           platform::Icon::Exclamation});
-            GotoCell(spread, row, column);
+            editor.Grid.GotoCell(row, column);
             return false;
         }
     }
     return true;
 }
 
-bool AreDatesAscending(Spread& spread, platform::Dialogs& dialogs) {
-    for (std::int16_t row = 1; row < spread.RowCount(); ++row) {
-        auto const day = text::RequireDate(TextAt(spread, row, DateColumn));
-        auto const next = text::RequireDate(TextAt(spread, static_cast<std::int16_t>(row + 1), DateColumn));
+bool AreDatesAscending(Editor& editor, platform::Dialogs& dialogs) {
+    for (std::int16_t row = 1; row < editor.Cells.RowCount(); ++row) {
+        auto const day = text::RequireDate(editor.Cells.Text(row, DateColumn));
+        auto const next =
+            text::RequireDate(editor.Cells.Text(static_cast<std::int16_t>(row + 1), DateColumn));
         if (next <= day) {
             dialogs.Show({"Invalid date entry on row " + std::to_string(row), "Edit - Invalid Date Entry",
                           platform::Icon::Exclamation});
-            GotoCell(spread, row, DateColumn);
+            editor.Grid.GotoCell(row, DateColumn);
             return false;
         }
     }
@@ -68,12 +69,15 @@ bool AreDatesAscending(Spread& spread, platform::Dialogs& dialogs) {
 
 } // namespace
 
-bool ValidateQuotes(Spread& spread, platform::Dialogs& dialogs) {
-    if (!AreRowsGood(spread, dialogs)) {
+bool ValidateQuotes(Editor& editor, platform::Dialogs& dialogs) {
+    if (!AreRowsGood(editor, dialogs)) {
         return false;
     }
-    spread.SortByDate({1, 1, spread.RowCount(), spread.ColumnCount()}, DateColumn);
-    return AreDatesAscending(spread, dialogs);
+    {
+        HiddenSpread const hidden(editor.Grid);
+        editor.Cells.SortByDate({1, 1, editor.Cells.RowCount(), Sheet::Columns}, DateColumn);
+    }
+    return AreDatesAscending(editor, dialogs);
 }
 
 } // namespace quorvex::editor

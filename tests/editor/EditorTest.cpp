@@ -4,7 +4,6 @@
 #include "EditorTest.h"
 
 #include "editor/basEdit.h"
-#include "editor/basSpread.h"
 #include "support/QuoteTexts.h"
 
 namespace quorvex::tests {
@@ -20,12 +19,12 @@ void EditorTest::OpenDays(int count) {
 }
 
 void EditorTest::Type(std::int16_t row, std::int16_t column, std::string const& text) {
-    editor::PutText(sheet, row, column, text);
+    sheet.SetText(row, column, text);
 }
 
 EditorTest::Texts EditorTest::RowTexts(std::int16_t row) const {
     Texts texts;
-    for (std::int16_t column = 1; column <= sheet.ColumnCount(); ++column) {
+    for (std::int16_t column = 1; column <= editor::Sheet::Columns; ++column) {
         texts.push_back(sheet.CellAt(row, column).Text);
     }
     return texts;
@@ -40,7 +39,7 @@ std::vector<EditorTest::Texts> EditorTest::GridTexts() const {
 }
 
 std::pair<int, int> EditorTest::Cursor() const {
-    return {sheet.ActiveRow(), sheet.ActiveColumn()};
+    return {spread.ActiveRow(), spread.ActiveColumn()};
 }
 
 bool EditorTest::IsQuiet() const {

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "editor/Editor.h"
-#include "editor/Sheet.h"
+#include "editor/PlainSpread.h"
 #include "platform/fake/MemoryFiles.h"
 #include "platform/fake/ScriptedDialogs.h"
 #include "settings/Settings.h"
@@ -44,8 +44,9 @@ protected:
     platform::fake::MemoryFiles files;
     platform::fake::ScriptedDialogs dialogs;
     editor::Sheet sheet;
+    editor::PlainSpread spread{sheet};
     std::unique_ptr<editor::Editor> edited =
-        std::make_unique<editor::Editor>(editor::Editor{sheet, {}, 0}); // too large for some stacks
+        std::make_unique<editor::Editor>(editor::Editor{sheet, spread, {}, 0}); // too large for some stacks
 };
 
 } // namespace quorvex::tests

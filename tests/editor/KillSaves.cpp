@@ -9,7 +9,7 @@
 
 #include "convert/basConvertCSI.h"
 #include "convert/basConvertSubs.h"
-#include "editor/Sheet.h"
+#include "editor/PlainSpread.h"
 #include "editor/basEdit.h"
 #include "editor/basSave.h"
 #include "editor/basSpread.h"
@@ -76,7 +76,7 @@ public:
 
     [[nodiscard]] bool Save(bool isLong) override {
         for (std::int16_t row = 1; row <= Days; ++row) {
-            editor::PutText(sheet_, row, editor::FirstNumberColumn, isLong ? "123456.75" : "1.5");
+            sheet_.SetText(row, editor::FirstNumberColumn, isLong ? "123456.75" : "1.5");
         }
         return editor::SaveEditData(Path(), *editor_, series_->Master, settings_, Files());
     }
@@ -85,7 +85,9 @@ private:
     settings::Settings settings_ = settings::DefaultSettings("./");
     std::unique_ptr<quotes::QuoteSeries> series_ = SeriesOf(QuoteLines(Days));
     editor::Sheet sheet_;
-    std::unique_ptr<editor::Editor> editor_ = std::make_unique<editor::Editor>(editor::Editor{sheet_, {}, 0});
+    editor::PlainSpread spread_{sheet_};
+    std::unique_ptr<editor::Editor> editor_ =
+        std::make_unique<editor::Editor>(editor::Editor{sheet_, spread_, {}, 0});
 };
 
 class QuoteFileSaver final : public Saver {

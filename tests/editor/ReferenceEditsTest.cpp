@@ -23,7 +23,7 @@ protected:
         settings.CurrencyFormat = edits.at("currency_format");
         Open(edits.at("file").is_null() ? std::make_unique<quotes::QuoteSeries>()
                                         : GoldenSeries(edits.at("file"), settings.CurrencyFormat));
-        sheet.MoveCursor(sheet.RowCount() > 0 ? 1 : 0, 1);
+        spread.GotoCell(sheet.RowCount() > 0 ? 1 : 0, 1);
     }
 
     // What the step says of having saved.
@@ -41,10 +41,10 @@ protected:
         } else if (name == "append") {
             editor::AppendRow(*edited, settings, dialogs);
         } else if (name == "insert") {
-            sheet.MoveCursor(deed.at("active_row"), 1);
+            spread.GotoCell(deed.at("active_row"), 1);
             editor::InsertRow(*edited, settings, dialogs);
         } else if (name == "delete") {
-            sheet.MoveCursor(deed.at("active_row"), 1);
+            spread.GotoCell(deed.at("active_row"), 1);
             dialogs.Answers = {deed.at("answer") == "yes" ? platform::Answer::Yes : platform::Answer::No};
             editor::DeleteRow(*edited, settings, dialogs);
         } else {

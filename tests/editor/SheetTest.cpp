@@ -3,6 +3,7 @@
 
 #include "editor/Sheet.h"
 
+#include "editor/PlainSpread.h"
 #include "editor/basSpread.h"
 #include "text/RunTimeError.h"
 
@@ -17,8 +18,8 @@ Sheet& WithDates(Sheet& sheet, std::vector<std::string> const& dates) {
     sheet.SetRowCount(static_cast<std::int16_t>(dates.size()));
     for (std::size_t index = 0; index < dates.size(); ++index) {
         auto const row = static_cast<std::int16_t>(index + 1);
-        PutText(sheet, row, 1, dates[index]);
-        PutText(sheet, row, 7, std::to_string(row));
+        sheet.SetText(row, 1, dates[index]);
+        sheet.SetText(row, 7, std::to_string(row));
     }
     return sheet;
 }
@@ -34,32 +35,27 @@ std::string Column(Sheet const& sheet, std::int16_t column) {
 TEST(Sheet, StartsWithoutRowsAndWithoutCursor) {
     Sheet const sheet;
     EXPECT_EQ(sheet.RowCount(), 0);
-    EXPECT_EQ(sheet.ColumnCount(), 7);
-    EXPECT_EQ(sheet.ActiveRow(), 0);
+    EXPECT_EQ(PlainSpread(sheet).ActiveRow(), 0);
 }
 
-TEST(Sheet, KeepsTheTextOfTheCurrentCell) {
+TEST(Sheet, KeepsTheTextOfEachCell) {
     Sheet sheet;
     sheet.SetRowCount(2);
-    sheet.SetRow(2);
-    sheet.SetColumn(7);
-    sheet.SetText("99");
-    EXPECT_EQ(sheet.Column(), 7);
-    EXPECT_EQ(sheet.Text(), "99");
-    sheet.SetRow(0);
-    EXPECT_EQ(sheet.Text(), "");
-    EXPECT_EQ(sheet.ActiveRow(), 0); // the cursor is another matter
+    sheet.SetText(2, 7, "99");
+    sheet.SetText(0, 1, "Date");
+    EXPECT_EQ(sheet.Text(2, 7), "99");
+    EXPECT_EQ(sheet.Text(2, 6), "");
+    EXPECT_EQ(sheet.Text(0, 1), "Date");
 }
 
 TEST(Sheet, HasNoOtherCells) {
     Sheet sheet;
     sheet.SetRowCount(2);
-    EXPECT_THROW(PutText(sheet, 3, 1, ""), RunTimeError);
-    EXPECT_THROW(PutText(sheet, -1, 1, ""), RunTimeError);
-    EXPECT_THROW(PutText(sheet, 1, 8, ""), RunTimeError);
-    EXPECT_THROW(sheet.MoveCursor(3, 1), RunTimeError);
+    EXPECT_THROW(sheet.SetText(3, 1, ""), RunTimeError);
+    EXPECT_THROW(sheet.SetText(-1, 1, ""), RunTimeError);
+    EXPECT_THROW(sheet.SetText(1, 8, ""), RunTimeError);
+    EXPECT_THROW(PlainSpread(sheet).GotoCell(3, 1), RunTimeError);
     EXPECT_THROW(sheet.SetRowCount(-1), RunTimeError);
-    EXPECT_THROW(sheet.SetColumnWidth(8, 1), RunTimeError);
     EXPECT_THROW(static_cast<void>(sheet.CellAt(3, 1)), RunTimeError);
 }
 
@@ -75,13 +71,14 @@ TEST(Sheet, NewRowsAreEmpty) {
 
 TEST(Sheet, TheCursorStaysInsideTheRows) {
     Sheet sheet;
+    PlainSpread spread(sheet);
     sheet.SetRowCount(3);
-    sheet.MoveCursor(3, 4);
+    spread.GotoCell(3, 4);
     sheet.SetRowCount(2);
-    EXPECT_EQ(sheet.ActiveRow(), 2);
-    EXPECT_EQ(sheet.ActiveColumn(), 4);
+    EXPECT_EQ(spread.ActiveRow(), 2);
+    EXPECT_EQ(spread.ActiveColumn(), 4);
     sheet.SetRowCount(0);
-    EXPECT_EQ(sheet.ActiveRow(), 0);
+    EXPECT_EQ(spread.ActiveRow(), 0);
 }
 
 TEST(Sheet, SortsByTheDayWhateverItsForm) {
@@ -117,15 +114,6 @@ TEST(Sheet, SortsTheBlockAloneAndLeavesColours) {
     EXPECT_FALSE(sheet.CellAt(3, 1).BackColour);
     sheet.SortByDate({1, 1, 0, 7}, 1);
     EXPECT_EQ(Column(sheet, 1), "04/01/02|01/01/02|02/01/02|03/01/02|");
-}
-
-TEST(GotoCell, MakesTheCellCurrentAndActive) {
-    Sheet sheet;
-    WithDates(sheet, {"01/01/01", "01/02/01"});
-    GotoCell(sheet, 2, 1);
-    EXPECT_EQ(sheet.Text(), "01/02/01");
-    EXPECT_EQ(sheet.ActiveRow(), 2);
-    EXPECT_EQ(sheet.ActiveColumn(), 1);
 }
 
 TEST(StripeRows, PaintsEverySecondRowPaleYellow) {

@@ -5,7 +5,6 @@
 
 #include "EditorTest.h"
 #include "editor/basSave.h"
-#include "editor/basSpread.h"
 #include "quotes/basDateRange.h"
 #include "support/Golden.h"
 #include "support/Messages.h"
@@ -32,12 +31,12 @@ protected:
     void Append() { AppendRow(*edited, settings, dialogs); }
 
     void InsertAt(std::int16_t row) {
-        sheet.MoveCursor(row, 3);
+        spread.GotoCell(row, 3);
         InsertRow(*edited, settings, dialogs);
     }
 
     void DeleteAt(std::int16_t row, Answer answer = Answer::Yes) {
-        sheet.MoveCursor(row, 3);
+        spread.GotoCell(row, 3);
         dialogs.Answers = {answer};
         DeleteRow(*edited, settings, dialogs);
     }
@@ -64,29 +63,29 @@ TEST_F(QuoteEditor, OpensWithHeadsAndRows) {
     EXPECT_THAT(RowTexts(1), ElementsAre("01/01/01", "101.25", "101.75", "101.00", "101.00", "1200", "3400"));
     EXPECT_EQ(sheet.RowCount(), 3);
     EXPECT_EQ(edited->EditCount, 3);
-    EXPECT_TRUE(sheet.IsVisible());
+    EXPECT_TRUE(spread.IsVisible());
 }
 
 TEST_F(QuoteEditor, OpensWithColumnsThatFillTheWidth) {
-    sheet.SetWidth(7900);
+    spread.SetSize(7900, 0);
     OpenDays(1);
     for (std::int16_t column = 1; column <= 7; ++column) {
-        EXPECT_DOUBLE_EQ(sheet.ColumnWidth(column), 1000);
+        EXPECT_DOUBLE_EQ(spread.ColumnWidth(column), 1000);
     }
 }
 
 TEST_F(QuoteEditor, ColumnsKeepTheirWidthAfterwards) {
-    sheet.SetWidth(7900);
+    spread.SetSize(7900, 0);
     OpenDays(1);
-    editor::SizeGrid(sheet, 16000, 9000);
+    editor::SizeGrid(spread, 16000, 9000);
     Append();
-    EXPECT_DOUBLE_EQ(sheet.ColumnWidth(7), 1000);
+    EXPECT_DOUBLE_EQ(spread.ColumnWidth(7), 1000);
 }
 
 TEST_F(QuoteEditor, TheGridFollowsTheSizeOfTheWindow) {
-    editor::SizeGrid(sheet, 12000, 9000);
-    EXPECT_DOUBLE_EQ(sheet.Width(), 11900);
-    EXPECT_DOUBLE_EQ(sheet.Height(), 7920);
+    editor::SizeGrid(spread, 12000, 9000);
+    EXPECT_DOUBLE_EQ(spread.Width(), 11900);
+    EXPECT_DOUBLE_EQ(spread.Height(), 7920);
 }
 
 TEST_F(QuoteEditor, OpensTheWholeFileWhateverTheDateRange) {
@@ -213,7 +212,7 @@ TEST_F(QuoteEditor, BeyondTheLimitARowHasNoRecord) {
 TEST_F(QuoteEditor, CountsOverflowBehindSixteenBits) {
     OpenDays(3);
     sheet.SetRowCount(32767);
-    sheet.MoveCursor(1, 1);
+    spread.GotoCell(1, 1);
     auto const error = text::Trap([&] { InsertRow(*edited, settings, dialogs); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Description(), "Overflow");
@@ -286,7 +285,7 @@ TEST_F(QuoteEditor, DeleteOfTheLastRowMovesNothing) {
     DeleteAt(1);
     EXPECT_EQ(sheet.RowCount(), 0);
     EXPECT_EQ(edited->EditCount, 0);
-    EXPECT_EQ(sheet.ActiveRow(), 0);
+    EXPECT_EQ(spread.ActiveRow(), 0);
 }
 
 TEST_F(QuoteEditor, HelpTellsTheFormat) {

@@ -30,7 +30,8 @@ constexpr std::size_t RowLength = 8;
 class Listing : public EditorTest {
 protected:
     std::optional<text::RunTimeError> Print() {
-        return editor::PrintQuotes(*edited, series->QuoteFileName, settings, queue, queue);
+        return text::Trap(
+            [&] { editor::PrintQuotes(*edited, series->QuoteFileName, settings, queue, queue); });
     }
 
     // The one document, printed to its end.
@@ -173,7 +174,7 @@ TEST_F(Listing, WithoutRowsIsAHeadWithoutDates) {
 
 TEST_F(Listing, WithoutRowsForgetsTheDatesOfDeletedOnes) {
     OpenDays(1);
-    sheet.MoveCursor(1, 1);
+    spread.GotoCell(1, 1);
     dialogs.Answers = {platform::Answer::Yes};
     editor::DeleteRow(*edited, settings, dialogs);
     EXPECT_EQ(Printed().Pages.at(0).Texts.at(1).Text, " to ");
@@ -278,7 +279,7 @@ TEST_F(Listing, EndsWhereverThePrinterFails) {
 TEST_F(Listing, NeedsAPrinter) {
     OpenDays(3);
     platform::NoPrintQueue none;
-    auto const error = editor::PrintQuotes(*edited, "test.txt", settings, none, queue);
+    auto const error = text::Trap([&] { editor::PrintQuotes(*edited, "test.txt", settings, none, queue); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Description(), "Printer error");
     EXPECT_EQ(queue.HourglassCount, 0);

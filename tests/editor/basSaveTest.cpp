@@ -81,7 +81,7 @@ TEST_F(SavedEdits, HaveVolumeAndOpenInterestOfTheLoadedRow) {
                   "01/03/01, 3, 3, 3, 3, 13.6, 23\r\n"));
     Type(2, 6, "777");
     Type(2, 7, "888");
-    sheet.MoveCursor(1, 1);
+    spread.GotoCell(1, 1);
     dialogs.Answers = {platform::Answer::Yes};
     editor::DeleteRow(*edited, settings, dialogs);
     editor::AppendRow(*edited, settings, dialogs);
@@ -317,7 +317,7 @@ TEST_F(SavedEdits, OfRowsWithABadVolumeLeaveEveryDayInItsPlace) {
     Type(3, 6, "abc");
     EXPECT_FALSE(Save());
     EXPECT_EQ(RowTexts(4).front(), "2/1/2001"); // the grid is sorted
-    sheet.MoveCursor(4, 1);
+    spread.GotoCell(4, 1);
     editor::InsertRow(*edited, settings, dialogs);
     auto expected = opened;
     expected.insert(expected.begin() + 3, {"", "0.00", "0.00", "0.00", "0.00", "0", "0"});

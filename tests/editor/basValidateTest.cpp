@@ -19,10 +19,10 @@ class ValidatedQuotes : public EditorTest {
 protected:
     void SetUp() override {
         OpenDays(5);
-        sheet.MoveCursor(1, 7);
+        spread.GotoCell(1, 7);
     }
 
-    bool Validate() { return ValidateQuotes(sheet, dialogs); }
+    bool Validate() { return ValidateQuotes(*edited, dialogs); }
 
     // Expects the check of the rows to fail at this cell.
     void ExpectBadCell(int row, int column) {

@@ -49,63 +49,35 @@ void SpreadGrid::FinishTyping() {
     }
 }
 
-void SpreadGrid::TellChanged() {
-    if (isFilled_) {
-        model_.TellChanged();
-    }
-}
-
-void SpreadGrid::SetText(std::string_view text) {
-    sheet_.SetText(text);
-    TellChanged();
-}
-
 std::int16_t SpreadGrid::ActiveRow() const {
     return static_cast<std::int16_t>(currentIndex().row() + 1);
 }
 
-void SpreadGrid::MoveCursor(std::int16_t row, std::int16_t column) {
+void SpreadGrid::GotoCell(std::int16_t row, std::int16_t column) {
     static_cast<void>(sheet_.CellAt(row, column)); // which must be there
+    model_.ShowRows();
     setCurrentIndex(model_.index(row - 1, column - 1));
 }
 
-void SpreadGrid::SetCellKind(Block const& block, CellKind kind) {
-    sheet_.SetCellKind(block, kind);
-    TellChanged();
-}
-
-void SpreadGrid::SetBackColour(Block const& block, platform::Colour colour) {
-    sheet_.SetBackColour(block, colour);
-    TellChanged();
-}
-
-void SpreadGrid::SortByDate(Block const& block, std::int16_t keyColumn) {
-    sheet_.SortByDate(block, keyColumn);
-    TellChanged();
-}
-
 void SpreadGrid::SetColumnWidth(std::int16_t column, double width) {
-    sheet_.SetColumnWidth(column, width);
     setColumnWidth(column - 1, PixelsOf(width));
 }
 
 void SpreadGrid::SetVisible(bool isVisible) {
-    isFilled_ = isVisible;
     // A widget that is hidden would lose the focus.
     setUpdatesEnabled(isVisible);
-    TellChanged();
+    if (isVisible) {
+        model_.ShowSheet();
+    }
 }
 
 double SpreadGrid::Width() const {
     return width() * TwipsPerPixel;
 }
 
-void SpreadGrid::SetWidth(double width) {
-    resize(std::min(PixelsOf(width), parentWidget()->width() - x()), height());
-}
-
-void SpreadGrid::SetHeight(double height) {
-    resize(width(), std::min(PixelsOf(height), parentWidget()->height() - y()));
+void SpreadGrid::SetSize(double width, double height) {
+    resize(std::min(PixelsOf(width), parentWidget()->width() - x()),
+           std::min(PixelsOf(height), parentWidget()->height() - y()));
 }
 
 std::optional<Block> SpreadGrid::SelectedBlock() const {
@@ -156,18 +128,18 @@ bool SpreadGrid::WorkOnBlock(QKeyEvent const& event) {
 }
 
 void SpreadGrid::Copy(Block const& block) {
-    QGuiApplication::clipboard()->setText(platform::pictures::ToQt(BlockText(*this, block)));
+    QGuiApplication::clipboard()->setText(platform::pictures::ToQt(BlockText(sheet_, block)));
 }
 
 void SpreadGrid::Clear(Block const& block) {
     ClearBlock(sheet_, block);
-    TellChanged();
+    model_.ShowSheet();
 }
 
 void SpreadGrid::Paste(Block const& block) {
     bool const hasAll =
         PasteText(sheet_, block, platform::pictures::FromQt(QGuiApplication::clipboard()->text()));
-    TellChanged();
+    model_.ShowSheet();
     if (!hasAll) {
         Q_EMIT CellsLeftOut();
     }

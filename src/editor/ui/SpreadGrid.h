@@ -4,6 +4,7 @@
 #pragma once
 
 #include "editor/Sheet.h"
+#include "editor/Spread.h"
 #include "editor/ui/CellDelegate.h"
 #include "editor/ui/SpreadModel.h"
 
@@ -24,31 +25,15 @@ public:
     // Takes over what is being typed into a cell.
     void FinishTyping();
 
-    [[nodiscard]] std::int16_t RowCount() const override { return sheet_.RowCount(); }
+    // What it shows.
+    [[nodiscard]] Sheet& Cells() { return sheet_; }
 
-    void SetRowCount(std::int16_t count) override { model_.SetRowCount(count); }
-
-    [[nodiscard]] std::int16_t ColumnCount() const override { return sheet_.ColumnCount(); }
-
-    void SetRow(std::int16_t row) override { sheet_.SetRow(row); }
-
-    void SetColumn(std::int16_t column) override { sheet_.SetColumn(column); }
-
-    [[nodiscard]] std::int16_t Column() const override { return sheet_.Column(); }
-
-    [[nodiscard]] std::string Text() const override { return sheet_.Text(); }
-
-    void SetText(std::string_view text) override;
     [[nodiscard]] std::int16_t ActiveRow() const override;
-    void MoveCursor(std::int16_t row, std::int16_t column) override;
-    void SetCellKind(Block const& block, CellKind kind) override;
-    void SetBackColour(Block const& block, platform::Colour colour) override;
-    void SortByDate(Block const& block, std::int16_t keyColumn) override;
+    void GotoCell(std::int16_t row, std::int16_t column) override;
     void SetColumnWidth(std::int16_t column, double width) override;
     void SetVisible(bool isVisible) override;
     [[nodiscard]] double Width() const override;
-    void SetWidth(double width) override;
-    void SetHeight(double height) override;
+    void SetSize(double width, double height) override;
 
 Q_SIGNALS:
     // A block was pasted that reaches beyond the last row or column.
@@ -66,12 +51,10 @@ private:
     void Clear(Block const& block);
     void Paste(Block const& block);
     void MoveDown(int rows);
-    void TellChanged();
 
     Sheet sheet_;
     SpreadModel model_{sheet_};
     CellDelegate delegate_;
-    bool isFilled_ = true; // false while it is being filled
 };
 
 } // namespace quorvex::editor::ui

@@ -3,7 +3,6 @@
 
 #include "editor/ui/SpreadModel.h"
 
-#include "editor/basSpread.h"
 #include "platform/pictures/Painting.h"
 #include "platform/pictures/QtTexts.h"
 
@@ -25,11 +24,11 @@ Qt::Alignment AlignmentOf(CellKind kind) {
 } // namespace
 
 int SpreadModel::rowCount(QModelIndex const& parent) const {
-    return parent.isValid() ? 0 : sheet_.RowCount();
+    return parent.isValid() ? 0 : rows_;
 }
 
 int SpreadModel::columnCount(QModelIndex const& parent) const {
-    return parent.isValid() ? 0 : sheet_.ColumnCount();
+    return parent.isValid() ? 0 : Sheet::Columns;
 }
 
 Cell const& SpreadModel::CellAt(QModelIndex const& index) const {
@@ -37,7 +36,8 @@ Cell const& SpreadModel::CellAt(QModelIndex const& index) const {
 }
 
 QVariant SpreadModel::data(QModelIndex const& index, int role) const {
-    if (!index.isValid()) { // the cursor of an empty grid
+    // The cursor of an empty grid, and rows that are just going.
+    if (!index.isValid() || index.row() >= sheet_.RowCount()) {
         return {};
     }
     Cell const& cell = CellAt(index);
@@ -63,7 +63,7 @@ QVariant SpreadModel::data(QModelIndex const& index, int role) const {
 
 QVariant SpreadModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section >= 0 &&
-        section < sheet_.ColumnCount()) {
+        section < Sheet::Columns) {
         return ToQt(sheet_.CellAt(0, SheetNumber(section)).Text);
     }
     return QAbstractTableModel::headerData(section, orientation, role); // rows have their numbers
@@ -78,26 +78,27 @@ bool SpreadModel::setData(QModelIndex const& index, QVariant const& value, int r
     if (role != Qt::EditRole || !index.isValid()) {
         return false;
     }
-    PutText(sheet_, SheetNumber(index.row()), SheetNumber(index.column()),
-            platform::pictures::FromQt(value.toString()));
+    sheet_.SetText(SheetNumber(index.row()), SheetNumber(index.column()),
+                   platform::pictures::FromQt(value.toString()));
     Q_EMIT dataChanged(index, index);
     return true;
 }
 
-void SpreadModel::SetRowCount(std::int16_t count) {
-    int const before = sheet_.RowCount();
-    if (count > before) {
-        beginInsertRows({}, before, count - 1);
-        sheet_.SetRowCount(count);
+void SpreadModel::ShowRows() {
+    int const count = sheet_.RowCount();
+    if (count > rows_) {
+        beginInsertRows({}, rows_, count - 1);
+        rows_ = count;
         endInsertRows();
-    } else if (count < before) {
-        beginRemoveRows({}, count, before - 1);
-        sheet_.SetRowCount(count);
+    } else if (count < rows_) {
+        beginRemoveRows({}, count, rows_ - 1);
+        rows_ = count;
         endRemoveRows();
     }
 }
 
-void SpreadModel::TellChanged() {
+void SpreadModel::ShowSheet() {
+    ShowRows();
     Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
     if (rowCount() > 0) {
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));

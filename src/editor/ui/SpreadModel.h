@@ -9,7 +9,8 @@
 
 namespace quorvex::editor::ui {
 
-// Shows a sheet in Qt's views. Whoever changes the sheet by other ways than this model tells it so.
+// Shows a sheet in Qt's views. Whoever changes the sheet by other ways than this model tells it so; until
+// then it keeps to the rows that it has shown.
 class SpreadModel final : public QAbstractTableModel {
     Q_OBJECT
 
@@ -24,15 +25,17 @@ public:
     [[nodiscard]] Qt::ItemFlags flags(QModelIndex const& index) const override;
     bool setData(QModelIndex const& index, QVariant const& value, int role) override;
 
-    void SetRowCount(std::int16_t count);
+    // Makes the views show rows, texts and colours anew.
+    void ShowSheet();
 
-    // Makes the views show all texts and colours anew.
-    void TellChanged();
+    // The rows alone.
+    void ShowRows();
 
 private:
     [[nodiscard]] Cell const& CellAt(QModelIndex const& index) const;
 
     Sheet& sheet_;
+    int rows_ = 0; // that the views know of
 };
 
 } // namespace quorvex::editor::ui

@@ -6,7 +6,6 @@
 #include "editor/basEdit.h"
 #include "editor/basListing.h"
 #include "editor/basSave.h"
-#include "platform/basMessages.h"
 #include "platform/pictures/QtTexts.h"
 #include "platform/qt/NominalFrame.h"
 #include "platform/qt/QtDialogs.h"
@@ -44,7 +43,7 @@ frmEdit::frmEdit(QWidget* parent, quotes::QuoteSeries& series, settings::Setting
       pointer_(pointer),
       client_(new QWidget(this)),
       spread_(new SpreadGrid(*client_)),
-      editor_(std::make_unique<Editor>(Editor{*spread_, {}, 0})) {
+      editor_(std::make_unique<Editor>(Editor{spread_->Cells(), *spread_, {}, 0})) {
     setObjectName(QStringLiteral("frmEdit"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     auto* bar = new QMenuBar(this);
@@ -75,7 +74,8 @@ void frmEdit::AddFileMenu(QMenuBar& bar) {
     AddItem(menu, "mnuFileSaveAs", "Save &As...",
             [this] { SaveEditsAs(*editor_, series_, settings_, files_, dialogs_); });
     menu.addSeparator();
-    AddItem(menu, "mnuFilePrint", "&Print", [this] { Print(); });
+    AddItem(menu, "mnuFilePrint", "&Print",
+            [this] { PrintQuotes(*editor_, series_.QuoteFileName, settings_, printer_, pointer_); });
     menu.addSeparator();
     AddItem(menu, "mnuFileExit", "E&xit", [this] { accept(); });
 }
@@ -127,7 +127,7 @@ void frmEdit::LoadQuotes() {
     PlaceGrid(); // the width of the columns follows from its width
     OpenEditor(*editor_, series_);
     setWindowTitle(platform::pictures::ToQt(EditorCaption(series_)));
-    spread_->MoveCursor(spread_->RowCount() > 0 ? 1 : 0, 1);
+    spread_->GotoCell(editor_->EditCount > 0 ? 1 : 0, 1);
     Activate();
 }
 
@@ -138,12 +138,6 @@ void frmEdit::PlaceGrid() {
 void frmEdit::Activate() {
     PlaceGrid();
     RebuildGrid(*editor_, settings_);
-}
-
-void frmEdit::Print() {
-    if (auto const error = PrintQuotes(*editor_, series_.QuoteFileName, settings_, printer_, pointer_)) {
-        platform::ShowError(dialogs_, *error);
-    }
 }
 
 bool frmEdit::event(QEvent* event) {

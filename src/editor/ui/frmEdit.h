@@ -57,8 +57,6 @@ private:
     // Fits the grid into the window and fills it from the editor's copy.
     void Activate();
 
-    void Print();
-
     quotes::QuoteSeries& series_;
     settings::Settings const& settings_;
     platform::Files& files_;

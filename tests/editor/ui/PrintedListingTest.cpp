@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-#include "editor/Sheet.h"
+#include "editor/PlainSpread.h"
 #include "editor/basEdit.h"
 #include "editor/basListing.h"
 #include "platform/pictures/QtPdfPrintQueue.h"
@@ -30,14 +30,13 @@ std::vector<PrintedPage> PrintListing(char const* file, QPageSize::PageSizeId pa
     settings::Settings settings;
     settings.CurrencyFormat = "####0.00";
     editor::Sheet sheet;
-    auto const edited = std::make_unique<editor::Editor>(editor::Editor{sheet, {}, 0});
+    editor::PlainSpread spread(sheet);
+    auto const edited = std::make_unique<editor::Editor>(editor::Editor{sheet, spread, {}, 0});
     editor::OpenEditor(*edited, *series);
     editor::RebuildGrid(*edited, settings);
     platform::pictures::QtPdfPrintQueue queue((QPageSize(paper)));
     platform::NoMousePointer pointer;
-    if (editor::PrintQuotes(*edited, series->QuoteFileName, settings, queue, pointer)) {
-        throw std::logic_error("The listing cannot be printed.");
-    }
+    editor::PrintQuotes(*edited, series->QuoteFileName, settings, queue, pointer);
     return ReadPdf(queue.Pdf());
 }
 
