@@ -21,7 +21,7 @@ struct CheckOptions {
 
 ExitStatus Check(CheckOptions const& options) {
     EditSession session(options.QuotePath, options.Format);
-    bool const isGood = session.Open() && editor::ValidateQuotes(session.Edited(), session.Dialogs());
+    bool const isGood = session.Open() && !editor::ValidateQuotes(session.Edited(), session.Dialogs());
     return isGood ? ExitStatus::Success : ExitStatus::Refused;
 }
 

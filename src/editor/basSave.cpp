@@ -65,7 +65,8 @@ bool IsReadable(std::string_view cellText, text::NumberFormat const& format) {
 
 // The loader would refuse such a day, or read another price. Tells which row it is, with the cursor on the
 // cell.
-bool RequireReadablePrices(Editor& editor, settings::Settings const& settings, platform::Dialogs& dialogs) {
+Refusal RequireReadablePrices(Editor& editor, settings::Settings const& settings,
+                              platform::Dialogs& dialogs) {
     text::NumberFormat const format(settings.CurrencyFormat);
     for (std::int16_t row = 1; row <= editor.Cells.RowCount(); ++row) {
         std::int16_t column = FirstNumberColumn;
@@ -76,16 +77,52 @@ bool RequireReadablePrices(Editor& editor, settings::Settings const& settings, p
                                   ". Nothing was saved.",
                               "Edit", platform::Icon::Exclamation});
                 editor.Grid.GotoCell(row, column);
-                return false;
+                return CellName(row, column) + " does not fit the currency format " + settings.CurrencyFormat;
             }
             ++column;
         }
     }
-    return true;
+    return std::nullopt;
 }
 
-bool RequireGoodRows(Editor& editor, settings::Settings const& settings, platform::Dialogs& dialogs) {
-    return ValidateQuotes(editor, dialogs) && RequireReadablePrices(editor, settings, dialogs);
+// Nothing when every number cell holds one.
+Refusal FindCellWithoutNumber(Sheet const& sheet) {
+    for (std::int16_t row = 1; row <= sheet.RowCount(); ++row) {
+        for (std::int16_t column = FirstNumberColumn; column <= Sheet::Columns; ++column) {
+            auto const fault =
+                text::Trap([&] { static_cast<void>(text::StrictNumber(sheet.Text(row, column))); });
+            if (fault) {
+                bool const isTooLarge = fault->Kind() == text::Fault::Overflow;
+                return CellName(row, column) + (isTooLarge ? " is too large" : " is not a number");
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+SaveResult NotSaved(std::string const& cause) {
+    return {false, "Not saved: " + cause};
+}
+
+SaveResult Saved(std::int16_t rows, std::string const& fileName) {
+    return {true, std::to_string(rows) + (rows == 1 ? " row" : " rows") + " saved to " + fileName};
+}
+
+SaveResult CheckAndSave(std::string const& fileName, Editor& editor, quotes::QuoteRecords const& master,
+                        settings::Settings const& settings, platform::Files& files,
+                        platform::Dialogs& dialogs) {
+    Refusal refusal = ValidateQuotes(editor, dialogs);
+    if (!refusal) {
+        refusal = RequireReadablePrices(editor, settings, dialogs);
+    }
+    if (refusal) {
+        return NotSaved(*refusal);
+    }
+    if (auto const error = text::Trap([&] { SaveEditData(fileName, editor, master, settings, files); })) {
+        // "Type mismatch" alone would not tell where.
+        return NotSaved(FindCellWithoutNumber(editor.Cells).value_or(std::string(error->Description())));
+    }
+    return Saved(editor.EditCount, fileName);
 }
 
 } // namespace
@@ -94,33 +131,32 @@ void CopySpreadToArray(Editor& editor) {
     CopyRows(editor, editor.Cells.RowCount());
 }
 
-bool SaveEditData(std::string const& fileName, Editor& editor, quotes::QuoteRecords const& master,
+void SaveEditData(std::string const& fileName, Editor& editor, quotes::QuoteRecords const& master,
                   settings::Settings const& settings, platform::Files& files) {
-    return !text::Trap([&] {
-        CopyRows(editor, editor.EditCount);
-        files.Replace(fileName, EditFileText(editor, master, settings));
-    });
+    CopyRows(editor, editor.EditCount);
+    files.Replace(fileName, EditFileText(editor, master, settings));
 }
 
-bool SaveEdits(Editor& editor, quotes::QuoteSeries const& series, settings::Settings const& settings,
-               platform::Files& files, platform::Dialogs& dialogs) {
-    return RequireGoodRows(editor, settings, dialogs) &&
-           SaveEditData(series.QuoteFileName, editor, series.Master, settings, files);
+SaveResult SaveEdits(Editor& editor, quotes::QuoteSeries const& series, settings::Settings const& settings,
+                     platform::Files& files, platform::Dialogs& dialogs) {
+    return CheckAndSave(series.QuoteFileName, editor, series.Master, settings, files, dialogs);
 }
 
-bool SaveEditsAs(Editor& editor, quotes::QuoteSeries& series, settings::Settings const& settings,
-                 platform::Files& files, platform::Dialogs& dialogs) {
+SaveResult SaveEditsAs(Editor& editor, quotes::QuoteSeries& series, settings::Settings const& settings,
+                       platform::Files& files, platform::Dialogs& dialogs) {
     std::string const name = quotes::AskQuoteFileName(series, dialogs);
-    if (name.empty() || !quotes::RequireQuoteFileName(name, dialogs)) {
-        return false;
+    if (name.empty()) {
+        return {};
     }
-    if (!RequireGoodRows(editor, settings, dialogs) ||
-        !SaveEditData(name, editor, series.Master, settings, files)) {
-        return false;
+    if (!quotes::RequireQuoteFileName(name, dialogs)) {
+        return NotSaved("Invalid data file name");
     }
-    series.QuoteFileName = name;
-    RebuildGrid(editor, settings);
-    return true;
+    SaveResult result = CheckAndSave(name, editor, series.Master, settings, files, dialogs);
+    if (result.IsSaved) {
+        series.QuoteFileName = name;
+        RebuildGrid(editor, settings);
+    }
+    return result;
 }
 
 } // namespace quorvex::editor

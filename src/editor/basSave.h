@@ -21,21 +21,29 @@ void CopySpreadToArray(Editor& editor);
 
 // Copies the grid into the editor's copy and writes that to the file, whose name is taken as it is: a bare
 // one lies in the current folder of the process. Volume and open interest of row r are those of record r of
-// the master copy, whatever the grid says: both are meant, see docs/behaviour.md. Returns false, and shows
-// nothing, when a cell is no number, when the currency format spells prices in a way that would not read
-// back, or when the file cannot be written: then a file of that name is as it was.
-[[nodiscard]] bool SaveEditData(std::string const& fileName, Editor& editor,
-                                quotes::QuoteRecords const& master, settings::Settings const& settings,
-                                platform::Files& files);
+// the master copy, whatever the grid says: both are meant, see docs/behaviour.md. Raises a fault when a cell
+// is no number, when the currency format spells prices in a way that would not read back, or when the file
+// cannot be written: then a file of that name is as it was.
+void SaveEditData(std::string const& fileName, Editor& editor, quotes::QuoteRecords const& master,
+                  settings::Settings const& settings, platform::Files& files);
 
-// Checks the rows and writes them to the open file. Returns whether they were written. A price that the
-// currency format would spell as another number, or as 0, is told: the file would lose the day.
-bool SaveEdits(Editor& editor, quotes::QuoteSeries const& series, settings::Settings const& settings,
-               platform::Files& files, platform::Dialogs& dialogs);
+// How a command that saves ended.
+struct SaveResult {
+    bool IsSaved = false;
+    std::string Status; // for the status line; empty when the user gave the command up
+};
+
+// Checks the rows and writes them to the open file. A price that the currency format would spell as another
+// number, or as 0, is told: the file would lose the day. What SaveEditData raises is told in the status
+// alone.
+[[nodiscard]] SaveResult SaveEdits(Editor& editor, quotes::QuoteSeries const& series,
+                                   settings::Settings const& settings, platform::Files& files,
+                                   platform::Dialogs& dialogs);
 
 // Asks for a name, checks the rows and writes them under it, which becomes the open file's name when that
-// succeeds. Nothing else of the series changes. Returns whether the rows were written.
-bool SaveEditsAs(Editor& editor, quotes::QuoteSeries& series, settings::Settings const& settings,
-                 platform::Files& files, platform::Dialogs& dialogs);
+// succeeds. Nothing else of the series changes.
+[[nodiscard]] SaveResult SaveEditsAs(Editor& editor, quotes::QuoteSeries& series,
+                                     settings::Settings const& settings, platform::Files& files,
+                                     platform::Dialogs& dialogs);
 
 } // namespace quorvex::editor

@@ -12,6 +12,13 @@ std::string ShownDate(std::string_view date) {
     return day ? text::FormatDate(*day) : std::string(date);
 }
 
+std::string CellName(std::int16_t row, std::int16_t column) {
+    bool const isDate = column == DateColumn;
+    std::string_view const head =
+        isDate ? DateHead : NumberColumns.at(static_cast<std::size_t>(column - FirstNumberColumn)).Head;
+    return "row " + std::to_string(row) + ", " + std::string(head);
+}
+
 void StripeRows(Sheet& sheet) {
     constexpr platform::Colour PaleYellow = 0xFFFF80;
     for (int even = 2; even <= sheet.RowCount(); even += 2) {

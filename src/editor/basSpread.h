@@ -56,6 +56,9 @@ struct ShownNumbers {
 // The date as "mm/dd/yy"; a text that is no date as it stands.
 [[nodiscard]] std::string ShownDate(std::string_view date);
 
+// The cell in words, such as "row 12, Volume".
+[[nodiscard]] std::string CellName(std::int16_t row, std::int16_t column);
+
 // Paints every second row pale yellow.
 void StripeRows(Sheet& sheet);
 

@@ -7,8 +7,6 @@
 #include "text/basDates.h"
 #include "text/basNumbers.h"
 
-#include <string>
-
 namespace quorvex::editor {
 
 namespace {
@@ -40,44 +38,45 @@ std::int16_t FindBadColumn(Sheet const& sheet, std::int16_t row) {
     return 0;
 }
 
-bool AreRowsGood(Editor& editor, platform::Dialogs& dialogs) {
+Refusal RequireGoodCells(Editor& editor, platform::Dialogs& dialogs) {
     for (std::int16_t row = 1; row <= editor.Cells.RowCount(); ++row) {
         if (std::int16_t const column = FindBadColumn(editor.Cells, row); column != 0) {
             dialogs.Show({"Invalid data entry on row " + std::to_string(row), "Edit - Invalid Data Entry",
                           platform::Icon::Exclamation});
             editor.Grid.GotoCell(row, column);
-            return false;
+            return CellName(row, column) +
+                   (column == DateColumn ? " is not a date" : " is not a price above 0");
         }
     }
-    return true;
+    return std::nullopt;
 }
 
-bool AreDatesAscending(Editor& editor, platform::Dialogs& dialogs) {
+Refusal RequireAscendingDates(Editor& editor, platform::Dialogs& dialogs) {
     for (std::int16_t row = 1; row < editor.Cells.RowCount(); ++row) {
+        auto const nextRow = static_cast<std::int16_t>(row + 1);
         auto const day = text::RequireDate(editor.Cells.Text(row, DateColumn));
-        auto const next =
-            text::RequireDate(editor.Cells.Text(static_cast<std::int16_t>(row + 1), DateColumn));
+        auto const next = text::RequireDate(editor.Cells.Text(nextRow, DateColumn));
         if (next <= day) {
             dialogs.Show({"Invalid date entry on row " + std::to_string(row), "Edit - Invalid Date Entry",
                           platform::Icon::Exclamation});
             editor.Grid.GotoCell(row, DateColumn);
-            return false;
+            return "rows " + std::to_string(row) + " and " + std::to_string(nextRow) + " have the same date";
         }
     }
-    return true;
+    return std::nullopt;
 }
 
 } // namespace
 
-bool ValidateQuotes(Editor& editor, platform::Dialogs& dialogs) {
-    if (!AreRowsGood(editor, dialogs)) {
-        return false;
+Refusal ValidateQuotes(Editor& editor, platform::Dialogs& dialogs) {
+    if (Refusal refusal = RequireGoodCells(editor, dialogs)) {
+        return refusal;
     }
     {
         HiddenSpread const hidden(editor.Grid);
         editor.Cells.SortByDate({1, 1, editor.Cells.RowCount(), Sheet::Columns}, DateColumn);
     }
-    return AreDatesAscending(editor, dialogs);
+    return RequireAscendingDates(editor, dialogs);
 }
 
 } // namespace quorvex::editor

@@ -43,6 +43,18 @@ TEST(IndexDocument, NamesEverythingThatThePreferencesOffer) {
     }
 }
 
+TEST(IndexDocument, TellsWhereTheEditorSaysHowASaveEnded) {
+    int told = 0;
+    for (auto const& entry : tests::ReadIndexEntries()) {
+        if ((entry.Name == "Save" || entry.Name == "Save As...") &&
+            entry.Place == "File menu of the editor") {
+            EXPECT_THAT(entry.Explanation, testing::HasSubstr("status line"));
+            ++told;
+        }
+    }
+    EXPECT_EQ(told, 2);
+}
+
 TEST(ReadMeDocument, NamesEverySettingWithItsDefault) {
     std::string const text = tests::TextOf(tests::ReadHelp("Quorvex-ReadMe.rtf"));
     for (settings::SettingRow const& row : settings::SettingTable()) {

@@ -64,6 +64,21 @@ class AccessibilityBus:
         message.set_body(GLib.Variant(signature, arguments))
         self._connection.send_message(message, Gio.DBusSendMessageFlags.NONE)
 
+    def announcements_of(self, accessible):
+        """A routine that tells how often the object has told a new name since: screen readers wait for that."""
+        self.call("org.a11y.atspi.Registry", "/org/a11y/atspi/registry", "org.a11y.atspi.Registry", "RegisterEvent",
+                  "(sass)", "object:property-change:accessible-name", [], "")
+        heard = []
+        self._connection.signal_subscribe(
+            accessible.owner, "org.a11y.atspi.Event.Object", "PropertyChange", accessible.path, "accessible-name",
+            Gio.DBusSignalFlags.NONE, lambda *event: heard.append(event))
+
+        def count():
+            while GLib.MainContext.default().iteration(False):
+                pass
+            return len(heard)
+        return count
+
     def root_of(self, process_id):
         """The program of this process, or None as long as it has not come to the bus."""
         registry = Accessible(self, "org.a11y.atspi.Registry", ROOT_PATH)

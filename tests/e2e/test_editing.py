@@ -38,6 +38,21 @@ class Editing(Session):
         self.program.press_button(box, "OK")
         wait_for(lambda: os.path.exists(os.path.join(self.folder, name)), f"the file {name}")
 
+    def wait_for_status(self, window, text):
+        """Until the status line says so: what a screen reader is told."""
+        self.wait_until_equal(lambda: window.find("status bar").name, text, "the status line")
+
+    def wait_for_editor(self, window):
+        wait_for(lambda: window.has("active"), "the editor")
+
+    def close_box(self, window, title, key="Return"):
+        """Answers the box of this title by a key. Returns its text."""
+        box = self.program.window(title)
+        text = "\n".join(label.name for label in box.find_all("label") if label.name)
+        self.desktop.press(key)
+        self.wait_for_editor(window)
+        return text
+
     def last_close(self):
         return self.program.chart_descriptions()[0].split("last close ")[1].split(". ")[0]
 
@@ -69,21 +84,79 @@ class Editing(Session):
         self.assertEqual(program.answer("Edit - Invalid Data Entry", "OK"),
                          f"Invalid data entry on row {DAYS + 1}")
         self.assertEqual(self.lines("Wheat.txt"), before)
-        wait_for(lambda: window.has("active"), "the editor")
+        self.wait_for_editor(window)
         program.choose("Edit", "Delete Row", window=window)
         self.assertEqual(program.answer("Delete Row", "Yes"), f"Delete row no. {DAYS + 1}?")
-        wait_for(lambda: window.has("active"), "the editor")
+        self.wait_for_editor(window)
         program.choose("File", "Print", window=window)
         listing = os.path.join(self.folder, "Wheat listing.pdf")
         self.assertEqual(program.answer("Quorvex", "OK"),
                          "No printer is installed. The page was saved as\n" + listing)
         self.assertGreater(os.path.getsize(listing), 1000)
-        wait_for(lambda: window.has("active"), "the editor")
+        self.wait_for_editor(window)
         self.assertEqual(self.lines("Wheat.txt"), before)
         self.type_last_close("513")
         program.choose("File", "Save", window=window)
         changed = [*before[:DAYS - 1], before[DAYS - 1].replace("520.25", "513.00"), ""]
         self.wait_until_equal(lambda: self.lines("Wheat.txt"), changed, "the saved file")
+        self.wait_for_status(window, f"{DAYS} rows saved to Wheat.txt")
+        self.leave(window)
+        program.choose("File", "Exit")
+        self.require_end(program)
+
+    def test_an_edit_by_keys_alone_keeps_every_character(self):
+        press, write = self.desktop.press, self.desktop.type
+        program = self.start()
+        program.open_quotes("Wheat.txt")
+        before = self.lines("Wheat.txt")
+        press("alt+f", "e")
+        window = program.window("Quorvex - Edit - [Wheat.txt]")
+        press("ctrl+End")
+        write("1")  # a cell editor is open from here on, whenever a menu is opened
+        press("alt+e", "a")
+        write("11/08/19\t521\t522.5\t519\t5x")
+        press("alt+f", "s")  # the Close is a number, but for what follows it
+        self.wait_for_status(window, f"Not saved: row {DAYS + 1}, Close is not a number")
+        write("520.75")
+        press("alt+e", "h")
+        self.close_box(window, "Quorvex - Edit Help")
+        press("Home")
+        write("soon")
+        press("alt+f", "s")
+        self.assertEqual(self.close_box(window, "Edit - Invalid Data Entry"),
+                         f"Invalid data entry on row {DAYS + 1}")
+        self.wait_for_status(window, f"Not saved: row {DAYS + 1}, Date is not a date")
+        write("11/08/19")
+        press("alt+f", "s")
+        self.wait_for_status(window, f"{DAYS + 1} rows saved to Wheat.txt")
+        added = "11/08/19, 521.00, 522.50, 519.00, 520.75, 0, 0"
+        self.assertEqual(self.lines("Wheat.txt"), [*before[:DAYS], added, ""])
+        press("ctrl+Home")
+        write("9")
+        press("alt+e", "d")
+        self.assertEqual(self.close_box(window, "Delete Row"), "Delete row no. 1?")
+        write("01/02/18")
+        press("alt+f", "s")
+        self.wait_for_status(window, f"{DAYS} rows saved to Wheat.txt")
+        self.assertEqual(self.lines("Wheat.txt")[0].split(",")[0], "01/02/18")
+        press("alt+f", "x")
+        program.wait_for_main()
+        press("alt+f", "x")
+        self.require_end(program)
+
+    def test_a_save_that_is_not_permitted_says_so_without_a_box(self):
+        program = self.start()
+        program.open_quotes("Wheat.txt")
+        before = self.lines("Wheat.txt")
+        window = self.edit("Wheat.txt")
+        self.type_last_close("513")
+        os.chmod(os.path.join(self.folder, "Wheat.txt"), 0o444)
+        announcements = self.desktop.bus.announcements_of(window.find("status bar"))
+        program.choose("File", "Save", window=window)
+        self.wait_for_status(window, "Not saved: Permission denied")
+        self.wait_until_equal(announcements, 1, "the announcement to screen readers")
+        self.assertTrue(window.has("active"), "a box was shown")
+        self.assertEqual(self.lines("Wheat.txt"), before)
         self.leave(window)
         program.choose("File", "Exit")
         self.require_end(program)

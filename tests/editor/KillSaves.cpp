@@ -78,7 +78,8 @@ public:
         for (std::int16_t row = 1; row <= Days; ++row) {
             sheet_.SetText(row, editor::FirstNumberColumn, isLong ? "123456.75" : "1.5");
         }
-        return editor::SaveEditData(Path(), *editor_, series_->Master, settings_, Files());
+        return !text::Trap(
+            [&] { editor::SaveEditData(Path(), *editor_, series_->Master, settings_, Files()); });
     }
 
 private:

@@ -30,11 +30,11 @@ protected:
     std::optional<bool> Do(json const& deed) {
         std::string const name = deed.at("op");
         if (name == "save") {
-            return editor::SaveEdits(*edited, *series, settings, files, dialogs);
+            return editor::SaveEdits(*edited, *series, settings, files, dialogs).IsSaved;
         }
         if (name == "save_as") {
             dialogs.Texts = {deed.at("answer")};
-            return editor::SaveEditsAs(*edited, *series, settings, files, dialogs);
+            return editor::SaveEditsAs(*edited, *series, settings, files, dialogs).IsSaved;
         }
         if (name == "type") {
             Type(deed.at("row"), deed.at("column"), deed.at("text"));

@@ -118,7 +118,7 @@ TEST_F(QuoteEditor, ShowsPricesInTheCurrencyFormatAndTheRestWhole) {
 TEST_F(QuoteEditor, OpensAnewFromWhatWasLoaded) {
     OpenDays(3);
     Type(2, 5, "555");
-    ASSERT_TRUE(editor::SaveEdits(*edited, *series, settings, files, dialogs));
+    ASSERT_TRUE(editor::SaveEdits(*edited, *series, settings, files, dialogs).IsSaved);
     Append();
     Open(std::move(series));
     EXPECT_EQ(sheet.RowCount(), 3);
@@ -158,7 +158,7 @@ TEST_F(QuoteEditor, AppendOnAnEmptyGridGivesRowOne) {
     Append();
     EXPECT_THAT(RowTexts(1), ElementsAre("", "0.00", "0.00", "0.00", "0.00", "0", "0"));
     EXPECT_EQ(Cursor(), std::pair(1, 1));
-    EXPECT_FALSE(editor::SaveEdits(*edited, *series, settings, files, dialogs));
+    EXPECT_FALSE(editor::SaveEdits(*edited, *series, settings, files, dialogs).IsSaved);
     EXPECT_TRUE(IsOnlyMessage(dialogs.Messages, "Invalid data entry on row 1", "Edit - Invalid Data Entry",
                               Icon::Exclamation));
 }

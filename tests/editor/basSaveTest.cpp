@@ -24,16 +24,23 @@ using testing::ElementsAre;
 
 class SavedEdits : public EditorTest {
 protected:
-    bool Save() { return editor::SaveEdits(*edited, *series, settings, files, dialogs); }
+    bool Save() { return Ended(editor::SaveEdits(*edited, *series, settings, files, dialogs)); }
 
     bool SaveAs(std::string const& answer) {
         dialogs.Texts = {answer};
-        return editor::SaveEditsAs(*edited, *series, settings, files, dialogs);
+        return Ended(editor::SaveEditsAs(*edited, *series, settings, files, dialogs));
     }
 
-    bool SaveData(std::string const& name) {
-        return editor::SaveEditData(name, *edited, series->Master, settings, files);
+    bool SaveData(std::string const& name, platform::Files& where) {
+        return !text::Trap([&] { editor::SaveEditData(name, *edited, series->Master, settings, where); });
     }
+
+    bool Ended(editor::SaveResult const& result) {
+        status = result.Status;
+        return result.IsSaved;
+    }
+
+    std::string status; // of the last save
 
     // The lines of the file, without their ends, which are checked.
     [[nodiscard]] Texts Lines(std::string const& name) const {
@@ -187,7 +194,8 @@ TEST_F(SavedEdits, WithoutAnOpenFileHaveNoName) {
     Open(std::make_unique<quotes::QuoteSeries>());
     TemporaryFolder const folder;
     platform::disk::DiskFiles disk;
-    EXPECT_FALSE(editor::SaveEdits(*edited, *series, settings, disk, dialogs));
+    EXPECT_FALSE(Ended(editor::SaveEdits(*edited, *series, settings, disk, dialogs)));
+    EXPECT_EQ(status, "Not saved: Bad file name or number");
     EXPECT_TRUE(IsQuiet());
 }
 
@@ -214,6 +222,68 @@ TEST_F(SavedEdits, ReadBackAsTheyWereTyped) {
     ASSERT_EQ(read->QuoteCount, 137);
     EXPECT_EQ(read->Master[7].Close, 123.46);
     EXPECT_EQ(read->Master[137].Date, series->Master[137].Date);
+}
+
+TEST_F(SavedEdits, TellHowManyRowsWentIntoWhichFile) {
+    OpenDays(2);
+    EXPECT_TRUE(Save());
+    EXPECT_EQ(status, "2 rows saved to test.txt");
+    EXPECT_TRUE(SaveAs("D:\\new.txt"));
+    EXPECT_EQ(status, "2 rows saved to D:\\new.txt");
+    OpenDays(1);
+    EXPECT_TRUE(Save());
+    EXPECT_EQ(status, "1 row saved to test.txt");
+    EXPECT_TRUE(dialogs.Messages.empty());
+}
+
+TEST_F(SavedEdits, TellWhichCellIsNoNumber) {
+    for (auto const& [column, head] :
+         {std::pair<std::int16_t, std::string>(2, "Open"), {6, "Volume"}, {7, "Open Interest"}}) {
+        OpenDays(3);
+        Type(1, 1, "2/1/2001"); // the check puts this row last
+        Type(1, column, "12abc");
+        EXPECT_FALSE(Save());
+        EXPECT_EQ(status, "Not saved: row 3, " + head + " is not a number");
+    }
+    OpenDays(3);
+    Type(2, 6, "1e999");
+    EXPECT_FALSE(SaveAs("new.txt"));
+    EXPECT_EQ(status, "Not saved: row 2, Volume is too large");
+    EXPECT_TRUE(dialogs.Messages.empty());
+}
+
+TEST_F(SavedEdits, TellWhyTheFileCannotBeWritten) {
+    OpenDays(3);
+    for (auto const& [fault, description] :
+         {std::pair<text::Fault, std::string>(text::Fault::PermissionDenied, "Permission denied"),
+          {text::Fault::DiskFull, "Disk full"},
+          {text::Fault::PathNotFound, "Path not found"}}) {
+        files.BreakWriting = fault;
+        EXPECT_FALSE(Save());
+        EXPECT_EQ(status, "Not saved: " + description);
+    }
+    EXPECT_TRUE(dialogs.Messages.empty());
+}
+
+TEST_F(SavedEdits, TellWhatTheirChecksRefuse) {
+    OpenDays(3);
+    Type(3, 1, "soon");
+    EXPECT_FALSE(Save());
+    EXPECT_EQ(status, "Not saved: row 3, Date is not a date");
+    Type(3, 1, "01/02/01");
+    EXPECT_FALSE(Save());
+    EXPECT_EQ(status, "Not saved: rows 2 and 3 have the same date");
+    Type(2, 5, "0");
+    EXPECT_FALSE(Save());
+    EXPECT_EQ(status, "Not saved: row 2, Close is not a price above 0");
+    OpenDays(3);
+    Type(2, 4, "0.004");
+    EXPECT_FALSE(Save());
+    EXPECT_EQ(status, "Not saved: row 2, Low does not fit the currency format ####0.00");
+    EXPECT_FALSE(SaveAs("new.csv"));
+    EXPECT_EQ(status, "Not saved: Invalid data file name");
+    EXPECT_FALSE(SaveAs(" "));
+    EXPECT_EQ(status, ""); // the user gave it up
 }
 
 TEST_F(SavedEdits, AsAsksForAName) {
@@ -281,14 +351,14 @@ TEST_F(SavedEdits, AsChecksTheNameBeforeTheRows) {
 TEST_F(SavedEdits, DataTakeTheNameAsItIs) {
     OpenDays(1);
     settings.DataPath = "C:\\Quotes\\";
-    EXPECT_TRUE(SaveData("D:\\Else\\any name"));
+    EXPECT_TRUE(SaveData("D:\\Else\\any name", files));
     EXPECT_TRUE(files.Contents.contains("D:\\Else\\any name"));
 }
 
 TEST_F(SavedEdits, DataKeepADateThatIsNone) {
     OpenDays(1);
     Type(1, 1, "soon");
-    EXPECT_TRUE(SaveData("a.txt"));
+    EXPECT_TRUE(SaveData("a.txt", files));
     EXPECT_EQ(Lines("a.txt").front(), "soon, 101.25, 101.75, 101.00, 101.00, 1200, 3400");
 }
 
@@ -299,13 +369,12 @@ TEST_F(SavedEdits, OnDiskReplaceTheOldFileOrLeaveIt) {
     std::string const path = folder.File("quotes.txt");
     folder.Write("quotes.txt", "old");
     Type(2, 6, "abc");
-    EXPECT_FALSE(editor::SaveEditData(path, *edited, series->Master, settings, disk));
+    EXPECT_FALSE(SaveData(path, disk));
     EXPECT_EQ(folder.Read("quotes.txt"), "old");
     Type(2, 6, "1");
-    EXPECT_TRUE(editor::SaveEditData(path, *edited, series->Master, settings, disk));
+    EXPECT_TRUE(SaveData(path, disk));
     EXPECT_TRUE(folder.Read("quotes.txt").starts_with("01/01/01, 101.25"));
-    EXPECT_FALSE(
-        editor::SaveEditData(folder.File("none/quotes.txt"), *edited, series->Master, settings, disk));
+    EXPECT_FALSE(SaveData(folder.File("none/quotes.txt"), disk));
     EXPECT_EQ(folder.Read("quotes.txt~"), "old");
     EXPECT_EQ(folder.EntryCount(), 2);
 }

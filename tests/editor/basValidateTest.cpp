@@ -22,7 +22,7 @@ protected:
         spread.GotoCell(1, 7);
     }
 
-    bool Validate() { return ValidateQuotes(*edited, dialogs); }
+    bool Validate() { return !ValidateQuotes(*edited, dialogs); }
 
     // Expects the check of the rows to fail at this cell.
     void ExpectBadCell(int row, int column) {

@@ -32,6 +32,10 @@ void CellDelegate::Finish(QWidget& cellEditor) {
 }
 
 bool CellDelegate::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusOut &&
+        static_cast<QFocusEvent*>(event)->reason() == Qt::MenuBarFocusReason) {
+        return false; // else a menu bar worked by keys could not give the focus back
+    }
     auto* cellEditor = qobject_cast<QWidget*>(watched);
     if (cellEditor != nullptr && event->type() == QEvent::KeyPress) {
         if (int const rows = RowsToMove(*static_cast<QKeyEvent*>(event)); rows != 0) {

@@ -10,7 +10,8 @@ class QKeyEvent;
 namespace quorvex::editor::ui {
 
 // Edits a cell in a line edit that says which cell it is. Enter takes the text over and asks for the cell
-// below, with Shift for the one above.
+// below, with Shift for the one above. While a menu is open the editor waits: a command of the menu takes its
+// text over, and a menu that is left without one gives the focus back to it.
 class CellDelegate final : public QStyledItemDelegate {
     Q_OBJECT
 

@@ -40,6 +40,7 @@ SpreadGrid::SpreadGrid(QWidget& client) : QTableView(&client) {
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + RowMargin);
     verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
     connect(&delegate_, &CellDelegate::MoveWanted, this, &SpreadGrid::MoveDown);
+    connect(&model_, &SpreadModel::Typed, this, &SpreadGrid::Edited);
 }
 
 void SpreadGrid::FinishTyping() {
@@ -134,12 +135,14 @@ void SpreadGrid::Copy(Block const& block) {
 void SpreadGrid::Clear(Block const& block) {
     ClearBlock(sheet_, block);
     model_.ShowSheet();
+    Q_EMIT Edited();
 }
 
 void SpreadGrid::Paste(Block const& block) {
     bool const hasAll =
         PasteText(sheet_, block, platform::pictures::FromQt(QGuiApplication::clipboard()->text()));
     model_.ShowSheet();
+    Q_EMIT Edited();
     if (!hasAll) {
         Q_EMIT CellsLeftOut();
     }

@@ -36,6 +36,9 @@ public:
     void SetSize(double width, double height) override;
 
 Q_SIGNALS:
+    // The user changed the text of a cell.
+    void Edited();
+
     // A block was pasted that reaches beyond the last row or column.
     void CellsLeftOut();
 

@@ -81,6 +81,7 @@ bool SpreadModel::setData(QModelIndex const& index, QVariant const& value, int r
     sheet_.SetText(SheetNumber(index.row()), SheetNumber(index.column()),
                    platform::pictures::FromQt(value.toString()));
     Q_EMIT dataChanged(index, index);
+    Q_EMIT Typed();
     return true;
 }
 

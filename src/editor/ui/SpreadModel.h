@@ -31,6 +31,10 @@ public:
     // The rows alone.
     void ShowRows();
 
+Q_SIGNALS:
+    // A view has put a text into a cell.
+    void Typed();
+
 private:
     [[nodiscard]] Cell const& CellAt(QModelIndex const& index) const;
 

@@ -43,6 +43,7 @@ frmEdit::frmEdit(QWidget* parent, quotes::QuoteSeries& series, settings::Setting
       pointer_(pointer),
       client_(new QWidget(this)),
       spread_(new SpreadGrid(*client_)),
+      status_(new StatusLine(*client_)),
       editor_(std::make_unique<Editor>(Editor{spread_->Cells(), *spread_, {}, 0})) {
     setObjectName(QStringLiteral("frmEdit"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -62,6 +63,9 @@ frmEdit::frmEdit(QWidget* parent, quotes::QuoteSeries& series, settings::Setting
                            "Edit", platform::Icon::Exclamation});
         });
     });
+    connect(spread_, &SpreadGrid::Edited, this, &frmEdit::ForgetStatus);
+    connect(spread_->model(), &QAbstractItemModel::rowsInserted, this, &frmEdit::ForgetStatus);
+    connect(spread_->model(), &QAbstractItemModel::rowsRemoved, this, &frmEdit::ForgetStatus);
     resize(InitialSize.boundedTo(screen()->availableSize()));
 }
 
@@ -70,9 +74,9 @@ frmEdit::~frmEdit() = default;
 void frmEdit::AddFileMenu(QMenuBar& bar) {
     QMenu& menu = AddMenu(bar, "mnuFile", "&File");
     AddItem(menu, "mnuFileSave", "&Save",
-            [this] { SaveEdits(*editor_, series_, settings_, files_, dialogs_); });
+            [this] { Tell(SaveEdits(*editor_, series_, settings_, files_, dialogs_)); });
     AddItem(menu, "mnuFileSaveAs", "Save &As...",
-            [this] { SaveEditsAs(*editor_, series_, settings_, files_, dialogs_); });
+            [this] { Tell(SaveEditsAs(*editor_, series_, settings_, files_, dialogs_)); });
     menu.addSeparator();
     AddItem(menu, "mnuFilePrint", "&Print",
             [this] { PrintQuotes(*editor_, series_.QuoteFileName, settings_, printer_, pointer_); });
@@ -111,8 +115,20 @@ void frmEdit::Run(Command const& command) {
             command();
         });
     }
+    // A menu that was opened by keys may have had it.
+    spread_->setFocus();
     // Some desktops tell only now that a box has closed.
     isBoxClosing_ = !isActiveWindow();
+}
+
+void frmEdit::Tell(SaveResult const& result) {
+    if (!result.Status.empty()) {
+        status_->Tell(platform::pictures::ToQt(result.Status));
+    }
+}
+
+void frmEdit::ForgetStatus() {
+    status_->Tell(QString());
 }
 
 void frmEdit::RunModal() {
@@ -126,6 +142,7 @@ void frmEdit::RunModal() {
 void frmEdit::LoadQuotes() {
     PlaceGrid(); // the width of the columns follows from its width
     OpenEditor(*editor_, series_);
+    ForgetStatus();
     setWindowTitle(platform::pictures::ToQt(EditorCaption(series_)));
     spread_->GotoCell(editor_->EditCount > 0 ? 1 : 0, 1);
     Activate();
@@ -133,6 +150,8 @@ void frmEdit::LoadQuotes() {
 
 void frmEdit::PlaceGrid() {
     SizeGrid(*spread_, platform::qt::OuterWidth(client_->size()), platform::qt::OuterHeight(client_->size()));
+    int const top = spread_->geometry().bottom() + 1;
+    status_->setGeometry(0, top, client_->width(), client_->height() - top);
 }
 
 void frmEdit::Activate() {

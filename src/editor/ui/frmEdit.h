@@ -4,7 +4,9 @@
 #pragma once
 
 #include "editor/Editor.h"
+#include "editor/basSave.h"
 #include "editor/ui/SpreadGrid.h"
+#include "editor/ui/StatusLine.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/MousePointer.h"
@@ -48,10 +50,17 @@ private:
     void AddEditMenu(QMenuBar& bar);
     void AddItem(QWidget& menu, char const* name, char const* caption, Command command);
 
-    // Runs the command unless another one is running.
+    // Runs the command unless another one is running. The grid has the focus afterwards.
     void Run(Command const& command);
 
+    void Tell(SaveResult const& result);
+
+    // What the status line says no longer holds once the grid changes.
+    void ForgetStatus();
+
     void LoadQuotes();
+
+    // The grid's size follows from the window's; the status line has the strip that is left below it.
     void PlaceGrid();
 
     // Fits the grid into the window and fills it from the editor's copy.
@@ -65,6 +74,7 @@ private:
     platform::MousePointer& pointer_;
     QWidget* client_;
     SpreadGrid* spread_;
+    StatusLine* status_;
     std::unique_ptr<Editor> editor_;
     bool isBusy_ = false;       // a command is running
     bool isBoxClosing_ = false; // the next activation belongs to the last box of a command

@@ -5,6 +5,8 @@
 #include "support/QuoteTexts.h"
 #include "windows/WindowTest.h"
 
+#include <QAccessible>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -20,6 +22,24 @@ QString CaptionsOf(QMenu const& menu) {
         captions.append(item->isSeparator() ? u"-"_s : item->text() + u' ' + item->objectName());
     }
     return captions.join(u'|');
+}
+
+// As at a keyboard: whatever has the focus in the editor gets the key.
+void PressKeys(ShownEditor const& shown, QList<Qt::Key> const& keys) {
+    for (Qt::Key const key : keys) {
+        QTest::keyClick(shown.Window->windowHandle(), key);
+    }
+}
+
+// Opens the menu by Alt and its letter, and chooses by the letter of the item.
+void ChooseByKeys(ShownEditor& shown, Qt::Key menu, Qt::Key item) {
+    shown.Answers.Next([item](QWidget& open) { QTest::keyClick(&open, item); });
+    QTest::keyClick(shown.Window->windowHandle(), menu, Qt::AltModifier);
+    QTRY_VERIFY(shown.Answers.IsDone());
+}
+
+QLabel& StatusOf(ShownEditor const& shown) {
+    return *shown.Window->findChild<QLabel*>(u"StatusLine"_s);
 }
 
 } // namespace
@@ -170,6 +190,157 @@ private Q_SLOTS:
         QVERIFY(written.find("01/02/01, 102.25, 102.75, 102.00, 7.00, 1200, 3400\r\n") != std::string::npos);
         QCOMPARE(shown.Answers.Shown(), QStringList(u"frmEdit"_s));
         QCOMPARE(shown.Series->Master[2].Close, 102.0);
+    }
+
+    void TypingGoesOnBehindACommandOfTheMenu_data() {
+        QTest::addColumn<Qt::Key>("menu");
+        QTest::addColumn<Qt::Key>("item");
+        QTest::addColumn<int>("row");
+        QTest::addColumn<int>("column");
+        QTest::newRow("Append") << Qt::Key_E << Qt::Key_A << 31 << 1;
+        QTest::newRow("Insert") << Qt::Key_E << Qt::Key_I << 2 << 5;
+        QTest::newRow("Help") << Qt::Key_E << Qt::Key_H << 2 << 5;
+        QTest::newRow("Save") << Qt::Key_F << Qt::Key_S << 2 << 5;
+        QTest::newRow("Print") << Qt::Key_F << Qt::Key_P << 2 << 5;
+    }
+
+    void TypingGoesOnBehindACommandOfTheMenu() {
+        QFETCH(Qt::Key, menu);
+        QFETCH(Qt::Key, item);
+        QFETCH(int, row);
+        QFETCH(int, column);
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            shown.GoTo(2, 5);
+            PressKeys(shown, {Qt::Key_7}); // and no Enter
+            ChooseByKeys(shown, menu, item);
+            QCOMPARE(shown.Cursor(), u"%1,%2"_s.arg(row).arg(column));
+            // These would leave the editor if the menu bar had the keyboard.
+            PressKeys(shown, {Qt::Key_F, Qt::Key_X, Qt::Key_Return});
+            QVERIFY(shown.Window->isVisible());
+            QCOMPARE(shown.Text(row, column), u"fx"_s);
+        });
+    }
+
+    void TypingGoesOnBehindAQuestionOfTheMenu_data() {
+        QTest::addColumn<Qt::Key>("menu");
+        QTest::addColumn<Qt::Key>("item");
+        QTest::addColumn<Qt::Key>("answer");
+        QTest::newRow("Delete") << Qt::Key_E << Qt::Key_D << Qt::Key_Return;
+        QTest::newRow("Delete, refused") << Qt::Key_E << Qt::Key_D << Qt::Key_Escape;
+        QTest::newRow("Save As, given up") << Qt::Key_F << Qt::Key_A << Qt::Key_Escape;
+    }
+
+    void TypingGoesOnBehindAQuestionOfTheMenu() {
+        QFETCH(Qt::Key, menu);
+        QFETCH(Qt::Key, item);
+        QFETCH(Qt::Key, answer);
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            shown.GoTo(2, 5);
+            PressKeys(shown, {Qt::Key_7});
+            shown.Answers.Next([&](QWidget& open) { QTest::keyClick(&open, item); });
+            shown.Answers.Next([&](QWidget& box) { QTest::keyClick(&box, answer); });
+            QTest::keyClick(shown.Window->windowHandle(), menu, Qt::AltModifier);
+            QTRY_VERIFY(shown.Answers.IsDone());
+            PressKeys(shown, {Qt::Key_F, Qt::Key_X, Qt::Key_Return});
+            QVERIFY(shown.Window->isVisible());
+            QCOMPARE(shown.Text(2, 5), u"fx"_s);
+        });
+    }
+
+    void AMenuThatIsLeftReturnsToWhatIsBeingTyped() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            shown.GoTo(2, 5);
+            PressKeys(shown, {Qt::Key_7});
+            ChooseByKeys(shown, Qt::Key_E, Qt::Key_Escape); // which closes the menu and stays in the bar
+            PressKeys(shown, {Qt::Key_Escape, Qt::Key_5, Qt::Key_Return});
+            QCOMPARE(shown.Text(2, 5), u"75"_s);
+        });
+    }
+
+    void ARefusedSaveLeavesTheKeyboardAtTheCell() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            shown.Type(4, 3, u"x"_s);
+            shown.GoTo(2, 5);
+            PressKeys(shown, {Qt::Key_7});
+            ChooseByKeys(shown, Qt::Key_F, Qt::Key_S);
+            QCOMPARE(shown.Cursor(), u"4,3"_s);
+            PressKeys(shown, {Qt::Key_8, Qt::Key_Return});
+            QCOMPARE(shown.Text(4, 3), u"8"_s);
+        });
+        QVERIFY(shown.Answers.Shown().contains(
+            OkMessage(u"Edit - Invalid Data Entry"_s, u"exclamation"_s, u"Invalid data entry on row 4"_s)));
+    }
+
+    void TheStatusLineTellsHowASaveEnded() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        QString const path = QString::fromStdString(shown.Series->QuoteFileName);
+        shown.Run([&] {
+            QCOMPARE(StatusOf(shown).text(), u""_s);
+            shown.Choose("mnuFileSave");
+            QCOMPARE(StatusOf(shown).text(), u"30 rows saved to "_s + path);
+            shown.Type(12, 6, u"abc"_s);
+            QCOMPARE(StatusOf(shown).text(), u""_s); // no longer all that stands in the grid
+            shown.Choose("mnuFileSave");
+            QCOMPARE(StatusOf(shown).text(), u"Not saved: row 12, Volume is not a number"_s);
+            shown.Type(12, 6, u"1"_s);
+            shown.Series->QuoteFileName = shown.Folder.File("none/corn.txt");
+            shown.Choose("mnuFileSave");
+            QCOMPARE(StatusOf(shown).text(), u"Not saved: Path not found"_s);
+        });
+        QCOMPARE(shown.Answers.Shown(), QStringList(u"frmEdit"_s)); // and no box
+    }
+
+    void TheStatusLineForgetsWhenTheGridChanges() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        auto const savedAnd = [&](std::function<void()> const& deed) {
+            shown.Choose("mnuFileSave");
+            QVERIFY(!StatusOf(shown).text().isEmpty());
+            deed();
+        };
+        shown.Run([&] {
+            savedAnd([&] { shown.Choose("mnuEditAppend"); });
+            QCOMPARE(StatusOf(shown).text(), u""_s);
+            shown.Answers.Click(QMessageBox::Yes);
+            shown.Choose("mnuEditDelete");
+            savedAnd([&] { shown.Press(Qt::Key_Delete); });
+            QCOMPARE(StatusOf(shown).text(), u""_s);
+            shown.ComeBack(); // which fills the grid from the copy
+            savedAnd([&] { shown.ComeBack(); });
+            QVERIFY(!StatusOf(shown).text().isEmpty()); // the grid still shows what was saved
+        });
+        shown.Run([&] { QCOMPARE(StatusOf(shown).text(), u""_s); });
+    }
+
+    void TheStatusLineHasTheStripBelowTheGrid() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            for (QSize const size : {QSize(940, 680), QSize(1200, 800), QSize(300, 120)}) {
+                shown.Window->resize(size);
+                QCoreApplication::processEvents();
+                QWidget const& client = *shown.Grid().parentWidget();
+                QRect const strip(0, shown.Grid().height(), client.width(),
+                                  client.height() - shown.Grid().height());
+                QCOMPARE(StatusOf(shown).geometry(), strip);
+            }
+            shown.Window->resize(940, 680);
+            QCoreApplication::processEvents();
+            QVERIFY(StatusOf(shown).height() >= StatusOf(shown).fontMetrics().height());
+        });
+    }
+
+    void TheStatusLineIsAStatusBarToScreenReaders() {
+        ShownEditor shown(QuoteLines(30), "S&P <b>500.txt");
+        shown.Run([&] {
+            shown.Choose("mnuFileSave");
+            QAccessibleInterface* line = QAccessible::queryAccessibleInterface(&StatusOf(shown));
+            QCOMPARE(line->role(), QAccessible::StatusBar);
+            QCOMPARE(line->text(QAccessible::Name), StatusOf(shown).text());
+            QCOMPARE(StatusOf(shown).textFormat(), Qt::PlainText);
+        });
     }
 
     void SaveAsWritesAndTakesTheName() {
