@@ -11,7 +11,6 @@
 #include "platform/qt/QtDialogs.h"
 
 #include <QKeyEvent>
-#include <QMenuBar>
 #include <QScopeGuard>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -22,12 +21,6 @@ namespace quorvex::editor::ui {
 namespace {
 
 constexpr QSize InitialSize(940, 680);
-
-QMenu& AddMenu(QMenuBar& bar, char const* name, char const* caption) {
-    QMenu* menu = bar.addMenu(QString::fromLatin1(caption));
-    menu->setObjectName(QString::fromLatin1(name));
-    return *menu;
-}
 
 } // namespace
 
@@ -47,13 +40,12 @@ frmEdit::frmEdit(QWidget* parent, quotes::QuoteSeries& series, settings::Setting
       editor_(std::make_unique<Editor>(Editor{spread_->Cells(), *spread_, {}, 0})) {
     setObjectName(QStringLiteral("frmEdit"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    auto* bar = new QMenuBar(this);
-    bar->setNativeMenuBar(false);
-    AddFileMenu(*bar);
-    AddEditMenu(*bar);
+    platform::qt::WindowMenu menu(*this);
+    AddFileMenu(menu);
+    AddEditMenu(menu);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setMenuBar(bar);
+    column->setMenuBar(&menu.Bar());
     column->addWidget(client_);
     client_->installEventFilter(this);
     connect(spread_, &SpreadGrid::CellsLeftOut, this, [this] {
@@ -71,51 +63,42 @@ frmEdit::frmEdit(QWidget* parent, quotes::QuoteSeries& series, settings::Setting
 
 frmEdit::~frmEdit() = default;
 
-void frmEdit::AddFileMenu(QMenuBar& bar) {
-    QMenu& menu = AddMenu(bar, "mnuFile", "&File");
-    AddItem(menu, "mnuFileSave", "&Save",
-            [this] { Tell(SaveEdits(*editor_, series_, settings_, files_, dialogs_)); });
-    AddItem(menu, "mnuFileSaveAs", "Save &As...",
-            [this] { Tell(SaveEditsAs(*editor_, series_, settings_, files_, dialogs_)); });
-    menu.addSeparator();
-    AddItem(menu, "mnuFilePrint", "&Print",
-            [this] { PrintQuotes(*editor_, series_.QuoteFileName, settings_, printer_, pointer_); });
-    menu.addSeparator();
-    AddItem(menu, "mnuFileExit", "E&xit", [this] { accept(); });
+void frmEdit::AddFileMenu(platform::qt::WindowMenu& menu) {
+    menu.Menu("mnuFile", "&File")
+        .Item("mnuFileSave", "&Save",
+              Runs([this] { Tell(SaveEdits(*editor_, series_, settings_, files_, dialogs_)); }))
+        .Item("mnuFileSaveAs", "Save &As...",
+              Runs([this] { Tell(SaveEditsAs(*editor_, series_, settings_, files_, dialogs_)); }))
+        .Separator()
+        .Item("mnuFilePrint", "&Print",
+              Runs([this] { PrintQuotes(*editor_, series_.QuoteFileName, settings_, printer_, pointer_); }))
+        .Separator()
+        .Item("mnuFileExit", "E&xit", Runs([this] { accept(); }));
 }
 
-void frmEdit::AddEditMenu(QMenuBar& bar) {
-    QMenu& menu = AddMenu(bar, "mnuEdit", "&Edit");
-    AddItem(menu, "mnuEditInsert", "&Insert Row", [this] { InsertRow(*editor_, settings_, dialogs_); });
-    AddItem(menu, "mnuEditAppend", "&Append Row", [this] { AppendRow(*editor_, settings_, dialogs_); });
-    menu.addSeparator();
-    AddItem(menu, "mnuEditDelete", "&Delete Row", [this] { DeleteRow(*editor_, settings_, dialogs_); });
-    AddItem(menu, "mnuEditHelp", "&Help", [this] { ShowEditHelp(dialogs_); });
+void frmEdit::AddEditMenu(platform::qt::WindowMenu& menu) {
+    menu.Menu("mnuEdit", "&Edit")
+        .Item("mnuEditInsert", "&Insert Row", Runs([this] { InsertRow(*editor_, settings_, dialogs_); }))
+        .Item("mnuEditAppend", "&Append Row", Runs([this] { AppendRow(*editor_, settings_, dialogs_); }))
+        .Separator()
+        .Item("mnuEditDelete", "&Delete Row", Runs([this] { DeleteRow(*editor_, settings_, dialogs_); }))
+        .Item("mnuEditHelp", "&Help", Runs([this] { ShowEditHelp(dialogs_); }));
 }
 
-void frmEdit::AddItem(QWidget& menu, char const* name, char const* caption, Command command) {
-    auto* action = new QAction(QString::fromLatin1(caption), &menu);
-    action->setObjectName(QString::fromLatin1(name));
-    action->setMenuRole(QAction::NoRole);
-    connect(action, &QAction::triggered, this, [this, run = std::move(command)] { Run(run); });
-    menu.addAction(action);
+frmEdit::Command frmEdit::Runs(Command command) {
+    return [this, run = std::move(command)] { Run(run); };
 }
 
 void frmEdit::Run(Command const& command) {
-    platform::qt::CloseMenus();
-    // Keys and mouse do not come through while a box waits for an answer; assistive technology does.
-    if (isBusy_) {
-        return;
-    }
     {
         isBusy_ = true;
         auto const free = qScopeGuard([this] { isBusy_ = false; });
         platform::qt::RunGuarded(*this, [&] {
-            spread_->FinishTyping(); // what is being typed counts for the command
+            spread_->FinishTyping();
             command();
         });
     }
-    // A menu that was opened by keys may have had it.
+    // Not the menu that the command was chosen from.
     spread_->setFocus();
     // Some desktops tell only now that a box has closed.
     isBoxClosing_ = !isActiveWindow();

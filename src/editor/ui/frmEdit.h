@@ -11,14 +11,12 @@
 #include "platform/Files.h"
 #include "platform/MousePointer.h"
 #include "platform/Printer.h"
+#include "platform/qt/WindowMenu.h"
 #include "quotes/QuoteSeries.h"
 #include "settings/Settings.h"
 
 #include <QDialog>
-#include <functional>
 #include <memory>
-
-class QMenuBar;
 
 namespace quorvex::editor::ui {
 
@@ -44,14 +42,16 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    using Command = std::function<void()>;
+    using Command = platform::qt::WindowMenu::Command;
 
-    void AddFileMenu(QMenuBar& bar);
-    void AddEditMenu(QMenuBar& bar);
-    void AddItem(QWidget& menu, char const* name, char const* caption, Command command);
+    void AddFileMenu(platform::qt::WindowMenu& menu);
+    void AddEditMenu(platform::qt::WindowMenu& menu);
 
-    // Runs the command unless another one is running. The grid has the focus afterwards.
+    // What is being typed counts for the command, and the grid has the focus afterwards.
     void Run(Command const& command);
+
+    // Runs the command so when it is chosen.
+    [[nodiscard]] Command Runs(Command command);
 
     void Tell(SaveResult const& result);
 
