@@ -88,6 +88,7 @@ std::unique_ptr<text::ByteSource> MemoryFiles::OpenForInput(std::string const& p
     if (file == Contents.end()) {
         throw text::RunTimeError(text::Fault::FileNotFound);
     }
+    ++readingCount_;
     return std::make_unique<MemorySource>(file->second, BreakReading, open_, path);
 }
 

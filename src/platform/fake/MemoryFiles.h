@@ -33,6 +33,9 @@ public:
     // How many sources and sinks are not closed yet.
     [[nodiscard]] std::size_t OpenCount() const { return open_.size(); }
 
+    // How many files were opened for reading so far.
+    [[nodiscard]] int ReadingCount() const { return readingCount_; }
+
     std::map<std::string, std::string> Contents;
 
     // When set, reading breaks with this fault behind so many bytes.
@@ -53,6 +56,7 @@ public:
 
 private:
     mutable std::multiset<std::string> open_; // the path of every source and sink
+    mutable int readingCount_ = 0;
 };
 
 } // namespace quorvex::platform::fake

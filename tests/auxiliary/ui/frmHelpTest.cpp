@@ -3,6 +3,7 @@
 
 #include "auxiliary/ui/frmHelp.h"
 
+#include "platform/fake/MemoryFiles.h"
 #include "platform/fake/ScriptedDialogs.h"
 #include "windows/PrintedPdf.h"
 #include "windows/RunningWindow.h"
@@ -15,7 +16,6 @@
 #include <QPrinterInfo>
 #include <QScreen>
 #include <QScrollBar>
-#include <QSet>
 #include <QTextBlock>
 #include <QTextEdit>
 #include <QTextTable>
@@ -55,33 +55,6 @@ void OnHelp(RunningWindow& main, std::function<void(QWidget&)> const& deed) {
     });
     main.Choose("mnuHelpReadMe");
 }
-
-// Files that all have this content, and how often one was read.
-class CountedFile final : public platform::Files {
-public:
-    [[nodiscard]] std::unique_ptr<text::ByteSource> OpenForInput(std::string const& path) const override {
-        Paths.append(QString::fromStdString(path));
-        return std::make_unique<text::TextSource>(Content);
-    }
-
-    void Replace(std::string const& /*path*/, std::string_view /*content*/) override {}
-
-    [[nodiscard]] std::unique_ptr<platform::ByteSink> OpenForOutput(std::string const& /*path*/) override {
-        return nullptr;
-    }
-
-    void Remove(std::string const& /*path*/) override {}
-
-    [[nodiscard]] std::uint64_t Length(std::string const& /*path*/) const override { return Content.size(); }
-
-    [[nodiscard]] std::vector<std::string> List(std::string const& /*folder*/,
-                                                std::string_view /*pattern*/) const override {
-        return {};
-    }
-
-    std::string Content;
-    mutable QStringList Paths;
-};
 
 // Counts the documents that a text box is given.
 class DocumentCount final : public QObject {
@@ -276,25 +249,26 @@ private Q_SLOTS:
     }
 
     void TheFileIsReadAnewAndItsDocumentMadeOnlyWhenItHasChanged() {
-        CountedFile file;
-        file.Content = R"({\rtf1 First})";
+        platform::fake::MemoryFiles files;
+        std::string& content = files.Contents["folder/Some.rtf"];
+        content = R"({\rtf1 First})";
         settings::Settings const settings;
         platform::fake::ScriptedDialogs dialogs;
         std::string const folder = "folder/";
-        auxiliary::ui::frmHelp help(nullptr, folder, settings, file, dialogs);
+        auxiliary::ui::frmHelp help(nullptr, folder, settings, files, dialogs);
         DocumentCount const documents(TextOf(help));
         ModalAnswers answers;
         answers.Next([&](QWidget& window) {
-            QVERIFY(!file.Paths.isEmpty());
+            QVERIFY(files.ReadingCount() > 0);
             QCOMPARE(documents.Count, 1); // however often the window system activated and sized the window
             for (Reload const reload : {Resize, Activate}) {
-                auto const readings = file.Paths.size();
+                int const readings = files.ReadingCount();
                 reload(window);
-                QVERIFY(file.Paths.size() > readings);
+                QVERIFY(files.ReadingCount() > readings);
                 QCOMPARE(documents.Count, 1);
                 QCOMPARE(TextOf(window).toPlainText(), u"First"_s);
             }
-            file.Content = R"({\rtf1 Second})";
+            content = R"({\rtf1 Second})";
             Activate(window);
             Resize(window);
             QCOMPARE(documents.Count, 2);
@@ -303,7 +277,6 @@ private Q_SLOTS:
         });
         help.RunModal("Some.rtf");
         QVERIFY(answers.IsDone());
-        QCOMPARE(QSet<QString>(file.Paths.begin(), file.Paths.end()), QSet<QString>{u"folder/Some.rtf"_s});
     }
 
     void AReloadGoesToTheVeryTopWithNothingSelected_data() {
