@@ -126,7 +126,7 @@ void frmEdit::LoadQuotes() {
     PlaceGrid(); // the width of the columns follows from its width
     OpenEditor(*editor_, series_);
     ForgetStatus();
-    setWindowTitle(platform::pictures::ToQt(EditorCaption(series_)));
+    platform::qt::SetCaption(*this, EditorCaption(series_));
     spread_->GotoCell(editor_->EditCount > 0 ? 1 : 0, 1);
     Activate();
 }

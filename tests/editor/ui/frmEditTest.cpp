@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QWindow>
 
 namespace quorvex::tests {
 
@@ -66,6 +67,12 @@ private Q_SLOTS:
             }
             QCOMPARE(menus, QStringList({u"&File"_s, u"&Edit"_s}));
         });
+    }
+
+    void TheNameInTheCaptionIsShownLetterForLetter() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Series->QuoteFileName = "a[*].txt";
+        shown.Run([&] { QCOMPARE(shown.Window->windowHandle()->title(), u"Quorvex - Edit - [a[*].txt]"_s); });
     }
 
     void WithoutAnOpenFileIsEmpty() {
