@@ -8,7 +8,6 @@
 #include "TemporaryQuoteFile.h"
 #include "app/Program.h"
 #include "app/basAnalysis.h"
-#include "platform/BlankCanvas.h"
 #include "platform/disk/DiskFiles.h"
 
 #include <benchmark/benchmark.h>
@@ -25,14 +24,7 @@ void WholeAnalysis(benchmark::State& state) {
     cycles::TextGrid grid;
     SilentDialogs dialogs;
     platform::disk::DiskFiles files;
-    platform::NoPendingMessages pending;
-    platform::NoLauncher launcher;
-    platform::NoMainWindow window;
-    platform::BlankCanvas box;
-    platform::NoPrintQueue printing;
-    platform::NoMousePointer pointer;
-    app::Services services{grid,   {box, box, box, box}, dialogs, files, pending, launcher, window, printing,
-                           pointer};
+    app::AnalysisServices const services{.Grid = grid, .Files = files, .Dialogs = dialogs};
     app::AnalysisRequest request;
     request.AutomatedCycles = 3;
     app::StartUp(*program, grid, platform::NoProfile(), file.Folder());

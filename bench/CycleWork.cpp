@@ -4,8 +4,8 @@
 #include "CycleWork.h"
 
 #include "GeneratedQuotes.h"
-#include "chart/basScale.h"
 #include "cycles/basCurves.h"
+#include "quotes/PriceScale.h"
 #include "quotes/basDisk.h"
 #include "text/basFields.h"
 #include "text/basFormats.h"
@@ -43,7 +43,7 @@ void SetTenCycles(cycles::CycleParameterSet& set) {
 
 } // namespace
 
-CycleWork::CycleWork() : series_(GeneratedSeries()), scale_(chart::ComputePriceScale(*series_)) {
+CycleWork::CycleWork() : series_(GeneratedSeries()), scale_(quotes::ComputePriceScale(*series_)) {
     SetTenCycles(set_);
     Average(UsualLength);
     ComputeTenCycles();

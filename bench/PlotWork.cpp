@@ -7,6 +7,7 @@
 #include "PlotWork.h"
 
 #include "cycles/basCurves.h"
+#include "settings/ChartTypes.h"
 
 #include <functional>
 #include <numeric>
@@ -116,13 +117,18 @@ PlotWork::PlotWork(RedrawWork const& window) {
         return *plots_.emplace_back(std::make_unique<Plot>(size, columns, top, bottom));
     };
 
-    Plot& quotesPlot = add(days, program.PriceScale.PriceScaleHigh, program.PriceScale.PriceScaleLow);
-    if (program.Settings.ChartType == "Daily Bar Chart") {
+    Plot& quotesPlot =
+        add(days, program.Curves.PriceScale.PriceScaleHigh, program.Curves.PriceScale.PriceScaleLow);
+    switch (settings::ChartTypeOf(program.Settings.ChartType).Style) {
+    case settings::QuoteStyle::Bars:
         quotesPlot.AddBars(series, QCPFinancial::csOhlc);
-    } else if (program.Settings.ChartType == "Candlestick Chart") {
+        break;
+    case settings::QuoteStyle::Candles:
         quotesPlot.AddBars(series, QCPFinancial::csCandlestick);
-    } else {
+        break;
+    case settings::QuoteStyle::Line:
         quotesPlot.AddCurve(PricesOf(series, &quotes::QuoteRecord::Close));
+        break;
     }
     quotesPlot.AddCurve(ValuesOf(program.Curves.MovingAverageCurve, count));
 

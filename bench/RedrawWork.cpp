@@ -19,8 +19,9 @@ namespace {
 
 constexpr QSize WindowSize(1920, 1080);
 
-bool HasFault(chart::ChartFaults const& faults) {
-    return faults.Quotes || faults.MovingAverage || faults.Cycles || faults.Residual;
+bool AreReady(cycles::ChartStates const& states) {
+    return states.Quotes.IsReady() && states.MovingAverage.IsReady() && states.Cycles.IsReady() &&
+           states.Composite.IsReady() && states.Residual.IsReady();
 }
 
 bool AreAllActive(cycles::CycleParameterSet const& set) {
@@ -69,7 +70,7 @@ void RedrawWork::Redraw() {
 
 void RedrawWork::RequireFourCharts() const {
     if (program_->Quotes.WorkingCount != quotes::MaxQuotes || !AreAllActive(program_->Cycles) ||
-        HasFault(program_->Faults)) {
+        !AreReady(program_->Curves.States)) {
         throw std::runtime_error("The window does not show all four charts of the generated quotes.");
     }
 }

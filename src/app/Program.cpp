@@ -7,6 +7,10 @@
 
 namespace quorvex::app {
 
+chart::ChartContents ContentsOf(Program const& program) {
+    return {program.Quotes, program.Settings, program.Cycles, program.Curves};
+}
+
 void StartUp(Program& program, cycles::ParameterGrid& grid, platform::Profile const& profile,
              std::string_view programFolder) {
     program.ProgramFolder = programFolder;

@@ -4,11 +4,11 @@
 // The program-wide data.
 #pragma once
 
-#include "chart/ChartFaults.h"
+#include "chart/ChartContents.h"
+#include "chart/basCharts.h"
 #include "cycles/CycleCurves.h"
 #include "cycles/CycleParameterSet.h"
 #include "cycles/ParameterGrid.h"
-#include "platform/Canvas.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/Launcher.h"
@@ -17,7 +17,7 @@
 #include "platform/PendingMessages.h"
 #include "platform/Printer.h"
 #include "platform/Profile.h"
-#include "quotes/PriceScale.h"
+#include "platform/Registry.h"
 #include "quotes/QuoteSeries.h"
 #include "settings/Settings.h"
 
@@ -33,32 +33,32 @@ struct Program {
     settings::Settings Settings;
     quotes::QuoteSeries Quotes;
     cycles::CycleParameterSet Cycles;
-    cycles::CycleCurves Curves;
-    quotes::PriceScale PriceScale;
-    chart::ChartFaults Faults; // of the last redraw
-    std::string HelpFileName;  // the document that the help window shows, without folder
-    std::string ProgramFolder; // where the program keeps its files
+    cycles::CycleCurves Curves; // of the last redraw
+    std::string HelpFileName;   // the document that the help window shows, without folder
+    std::string ProgramFolder;  // where the program keeps its files
 };
 
-// The four chart boxes.
-struct ChartBoxes {
-    platform::Canvas& Pic1; // quotes and moving average
-    platform::Canvas& Pic2; // single cycles
-    platform::Canvas& Pic3; // composite
-    platform::Canvas& Pic4; // residual
-};
+// What the charts are drawn and read from.
+[[nodiscard]] chart::ChartContents ContentsOf(Program const& program);
 
-// The outside that commands work with.
-struct Services {
-    cycles::ParameterGrid& Grid;
-    ChartBoxes Boxes;
-    platform::Dialogs& Dialogs;
+// What the program needs of the system that it runs on.
+struct Host {
+    platform::Profile& Profile;
     platform::Files& Files;
-    platform::PendingMessages& Pending;
     platform::Launcher& Launcher;
-    platform::MainWindow& Window;
+    platform::Registry const& Registry;
     platform::PrintQueue& Printing;
     platform::MousePointer& Pointer;
+};
+
+// The outside that commands work with: the system, and the controls of the main window.
+struct Services {
+    Host System;
+    cycles::ParameterGrid& Grid;
+    chart::ChartBoxes Boxes;
+    platform::Dialogs& Dialogs;
+    platform::PendingMessages& Pending;
+    platform::MainWindow& Window;
 };
 
 // Brings the program to its state after start-up: zeros in the grid, the settings of the profile, the

@@ -3,7 +3,7 @@
 
 #include "app/basAnalysis.h"
 
-#include "app/basRedraw.h"
+#include "cycles/basComputation.h"
 #include "cycles/basCorrel.h"
 #include "cycles/basParameters.h"
 #include "platform/basMessages.h"
@@ -16,9 +16,9 @@ namespace quorvex::app {
 
 namespace {
 
-void Report(std::optional<text::RunTimeError> const& error, platform::Dialogs& dialogs) {
-    if (error) {
-        platform::ShowError(dialogs, *error);
+void Report(cycles::ChartState const& state, platform::Dialogs& dialogs) {
+    if (state.Fault) {
+        platform::ShowError(dialogs, *state.Fault);
     }
 }
 
@@ -51,26 +51,27 @@ bool NarrowDates(Program& program, platform::Dialogs& dialogs, AnalysisRequest c
     return narrowed && refusal.empty();
 }
 
-void ReadParameters(Program& program, Services& services, std::string const& path) {
+void ReadParameters(Program& program, AnalysisServices const& services, std::string const& path) {
     program.Cycles.ParameterFileName = path;
     cycles::ReadParameterFile(path, program.Cycles, services.Files, services.Dialogs);
     platform::RunReported(services.Dialogs, [&] { cycles::WriteGrid(program.Cycles, services.Grid); });
 }
 
 // Returns whether all cycles were fitted.
-bool FitCycles(Program& program, Services& services, int cycleCount, AnalysisResult& result) {
+bool FitCycles(Program& program, AnalysisServices const& services, int cycleCount,
+               std::vector<cycles::SinusoidFit>& fits) {
     if (cycleCount > 1) {
-        result.HasMovingAverage = RefreshMovingAverage(program, services.Boxes.Pic1);
+        cycles::RefreshMovingAverage(program.Quotes, program.Settings, program.Curves);
     }
     return platform::RunReported(services.Dialogs, [&] {
         cycles::AutomateCycles(cycleCount, program.Quotes.WorkingCount, program.Curves, program.Cycles,
-                               services.Grid, result.Fits);
+                               services.Grid, fits);
     });
 }
 
 void Correlate(Program const& program, AnalysisResult& result) {
     auto const error = text::Trap([&] {
-        if (result.HasMovingAverage) {
+        if (program.Curves.States.MovingAverage.IsReady()) {
             result.CorrelationCoefficient =
                 cycles::CoefficientOfCorrelation(program.Curves, program.Quotes.WorkingCount);
         }
@@ -90,14 +91,15 @@ Forecast ComputeWholeForecast(Program const& program) {
     return forecast;
 }
 
-// Takes cycles and residual up from the grid and forecasts with them.
-void FollowCycles(Program& program, Services& services, AnalysisResult& result) {
-    auto const faults = Redraw(program, services);
-    Report(faults.Cycles, services.Dialogs);
-    result.HasComposite = cycles::HasActiveCycle(program.Cycles) && !faults.Cycles;
-    if (result.HasComposite && result.HasMovingAverage) {
-        Report(faults.Residual, services.Dialogs);
-        result.HasResidual = !faults.Residual;
+// Takes the cycles up from the grid, computes everything and forecasts.
+void FollowCycles(Program& program, AnalysisServices const& services, AnalysisResult& result) {
+    platform::NoPendingMessages pending;
+    cycles::ReadGrid(services.Grid, program.Cycles, pending);
+    cycles::ComputeCurves(program.Quotes, program.Settings, program.Cycles, program.Curves);
+    cycles::ChartStates const& states = program.Curves.States;
+    Report(states.Composite, services.Dialogs); // which has the fault of the cycles, if they have one
+    if (states.Composite.IsReady() && states.MovingAverage.IsReady()) {
+        Report(states.Residual, services.Dialogs);
     }
     if (cycles::SumOfWeights(services.Grid) != 0) {
         platform::RunReported(services.Dialogs,
@@ -107,20 +109,20 @@ void FollowCycles(Program& program, Services& services, AnalysisResult& result) 
 
 } // namespace
 
-std::optional<AnalysisResult> Analyse(Program& program, Services& services, AnalysisRequest const& request) {
+std::optional<AnalysisResult> Analyse(Program& program, AnalysisServices const& services,
+                                      AnalysisRequest const& request) {
     if (quotes::LoadQuoteFile(program.Quotes, program.Settings, services.Files, services.Dialogs) == 0 ||
         !NarrowDates(program, services.Dialogs, request)) {
         return std::nullopt;
     }
     AnalysisResult result;
-    auto const faults = Redraw(program, services);
-    Report(faults.Quotes, services.Dialogs);
-    Report(faults.MovingAverage, services.Dialogs);
-    result.HasMovingAverage = !faults.Quotes && !faults.MovingAverage;
+    cycles::ComputeQuoteCurves(program.Quotes, program.Settings, program.Curves);
+    Report(program.Curves.States.Quotes, services.Dialogs);
+    Report(program.Curves.States.MovingAverage, services.Dialogs);
     if (request.ParameterPath) {
         ReadParameters(program, services, *request.ParameterPath);
     }
-    if (request.AutomatedCycles == 0 || FitCycles(program, services, request.AutomatedCycles, result)) {
+    if (request.AutomatedCycles == 0 || FitCycles(program, services, request.AutomatedCycles, result.Fits)) {
         FollowCycles(program, services, result);
     }
     Correlate(program, result);

@@ -10,6 +10,7 @@
 #include "cycles/basAutomate.h"
 #include "cycles/basForecast.h"
 #include "platform/Dialogs.h"
+#include "platform/Files.h"
 
 #include <optional>
 #include <string>
@@ -31,11 +32,16 @@ struct Forecast {
     std::vector<std::string> EstimatedValues;
 };
 
-// What an analysis leaves beside the program's data. What does not exist is empty.
+// What an analysis asks of the outside.
+struct AnalysisServices {
+    cycles::ParameterGrid& Grid;
+    platform::Files const& Files;
+    platform::Dialogs& Dialogs;
+};
+
+// What an analysis leaves beside the program's data, in whose curves stands what could not be computed. What
+// does not exist is empty.
 struct AnalysisResult {
-    bool HasMovingAverage = false;
-    bool HasComposite = false;
-    bool HasResidual = false;
     std::vector<cycles::SinusoidFit> Fits;
     std::optional<double> CorrelationCoefficient;
     platform::Message CorrelationMessage; // what the Correlation command would show
@@ -47,7 +53,7 @@ struct AnalysisResult {
 // started up. Messages and faults go to the dialogs; after them the analysis goes on with what there is,
 // only a fit that fails leaves no cycles. Nothing comes back when the quote file was refused or could not be
 // read, or when it has no such days as were asked for.
-[[nodiscard]] std::optional<AnalysisResult> Analyse(Program& program, Services& services,
+[[nodiscard]] std::optional<AnalysisResult> Analyse(Program& program, AnalysisServices const& services,
                                                     AnalysisRequest const& request);
 
 } // namespace quorvex::app

@@ -7,6 +7,7 @@
 #include "chart/basPlot.h"
 #include "chart/basPrint.h"
 #include "cycles/basAutomate.h"
+#include "cycles/basComputation.h"
 #include "cycles/basCorrel.h"
 #include "cycles/basForecast.h"
 #include "cycles/basParameters.h"
@@ -19,7 +20,7 @@ namespace quorvex::app {
 
 void FileOpen(Program& program, Services& services) {
     platform::RunReported(services.Dialogs, [&] {
-        quotes::OpenQuoteFile(program.Quotes, program.Settings, services.Files, services.Dialogs);
+        quotes::OpenQuoteFile(program.Quotes, program.Settings, services.System.Files, services.Dialogs);
         Redraw(program, services);
     });
 }
@@ -31,6 +32,7 @@ void FileClose(Program& program, Services& services) {
         chart::PrepareChart(services.Boxes.Pic4, program.Quotes.WorkingCount);
     }));
     quotes::CloseQuoteFile(program.Quotes);
+    cycles::MarkEmptyCharts(program.Quotes, program.Cycles, program.Curves.States);
     services.Window.SetCaption(Caption(program));
 }
 
@@ -40,7 +42,7 @@ void FileEdit(Program&, Services& services) {
 
 void FileSaveAs(Program& program, Services& services) {
     platform::RunReported(services.Dialogs, [&] {
-        quotes::SaveQuoteFileAs(program.Quotes, program.Settings, services.Files, services.Dialogs);
+        quotes::SaveQuoteFileAs(program.Quotes, program.Settings, services.System.Files, services.Dialogs);
         Redraw(program, services);
     });
 }
@@ -59,7 +61,8 @@ void FileConvertCustom(Program&, Services& services) {
 
 void FilePrint(Program& program, Services& services) {
     auto const print = [&] {
-        chart::PrintChart(services.Printing, services.Pointer, program.Quotes, program.Settings);
+        chart::PrintChart(services.System.Printing, services.System.Pointer, program.Quotes,
+                          program.Settings);
     };
     platform::RunReported(services.Dialogs, [&] {
         if (program.Quotes.HasQuotes()) {
@@ -73,7 +76,7 @@ void FilePrint(Program& program, Services& services) {
 }
 
 void FilePrintSetup(Program&, Services& services) {
-    platform::RunReported(services.Dialogs, [&] { services.Launcher.Start(platform::ControlPanel); });
+    platform::RunReported(services.Dialogs, [&] { services.System.Launcher.Start(platform::ControlPanel); });
 }
 
 void FileProperties(Program& program, Services& services) {
@@ -93,6 +96,7 @@ void ParametersNew(Program& program, Services& services) {
     platform::RunReported(services.Dialogs, [&] {
         if (cycles::NewParameters(program.Cycles, program.Curves.CompositeCurve, services.Grid,
                                   services.Dialogs)) {
+            cycles::MarkEmptyCharts(program.Quotes, program.Cycles, program.Curves.States);
             for (platform::Canvas* box : {&services.Boxes.Pic2, &services.Boxes.Pic3, &services.Boxes.Pic4}) {
                 chart::PrepareChart(*box, program.Quotes.WorkingCount);
             }
@@ -102,7 +106,7 @@ void ParametersNew(Program& program, Services& services) {
 
 void ParametersOpen(Program& program, Services& services) {
     platform::RunReported(services.Dialogs, [&] {
-        cycles::OpenParameters(program.Cycles, services.Grid, program.ProgramFolder, services.Files,
+        cycles::OpenParameters(program.Cycles, services.Grid, program.ProgramFolder, services.System.Files,
                                services.Dialogs);
     });
     Redraw(program, services);
@@ -127,7 +131,8 @@ void ParametersAutomate(int cycleCount, Program& program, Services& services) {
     platform::RunReported(services.Dialogs, [&] {
         // One cycle is fitted to the moving average as it stands.
         if (cycleCount > 1) {
-            RefreshMovingAverage(program, services.Boxes.Pic1);
+            chart::DrawQuoteChart(services.Boxes.Pic1, program.Quotes, program.Settings, program.Curves);
+            chart::DrawMovingAverage(services.Boxes.Pic1, program.Quotes, program.Settings, program.Curves);
         }
         std::vector<cycles::SinusoidFit> fits;
         cycles::AutomateCycles(cycleCount, program.Quotes.WorkingCount, program.Curves, program.Cycles,

@@ -6,6 +6,7 @@
 #include "chart/ChartColours.h"
 #include "chart/basQuoteStyles.h"
 #include "chart/basScale.h"
+#include "cycles/basComputation.h"
 #include "cycles/basCurves.h"
 #include "text/basFormats.h"
 
@@ -49,15 +50,26 @@ void PrepareChart(platform::Canvas& box, std::int16_t workingCount) {
     DrawDashes(box, step, height * 3 / 4);
 }
 
-ChartFaults DrawQuoteChart(platform::Canvas& box, quotes::QuoteSeries const& series,
-                           settings::Settings const& settings, quotes::PriceScale& scale,
-                           cycles::QuoteCurve& movingAverageCurve) {
-    ChartFaults faults;
-    if (!series.HasQuotes()) {
-        return faults;
+void DrawQuoteChart(platform::Canvas& box, quotes::QuoteSeries const& series,
+                    settings::Settings const& settings, cycles::CycleCurves& curves) {
+    cycles::ComputeQuoteCurves(series, settings, curves);
+    PlotQuotes(box, series, settings, curves);
+}
+
+void DrawMovingAverage(platform::Canvas& box, quotes::QuoteSeries const& series,
+                       settings::Settings const& settings, cycles::CycleCurves& curves) {
+    cycles::RefreshMovingAverage(series, settings, curves);
+    PlotMovingAverage(box, series.WorkingCount, curves);
+}
+
+void PlotQuotes(platform::Canvas& box, quotes::QuoteSeries const& series, settings::Settings const& settings,
+                cycles::CycleCurves const& curves) {
+    cycles::ChartState const& state = curves.States.Quotes;
+    if (state.Missing) {
+        return;
     }
-    faults.Quotes = text::Trap([&] {
-        scale = ComputePriceScale(series);
+    quotes::PriceScale const& scale = curves.PriceScale;
+    static_cast<void>(text::Trap([&] {
         QuotePlot const plot{box,
                              series,
                              0,
@@ -67,36 +79,26 @@ ChartFaults DrawQuoteChart(platform::Canvas& box, quotes::QuoteSeries const& ser
         PrepareChart(box, series.WorkingCount);
         box.SetForeColour(Black);
         DrawQuotes(plot, settings.ChartType);
-        faults.MovingAverage =
-            DrawMovingAverage(box, series, settings.MovingAverageIndex, scale, movingAverageCurve);
-        DrawPriceLabels(box, scale.PriceScaleHigh, scale.PriceScaleLow, settings.CurrencyFormat);
-    });
-    return faults;
+        if (state.IsReady()) {
+            PlotMovingAverage(box, series.WorkingCount, curves);
+            DrawPriceLabels(box, scale.PriceScaleHigh, scale.PriceScaleLow, settings.CurrencyFormat);
+        }
+    }));
 }
 
-std::optional<text::RunTimeError> DrawMovingAverage(platform::Canvas& box, quotes::QuoteSeries const& series,
-                                                    std::string_view movingAverageIndex,
-                                                    quotes::PriceScale const& scale,
-                                                    cycles::QuoteCurve& movingAverageCurve) {
-    return text::Trap([&] {
-        std::int16_t const length = cycles::MovingAverageLength(movingAverageIndex);
-        cycles::ComputeMovingAverage(series, length, movingAverageCurve);
-        DrawMovingAverageCurve(box, movingAverageCurve, length, series.WorkingCount, scale);
-    });
-}
-
-void DrawMovingAverageCurve(platform::Canvas& box, cycles::QuoteCurve const& movingAverageCurve,
-                            std::int16_t length, std::int16_t workingCount, quotes::PriceScale const& scale) {
-    if (length == 0) {
+void PlotMovingAverage(platform::Canvas& box, std::int16_t workingCount, cycles::CycleCurves const& curves) {
+    if (!curves.States.MovingAverage.IsReady() || curves.MovingAverageLength == 0) {
         return;
     }
-    VerticalScale const prices = ScalePrices(scale, box.Height());
-    double const step = ColumnStep(box.Width(), workingCount);
-    box.SetForeColour(MovingAverageColour);
-    box.Point(step, prices.Y(movingAverageCurve[1]), MovingAverageColour);
-    for (int day = 2; day <= workingCount; ++day) {
-        box.LineTo(day * step, prices.Y(movingAverageCurve[day]), MovingAverageColour);
-    }
+    static_cast<void>(text::Trap([&] {
+        VerticalScale const prices = ScalePrices(curves.PriceScale, box.Height());
+        double const step = ColumnStep(box.Width(), workingCount);
+        box.SetForeColour(MovingAverageColour);
+        box.Point(step, prices.Y(curves.MovingAverageCurve[1]), MovingAverageColour);
+        for (int day = 2; day <= workingCount; ++day) {
+            box.LineTo(day * step, prices.Y(curves.MovingAverageCurve[day]), MovingAverageColour);
+        }
+    }));
 }
 
 void DrawPriceLabels(platform::Canvas& box, double top, double bottom, std::string_view currencyFormat) {

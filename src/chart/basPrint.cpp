@@ -5,6 +5,7 @@
 
 #include "chart/basQuoteStyles.h"
 #include "chart/basScale.h"
+#include "quotes/PriceScale.h"
 #include "text/basFormats.h"
 
 #include <string>
@@ -40,7 +41,7 @@ std::string DocumentName(quotes::QuoteSeries const& series) {
 // The prices at the chart's edges, such that those of the quotes fill nine tenths of its height.
 quotes::PriceScale PrintedPriceScale(quotes::QuoteSeries const& series) {
     constexpr double FilledShare = 0.9;
-    quotes::PriceScale const range = ComputePriceRange(series);
+    quotes::PriceScale const range = quotes::ComputePriceRange(series);
     double const sum = range.PriceScaleHigh + range.PriceScaleLow;
     double const height = (range.PriceScaleHigh - range.PriceScaleLow) / FilledShare;
     return {text::RequireFinite((height + sum) * 0.5), text::RequireFinite((sum - height) * 0.5)};

@@ -4,6 +4,7 @@
 #include "chart/basQuoteStyles.h"
 
 #include "chart/ChartColours.h"
+#include "settings/ChartTypes.h"
 
 #include <algorithm>
 
@@ -63,12 +64,16 @@ void DrawDays(QuotePlot const& plot, DrawDay drawDay) {
 } // namespace
 
 void DrawQuotes(QuotePlot const& plot, std::string_view chartType) {
-    if (chartType == "Daily Bar Chart") {
+    switch (settings::ChartTypeOf(chartType).Style) {
+    case settings::QuoteStyle::Bars:
         DrawDays(plot, DrawBar);
-    } else if (chartType == "Candlestick Chart") {
+        break;
+    case settings::QuoteStyle::Candles:
         DrawDays(plot, DrawCandle);
-    } else {
+        break;
+    case settings::QuoteStyle::Line:
         DrawCloses(plot);
+        break;
     }
 }
 

@@ -35,7 +35,7 @@ struct QuotePlot {
     QuoteShapes Shapes;
 };
 
-// Draws the working days as bars, candles or, for any other chart type, a line of the closes.
+// Draws the working days in the style of the chart type.
 void DrawQuotes(QuotePlot const& plot, std::string_view chartType);
 
 } // namespace quorvex::chart

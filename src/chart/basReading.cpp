@@ -4,6 +4,7 @@
 #include "chart/basReading.h"
 
 #include "cycles/basCurves.h"
+#include "settings/ChartTypes.h"
 #include "text/RunTimeError.h"
 #include "text/basFormats.h"
 
@@ -11,7 +12,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
-#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -36,7 +36,8 @@ std::string Count(int count, std::string_view noun) {
     return Join({std::to_string(count), " ", noun, count == 1 ? "" : "s"});
 }
 
-bool HasWorkingDays(quotes::QuoteSeries const& series) {
+// Whether the days shown are those of quotes.
+bool HasDates(quotes::QuoteSeries const& series) {
     return series.HasQuotes() && series.WorkingCount > 0;
 }
 
@@ -45,7 +46,7 @@ std::vector<std::string> NameDays(quotes::QuoteSeries const& series) {
     std::vector<std::string> days;
     days.reserve(static_cast<std::size_t>(count));
     for (int day = 1; day <= count; ++day) {
-        days.push_back(HasWorkingDays(series) ? series.Working[day].Date : "Day " + std::to_string(day));
+        days.push_back(HasDates(series) ? series.Working[day].Date : "Day " + std::to_string(day));
     }
     return days;
 }
@@ -54,7 +55,7 @@ std::vector<std::string> NameDays(quotes::QuoteSeries const& series) {
 std::string DescribeSpan(quotes::QuoteSeries const& series) {
     int const count = cycles::CurveDays(series.WorkingCount);
     std::string days = Count(count, "day");
-    if (!HasWorkingDays(series)) {
+    if (!HasDates(series)) {
         return days;
     }
     std::string const& first = series.Working[1].Date;
@@ -80,46 +81,27 @@ double Highest(Row const& row) {
     return *std::max_element(row.Values.begin(), row.Values.end());
 }
 
-// How the style of the quote chart is read. What a line chart shows of the quotes is their closes.
-struct QuoteStyle {
-    std::string_view Name;
-    bool ClosesAlone = false;
-};
-
-QuoteStyle StyleOf(std::string_view chartType) {
-    if (chartType == "Daily Bar Chart") {
-        return {"Daily bar chart", false};
-    }
-    if (chartType == "Candlestick Chart") {
-        return {"Candlestick chart", false};
-    }
-    return {"Line chart", true};
-}
-
 // Adds the moving average to what is read of the quotes, unless its length is 0.
-void ReadMovingAverage(ChartReading& reading, ChartContents const& contents,
-                       std::optional<text::RunTimeError> fault) {
-    std::int16_t length = 0;
-    if (!fault) {
-        fault =
-            text::Trap([&] { length = cycles::MovingAverageLength(contents.Settings.MovingAverageIndex); });
-    }
-    if (fault) {
+void ReadMovingAverage(ChartReading& reading, ChartContents const& contents) {
+    cycles::CycleCurves const& curves = contents.Curves;
+    if (auto const& fault = curves.States.MovingAverage.Fault) {
         reading.Description += Join({" The moving average could not be drawn: ", fault->Description(), "."});
-    } else if (length != 0) {
+    } else if (curves.MovingAverageLength != 0) {
         Row average = MakeRow("Moving average", contents.Series.WorkingCount,
-                              [&](int day) { return contents.Curves.MovingAverageCurve[day]; });
+                              [&](int day) { return curves.MovingAverageCurve[day]; });
         // Every length below 2 gives the closes themselves.
-        reading.Description +=
-            Join({" ", std::to_string(std::max<int>(length, 1)), "-day moving average, last value ",
-                  text::FormatNumber(average.Values.back(), reading.NumberFormat), "."});
+        reading.Description += Join({" ", std::to_string(std::max<int>(curves.MovingAverageLength, 1)),
+                                     "-day moving average, last value ",
+                                     text::FormatNumber(average.Values.back(), reading.NumberFormat), "."});
         reading.Rows.push_back(std::move(average));
     }
 }
 
-void ReadQuotes(ChartReading& reading, ChartContents const& contents, ChartFaults const& faults) {
+void ReadQuotes(ChartReading& reading, ChartContents const& contents) {
     quotes::QuoteSeries const& series = contents.Series;
-    QuoteStyle const style = StyleOf(contents.Settings.ChartType);
+    settings::ChartTypeRow const& type = settings::ChartTypeOf(contents.Settings.ChartType);
+    // What a line shows of the quotes is their closes.
+    bool const closesAlone = type.Style == settings::QuoteStyle::Line;
     reading.NumberFormat = contents.Settings.CurrencyFormat;
     auto row = [&series](char const* name, double quotes::QuoteRecord::*price) {
         return MakeRow(name, series.WorkingCount, [&](int day) { return series.Working[day].*price; });
@@ -128,17 +110,17 @@ void ReadQuotes(ChartReading& reading, ChartContents const& contents, ChartFault
     Row const low = row("Low", &quotes::QuoteRecord::Low);
     Row const close = row("Close", &quotes::QuoteRecord::Close);
     text::NumberFormat const price(reading.NumberFormat);
-    std::string_view const noun = style.ClosesAlone ? " close" : "";
-    reading.Description = Join({style.Name, " of ", DescribeSpan(series), ". Lowest", noun, " ",
-                                price.Format(Lowest(style.ClosesAlone ? close : low)), ", highest", noun, " ",
-                                price.Format(Highest(style.ClosesAlone ? close : high)), ", last close ",
+    std::string_view const noun = closesAlone ? " close" : "";
+    reading.Description = Join({type.InSpeech, " of ", DescribeSpan(series), ". Lowest", noun, " ",
+                                price.Format(Lowest(closesAlone ? close : low)), ", highest", noun, " ",
+                                price.Format(Highest(closesAlone ? close : high)), ", last close ",
                                 price.Format(close.Values.back()), "."});
-    if (style.ClosesAlone) {
+    if (closesAlone) {
         reading.Rows = {close};
     } else {
         reading.Rows = {row("Open", &quotes::QuoteRecord::Open), high, low, close};
     }
-    ReadMovingAverage(reading, contents, faults.MovingAverage);
+    ReadMovingAverage(reading, contents);
 }
 
 void ReadCycles(ChartReading& reading, ChartContents const& contents) {
@@ -179,14 +161,14 @@ void ReadSingleCurve(ChartReading& reading, std::string_view title, std::string 
     reading.Rows.push_back(std::move(row));
 }
 
-// Reads a chart that was drawn to its end.
-ChartReading ReadDrawing(ChartKind kind, ChartContents const& contents, ChartFaults const& faults) {
+// Reads a chart that is ready.
+ChartReading ReadDrawing(ChartKind kind, ChartContents const& contents) {
     ChartReading reading;
     reading.Days = NameDays(contents.Series);
     reading.NumberFormat = CycleUnits;
     switch (kind) {
     case ChartKind::Quotes:
-        ReadQuotes(reading, contents, faults);
+        ReadQuotes(reading, contents);
         break;
     case ChartKind::Cycles:
         ReadCycles(reading, contents);
@@ -203,29 +185,27 @@ ChartReading ReadDrawing(ChartKind kind, ChartContents const& contents, ChartFau
     return reading;
 }
 
-// Why there was nothing to draw; empty when there was something.
-std::string_view ReasonOfEmptiness(ChartKind kind, ChartContents const& contents) {
-    bool const needsQuotes = kind == ChartKind::Quotes || kind == ChartKind::Residual;
-    if (needsQuotes && !contents.Series.HasQuotes()) {
+std::string_view ReasonOf(cycles::Need missing) {
+    switch (missing) {
+    case cycles::Need::QuoteFile:
         return "No quote file is open.";
-    }
-    if (needsQuotes && !HasWorkingDays(contents.Series)) {
+    case cycles::Need::Quotes:
         return "There are no quotes to show.";
-    }
-    if (kind != ChartKind::Quotes && !cycles::HasActiveCycle(contents.Cycles)) {
+    default:
         return "No cycle is active.";
     }
-    return {};
 }
 
-std::optional<text::RunTimeError> const& FaultOf(ChartKind kind, ChartFaults const& faults) {
+cycles::ChartState const& StateOf(ChartKind kind, cycles::ChartStates const& states) {
     switch (kind) {
     case ChartKind::Quotes:
-        return faults.Quotes;
-    case ChartKind::Residual:
-        return faults.Cycles ? faults.Cycles : faults.Residual;
+        return states.Quotes;
+    case ChartKind::Cycles:
+        return states.Cycles;
+    case ChartKind::Composite:
+        return states.Composite;
     default:
-        return faults.Cycles;
+        return states.Residual;
     }
 }
 
@@ -250,14 +230,15 @@ ChartReading MakeEmptyReading(std::string description) {
 
 } // namespace
 
-ChartReading ReadChart(ChartKind kind, ChartContents const& contents, ChartFaults const& faults) {
-    if (auto const reason = ReasonOfEmptiness(kind, contents); !reason.empty()) {
-        return MakeEmptyReading(std::string(reason));
+ChartReading ReadChart(ChartKind kind, ChartContents const& contents) {
+    cycles::ChartState const& state = StateOf(kind, contents.Curves.States);
+    if (state.Missing) {
+        return MakeEmptyReading(std::string(ReasonOf(*state.Missing)));
     }
     ChartReading reading;
-    auto fault = FaultOf(kind, faults);
+    auto fault = state.Fault;
     if (!fault) {
-        fault = text::Trap([&] { reading = ReadDrawing(kind, contents, faults); });
+        fault = text::Trap([&] { reading = ReadDrawing(kind, contents); });
     }
     if (fault) {
         return MakeEmptyReading(Join({SubjectOf(kind), " could not be drawn: ", fault->Description(), "."}));

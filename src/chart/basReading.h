@@ -5,26 +5,12 @@
 // people who do not see it.
 #pragma once
 
-#include "chart/ChartFaults.h"
-#include "cycles/CycleCurves.h"
-#include "cycles/CycleParameterSet.h"
-#include "quotes/QuoteSeries.h"
-#include "settings/Settings.h"
+#include "chart/ChartContents.h"
 
 #include <string>
 #include <vector>
 
 namespace quorvex::chart {
-
-enum class ChartKind { Quotes, Cycles, Composite, Residual };
-
-// What the charts are drawn from.
-struct ChartContents {
-    quotes::QuoteSeries const& Series;
-    settings::Settings const& Settings;
-    cycles::CycleParameterSet const& Cycles;
-    cycles::CycleCurves const& Curves;
-};
 
 // What one box shows, copied when it was drawn: the data change while a drawing stays in its box, as the
 // cycles do when the quote file is closed. A box without a drawing has a description and no days.
@@ -41,10 +27,9 @@ struct ChartReading {
     std::string NumberFormat; // of all rows
 };
 
-// Reads one box that was just drawn, prepared or emptied. The contents are those that it was drawn from, the
-// faults those of that drawing; whatever a fault left incomplete is said to be missing. Raises no fault.
-[[nodiscard]] ChartReading ReadChart(ChartKind kind, ChartContents const& contents,
-                                     ChartFaults const& faults);
+// Reads one box that was just drawn, prepared or emptied, with the contents that it was drawn from. Of a
+// chart that is empty or ended with a fault it says why. Raises no fault.
+[[nodiscard]] ChartReading ReadChart(ChartKind kind, ChartContents const& contents);
 
 // The tool tip of a day, counted from 1: the day and then each value drawn there, one to the line. Empty for
 // a day that the box does not show.

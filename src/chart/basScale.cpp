@@ -8,29 +8,6 @@
 
 namespace quorvex::chart {
 
-quotes::PriceScale ComputePriceRange(quotes::QuoteSeries const& series) {
-    double maximum = -9999999;
-    double minimum = 9999999;
-    for (int day = 1; day <= series.WorkingCount; ++day) {
-        quotes::QuoteRecord const& quote = series.Working[day];
-        if (quote.High >= maximum) {
-            maximum = quote.High;
-        }
-        if (quote.Low < minimum) {
-            minimum = quote.Low;
-        }
-    }
-    return {maximum, minimum};
-}
-
-quotes::PriceScale ComputePriceScale(quotes::QuoteSeries const& series) {
-    constexpr double Margin = 0.1;
-    auto [maximum, minimum] = ComputePriceRange(series);
-    maximum = maximum + Margin * (maximum - minimum);
-    minimum = minimum - Margin * (maximum - minimum);
-    return {text::RequireFinite(maximum), text::RequireFinite(minimum)};
-}
-
 int ColumnAt(double x, double width, int columns) {
     double const step = ColumnStep(width, columns);
     if (!(step > 0)) {

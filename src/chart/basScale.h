@@ -5,18 +5,9 @@
 #pragma once
 
 #include "quotes/PriceScale.h"
-#include "quotes/QuoteSeries.h"
 #include "text/RunTimeError.h"
 
 namespace quorvex::chart {
-
-// The highest High and the lowest Low of the working days. Without days the high end, -9999999, lies below
-// the low end, 9999999.
-[[nodiscard]] quotes::PriceScale ComputePriceRange(quotes::QuoteSeries const& series);
-
-// The range from the lowest Low to the highest High of the working days, widened by a tenth at the top and
-// then by a tenth of the widened range at the bottom: the larger margin is meant (docs/behaviour.md).
-[[nodiscard]] quotes::PriceScale ComputePriceScale(quotes::QuoteSeries const& series);
 
 // The distance of two columns in a box of this width, which leaves a column's width empty at each end: column
 // i stands at i times this.

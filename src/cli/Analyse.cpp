@@ -34,7 +34,7 @@ ExitStatus Analyse(AnalyseOptions const& options, platform::Console const& conso
     } else {
         output = AnalysisReport(session.Program(), session.Grid(), *result);
         if (console.IsTerminal()) {
-            output += '\n' + CharacterChart(session.Program(), *result, console.Width());
+            output += '\n' + CharacterChart(session.Program(), console.Width());
         }
     }
     return session.Status(Print(output));

@@ -101,6 +101,10 @@ std::string AnalysisJson(app::Program const& program, cycles::ParameterGrid cons
     cycles::CycleCurves const& curves = program.Curves;
     int const n = series.WorkingCount;
     int const lastDay = n + cycles::ForecastDays;
+    bool const hasAverage = curves.States.MovingAverage.IsReady();
+    bool const hasComposite = curves.States.Composite.IsReady();
+    // In the window a residual can rest on the moving average of other quotes.
+    bool const hasResidual = curves.States.Residual.IsReady() && hasAverage;
     Json json;
     json["QuoteFileName"] = series.QuoteFileName;
     json["QuoteCount"] = series.QuoteCount;
@@ -108,13 +112,13 @@ std::string AnalysisJson(app::Program const& program, cycles::ParameterGrid cons
     json["FirstQuoteDate"] = series.FirstQuoteDate;
     json["LastQuoteDate"] = series.LastQuoteDate;
     json["Quotes"] = QuotesJson(series);
-    json["MovingAverageCurve"] = result.HasMovingAverage ? ArrayOf(curves.MovingAverageCurve, n) : Json();
-    json["PriceScaleHigh"] = program.PriceScale.PriceScaleHigh;
-    json["PriceScaleLow"] = program.PriceScale.PriceScaleLow;
+    json["MovingAverageCurve"] = hasAverage ? ArrayOf(curves.MovingAverageCurve, n) : Json();
+    json["PriceScaleHigh"] = curves.PriceScale.PriceScaleHigh;
+    json["PriceScaleLow"] = curves.PriceScale.PriceScaleLow;
     json["Grid"] = GridJson(grid);
-    json["Cycles"] = result.HasComposite ? CyclesJson(program.Cycles, lastDay) : Json();
-    json["CompositeCurve"] = result.HasComposite ? ArrayOf(curves.CompositeCurve, lastDay) : Json();
-    json["ResidualCurve"] = result.HasResidual ? ArrayOf(curves.ResidualCurve, n) : Json();
+    json["Cycles"] = hasComposite ? CyclesJson(program.Cycles, lastDay) : Json();
+    json["CompositeCurve"] = hasComposite ? ArrayOf(curves.CompositeCurve, lastDay) : Json();
+    json["ResidualCurve"] = hasResidual ? ArrayOf(curves.ResidualCurve, n) : Json();
     json["Fits"] = result.Fits.empty() ? Json() : FitsJson(result.Fits);
     json["Correlation"] = CorrelationJson(result);
     json["Forecast"] = result.ForecastShown ? ForecastJson(*result.ForecastShown) : Json();

@@ -3,7 +3,7 @@
 
 #include "cli/AnalysisSession.h"
 
-#include "app/basRedraw.h"
+#include "platform/Profile.h"
 
 namespace quorvex::cli {
 
@@ -14,15 +14,12 @@ AnalysisSession::AnalysisSession(AnalysisOptions const& options) : request_(opti
 }
 
 std::optional<app::AnalysisResult> AnalysisSession::Analyse() {
-    platform::BlankCanvas blank;
-    app::Services services{
-        grid_,   {blank, blank, blank, blank}, dialogs_, files_, pending_, launcher_, window_, printing_,
-        pointer_};
-    return app::Analyse(*program_, services, request_);
+    return app::Analyse(*program_, {.Grid = grid_, .Files = files_, .Dialogs = dialogs_}, request_);
 }
 
-void AnalysisSession::DrawCharts(app::ChartBoxes const& boxes) {
-    app::DrawCharts(*program_, boxes);
+void AnalysisSession::DrawCharts(chart::ChartBoxes const& boxes) const {
+    chart::PrepareCharts(boxes, program_->Quotes.WorkingCount);
+    chart::DrawCharts(app::ContentsOf(*program_), boxes);
 }
 
 ExitStatus AnalysisSession::Status(bool written) const {

@@ -5,10 +5,10 @@
 
 #include "app/Program.h"
 #include "app/basAnalysis.h"
+#include "chart/basCharts.h"
 #include "cli/AnalysisOptions.h"
 #include "cli/ConsoleDialogs.h"
 #include "cli/SubCommand.h"
-#include "platform/BlankCanvas.h"
 #include "platform/disk/DiskFiles.h"
 
 #include <memory>
@@ -25,7 +25,7 @@ public:
     [[nodiscard]] std::optional<app::AnalysisResult> Analyse();
 
     // Draws what the analysis left on these boxes.
-    void DrawCharts(app::ChartBoxes const& boxes);
+    void DrawCharts(chart::ChartBoxes const& boxes) const;
 
     [[nodiscard]] app::Program const& Program() const { return *program_; }
 
@@ -44,11 +44,6 @@ private:
     cycles::TextGrid grid_;
     ConsoleDialogs dialogs_;
     platform::disk::DiskFiles files_;
-    platform::NoPendingMessages pending_;
-    platform::NoLauncher launcher_;
-    platform::NoMainWindow window_;
-    platform::NoPrintQueue printing_;
-    platform::NoMousePointer pointer_;
 };
 
 } // namespace quorvex::cli

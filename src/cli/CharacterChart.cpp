@@ -57,7 +57,7 @@ double PriceOf(double cycleUnits, quotes::PriceScale const& scale) {
 }
 
 std::array<std::string, Rows> AxisLabels(app::Program const& program) {
-    quotes::PriceScale const& scale = program.PriceScale;
+    quotes::PriceScale const& scale = program.Curves.PriceScale;
     text::NumberFormat const format(program.Settings.CurrencyFormat);
     std::array<std::string, Rows> labels;
     labels.front() = format.Format(scale.PriceScaleHigh);
@@ -69,27 +69,27 @@ std::array<std::string, Rows> AxisLabels(app::Program const& program) {
 
 } // namespace
 
-std::string CharacterChart(app::Program const& program, app::AnalysisResult const& result, int width) {
-    // Prices without a range have a moving average and no place on an axis.
-    if (!result.HasMovingAverage || program.PriceScale.PriceScaleHigh == program.PriceScale.PriceScaleLow) {
+std::string CharacterChart(app::Program const& program, int width) {
+    cycles::CycleCurves const& curves = program.Curves;
+    if (!curves.States.Quotes.IsReady()) {
         return {};
     }
+    bool const hasComposite = curves.States.Composite.IsReady();
     auto const labels = AxisLabels(program);
     std::size_t labelWidth = 0;
     for (std::string const& label : labels) {
         labelWidth = std::max(labelWidth, label.size());
     }
     int const n = program.Quotes.WorkingCount;
-    int const days = result.HasComposite ? n + cycles::ForecastDays : n;
+    int const days = hasComposite ? n + cycles::ForecastDays : n;
     int const room = std::clamp(width - static_cast<int>(labelWidth) - 3, LeastColumns, MostColumns);
     int const columns = std::min(room, days);
 
-    CharacterCanvas canvas(columns, program.PriceScale);
+    CharacterCanvas canvas(columns, curves.PriceScale);
     for (int column = 0; column < columns; ++column) {
         int const day = (column + 1) * days / columns;
-        if (result.HasComposite) {
-            canvas.Mark(column, PriceOf(program.Curves.CompositeCurve[day], program.PriceScale),
-                        CompositeMark);
+        if (hasComposite) {
+            canvas.Mark(column, PriceOf(curves.CompositeCurve[day], curves.PriceScale), CompositeMark);
         }
         if (day <= n) {
             canvas.Mark(column, program.Quotes.Working[day].Close, CloseMark);
@@ -104,9 +104,9 @@ std::string CharacterChart(app::Program const& program, app::AnalysisResult cons
     }
     chart +=
         std::string(labelWidth + 1, ' ') + '+' + std::string(static_cast<std::size_t>(columns), '-') + '\n';
-    chart += std::string(labelWidth + 2, ' ') + "* close" +
-             (result.HasComposite ? "   o composite   @ both" : "") + "   " + program.Quotes.FirstQuoteDate +
-             " to " + program.Quotes.LastQuoteDate + (result.HasComposite ? " and 25 days on" : "") + '\n';
+    chart += std::string(labelWidth + 2, ' ') + "* close" + (hasComposite ? "   o composite   @ both" : "") +
+             "   " + program.Quotes.FirstQuoteDate + " to " + program.Quotes.LastQuoteDate +
+             (hasComposite ? " and 25 days on" : "") + '\n';
     return chart;
 }
 

@@ -48,7 +48,7 @@ ChartSheet::ChartSheet(WindowSize const& window)
                  {places_[2].Width, places_[2].Height},
                  {places_[3].Width, places_[3].Height}}} {}
 
-app::ChartBoxes ChartSheet::Boxes() {
+chart::ChartBoxes ChartSheet::Boxes() {
     return {drawings_[0], drawings_[1], drawings_[2], drawings_[3]};
 }
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "app/Program.h"
 #include "app/layout/basLayout.h"
+#include "chart/basCharts.h"
 #include "platform/PictureEncoder.h"
 #include "platform/RecordingCanvas.h"
 
@@ -28,7 +28,7 @@ public:
     // The window must have charts.
     explicit ChartSheet(WindowSize const& window);
 
-    [[nodiscard]] app::ChartBoxes Boxes();
+    [[nodiscard]] chart::ChartBoxes Boxes();
 
     [[nodiscard]] std::array<platform::RecordingCanvas const*, 4> Drawings() const;
 

@@ -41,16 +41,4 @@ public:
     virtual void End() = 0;
 };
 
-// For runs without a window.
-class NoMainWindow final : public MainWindow {
-public:
-    void SetCaption(std::string_view) override {}
-
-    void LayOut() override {}
-
-    void Open(SecondaryWindow) override {}
-
-    void End() override {}
-};
-
 } // namespace quorvex::platform

@@ -42,8 +42,13 @@ public:
     platform::fake::RecordingLauncher Launcher;
     platform::fake::RecordingWindow Window;
     platform::fake::RecordingPrintQueue Printing;
-    Services Outside{Grid,    {Pic1, Pic2, Pic3, Pic4}, Dialogs, Files, Pending, Launcher, Window, Printing,
-                     Printing};
+    platform::NoRegistry Registry;
+    Services Outside{.System = {Profile, Files, Launcher, Registry, Printing, Printing},
+                     .Grid = Grid,
+                     .Boxes = {Pic1, Pic2, Pic3, Pic4},
+                     .Dialogs = Dialogs,
+                     .Pending = Pending,
+                     .Window = Window};
 };
 
 } // namespace quorvex::app

@@ -26,8 +26,11 @@ protected:
     std::optional<AnalysisResult> Run(std::string const& quotes, AnalysisRequest const& request = {}) {
         running.Files.Contents["C:\\Quorvex\\q.txt"] = quotes;
         running.Data->Quotes.QuoteFileName = "q.txt";
-        return Analyse(*running.Data, running.Outside, request);
+        return Analyse(*running.Data,
+                       {.Grid = running.Grid, .Files = running.Files, .Dialogs = running.Dialogs}, request);
     }
+
+    [[nodiscard]] cycles::ChartStates const& States() const { return running.Data->Curves.States; }
 
     RunningProgram running;
 };
@@ -35,9 +38,9 @@ protected:
 TEST_F(Analysis, WithoutCyclesHasAMovingAverageOnly) {
     auto const result = Run(QuoteLines(30));
     ASSERT_TRUE(result);
-    EXPECT_TRUE(result->HasMovingAverage);
-    EXPECT_FALSE(result->HasComposite);
-    EXPECT_FALSE(result->HasResidual);
+    EXPECT_TRUE(States().MovingAverage.IsReady());
+    EXPECT_FALSE(States().Composite.IsReady());
+    EXPECT_FALSE(States().Residual.IsReady());
     EXPECT_FALSE(result->CorrelationCoefficient);
     EXPECT_EQ(result->CorrelationMessage.Text, "Insufficient data to perform correlation");
     EXPECT_FALSE(result->ForecastShown);
@@ -52,7 +55,7 @@ TEST_F(Analysis, OfARefusedFileIsNone) {
 TEST_F(Analysis, WithAFitHasEverything) {
     auto const result = Run(GoldenFile("quotes/q250.txt"), {std::nullopt, 3, "", ""});
     ASSERT_TRUE(result);
-    EXPECT_TRUE(result->HasResidual);
+    EXPECT_TRUE(States().Residual.IsReady());
     EXPECT_EQ(result->Fits.size(), 3U);
     ASSERT_TRUE(result->CorrelationCoefficient);
     ASSERT_TRUE(result->ForecastShown);
@@ -75,7 +78,7 @@ TEST_F(Analysis, ReadsParametersThroughTheGrid) {
     ASSERT_TRUE(result);
     EXPECT_EQ(running.Data->Cycles.Cycles[1].Weight, 25);
     EXPECT_EQ(running.Data->Cycles.Cycles[1].Period, 40);
-    EXPECT_TRUE(result->HasComposite);
+    EXPECT_TRUE(States().Composite.IsReady());
     EXPECT_TRUE(result->Fits.empty());
 }
 
@@ -83,8 +86,8 @@ TEST_F(Analysis, GoesOnAfterAnUnreadableParameterFile) {
     auto const result = Run(QuoteLines(30), {"C:\\Quorvex\\gone.dat", 0, "", ""});
     ASSERT_TRUE(result);
     EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "File not found", "Quorvex", Icon::None));
-    EXPECT_TRUE(result->HasMovingAverage);
-    EXPECT_FALSE(result->HasComposite);
+    EXPECT_TRUE(States().MovingAverage.IsReady());
+    EXPECT_FALSE(States().Composite.IsReady());
 }
 
 TEST_F(Analysis, FollowsANarrowedRange) {
@@ -138,8 +141,8 @@ TEST_F(Analysis, OfPricesWithoutARangeFitsTheirMovingAverage) {
     }
     auto const result = Run(text, {std::nullopt, 2, "", ""});
     ASSERT_TRUE(result);
-    EXPECT_TRUE(result->HasMovingAverage);
-    EXPECT_FALSE(result->HasResidual);
+    EXPECT_TRUE(States().MovingAverage.IsReady());
+    EXPECT_FALSE(States().Residual.IsReady());
 }
 
 TEST_F(Analysis, ReportsAMovingAverageLongerThanTheSeries) {
@@ -147,7 +150,7 @@ TEST_F(Analysis, ReportsAMovingAverageLongerThanTheSeries) {
     auto const result = Run(QuoteLines(30));
     ASSERT_TRUE(result);
     EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Subscript out of range", "Quorvex", Icon::None));
-    EXPECT_FALSE(result->HasMovingAverage);
+    EXPECT_FALSE(States().MovingAverage.IsReady());
     EXPECT_FALSE(result->CorrelationCoefficient);
 }
 
@@ -181,8 +184,8 @@ TEST_F(Analysis, ReportsAFitThatFails) {
     auto const result = Run(flat, {std::nullopt, 2, "", ""});
     ASSERT_TRUE(result);
     EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Division by zero", "Quorvex", Icon::None));
-    EXPECT_TRUE(result->HasMovingAverage);
-    EXPECT_FALSE(result->HasComposite);
+    EXPECT_TRUE(States().MovingAverage.IsReady());
+    EXPECT_FALSE(States().Composite.IsReady());
     EXPECT_FALSE(result->ForecastShown);
 }
 

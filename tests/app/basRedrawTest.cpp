@@ -36,8 +36,9 @@ TEST(Redraw, TakesUpWhatWasTyped) {
     RunningProgram running;
     running.Open("q.txt", tests::GoldenFile("quotes/q060.txt"));
     running.TypeCycle(1, "1", "20.4");
-    auto const faults = Redraw(*running.Data, running.Outside);
-    EXPECT_FALSE(faults.Quotes || faults.Cycles || faults.Residual);
+    Redraw(*running.Data, running.Outside);
+    cycles::ChartStates const& states = running.Data->Curves.States;
+    EXPECT_TRUE(states.Quotes.IsReady() && states.Composite.IsReady() && states.Residual.IsReady());
     EXPECT_EQ(running.Grid.Text(cycles::Parameter::Weight, 1), "100");
     EXPECT_EQ(running.Data->Cycles.Cycles[1].Period, 20);
     EXPECT_TRUE(IsClose(running.Data->Curves.CompositeCurve[5], 100));
@@ -46,8 +47,11 @@ TEST(Redraw, TakesUpWhatWasTyped) {
 TEST(Redraw, WithoutQuotesComputesTheCyclesForAHundredDays) {
     RunningProgram running;
     running.TypeCycle(1, "50", "20");
-    auto const faults = Redraw(*running.Data, running.Outside);
-    EXPECT_FALSE(faults.Quotes || faults.Cycles || faults.Residual);
+    Redraw(*running.Data, running.Outside);
+    cycles::ChartStates const& states = running.Data->Curves.States;
+    EXPECT_EQ(states.Quotes.Missing, cycles::Need::QuoteFile);
+    EXPECT_EQ(states.Residual.Missing, cycles::Need::QuoteFile);
+    EXPECT_TRUE(states.Cycles.IsReady() && states.Composite.IsReady());
     EXPECT_TRUE(IsClose(running.Data->Curves.CompositeCurve[125], 100 * std::sin(125 * cycles::TwoPi / 20)));
     EXPECT_EQ(running.Data->Curves.MovingAverageCurve[1], 0);
     EXPECT_EQ(running.Data->Curves.ResidualCurve[1], 0);
@@ -58,7 +62,7 @@ TEST(Redraw, WithoutCyclesComputesTheQuotesAlone) {
     running.Open("q.txt", QuoteLines(30));
     EXPECT_EQ(running.Data->Curves.MovingAverageCurve[30], 130);
     EXPECT_EQ(running.Data->Curves.ResidualCurve[30], 0);
-    EXPECT_GT(running.Data->PriceScale.PriceScaleHigh, 130);
+    EXPECT_GT(running.Data->Curves.PriceScale.PriceScaleHigh, 130);
 }
 
 TEST(Redraw, PricesWithoutARangeLeaveTheMovingAverageAsItWas) {
@@ -69,12 +73,13 @@ TEST(Redraw, PricesWithoutARangeLeaveTheMovingAverageAsItWas) {
     RunningProgram running;
     running.Open("flat.txt", flat);
     running.TypeCycle(1, "50", "20");
-    auto const faults = Redraw(*running.Data, running.Outside);
-    ASSERT_TRUE(faults.Quotes);
-    EXPECT_EQ(faults.Quotes->Description(), "Division by zero");
-    ASSERT_TRUE(faults.Residual);
-    EXPECT_EQ(faults.Residual->Description(), "Division by zero");
-    EXPECT_FALSE(faults.Cycles);
+    Redraw(*running.Data, running.Outside);
+    cycles::ChartStates const& states = running.Data->Curves.States;
+    ASSERT_TRUE(states.Quotes.Fault);
+    EXPECT_EQ(states.Quotes.Fault->Description(), "Division by zero");
+    ASSERT_TRUE(states.Residual.Fault);
+    EXPECT_EQ(states.Residual.Fault->Description(), "Division by zero");
+    EXPECT_FALSE(states.Cycles.Fault);
     EXPECT_EQ(running.Data->Curves.MovingAverageCurve[1], 0);
     EXPECT_TRUE(IsClose(running.Data->Curves.CompositeCurve[5], 100));
 }
@@ -83,20 +88,22 @@ TEST(Redraw, AMovingAverageWithoutALengthIsNoFaultOfTheQuotes) {
     RunningProgram running;
     running.Open("q.txt", QuoteLines(30));
     running.Data->Settings.MovingAverageIndex = "99999";
-    auto const faults = Redraw(*running.Data, running.Outside);
-    EXPECT_FALSE(faults.Quotes);
-    ASSERT_TRUE(faults.MovingAverage);
-    EXPECT_EQ(faults.MovingAverage->Description(), "Overflow");
+    Redraw(*running.Data, running.Outside);
+    cycles::ChartStates const& states = running.Data->Curves.States;
+    EXPECT_FALSE(states.Quotes.Fault);
+    ASSERT_TRUE(states.MovingAverage.Fault);
+    EXPECT_EQ(states.MovingAverage.Fault->Description(), "Overflow");
 }
 
 TEST(Redraw, ACycleThatOverflowsIsAFaultOfTheCycles) {
     RunningProgram running;
     running.Data->Cycles.Cycles[1].Weight = 1;
     running.Data->Cycles.Cycles[1].Period = 1e-320;
-    auto const faults = Redraw(*running.Data, running.Outside);
-    ASSERT_TRUE(faults.Cycles);
-    EXPECT_EQ(faults.Cycles->Description(), "Overflow");
-    EXPECT_FALSE(faults.Residual) << "a composite that was not computed has no residual";
+    Redraw(*running.Data, running.Outside);
+    cycles::ChartStates const& states = running.Data->Curves.States;
+    ASSERT_TRUE(states.Cycles.Fault);
+    EXPECT_EQ(states.Cycles.Fault->Description(), "Overflow");
+    EXPECT_EQ(states.Residual.Missing, cycles::Need::QuoteFile);
 }
 
 // How a box was drawn last: the operations from its last clearing on.
@@ -183,9 +190,12 @@ TEST(Redraw, SetsTheCaptionLaysOutAndPreparesBeforeItReadsTheGrid) {
     RunningProgram running;
     running.TypeCycle(1, "50", "20");
     Observer observer(running);
-    Services services{running.Grid,    running.Outside.Boxes, running.Dialogs, running.Files,
-                      observer,        running.Launcher,      observer,        running.Printing,
-                      running.Printing};
+    Services services{.System = running.Outside.System,
+                      .Grid = running.Grid,
+                      .Boxes = running.Outside.Boxes,
+                      .Dialogs = running.Dialogs,
+                      .Pending = observer,
+                      .Window = observer};
     Redraw(*running.Data, services);
     EXPECT_EQ(observer.Notes, (std::vector<std::string>{"caption Quorvex - - - -", "layout - - - -",
                                                         "messages prepared prepared prepared prepared"}));
@@ -246,9 +256,12 @@ TEST(Redraw, DrawsTheBoxesInTheirOrder) {
     LoggingCanvas two("2", log);
     LoggingCanvas three("3", log);
     LoggingCanvas four("4", log);
-    Services services{running.Grid,   {one, two, three, four}, running.Dialogs,
-                      running.Files,  running.Pending,         running.Launcher,
-                      running.Window, running.Printing,        running.Printing};
+    Services services{.System = running.Outside.System,
+                      .Grid = running.Grid,
+                      .Boxes = {one, two, three, four},
+                      .Dialogs = running.Dialogs,
+                      .Pending = running.Pending,
+                      .Window = running.Window};
     Redraw(*running.Data, services);
     EXPECT_EQ(log, (std::vector<std::string>{"1 clear", "2 clear", "3 clear", "4 clear", //
                                              "1 clear", "1 draw", "1 labels", "2 draw", "3 draw", "4 draw",
@@ -258,11 +271,49 @@ TEST(Redraw, DrawsTheBoxesInTheirOrder) {
 TEST(Redraw, TheProgramKeepsItsFaults) {
     RunningProgram running;
     running.Open("q.txt", QuoteLines(30));
-    EXPECT_FALSE(running.Data->Faults.MovingAverage);
+    cycles::ChartState const& state = running.Data->Curves.States.MovingAverage;
+    EXPECT_TRUE(state.IsReady());
     running.Data->Settings.MovingAverageIndex = "999";
     Redraw(*running.Data, running.Outside);
-    ASSERT_TRUE(running.Data->Faults.MovingAverage);
-    EXPECT_EQ(running.Data->Faults.MovingAverage->Description(), "Subscript out of range");
+    ASSERT_TRUE(state.Fault);
+    EXPECT_EQ(state.Fault->Description(), "Subscript out of range");
+}
+
+TEST(Redraw, ASeriesOfNoDaysHasEmptyBoxesWithTicks) {
+    RunningProgram running;
+    running.Data->Quotes.QuoteFileName = "none.txt";
+    running.TypeCycle(1, "50", "20");
+    Redraw(*running.Data, running.Outside);
+    for (auto const* box : {&running.Pic1, &running.Pic4}) {
+        auto const drawing = LastDrawing(*box);
+        EXPECT_EQ(std::ranges::count(drawing, platform::DrawingOperation::Kind::Rectangle,
+                                     &platform::DrawingOperation::What),
+                  100)
+            << "ticks";
+        EXPECT_EQ(std::ranges::count(drawing, platform::DrawingOperation::Kind::Point,
+                                     &platform::DrawingOperation::What),
+                  0);
+        EXPECT_EQ(std::ranges::count(drawing, platform::DrawingOperation::Kind::Print,
+                                     &platform::DrawingOperation::What),
+                  0);
+    }
+    EXPECT_EQ(CountOf(LastDrawing(running.Pic3), chart::CompositeColour), 101);
+    EXPECT_EQ(running.Data->Curves.States.Quotes.Missing, cycles::Need::Quotes);
+    EXPECT_EQ(running.Data->Curves.States.Residual.Missing, cycles::Need::Quotes);
+}
+
+TEST(Redraw, TheCyclesStayWhenTheCompositeFails) {
+    RunningProgram running;
+    for (int cycle = 1; cycle <= cycles::CycleCount; ++cycle) {
+        running.Data->Cycles.Cycles[cycle].Weight = 1e302; // which no grid holds
+        running.Data->Cycles.Cycles[cycle].Period = 20;
+    }
+    Redraw(*running.Data, running.Outside);
+    EXPECT_EQ(CountOf(LastDrawing(running.Pic2), chart::CycleColour(10)), 101);
+    EXPECT_EQ(CountOf(LastDrawing(running.Pic3), chart::CompositeColour), 0);
+    EXPECT_TRUE(running.Data->Curves.States.Cycles.IsReady());
+    ASSERT_TRUE(running.Data->Curves.States.Composite.Fault);
+    EXPECT_EQ(running.Data->Curves.States.Composite.Fault->Description(), "Overflow");
 }
 
 TEST(Redraw, TheCaptionNamesFolderAndFile) {

@@ -4,9 +4,9 @@
 #include "chart/basCyclePlot.h"
 
 #include "chart/ChartColours.h"
-#include "chart/basScale.h"
 #include "cycles/basCurves.h"
 #include "platform/RecordingCanvas.h"
+#include "quotes/PriceScale.h"
 #include "support/Golden.h"
 #include "support/Operations.h"
 #include "support/QuoteTexts.h"
@@ -62,7 +62,7 @@ TEST(CyclePlot, DrawsTheReferencePolylines) {
             curves->MovingAverageCurve);
         cycles::ComputeCycleValues(*set, n);
         cycles::ComputeComposite(*set, n, curves->CompositeCurve);
-        cycles::ComputeResidual(*curves, ComputePriceScale(*series), n);
+        cycles::ComputeResidual(*curves, quotes::ComputePriceScale(*series), n);
 
         double const width = expected.at("box").at(0);
         double const height = expected.at("box").at(1);

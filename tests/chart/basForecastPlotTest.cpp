@@ -4,7 +4,6 @@
 #include "chart/basForecastPlot.h"
 
 #include "chart/ChartColours.h"
-#include "platform/BlankCanvas.h"
 #include "platform/RecordingCanvas.h"
 #include "support/QuoteTexts.h"
 
@@ -428,12 +427,6 @@ TEST(ForecastChart, WritesNoDateOverAnother) {
             EXPECT_GT(lefts[index] - lefts[index - 1], 8 * 88);
         }
     }
-}
-
-TEST(ForecastChart, NeedsNoDisplay) {
-    ForecastChart chart;
-    platform::BlankCanvas box;
-    EXPECT_FALSE(DrawForecast(box, *chart.Series, chart.Values, chart.Dates));
 }
 
 } // namespace

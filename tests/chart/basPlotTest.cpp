@@ -30,20 +30,20 @@ public:
         settings.CurrencyFormat = currencyFormat;
     }
 
-    ChartFaults Draw(platform::Canvas& box) {
-        return DrawQuoteChart(box, *series, settings, scale, movingAverage);
+    cycles::ChartStates const& Draw(platform::Canvas& box) {
+        DrawQuoteChart(box, *series, settings, *curves);
+        return curves->States;
     }
 
     // Whether nothing ended the drawing early.
     bool DrawWhole(platform::Canvas& box) {
-        auto const faults = Draw(box);
-        return !faults.Quotes && !faults.MovingAverage;
+        auto const& states = Draw(box);
+        return states.Quotes.IsReady() && states.MovingAverage.IsReady();
     }
 
     std::unique_ptr<quotes::QuoteSeries> series;
     settings::Settings settings = settings::DefaultSettings("./");
-    quotes::PriceScale scale;
-    cycles::QuoteCurve movingAverage;
+    std::unique_ptr<cycles::CycleCurves> curves = std::make_unique<cycles::CycleCurves>();
 };
 
 // The operations number first..last of a drawing, which a reference part gives some of.
@@ -65,8 +65,10 @@ TEST(QuoteChart, DrawsEveryReferenceFileInThreeStyles) {
             chart.settings.MovingAverageIndex = expected.at("moving_average_index");
             RecordingCanvas box(expected.at("box").at(0), expected.at("box").at(1));
             EXPECT_TRUE(chart.DrawWhole(box));
-            EXPECT_TRUE(tests::IsClose(chart.scale.PriceScaleHigh, expected.at("price_scale").at("high")));
-            EXPECT_TRUE(tests::IsClose(chart.scale.PriceScaleLow, expected.at("price_scale").at("low")));
+            EXPECT_TRUE(tests::IsClose(chart.curves->PriceScale.PriceScaleHigh,
+                                       expected.at("price_scale").at("high")));
+            EXPECT_TRUE(
+                tests::IsClose(chart.curves->PriceScale.PriceScaleLow, expected.at("price_scale").at("low")));
 
             // From the end, where no dash is there or not by rounding.
             auto const& drawn = box.Operations();
@@ -145,19 +147,19 @@ TEST(QuoteChart, OfPricesWithoutARangeLeavesTheBoxAsItIs) {
         chart.series->Working[day].Low = 100;
     }
     RecordingCanvas box(7000, 2500);
-    auto const error = chart.Draw(box).Quotes;
+    auto const error = chart.Draw(box).Quotes.Fault;
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Description(), "Division by zero");
     EXPECT_TRUE(box.Operations().empty());
-    EXPECT_EQ(chart.scale.PriceScaleHigh, 100);
-    EXPECT_EQ(chart.movingAverage[1], 0);
+    EXPECT_EQ(chart.curves->PriceScale.PriceScaleHigh, 100);
+    EXPECT_EQ(chart.curves->MovingAverageCurve[1], 0);
 }
 
 TEST(QuoteChart, WithoutAFileIsNotDrawn) {
     QuoteChart chart("q025.txt");
     chart.series->QuoteFileName.clear();
     RecordingCanvas box(7000, 2500);
-    EXPECT_TRUE(chart.DrawWhole(box));
+    EXPECT_EQ(chart.Draw(box).Quotes.Missing, cycles::Need::QuoteFile);
     EXPECT_TRUE(box.Operations().empty());
 }
 
@@ -197,17 +199,17 @@ TEST(QuoteChart, HasNoMagentaCurveForAnIndexOfZero) {
     for (auto const& operation : box.Operations()) {
         EXPECT_NE(operation.Drawn, platform::Magenta);
     }
-    EXPECT_EQ(chart.movingAverage[25], chart.series->Working[25].Close);
+    EXPECT_EQ(chart.curves->MovingAverageCurve[25], chart.series->Working[25].Close);
 }
 
 TEST(QuoteChart, GoesOnWithItsLabelsWhenTheMovingAverageFails) {
     QuoteChart chart("q025.txt");
     chart.settings.MovingAverageIndex = "1001";
     RecordingCanvas box(7000, 2500);
-    auto const faults = chart.Draw(box);
-    EXPECT_FALSE(faults.Quotes);
-    ASSERT_TRUE(faults.MovingAverage);
-    EXPECT_EQ(faults.MovingAverage->Description(), "Subscript out of range");
+    auto const& states = chart.Draw(box);
+    EXPECT_TRUE(states.Quotes.IsReady());
+    ASSERT_TRUE(states.MovingAverage.Fault);
+    EXPECT_EQ(states.MovingAverage.Fault->Description(), "Subscript out of range");
     EXPECT_EQ(box.Operations().back().What, DrawingOperation::Kind::Print);
 }
 
@@ -215,18 +217,23 @@ TEST(QuoteChart, FillsTheMovingAverageOfASeriesOfItsOwnLength) {
     QuoteChart chart("q025.txt");
     RecordingCanvas box(7000, 2500);
     EXPECT_TRUE(chart.DrawWhole(box));
-    EXPECT_FALSE(DrawMovingAverage(box, *chart.series, "25", chart.scale, chart.movingAverage));
-    EXPECT_EQ(chart.movingAverage[1], chart.series->Working[1].Close);
-    EXPECT_EQ(chart.movingAverage[25], chart.series->Working[25].Close);
+    chart.settings.MovingAverageIndex = "25";
+    DrawMovingAverage(box, *chart.series, chart.settings, *chart.curves);
+    EXPECT_TRUE(chart.curves->States.MovingAverage.IsReady());
+    EXPECT_EQ(chart.curves->MovingAverageCurve[1], chart.series->Working[1].Close);
+    EXPECT_EQ(chart.curves->MovingAverageCurve[25], chart.series->Working[25].Close);
 }
 
 TEST(QuoteChart, EndsAtAPriceBeyondEveryHeight) {
     QuoteChart chart("q025.txt");
     chart.series->Working[3].Open = 1e308;
     RecordingCanvas box(7000, 2500);
-    auto const error = chart.Draw(box).Quotes;
+    auto const error = chart.Draw(box).Quotes.Fault;
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Description(), "Overflow");
+    // The first two days are there, the third is not, nor anything after it.
+    EXPECT_EQ(box.Operations().back().What, DrawingOperation::Kind::Rectangle);
+    EXPECT_LT(box.Operations().back().Coordinates[0], 3 * ColumnStep(7000, 25) + 1);
 }
 
 TEST(PrepareChart, EndsOnABoxWithoutWidth) {

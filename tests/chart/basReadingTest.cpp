@@ -3,10 +3,7 @@
 
 #include "chart/basReading.h"
 
-#include "chart/basCyclePlot.h"
-#include "chart/basPlot.h"
-#include "cycles/basCurves.h"
-#include "platform/RecordingCanvas.h"
+#include "cycles/basComputation.h"
 #include "quotes/basQuotes.h"
 #include "support/Golden.h"
 #include "support/QuoteTexts.h"
@@ -27,7 +24,7 @@ void SetCycle(cycles::CycleParameterSet& set, int cycle, double weight, double p
     set.Cycles[cycle].Shift = shift;
 }
 
-// The data of the four charts, drawn in the order of a redraw.
+// The data of the four charts.
 class Charts {
 public:
     void Load(std::string const& file, std::string const& currencyFormat = "####0.00") {
@@ -35,34 +32,14 @@ public:
         Settings.CurrencyFormat = currencyFormat;
     }
 
-    void Draw() {
-        platform::RecordingCanvas box(7000, 2500);
-        quotes::PriceScale scale;
-        auto const days = Series->WorkingCount;
-        Faults = DrawQuoteChart(box, *Series, Settings, scale, Curves->MovingAverageCurve);
-        if (!cycles::HasActiveCycle(*Set)) {
-            return;
-        }
-        Faults.Cycles = text::Trap([&] {
-            cycles::ComputeCycleValues(*Set, days);
-            DrawCycles(box, *Set, days);
-            cycles::ComputeComposite(*Set, days, Curves->CompositeCurve);
-            DrawComposite(box, Curves->CompositeCurve, days);
-        });
-        if (!Faults.Cycles && Series->HasQuotes()) {
-            Faults.Residual = text::Trap([&] {
-                cycles::ComputeResidual(*Curves, scale, days);
-                DrawResidual(box, Curves->ResidualCurve, days);
-            });
-        }
-    }
+    void Compute() { cycles::ComputeCurves(*Series, Settings, *Set, *Curves); }
 
     [[nodiscard]] ChartReading Read(ChartKind kind) const {
-        return ReadChart(kind, {*Series, Settings, *Set, *Curves}, Faults);
+        return ReadChart(kind, {*Series, Settings, *Set, *Curves});
     }
 
-    [[nodiscard]] ChartReading DrawAndRead(ChartKind kind) {
-        Draw();
+    [[nodiscard]] ChartReading ComputeAndRead(ChartKind kind) {
+        Compute();
         return Read(kind);
     }
 
@@ -70,7 +47,6 @@ public:
     settings::Settings Settings = settings::DefaultSettings("./");
     std::unique_ptr<cycles::CycleParameterSet> Set = std::make_unique<cycles::CycleParameterSet>();
     std::unique_ptr<cycles::CycleCurves> Curves = std::make_unique<cycles::CycleCurves>();
-    ChartFaults Faults;
 };
 
 // 25 days with the two active cycles and the inactive one of the reference.
@@ -102,12 +78,12 @@ void ExpectEmpty(ChartReading const& reading, std::string const& description) {
 
 TEST(QuoteReading, NamesStyleDaysExtremesAndMovingAverage) {
     Charts charts = LoadReference();
-    EXPECT_EQ(charts.DrawAndRead(ChartKind::Quotes).Description,
+    EXPECT_EQ(charts.ComputeAndRead(ChartKind::Quotes).Description,
               "Daily bar chart of 25 days, 11/30/00 to 01/03/01. Lowest 212.41, highest 249.33, last close "
               "242.10. 6-day moving average, last value 242.10.");
     charts.Settings.ChartType = "Candlestick Chart";
     charts.Settings.MovingAverageIndex = "0";
-    EXPECT_EQ(charts.DrawAndRead(ChartKind::Quotes).Description,
+    EXPECT_EQ(charts.ComputeAndRead(ChartKind::Quotes).Description,
               "Candlestick chart of 25 days, 11/30/00 to 01/03/01. Lowest 212.41, highest 249.33, last close "
               "242.10.");
 }
@@ -116,7 +92,7 @@ TEST(QuoteReading, OfALineChartSpeaksOfTheClosesAlone) {
     Charts charts = LoadReference();
     for (auto const* type : {"Line Chart", "", "daily bar chart"}) {
         charts.Settings.ChartType = type;
-        auto const reading = charts.DrawAndRead(ChartKind::Quotes);
+        auto const reading = charts.ComputeAndRead(ChartKind::Quotes);
         EXPECT_EQ(reading.Description,
                   "Line chart of 25 days, 11/30/00 to 01/03/01. Lowest close 215.88, highest close 247.72, "
                   "last close 242.10. 6-day moving average, last value 242.10.");
@@ -126,24 +102,24 @@ TEST(QuoteReading, OfALineChartSpeaksOfTheClosesAlone) {
 
 TEST(QuoteReading, OfADayGivesItsFourPricesAndTheMovingAverage) {
     Charts charts = LoadReference();
-    EXPECT_EQ(DescribeDay(charts.DrawAndRead(ChartKind::Quotes), 17),
+    EXPECT_EQ(DescribeDay(charts.ComputeAndRead(ChartKind::Quotes), 17),
               "12/22/00\nOpen: 244.82\nHigh: 244.85\nLow: 241.27\nClose: 241.72\nMoving average: 284.42");
     charts.Settings.MovingAverageIndex = "0";
-    EXPECT_EQ(DescribeDay(charts.DrawAndRead(ChartKind::Quotes), 25),
+    EXPECT_EQ(DescribeDay(charts.ComputeAndRead(ChartKind::Quotes), 25),
               "01/03/01\nOpen: 242.92\nHigh: 243.88\nLow: 241.57\nClose: 242.10");
 }
 
 TEST(QuoteReading, SpellsPricesInTheCurrencyFormat) {
     Charts charts;
     charts.Load("q025.txt", "####0");
-    EXPECT_EQ(DescribeDay(charts.DrawAndRead(ChartKind::Quotes), 1),
+    EXPECT_EQ(DescribeDay(charts.ComputeAndRead(ChartKind::Quotes), 1),
               "11/30/00\nOpen: 215\nHigh: 217\nLow: 213\nClose: 216\nMoving average: 216");
     charts.Settings.CurrencyFormat = "no price";
-    EXPECT_EQ(DescribeDay(charts.DrawAndRead(ChartKind::Quotes), 1),
+    EXPECT_EQ(DescribeDay(charts.ComputeAndRead(ChartKind::Quotes), 1),
               "11/30/00\nOpen: no price\nHigh: no price\nLow: no price\nClose: no price\n"
               "Moving average: no price");
     charts.Settings.CurrencyFormat.clear();
-    EXPECT_EQ(DescribeDay(charts.DrawAndRead(ChartKind::Quotes), 1),
+    EXPECT_EQ(DescribeDay(charts.ComputeAndRead(ChartKind::Quotes), 1),
               "11/30/00\nOpen: 215\nHigh: 217\nLow: 213\nClose: 216\nMoving average: 216");
 }
 
@@ -151,7 +127,7 @@ TEST(QuoteReading, CallsAMovingAverageOfTheClosesThemselvesOneOfOneDay) {
     Charts charts = LoadReference();
     for (auto const* length : {"1", "-3"}) {
         charts.Settings.MovingAverageIndex = length;
-        auto const reading = charts.DrawAndRead(ChartKind::Quotes);
+        auto const reading = charts.ComputeAndRead(ChartKind::Quotes);
         EXPECT_TRUE(reading.Description.ends_with(" 1-day moving average, last value 242.10."))
             << reading.Description;
         EXPECT_TRUE(DescribeDay(reading, 17).ends_with("Close: 241.72\nMoving average: 241.72"));
@@ -161,46 +137,44 @@ TEST(QuoteReading, CallsAMovingAverageOfTheClosesThemselvesOneOfOneDay) {
 TEST(QuoteReading, SaysWhyTheMovingAverageIsMissing) {
     Charts charts = LoadReference();
     charts.Settings.MovingAverageIndex = "1001";
-    auto const reading = charts.DrawAndRead(ChartKind::Quotes);
+    auto const reading = charts.ComputeAndRead(ChartKind::Quotes);
     EXPECT_EQ(reading.Description,
               "Daily bar chart of 25 days, 11/30/00 to 01/03/01. Lowest 212.41, highest 249.33, last close "
               "242.10. The moving average could not be drawn: Subscript out of range.");
     EXPECT_EQ(DescribeDay(reading, 25), "01/03/01\nOpen: 242.92\nHigh: 243.88\nLow: 241.57\nClose: 242.10");
 
     charts.Settings.MovingAverageIndex = "99999";
-    charts.Faults = {};
-    EXPECT_TRUE(charts.Read(ChartKind::Quotes)
-                    .Description.ends_with(" The moving average could not be drawn: Overflow."))
-        << "a length that cannot be read faults in the reading as well";
+    EXPECT_TRUE(charts.ComputeAndRead(ChartKind::Quotes)
+                    .Description.ends_with(" The moving average could not be drawn: Overflow."));
 }
 
 TEST(QuoteReading, OfPricesThatCannotBeDrawnClaimsNothing) {
     Charts flat = LoadFlatPrices();
-    ExpectEmpty(flat.DrawAndRead(ChartKind::Quotes), "The quotes could not be drawn: Division by zero.");
+    ExpectEmpty(flat.ComputeAndRead(ChartKind::Quotes), "The quotes could not be drawn: Division by zero.");
     Charts steep = LoadReference();
     steep.Series->Working[3].Open = 1e308;
-    ExpectEmpty(steep.DrawAndRead(ChartKind::Quotes), "The quotes could not be drawn: Overflow.");
+    ExpectEmpty(steep.ComputeAndRead(ChartKind::Quotes), "The quotes could not be drawn: Overflow.");
 }
 
 TEST(QuoteReading, WithoutQuotesSaysSo) {
     Charts charts;
-    ExpectEmpty(charts.DrawAndRead(ChartKind::Quotes), "No quote file is open.");
+    ExpectEmpty(charts.ComputeAndRead(ChartKind::Quotes), "No quote file is open.");
     charts.Series->QuoteFileName = "unread.txt";
-    ExpectEmpty(charts.DrawAndRead(ChartKind::Quotes), "There are no quotes to show.");
+    ExpectEmpty(charts.ComputeAndRead(ChartKind::Quotes), "There are no quotes to show.");
 }
 
 TEST(QuoteReading, OfASingleDayNamesItOnce) {
     Charts charts = LoadReference();
     charts.Settings.MovingAverageIndex = "0";
     charts.Series->WorkingCount = 1;
-    EXPECT_EQ(charts.DrawAndRead(ChartKind::Quotes).Description,
+    EXPECT_EQ(charts.ComputeAndRead(ChartKind::Quotes).Description,
               "Daily bar chart of 1 day, 11/30/00. Lowest 213.48, highest 216.85, last close 215.88.");
 }
 
 TEST(QuoteReading, CoversFiveHundredDays) {
     Charts charts;
     charts.Load("q500.txt", "####0.0");
-    auto const reading = charts.DrawAndRead(ChartKind::Quotes);
+    auto const reading = charts.ComputeAndRead(ChartKind::Quotes);
     EXPECT_TRUE(reading.Description.starts_with("Daily bar chart of 500 days, 11/25/98 to 11/16/00. Lowest "))
         << reading.Description;
     EXPECT_EQ(DescribeDay(reading, 500),
@@ -211,7 +185,7 @@ TEST(QuoteReading, CoversFiveHundredDays) {
 
 TEST(CycleReading, NamesTheActiveCyclesAndTheirExtremes) {
     Charts charts = LoadReference();
-    auto const reading = charts.DrawAndRead(ChartKind::Cycles);
+    auto const reading = charts.ComputeAndRead(ChartKind::Cycles);
     EXPECT_EQ(
         reading.Description,
         "2 component cycles over 25 days, 11/30/00 to 01/03/01. Cycle 1: weight 67, period 82. Cycle 2: "
@@ -222,7 +196,7 @@ TEST(CycleReading, NamesTheActiveCyclesAndTheirExtremes) {
 TEST(CycleReading, OfASingleCycleWithoutQuotesCoversAHundredDays) {
     Charts charts;
     SetCycle(*charts.Set, 10, 100, 20);
-    auto const reading = charts.DrawAndRead(ChartKind::Cycles);
+    auto const reading = charts.ComputeAndRead(ChartKind::Cycles);
     EXPECT_EQ(reading.Description, "1 component cycle over 100 days. Cycle 10: weight 100, period 20. "
                                    "Lowest -100.0, highest 100.0.");
     EXPECT_EQ(DescribeDay(reading, 15), "Day 15\nCycle 10: -100.0");
@@ -232,7 +206,7 @@ TEST(CycleReading, OfASingleCycleWithoutQuotesCoversAHundredDays) {
 
 TEST(CompositeReading, GivesExtremesAndLastValueOfTheDaysShown) {
     Charts charts = LoadReference();
-    auto const reading = charts.DrawAndRead(ChartKind::Composite);
+    auto const reading = charts.ComputeAndRead(ChartKind::Composite);
     EXPECT_EQ(reading.Description, "Composite estimate cycle over 25 days, 11/30/00 to 01/03/01. Lowest "
                                    "20.8, highest 72.7, last value 61.9.");
     EXPECT_EQ(DescribeDay(reading, 17), "12/22/00\nComposite: 72.6");
@@ -241,7 +215,7 @@ TEST(CompositeReading, GivesExtremesAndLastValueOfTheDaysShown) {
 TEST(CompositeReading, WithoutQuotesHasNoDates) {
     Charts charts;
     SetCycle(*charts.Set, 1, 100, 20);
-    auto const reading = charts.DrawAndRead(ChartKind::Composite);
+    auto const reading = charts.ComputeAndRead(ChartKind::Composite);
     EXPECT_EQ(reading.Description,
               "Composite estimate cycle over 100 days. Lowest -100.0, highest 100.0, last value 0.0.");
     EXPECT_EQ(DescribeDay(reading, 5), "Day 5\nComposite: 100.0");
@@ -249,7 +223,7 @@ TEST(CompositeReading, WithoutQuotesHasNoDates) {
 
 TEST(ResidualReading, GivesExtremesAndLastValue) {
     Charts charts = LoadReference();
-    auto const reading = charts.DrawAndRead(ChartKind::Residual);
+    auto const reading = charts.ComputeAndRead(ChartKind::Residual);
     EXPECT_EQ(reading.Description, "Residual, moving average minus composite cycle, over 25 days, 11/30/00 "
                                    "to 01/03/01. Lowest -90.9, highest 177.7, last value -10.8.");
     EXPECT_EQ(DescribeDay(reading, 17), "12/22/00\nResidual: 168.0");
@@ -258,15 +232,15 @@ TEST(ResidualReading, GivesExtremesAndLastValue) {
 TEST(ResidualReading, NeedsQuotesAndACycle) {
     Charts charts;
     SetCycle(*charts.Set, 1, 100, 20);
-    ExpectEmpty(charts.DrawAndRead(ChartKind::Residual), "No quote file is open.");
+    ExpectEmpty(charts.ComputeAndRead(ChartKind::Residual), "No quote file is open.");
     charts.Load("q025.txt");
     SetCycle(*charts.Set, 1, 0, 20);
-    ExpectEmpty(charts.DrawAndRead(ChartKind::Residual), "No cycle is active.");
+    ExpectEmpty(charts.ComputeAndRead(ChartKind::Residual), "No cycle is active.");
 }
 
 TEST(ResidualReading, OfPricesWithoutARangeClaimsNothing) {
     Charts charts = LoadFlatPrices();
-    ExpectEmpty(charts.DrawAndRead(ChartKind::Residual),
+    ExpectEmpty(charts.ComputeAndRead(ChartKind::Residual),
                 "The residual could not be drawn: Division by zero.");
     EXPECT_TRUE(charts.Read(ChartKind::Composite).Description.starts_with("Composite estimate cycle over 25"))
         << "the composite was drawn all the same";
@@ -276,7 +250,7 @@ TEST(CycleReading, WithoutAnActiveCycleSaysSo) {
     Charts charts;
     charts.Load("q025.txt");
     SetCycle(*charts.Set, 1, 100, 0);
-    charts.Draw();
+    charts.Compute();
     for (ChartKind const kind : {ChartKind::Cycles, ChartKind::Composite}) {
         ExpectEmpty(charts.Read(kind), "No cycle is active.");
     }
@@ -286,7 +260,7 @@ TEST(CycleReading, OfCyclesThatCannotBeComputedClaimsNothing) {
     Charts charts;
     charts.Load("q025.txt");
     SetCycle(*charts.Set, 1, 1, 1e-320);
-    charts.Draw();
+    charts.Compute();
     ExpectEmpty(charts.Read(ChartKind::Cycles), "The cycles could not be drawn: Overflow.");
     ExpectEmpty(charts.Read(ChartKind::Composite),
                 "The composite estimate cycle could not be drawn: Overflow.");
@@ -296,11 +270,13 @@ TEST(CycleReading, OfCyclesThatCannotBeComputedClaimsNothing) {
 
 TEST(ChartReading, HoldsWhatWasDrawnWhenTheQuotesAreClosed) {
     Charts charts = LoadReference();
-    auto const drawn = charts.DrawAndRead(ChartKind::Composite);
+    auto const drawn = charts.ComputeAndRead(ChartKind::Composite);
     quotes::CloseQuoteFile(*charts.Series);
+    cycles::MarkEmptyCharts(*charts.Series, *charts.Set, charts.Curves->States);
     ExpectEmpty(charts.Read(ChartKind::Quotes), "No quote file is open.");
     ExpectEmpty(charts.Read(ChartKind::Residual), "No quote file is open.");
     cycles::ClearCycles(*charts.Set, charts.Curves->CompositeCurve);
+    cycles::MarkEmptyCharts(*charts.Series, *charts.Set, charts.Curves->States);
     EXPECT_EQ(DescribeDay(drawn, 17), "12/22/00\nComposite: 72.6");
     EXPECT_EQ(DescribeDay(drawn, 26), "");
     ExpectEmpty(charts.Read(ChartKind::Composite), "No cycle is active.");
@@ -308,7 +284,7 @@ TEST(ChartReading, HoldsWhatWasDrawnWhenTheQuotesAreClosed) {
 
 TEST(ChartReading, HasNoDayOutsideItsDays) {
     Charts charts = LoadReference();
-    auto const reading = charts.DrawAndRead(ChartKind::Quotes);
+    auto const reading = charts.ComputeAndRead(ChartKind::Quotes);
     for (int const day : {-1, 0, 26, 500}) {
         EXPECT_EQ(DescribeDay(reading, day), "") << day;
     }
@@ -316,7 +292,7 @@ TEST(ChartReading, HasNoDayOutsideItsDays) {
 
 TEST(ChartReading, TakesAValueThatIsNoNumberForAFault) {
     Charts charts = LoadReference();
-    charts.Draw();
+    charts.Compute();
     charts.Curves->CompositeCurve[4] = HUGE_VAL;
     ExpectEmpty(charts.Read(ChartKind::Composite),
                 "The composite estimate cycle could not be drawn: Overflow.");
@@ -333,7 +309,7 @@ TEST(ChartReading, AgreesWithEveryReferenceCurve) {
             auto const& row = expected.at("cycles").at(static_cast<std::size_t>(cycle - 1));
             SetCycle(*charts.Set, cycle, row.at(0), row.at(1), row.at(2));
         }
-        charts.Draw();
+        charts.Compute();
         auto const reading = charts.Read(ChartKind::Residual);
         auto const& days = expected.at("residual_days");
         for (std::size_t index = 0; index < days.size(); ++index) {

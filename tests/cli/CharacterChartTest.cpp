@@ -29,19 +29,21 @@ std::unique_ptr<app::Program> RisingProgram() {
     auto program = std::make_unique<app::Program>();
     program->Settings = settings::DefaultSettings("./");
     program->Quotes = *tests::SeriesOf(tests::QuoteLines(30));
-    program->PriceScale = {130, 100};
+    program->Curves.PriceScale = {130, 100};
+    program->Curves.States.Quotes = {};
     return program;
 }
 
-app::AnalysisResult ResultWith(bool composite) {
-    app::AnalysisResult result;
-    result.HasMovingAverage = true;
-    result.HasComposite = composite;
-    return result;
+// The same with a composite of this value.
+std::unique_ptr<app::Program> ProgramWithComposite(double value) {
+    auto program = RisingProgram();
+    program->Curves.CompositeCurve.Fill(value);
+    program->Curves.States.Composite = {};
+    return program;
 }
 
 TEST(CharacterChart, DrawsTheClosesFromBottomLeftToTopRight) {
-    auto const lines = LinesOf(CharacterChart(*RisingProgram(), ResultWith(false), 80));
+    auto const lines = LinesOf(CharacterChart(*RisingProgram(), 80));
     ASSERT_EQ(lines.size(), 18U);
     EXPECT_TRUE(lines.front().starts_with("130.00 |"));
     EXPECT_EQ(lines.front().back(), '*');
@@ -52,18 +54,17 @@ TEST(CharacterChart, DrawsTheClosesFromBottomLeftToTopRight) {
 }
 
 TEST(CharacterChart, PutsTheCompositeOnThePriceAxisAndBeyondTheLastDay) {
-    auto const program = RisingProgram();
-    program->Curves.CompositeCurve.Fill(100); // the top of the axis
-    auto const lines = LinesOf(CharacterChart(*program, ResultWith(true), 80));
+    auto const program = ProgramWithComposite(100); // the top of the axis
+    auto const lines = LinesOf(CharacterChart(*program, 80));
     EXPECT_EQ(std::count(lines.front().begin(), lines.front().end(), 'o'), 54);
     EXPECT_EQ(std::count(lines.front().begin(), lines.front().end(), '@'), 1);
     EXPECT_TRUE(lines.back().ends_with("02/09/01 and 25 days on"));
 }
 
 TEST(CharacterChart, FitsTheTerminal) {
-    auto const program = RisingProgram();
+    auto const program = ProgramWithComposite(0);
     for (int const width : {1, 20, 40, 80, 500}) {
-        for (std::string const& line : LinesOf(CharacterChart(*program, ResultWith(true), width))) {
+        for (std::string const& line : LinesOf(CharacterChart(*program, width))) {
             // A terminal too narrow for twenty columns gets those all the same, and the legend stays whole.
             bool const legend = line.ends_with("days on");
             EXPECT_TRUE(legend || line.size() <= static_cast<std::size_t>(std::max(width, 28))) << line;
@@ -72,20 +73,15 @@ TEST(CharacterChart, FitsTheTerminal) {
 }
 
 TEST(CharacterChart, LeavesOutACompositeBeyondTheAxis) {
-    auto const program = RisingProgram();
-    program->Curves.CompositeCurve.Fill(1e300);
-    auto const chart = CharacterChart(*program, ResultWith(true), 80);
+    auto const program = ProgramWithComposite(1e300);
+    auto const chart = CharacterChart(*program, 80);
     EXPECT_EQ(chart.substr(0, chart.find('+')).find('o'), std::string::npos);
 }
 
-TEST(CharacterChart, IsEmptyForPricesWithoutARange) {
+TEST(CharacterChart, IsEmptyForQuotesThatCannotBeShown) {
     auto const program = RisingProgram();
-    program->PriceScale = {5, 5};
-    EXPECT_EQ(CharacterChart(*program, ResultWith(true), 80), "");
-}
-
-TEST(CharacterChart, IsEmptyWithoutAMovingAverage) {
-    EXPECT_EQ(CharacterChart(*RisingProgram(), app::AnalysisResult(), 80), "");
+    program->Curves.States.Quotes.Fault = text::RunTimeError(text::Fault::DivisionByZero);
+    EXPECT_EQ(CharacterChart(*program, 80), "");
 }
 
 } // namespace

@@ -3,8 +3,6 @@
 
 #include "platform/RecordingCanvas.h"
 
-#include "platform/BlankCanvas.h"
-
 #include <gtest/gtest.h>
 
 namespace quorvex::platform {
@@ -35,23 +33,6 @@ TEST(RecordingCanvas, MeasuresTextInANominalFontWithoutRecordingIt) {
     EXPECT_NEAR(canvas.TextHeight(), 368, 0.01);
     EXPECT_EQ(canvas.TextWidth(""), 0);
     EXPECT_EQ(canvas.Operations().size(), 1U);
-}
-
-TEST(BlankCanvas, MeasuresTextAsARecordingCanvasDoes) {
-    RecordingCanvas recording(100, 50);
-    BlankCanvas blank;
-    for (int const size : {8, 12}) {
-        recording.SetFont("Arial", size, false);
-        blank.SetFont("Arial", size, false);
-        EXPECT_EQ(blank.TextWidth("Forecast"), recording.TextWidth("Forecast"));
-        EXPECT_EQ(blank.TextHeight(), recording.TextHeight());
-    }
-}
-
-TEST(BlankCanvas, HasASizeToDrawOn) {
-    BlankCanvas const canvas;
-    EXPECT_GT(canvas.Width(), 0);
-    EXPECT_GT(canvas.Height(), 10);
 }
 
 } // namespace

@@ -28,7 +28,7 @@ Control& Find(QObject const& window, QString const& name) {
 RunningWindow::RunningWindow() {
     app::ui::LoadResources();
     Window = std::make_unique<app::ui::frmMain>(
-        *Data, Folder.Text(), app::ui::Host{Profile, Files, Launcher, Registry, Printing, Printing});
+        *Data, Folder.Text(), app::Host{Profile, Files, Launcher, Registry, Printing, Printing});
     Window->show();
     Window->activateWindow();
     if (!QTest::qWaitForWindowActive(Window.get())) {

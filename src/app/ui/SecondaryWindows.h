@@ -5,13 +5,7 @@
 
 #include "app/Program.h"
 #include "platform/Dialogs.h"
-#include "platform/Files.h"
-#include "platform/Launcher.h"
 #include "platform/MainWindow.h"
-#include "platform/MousePointer.h"
-#include "platform/Printer.h"
-#include "platform/Profile.h"
-#include "platform/Registry.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -42,16 +36,6 @@ class frmPreferences;
 }
 
 namespace quorvex::app::ui {
-
-// What the windows need of the system.
-struct Host {
-    platform::Profile& Profile;
-    platform::Files& Files;
-    platform::Launcher& Launcher;
-    platform::Registry const& Registry;
-    platform::PrintQueue& Printing;
-    platform::MousePointer& Pointer;
-};
 
 // The windows that commands open. Each is created when it is first needed, and kept.
 class SecondaryWindows {

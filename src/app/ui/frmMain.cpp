@@ -57,8 +57,12 @@ frmMain::frmMain(Program& program, std::string_view programFolder, Host const& h
     toolStrip_ = MakeToolStrip(*client_, run);
     grid_ = std::make_unique<GridPanel>(*client_);
     AddBoxes();
-    services_ = std::make_unique<Services>(Services{*grid_, Boxes(), dialogs_, files_, pending_,
-                                                    host.Launcher, *this, host.Printing, host.Pointer});
+    services_ = std::make_unique<Services>(Services{.System = host,
+                                                    .Grid = *grid_,
+                                                    .Boxes = Boxes(),
+                                                    .Dialogs = dialogs_,
+                                                    .Pending = pending_,
+                                                    .Window = *this});
     resize(InitialSize.boundedTo(screen()->availableSize()));
     platform::qt::CentreForm(*this);
     StartUp(program, *grid_, host.Profile, programFolder);
@@ -83,7 +87,7 @@ void frmMain::AddBoxes() {
     }
 }
 
-ChartBoxes frmMain::Boxes() {
+chart::ChartBoxes frmMain::Boxes() {
     return {boxes_[0]->Drawing(), boxes_[1]->Drawing(), boxes_[2]->Drawing(), boxes_[3]->Drawing()};
 }
 
@@ -145,11 +149,10 @@ void frmMain::SetBoxUpdates(bool isEnabled) {
 }
 
 void frmMain::ShowDrawings() {
-    chart::ChartContents const contents{program_.Quotes, program_.Settings, program_.Cycles, program_.Curves};
     for (std::size_t index = 0; index < BoxCount; ++index) {
         platform::qt::PictureBox& box = *boxes_.at(index);
         if (box.ShowDrawing()) {
-            auto reading = chart::ReadChart(BoxTable.at(index).Kind, contents, program_.Faults);
+            auto reading = chart::ReadChart(BoxTable.at(index).Kind, ContentsOf(program_));
             box.setAccessibleDescription(ToQt(reading.Description));
             readings_.at(index)->Take(std::move(reading));
         }

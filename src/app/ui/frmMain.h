@@ -74,7 +74,7 @@ private:
     void Open(platform::SecondaryWindow window) override;
     void End() override;
 
-    [[nodiscard]] ChartBoxes Boxes();
+    [[nodiscard]] chart::ChartBoxes Boxes();
 
     Program& program_;
     platform::Files& files_;

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "chart/basPrint.h"
-#include "chart/basScale.h"
 #include "platform/pictures/QtPdfPrintQueue.h"
+#include "quotes/PriceScale.h"
 #include "support/QuoteTexts.h"
 #include "windows/PrintedPdf.h"
 #include "windows/WindowTest.h"
@@ -150,7 +150,7 @@ private Q_SLOTS:
 
     void BarsReachFromLowToHigh() {
         ReadBackChart const chart({"q025.txt", "Daily Bar Chart", QPageSize::Letter});
-        auto const range = chart::ComputePriceRange(*chart.Series);
+        auto const range = quotes::ComputePriceRange(*chart.Series);
         double const step = (chart.Right - chart.Left) / 26;
         // The quotes fill nine tenths of the height.
         auto const placeOf = [&](double price) {
