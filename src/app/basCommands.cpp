@@ -18,6 +18,16 @@
 
 namespace quorvex::app {
 
+namespace {
+
+// Shows the window until it is closed. The main window is active again then, which draws everything anew.
+void OpenWindow(platform::SecondaryWindow window, Program& program, Services& services) {
+    services.Window.Open(window);
+    Redraw(program, services);
+}
+
+} // namespace
+
 void FileOpen(Program& program, Services& services) {
     platform::RunReported(services.Dialogs, [&] {
         quotes::OpenQuoteFile(program.Quotes, program.Settings, services.System.Files, services.Dialogs);
@@ -36,8 +46,8 @@ void FileClose(Program& program, Services& services) {
     services.Window.SetCaption(Caption(program));
 }
 
-void FileEdit(Program&, Services& services) {
-    services.Window.Open(platform::SecondaryWindow::Edit);
+void FileEdit(Program& program, Services& services) {
+    OpenWindow(platform::SecondaryWindow::Edit, program, services);
 }
 
 void FileSaveAs(Program& program, Services& services) {
@@ -47,16 +57,16 @@ void FileSaveAs(Program& program, Services& services) {
     });
 }
 
-void FileConvertCSI(Program&, Services& services) {
-    services.Window.Open(platform::SecondaryWindow::ConvertCSI);
+void FileConvertCSI(Program& program, Services& services) {
+    OpenWindow(platform::SecondaryWindow::ConvertCSI, program, services);
 }
 
-void FileConvertBarChart(Program&, Services& services) {
-    services.Window.Open(platform::SecondaryWindow::ConvertBarChart);
+void FileConvertBarChart(Program& program, Services& services) {
+    OpenWindow(platform::SecondaryWindow::ConvertBarChart, program, services);
 }
 
-void FileConvertCustom(Program&, Services& services) {
-    services.Window.Open(platform::SecondaryWindow::ConvertCustom);
+void FileConvertCustom(Program& program, Services& services) {
+    OpenWindow(platform::SecondaryWindow::ConvertCustom, program, services);
 }
 
 void FilePrint(Program& program, Services& services) {
@@ -85,7 +95,7 @@ void FileProperties(Program& program, Services& services) {
             {"Please load a quote data file", "Quorvex - Properties", platform::Icon::Information});
         return;
     }
-    services.Window.Open(platform::SecondaryWindow::Properties);
+    OpenWindow(platform::SecondaryWindow::Properties, program, services);
 }
 
 void FileExit(Program&, Services& services) {
@@ -161,27 +171,26 @@ void Forecast(Program& program, Services& services) {
     }
     platform::RunReported(services.Dialogs, [&] {
         if (cycles::RequireForecastWeights(services.Grid, services.Dialogs)) {
-            services.Window.Open(platform::SecondaryWindow::Forecast);
+            OpenWindow(platform::SecondaryWindow::Forecast, program, services);
         }
     });
 }
 
 void Preferences(Program& program, Services& services) {
-    services.Window.Open(platform::SecondaryWindow::Preferences);
-    Redraw(program, services);
+    OpenWindow(platform::SecondaryWindow::Preferences, program, services);
 }
 
-void Legend(Program&, Services& services) {
-    services.Window.Open(platform::SecondaryWindow::Legend);
+void Legend(Program& program, Services& services) {
+    OpenWindow(platform::SecondaryWindow::Legend, program, services);
 }
 
 void ShowHelp(std::string_view helpFileName, Program& program, Services& services) {
     program.HelpFileName = helpFileName;
-    services.Window.Open(platform::SecondaryWindow::Help);
+    OpenWindow(platform::SecondaryWindow::Help, program, services);
 }
 
-void HelpAbout(Program&, Services& services) {
-    services.Window.Open(platform::SecondaryWindow::About);
+void HelpAbout(Program& program, Services& services) {
+    OpenWindow(platform::SecondaryWindow::About, program, services);
 }
 
 void HelpUserManual(Program&, Services& services) {

@@ -10,6 +10,15 @@
 
 namespace quorvex::app {
 
+namespace {
+
+void ComputeAndDraw(Program& program, chart::ChartBoxes const& boxes) {
+    cycles::ComputeCurves(program.Quotes, program.Settings, program.Cycles, program.Curves);
+    chart::DrawCharts(ContentsOf(program), boxes);
+}
+
+} // namespace
+
 std::string Caption(Program const& program) {
     std::string caption(platform::ApplicationTitle);
     if (program.Quotes.HasQuotes()) {
@@ -24,8 +33,14 @@ void Redraw(Program& program, Services& services) {
         services.Window.LayOut();
         chart::PrepareCharts(services.Boxes, program.Quotes.WorkingCount);
         cycles::ReadGrid(services.Grid, program.Cycles, services.Pending);
-        cycles::ComputeCurves(program.Quotes, program.Settings, program.Cycles, program.Curves);
-        chart::DrawCharts(ContentsOf(program), services.Boxes);
+        ComputeAndDraw(program, services.Boxes);
+    }));
+}
+
+void Repaint(Program& program, chart::ChartBoxes const& boxes) {
+    static_cast<void>(text::Trap([&] {
+        chart::PrepareCharts(boxes, program.Quotes.WorkingCount);
+        ComputeAndDraw(program, boxes);
     }));
 }
 

@@ -18,4 +18,7 @@ namespace quorvex::app {
 // could not be computed stands in the program's curves.
 void Redraw(Program& program, Services& services);
 
+// Computes and draws everything on the boxes as the program's data are, without reading the grid.
+void Repaint(Program& program, chart::ChartBoxes const& boxes);
+
 } // namespace quorvex::app

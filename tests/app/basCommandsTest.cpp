@@ -12,7 +12,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -424,6 +426,34 @@ TEST(Commands, PreferencesAreFollowedByARedraw) {
     Preferences(*running.Data, running.Outside);
     EXPECT_THAT(running.Window.Calls, testing::ElementsAre("open", "caption", "layout"));
     EXPECT_THAT(running.Window.Opened, testing::ElementsAre(platform::SecondaryWindow::Preferences));
+}
+
+// How often each command lays the window out, which is what a redraw begins with.
+TEST(Commands, EndWithOneRedrawWhereTheyOpenAWindowOrChangeData) {
+    std::set<std::string_view> const withoutRedraw = {
+        "mnuFileClose",        "mnuFilePrint",       "mnuFilePrintSetup",
+        "mnuFileExit",         "mnuParametersNew",   "mnuParametersSave",
+        "mnuParametersSaveAs", "mnuParametersPrint", "mnuHelpUserManual"};
+    for (MenuRow const& row : MenuTable()) {
+        if (row.Run == nullptr) {
+            continue;
+        }
+        RunningProgram running;
+        running.Open("q060.txt", GoldenFile("quotes/q060.txt"));
+        running.Files.Contents["C:\\Quorvex\\mine.dat"] = "57, 20, 3, 0\r\n2, 30, 3, 0\r\n66, 40, 3, 0\r\n";
+        running.TypeCycle(1, "100", "20");
+        running.Dialogs.Choices = {row.Name == "mnuFileOpen" ? "q060.txt" : "mine.dat"};
+        running.Dialogs.Texts = {row.Name == "mnuFileSaveAs" ? "copy.txt" : "copy.dat"};
+        running.Dialogs.Answers = {platform::Answer::No};
+        running.Window.Calls.clear();
+        row.Run(*running.Data, running.Outside);
+        EXPECT_EQ(std::ranges::count(running.Window.Calls, "layout"),
+                  withoutRedraw.contains(row.Name) ? 0 : 1)
+            << row.Name;
+        if (row.Name == "mnuParametersOpen") {
+            EXPECT_EQ(running.Grid.Text(cycles::Parameter::Weight, 3), "53") << "scaled once";
+        }
+    }
 }
 
 TEST(Commands, LegendAndAboutOpenTheirWindows) {

@@ -107,11 +107,24 @@ TEST_F(Grid, WithAllWeightsZeroTypedPeriodsHaveNoEffect) {
     EXPECT_EQ(set->Cycles[1].Period, 44);
 }
 
-TEST_F(Grid, ReadingTwiceChangesNothingMore) {
+TEST_F(Grid, ReadingTwiceScalesTwice) {
+    ClearGrid(grid);
+    Type(1, {"57", "20", "3", "1"});
+    Type(2, {"2", "30", "-4", "0"});
+    Type(3, {"66", "30", "-4.5", "0"});
+    EXPECT_TRUE(Read());
+    EXPECT_EQ(set->Cycles[3].Weight, 53) << "46, 2 and 53 are 101 percent";
+    EXPECT_TRUE(Read());
+    EXPECT_EQ(set->Cycles[1].Weight, 46);
+    EXPECT_EQ(set->Cycles[2].Weight, 2);
+    EXPECT_EQ(set->Cycles[3].Weight, 52);
+    EXPECT_EQ(set->Cycles[1].Period, 20);
+}
+
+TEST_F(Grid, ReadingPercentagesTwiceChangesNothingMore) {
     ClearGrid(grid);
     Type(1, {"7", "20.5", "3", "1"});
-    Type(2, {"7", "30", "-4", "0"});
-    Type(3, {"13", "30", "-4.5", "0"});
+    Type(2, {"1", "30", "-4", "0"});
     EXPECT_TRUE(Read());
     auto const texts = TextsOf(grid);
     auto const rows = RowsOf(*set);

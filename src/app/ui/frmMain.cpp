@@ -61,7 +61,7 @@ frmMain::frmMain(Program& program, std::string_view programFolder, Host const& h
                                                     .Grid = *grid_,
                                                     .Boxes = Boxes(),
                                                     .Dialogs = dialogs_,
-                                                    .Pending = pending_,
+                                                    .Pending = *this,
                                                     .Window = *this});
     resize(InitialSize.boundedTo(screen()->availableSize()));
     platform::qt::CentreForm(*this);
@@ -94,50 +94,73 @@ chart::ChartBoxes frmMain::Boxes() {
 void frmMain::Run(MenuRow const& row) {
     platform::qt::CloseMenus();
     // Keys and mouse do not come through while a dialog is open or a command runs; assistive technology does.
-    if (!isBusy_ && QApplication::activeModalWidget() == nullptr) {
+    if (!IsOccupied()) {
         RunUndisturbed([&] { row.Run(program_, *services_); });
     }
 }
 
 void frmMain::RunUndisturbed(std::function<void()> const& routine) {
     {
-        auto const busy = BeBusy(true);
+        auto const running = Raise(isCommandRunning_);
         platform::qt::RunGuarded(*this, [&] {
-            auto const shown = qScopeGuard([this] { ShowDrawings(); });
+            auto const shown = qScopeGuard([this] { ShowDrawings(program_); });
             routine();
         });
     }
     RedrawWhenFree();
 }
 
-frmMain::BusyMark frmMain::BeBusy(bool isBusy) {
-    bool const wasBusy = std::exchange(isBusy_, isBusy);
-    return BusyMark([this, wasBusy] { isBusy_ = wasBusy; });
+frmMain::Flag frmMain::Raise(bool& flag) {
+    bool const was = std::exchange(flag, true);
+    return Flag([&flag, was] { flag = was; });
 }
 
-void frmMain::RequestRedraw() {
-    isRedrawWanted_ = true;
-    RedrawWhenFree();
+bool frmMain::IsOccupied() const {
+    return isCommandRunning_ || isRedrawing_ || QApplication::activeModalWidget() != nullptr;
+}
+
+void frmMain::FollowActivation(bool isActive) {
+    // What a command or a dialog does with the focus is a part of it.
+    if (isCommandRunning_ || QApplication::activeModalWidget() != nullptr) {
+        return;
+    }
+    bool const wasAway = std::exchange(isAway_, !isActive);
+    isRedrawWanted_ = isRedrawWanted_ || (isActive && wasAway);
+    if (isActive) {
+        RedrawWhenFree();
+    }
 }
 
 void frmMain::FollowSize() {
-    if (!isBusy_ && isVisible()) {
-        LayOut();
+    if (!isRedrawing_ && isVisible()) {
+        PlaceControls();
+        if (IsOccupied()) {
+            Repaint();
+        }
     }
     isRedrawWanted_ = true;
     redrawAfterEvent_.start();
 }
 
+void frmMain::Repaint() {
+    platform::qt::RunGuarded(*this, false, [&] {
+        // What is at work keeps its data as they are, such as the moving average that cycles are fitted to.
+        auto const copy = std::make_unique<Program>(program_);
+        app::Repaint(*copy, services_->Boxes);
+        ShowDrawings(*copy);
+    });
+}
+
 void frmMain::RedrawWhenFree() {
-    while (isRedrawWanted_ && !isBusy_ && isVisible()) {
-        isRedrawWanted_ = false;
-        auto const busy = BeBusy(true);
+    while (isRedrawWanted_ && !IsOccupied() && isVisible()) {
+        auto const redrawing = Raise(isRedrawing_);
         // The boxes have their new places before they have their new pictures.
         SetBoxUpdates(false);
         auto const updates = qScopeGuard([this] { SetBoxUpdates(true); });
+        isRedrawWanted_ = false;
         isBroken_ = !platform::qt::RunGuarded(*this, !isBroken_, [&] {
             Redraw(program_, *services_);
-            ShowDrawings();
+            ShowDrawings(program_);
         });
     }
 }
@@ -148,11 +171,11 @@ void frmMain::SetBoxUpdates(bool isEnabled) {
     }
 }
 
-void frmMain::ShowDrawings() {
+void frmMain::ShowDrawings(Program const& program) {
     for (std::size_t index = 0; index < BoxCount; ++index) {
         platform::qt::PictureBox& box = *boxes_.at(index);
         if (box.ShowDrawing()) {
-            auto reading = chart::ReadChart(BoxTable.at(index).Kind, ContentsOf(program_));
+            auto reading = chart::ReadChart(BoxTable.at(index).Kind, ContentsOf(program));
             box.setAccessibleDescription(ToQt(reading.Description));
             readings_.at(index)->Take(std::move(reading));
         }
@@ -160,8 +183,8 @@ void frmMain::ShowDrawings() {
 }
 
 bool frmMain::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate) {
-        RequestRedraw();
+    if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate) {
+        FollowActivation(event->type() == QEvent::WindowActivate);
     }
     return QMainWindow::event(event);
 }
@@ -183,6 +206,16 @@ void frmMain::SetCaption(std::string_view caption) {
 }
 
 void frmMain::LayOut() {
+    isRedrawWanted_ = false; // one has begun, with the size as it is now
+    PlaceControls();
+}
+
+void frmMain::Process() {
+    auto const redrawing = Raise(isRedrawing_);
+    pending_.Process();
+}
+
+void frmMain::PlaceControls() {
     auto const layout =
         layout::LayoutMainWindow(platform::qt::OuterWidth(client_->size()),
                                  platform::qt::OuterHeight(client_->size()), layout::IconStripHeight);
@@ -196,9 +229,7 @@ void frmMain::LayOut() {
 }
 
 void frmMain::Open(platform::SecondaryWindow window) {
-    ShowDrawings();
-    // The window stays open as long as the user likes; meanwhile this one may change its size.
-    auto const free = BeBusy(false);
+    ShowDrawings(program_);
     windows_.RunModal(window);
 }
 

@@ -10,6 +10,7 @@
 #include "app/ui/MainDialogs.h"
 #include "app/ui/SecondaryWindows.h"
 #include "platform/MainWindow.h"
+#include "platform/PendingMessages.h"
 #include "platform/qt/PictureBox.h"
 #include "platform/qt/QtPendingMessages.h"
 
@@ -23,9 +24,9 @@
 namespace quorvex::app::ui {
 
 // The program's one top-level window: menu, tool strip, parameter grid and the four charts. It owns no data:
-// its commands work on the program, and every activation, every change of size and every command that changes
-// data draws all charts anew.
-class frmMain final : public QMainWindow, private platform::MainWindow {
+// its commands work on the program, and every return from another program, every change of size and every
+// command that changes data draws all charts anew, once.
+class frmMain final : public QMainWindow, private platform::MainWindow, private platform::PendingMessages {
     Q_OBJECT
 
 public:
@@ -44,28 +45,37 @@ protected:
 private:
     static constexpr std::size_t BoxCount = 4;
 
-    using BusyMark = QScopeGuard<std::function<void()>>;
+    // Up until it goes.
+    using Flag = QScopeGuard<std::function<void()>>;
 
-    // Until the mark goes, redraws wait, or do not.
-    [[nodiscard]] BusyMark BeBusy(bool isBusy);
+    [[nodiscard]] static Flag Raise(bool& flag);
 
     void AddBoxes();
 
-    // Draws everything anew now or, while a command or another redraw is running, after it.
-    void RequestRedraw();
+    // Whether a command, a redraw or a dialog is under way. Redraws that are wanted wait for its end.
+    [[nodiscard]] bool IsOccupied() const;
+
+    // Draws everything anew, if that is wanted and nothing is under way.
     void RedrawWhenFree();
+
+    // Wants a redraw when the user comes back from another program. That a dialog of the program's own takes
+    // the focus and gives it back is none: how often, and when, differs between desktops.
+    void FollowActivation(bool isActive);
 
     // Puts everything into its place now and draws it anew as soon as Qt is done with the event: a redraw
     // lets further sizes through, and the layout that is at work on this one must not go on with it after
-    // those.
+    // those. While something else is under way it draws at once, without reading the grid, which waits.
     void FollowSize();
+    void Repaint();
+    void PlaceControls();
 
     void SetBoxUpdates(bool isEnabled);
 
-    // Makes the boxes show and tell what was drawn since the last time.
-    void ShowDrawings();
+    // Makes the boxes show and tell what was drawn of this program since the last time.
+    void ShowDrawings(Program const& program);
 
-    // Runs the routine while no redraw may come between, then the redraw that was asked for meanwhile.
+    // Runs the routine while no redraw may come between, then the redraw that a change of size wanted
+    // meanwhile, unless the routine has made one since.
     void RunUndisturbed(std::function<void()> const& routine);
 
     // platform::MainWindow
@@ -73,6 +83,9 @@ private:
     void LayOut() override;
     void Open(platform::SecondaryWindow window) override;
     void End() override;
+
+    // platform::PendingMessages
+    void Process() override;
 
     [[nodiscard]] chart::ChartBoxes Boxes();
 
@@ -88,7 +101,9 @@ private:
     platform::qt::QtPendingMessages pending_;
     std::unique_ptr<Services> services_;
     QTimer redrawAfterEvent_;
-    bool isBusy_ = false;
+    bool isCommandRunning_ = false;
+    bool isRedrawing_ = false;
+    bool isAway_ = true;    // another program has the focus
     bool isBroken_ = false; // the last redraw ended with an exception, which was shown
     bool isRedrawWanted_ = false;
 };

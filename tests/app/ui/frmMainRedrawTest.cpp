@@ -4,6 +4,7 @@
 #include "windows/RunningWindow.h"
 #include "windows/WindowTest.h"
 
+#include <QEvent>
 #include <QMenuBar>
 #include <QTimer>
 #include <functional>
@@ -115,6 +116,90 @@ private Q_SLOTS:
         QCOMPARE(main.Cell(2, 1).text(), u"41"_s);
         QVERIFY(main.Picture(2) != cycles);
         QVERIFY(main.Picture(3) != composite);
+    }
+
+    // Weights that show how often the grid was read: 46 2 53 is once, 46 2 52 is twice.
+    void EveryCommandReadsTheGridOnceAtMost_data() {
+        QTest::addColumn<QByteArray>("item");
+        QTest::addColumn<QString>("shown");
+        for (char const* item :
+             {"mnuFileEdit", "mnuFileConvertCSI", "mnuFileConvertBARCHART", "mnuFileConvertCustom",
+              "mnuFileProperties", "mnuRefresh", "mnuForecast", "mnuCorrelation", "mnuPreferences",
+              "mnuLegend", "mnuHelpReadMe", "mnuHelpAbout", "mnuParametersOpen"}) {
+            QTest::newRow(item) << QByteArray(item) << u"46 2 53"_s;
+        }
+        for (char const* item : {"mnuParametersNew", "mnuHelpUserManual", "mnuParametersPrint"}) {
+            QTest::newRow(item) << QByteArray(item) << u"57 2 66"_s;
+        }
+    }
+
+    void EveryCommandReadsTheGridOnceAtMost() {
+        QFETCH(QByteArray, item);
+        QFETCH(QString, shown);
+        RunningWindow main;
+        main.OpenQuotes("q060.txt");
+        main.Folder.Write("mine.dat", "1, 40, 10, 0\r\n");
+        TypeWeights(main, {u"57"_s, u"2"_s, u"66"_s});
+        if (item != "mnuRefresh" && item != "mnuCorrelation" && item != "mnuHelpUserManual" &&
+            item != "mnuParametersPrint") {
+            main.Answers.Escape();
+        }
+        main.Choose(item.constData());
+        QVERIFY(main.Answers.IsDone());
+        QCOMPARE(main.RowTexts(1), shown + Zeros);
+        // What the desktop may deliver when the dialog is gone.
+        QEvent late(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(main.Window.get(), &late);
+        QCoreApplication::processEvents();
+        QCOMPARE(main.RowTexts(1), shown + Zeros);
+    }
+
+    void AMessageThatClosesDoesNotReadTheGrid() {
+        RunningWindow main;
+        TypeWeights(main, {u"57"_s, u"2"_s, u"66"_s});
+        main.Answers.NextMessage([&main](QWidget& message) {
+            for (auto const type : {QEvent::WindowDeactivate, QEvent::WindowActivate}) {
+                QEvent event(type);
+                QCoreApplication::sendEvent(main.Window.get(), &event);
+            }
+            QTest::keyClick(&message, Qt::Key_Return);
+        });
+        main.Choose("mnuCorrelation");
+        QCOMPARE(main.Answers.Shown().size(), 1);
+        QCOMPARE(main.RowTexts(1), u"57 2 66"_s + Zeros);
+        GoAwayAndComeBack(main);
+        QCOMPARE(main.RowTexts(1), u"46 2 53"_s + Zeros);
+    }
+
+    void ASizeThatChangesBehindAMessageIsDrawnAtOnceAndReadsTheGridAfterIt() {
+        RunningWindow main;
+        main.OpenQuotes("q060.txt");
+        TypeWeights(main, {u"57"_s, u"2"_s, u"66"_s});
+        main.TypeInto(2, 1, u"20"_s);
+        QSize const before = main.Picture(1).size();
+        main.Answers.NextMessage([&](QWidget& message) {
+            Enlarge(main);
+            QVERIFY(main.Picture(1).width() > before.width());
+            QCOMPARE(main.Picture(4).size(), main.Box(4).size());
+            QCOMPARE(main.Box(1).Drawing().Width(),
+                     main.Window->centralWidget()->width() * 15 * 0.97 + 120 * 0.97);
+            QCOMPARE(main.RowTexts(1), u"57 2 66"_s + Zeros);
+            QTest::keyClick(&message, Qt::Key_Return);
+        });
+        main.Choose("mnuHelpUserManual");
+        QVERIFY(main.Answers.IsDone());
+        QTRY_COMPARE(main.RowTexts(1), u"46 2 53"_s + Zeros);
+        QVERIFY(main.Box(2).accessibleDescription().startsWith(u"1 component cycle over 60 days"));
+    }
+
+    void ASeriesOfNoDaysHasEmptyChartsThatSaySo() {
+        RunningWindow main;
+        main.Data->Quotes.QuoteFileName = "none.txt";
+        TypeWeights(main, {u"100"_s});
+        main.TypeInto(2, 1, u"20"_s);
+        main.Choose("mnuRefresh");
+        QCOMPARE(main.Box(1).accessibleDescription(), u"There are no quotes to show."_s);
+        QCOMPARE(main.Box(4).accessibleDescription(), u"There are no quotes to show."_s);
     }
 
     void TheChartsFollowTheSizeOfTheWindow() {
