@@ -14,11 +14,8 @@ public:
 
     [[nodiscard]] std::string Ask(platform::Question const&) override { return {}; }
 
-    [[nodiscard]] std::optional<std::string> ChooseQuoteFile(std::span<std::string const>) override {
-        return std::nullopt;
-    }
-
-    [[nodiscard]] std::optional<std::string> ChooseParameterFile(std::span<std::string const>) override {
+    [[nodiscard]] std::optional<std::string> Choose(platform::FileKind,
+                                                    std::span<std::string const>) override {
         return std::nullopt;
     }
 

@@ -4,6 +4,7 @@
 // The program-wide data.
 #pragma once
 
+#include "app/MainWindow.h"
 #include "chart/ChartContents.h"
 #include "chart/basCharts.h"
 #include "cycles/CycleCurves.h"
@@ -12,7 +13,6 @@
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/Launcher.h"
-#include "platform/MainWindow.h"
 #include "platform/MousePointer.h"
 #include "platform/PendingMessages.h"
 #include "platform/Printer.h"
@@ -58,7 +58,7 @@ struct Services {
     chart::ChartBoxes Boxes;
     platform::Dialogs& Dialogs;
     platform::PendingMessages& Pending;
-    platform::MainWindow& Window;
+    MainWindow& Window;
 };
 
 // Brings the program to its state after start-up: zeros in the grid, the settings of the profile, the

@@ -21,7 +21,7 @@ namespace quorvex::app {
 namespace {
 
 // Shows the window until it is closed. The main window is active again then, which draws everything anew.
-void OpenWindow(platform::SecondaryWindow window, Program& program, Services& services) {
+void OpenWindow(SecondaryWindow window, Program& program, Services& services) {
     services.Window.Open(window);
     Redraw(program, services);
 }
@@ -47,7 +47,7 @@ void FileClose(Program& program, Services& services) {
 }
 
 void FileEdit(Program& program, Services& services) {
-    OpenWindow(platform::SecondaryWindow::Edit, program, services);
+    OpenWindow(SecondaryWindow::Edit, program, services);
 }
 
 void FileSaveAs(Program& program, Services& services) {
@@ -58,15 +58,15 @@ void FileSaveAs(Program& program, Services& services) {
 }
 
 void FileConvertCSI(Program& program, Services& services) {
-    OpenWindow(platform::SecondaryWindow::ConvertCSI, program, services);
+    OpenWindow(SecondaryWindow::ConvertCSI, program, services);
 }
 
 void FileConvertBarChart(Program& program, Services& services) {
-    OpenWindow(platform::SecondaryWindow::ConvertBarChart, program, services);
+    OpenWindow(SecondaryWindow::ConvertBarChart, program, services);
 }
 
 void FileConvertCustom(Program& program, Services& services) {
-    OpenWindow(platform::SecondaryWindow::ConvertCustom, program, services);
+    OpenWindow(SecondaryWindow::ConvertCustom, program, services);
 }
 
 void FilePrint(Program& program, Services& services) {
@@ -95,7 +95,7 @@ void FileProperties(Program& program, Services& services) {
             {"Please load a quote data file", "Quorvex - Properties", platform::Icon::Information});
         return;
     }
-    OpenWindow(platform::SecondaryWindow::Properties, program, services);
+    OpenWindow(SecondaryWindow::Properties, program, services);
 }
 
 void FileExit(Program&, Services& services) {
@@ -171,26 +171,26 @@ void Forecast(Program& program, Services& services) {
     }
     platform::RunReported(services.Dialogs, [&] {
         if (cycles::RequireForecastWeights(services.Grid, services.Dialogs)) {
-            OpenWindow(platform::SecondaryWindow::Forecast, program, services);
+            OpenWindow(SecondaryWindow::Forecast, program, services);
         }
     });
 }
 
 void Preferences(Program& program, Services& services) {
-    OpenWindow(platform::SecondaryWindow::Preferences, program, services);
+    OpenWindow(SecondaryWindow::Preferences, program, services);
 }
 
 void Legend(Program& program, Services& services) {
-    OpenWindow(platform::SecondaryWindow::Legend, program, services);
+    OpenWindow(SecondaryWindow::Legend, program, services);
 }
 
 void ShowHelp(std::string_view helpFileName, Program& program, Services& services) {
     program.HelpFileName = helpFileName;
-    OpenWindow(platform::SecondaryWindow::Help, program, services);
+    OpenWindow(SecondaryWindow::Help, program, services);
 }
 
 void HelpAbout(Program& program, Services& services) {
-    OpenWindow(platform::SecondaryWindow::About, program, services);
+    OpenWindow(SecondaryWindow::About, program, services);
 }
 
 void HelpUserManual(Program&, Services& services) {

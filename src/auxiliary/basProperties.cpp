@@ -47,16 +47,16 @@ std::vector<PropertyCaption> DescribeQuotes(quotes::QuoteSeries const& series,
     quotes::QuoteRecord const& last = series.Working[series.WorkingCount];
     text::NumberFormat const price(currencyFormat);
     std::vector<PropertyCaption> captions = {
-        {"lblQuoteFileName", series.QuoteFileName},
-        {"lblStartDate", DateText(first)},
-        {"lblEndDate", DateText(last)},
-        {"lblNumQuotes", text::PlainNumber(series.WorkingCount)},
-        {"lblOpen", price.Format(first.Open)},
-        {"lblHigh", text::PlainNumber(found.Highest)},
-        {"lblLow", text::PlainNumber(found.Lowest)},
-        {"lblClose", price.Format(last.Close)},
-        {"lblRange", price.Format(text::RequireFinite(found.Highest - found.Lowest))},
-        {"lblMean", price.Format(mean)},
+        {"lblQuoteFileName", "Quote file", series.QuoteFileName},
+        {"lblStartDate", "Start date", DateText(first)},
+        {"lblEndDate", "End date", DateText(last)},
+        {"lblNumQuotes", "No. of quotes", text::PlainNumber(series.WorkingCount)},
+        {"lblOpen", "Open", price.Format(first.Open)},
+        {"lblHigh", "High", text::PlainNumber(found.Highest)},
+        {"lblLow", "Low", text::PlainNumber(found.Lowest)},
+        {"lblClose", "Close", price.Format(last.Close)},
+        {"lblRange", "Range", price.Format(text::RequireFinite(found.Highest - found.Lowest))},
+        {"lblMean", "Mean", price.Format(mean)},
     };
     for (PropertyCaption& caption : captions) {
         caption.Caption.insert(0, "  ");

@@ -15,6 +15,7 @@ namespace quorvex::auxiliary {
 // What one label of the properties window shows.
 struct PropertyCaption {
     std::string_view Label; // the label's name
+    std::string_view Name;  // what it is, in words
     std::string Caption;    // two blanks and the value
 };
 

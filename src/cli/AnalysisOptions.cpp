@@ -4,6 +4,7 @@
 #include "cli/AnalysisOptions.h"
 
 #include "cli/QuotePath.h"
+#include "cli/SettingOptions.h"
 #include "text/basDates.h"
 
 namespace quorvex::cli {
@@ -38,11 +39,9 @@ void AddAnalysisOptions(CLI::App& command, AnalysisOptions& options) {
         ->type_name("1|2|3")
         ->check(IsFitCount())
         ->excludes(parameters);
-    command.add_option("--moving-average", options.MovingAverage, "Length of the moving average [3]")
-        ->type_name("K");
-    command.add_option("--format", options.Format, "Number format of prices [####0.00]")->type_name("F");
-    command.add_option("--chart-type", options.ChartType, "Kind of quote chart [Daily Bar Chart]")
-        ->type_name("T");
+    AddMovingAverageOption(command, options.MovingAverage);
+    AddFormatOption(command, options.Format);
+    AddChartTypeOption(command, options.ChartType);
     command.add_option("--start", options.Request.StartDate, "First day to analyse")
         ->type_name("mm/dd/yy")
         ->check(IsDate());

@@ -9,10 +9,8 @@
 #include "text/basTexts.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <string_view>
-#include <utility>
 
 namespace quorvex::cli {
 
@@ -29,31 +27,11 @@ std::string PadRight(std::string_view text, std::size_t width) {
     return padded;
 }
 
-// What the report calls each label of the properties window.
-constexpr std::array<std::pair<std::string_view, std::string_view>, 10> StatisticNames = {{
-    {"lblQuoteFileName", "Quote file"},
-    {"lblStartDate", "Start date"},
-    {"lblEndDate", "End date"},
-    {"lblNumQuotes", "No. of quotes"},
-    {"lblOpen", "Open"},
-    {"lblHigh", "High"},
-    {"lblLow", "Low"},
-    {"lblClose", "Close"},
-    {"lblRange", "Range"},
-    {"lblMean", "Mean"},
-}};
-
-std::string_view StatisticName(std::string_view label) {
-    auto const row = std::find_if(StatisticNames.begin(), StatisticNames.end(),
-                                  [label](auto const& name) { return name.first == label; });
-    return row == StatisticNames.end() ? label : row->second;
-}
-
 std::string Statistics(std::vector<auxiliary::PropertyCaption> const& properties) {
     constexpr std::size_t NameWidth = 15;
     std::string lines = "Quotes\n";
     for (auto const& caption : properties) {
-        lines += "  " + PadRight(StatisticName(caption.Label), NameWidth);
+        lines += "  " + PadRight(caption.Name, NameWidth);
         lines.append(text::Trim(caption.Caption)) += '\n';
     }
     return lines;
@@ -66,8 +44,8 @@ std::string Cycles(app::Program const& program, cycles::ParameterGrid const& gri
         return "Cycles\n  none: give --parameters FILE.dat or --automate 1|2|3\n";
     }
     std::string lines = PadRight("Cycles", NameWidth + 2);
-    for (std::string_view const caption : {"Weight", "Period", "Shift", "Decay"}) {
-        lines += PadLeft(caption, ColumnWidth);
+    for (auto const parameter : cycles::Parameters) {
+        lines += PadLeft(cycles::ParameterName(parameter), ColumnWidth);
     }
     lines += '\n';
     for (int cycle = 1; cycle <= cycles::CycleCount; ++cycle) {

@@ -4,6 +4,7 @@
 #include "cli/Check.h"
 
 #include "cli/EditSession.h"
+#include "cli/SettingOptions.h"
 #include "editor/basValidate.h"
 
 #include <memory>
@@ -31,7 +32,7 @@ void AddCheck(CLI::App& app, ExitStatus& status) {
     auto const options = std::make_shared<CheckOptions>();
     CLI::App* command = app.add_subcommand("check", "Check the quotes as the editor does before it saves");
     command->add_option("QUOTES", options->QuotePath, "Quote file to read")->required()->type_name("");
-    command->add_option("--format", options->Format, "Number format of prices [####0.00]")->type_name("F");
+    AddFormatOption(*command, options->Format);
     command->callback([options, &status] { status = Check(*options); });
 }
 

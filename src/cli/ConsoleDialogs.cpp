@@ -17,11 +17,7 @@ std::string ConsoleDialogs::Ask(platform::Question const&) {
     return {};
 }
 
-std::optional<std::string> ConsoleDialogs::ChooseQuoteFile(std::span<std::string const>) {
-    return std::nullopt;
-}
-
-std::optional<std::string> ConsoleDialogs::ChooseParameterFile(std::span<std::string const>) {
+std::optional<std::string> ConsoleDialogs::Choose(platform::FileKind, std::span<std::string const>) {
     return std::nullopt;
 }
 

@@ -5,6 +5,7 @@
 
 #include "cli/EditSession.h"
 #include "cli/PdfOutput.h"
+#include "cli/SettingOptions.h"
 #include "editor/basListing.h"
 #include "platform/MousePointer.h"
 
@@ -42,7 +43,7 @@ void AddList(CLI::App& app, platform::PdfPrintQueue* queue, ExitStatus& status) 
     auto const options = std::make_shared<ListOptions>();
     CLI::App* command = app.add_subcommand("list", "Print the listing of the quotes into a PDF file");
     command->add_option("QUOTES", options->QuotePath, "Quote file to read")->required()->type_name("");
-    command->add_option("--format", options->Format, "Number format of prices [####0.00]")->type_name("F");
+    AddFormatOption(*command, options->Format);
     AddPdfOption(*command, options->OutputPath, queue);
     command->callback([options, queue, &status] { status = List(*options, *queue); });
 }

@@ -27,12 +27,21 @@ double Number(ParameterGrid const& grid, Parameter parameter, int cycle) {
     return text::LeadingNumber(grid.Text(parameter, cycle));
 }
 
-// Where the set keeps each parameter, in the order of the enumeration.
-constexpr std::array<double CycleRecord::*, Parameters.size()> Fields = {
-    &CycleRecord::Weight, &CycleRecord::Period, &CycleRecord::Shift, &CycleRecord::Decay};
+struct ParameterRow {
+    std::string_view Name;
+    double CycleRecord::*Field; // where the set keeps it
+};
 
-double CycleRecord::*FieldOf(Parameter parameter) {
-    return Fields.at(static_cast<std::size_t>(parameter));
+// In the order of the enumeration.
+constexpr std::array<ParameterRow, Parameters.size()> Rows = {{
+    {"Weight", &CycleRecord::Weight},
+    {"Period", &CycleRecord::Period},
+    {"Shift", &CycleRecord::Shift},
+    {"Decay", &CycleRecord::Decay},
+}};
+
+ParameterRow const& RowOf(Parameter parameter) {
+    return Rows.at(static_cast<std::size_t>(parameter));
 }
 
 // Drops the weights out of range and returns the sum of the others.
@@ -60,12 +69,16 @@ void ScaleWeights(ParameterGrid& grid, double total) {
 void StoreParameters(ParameterGrid const& grid, CycleParameterSet& set) {
     for (int cycle = 1; cycle <= CycleCount; ++cycle) {
         for (Parameter const parameter : Parameters) {
-            set.Cycles[cycle].*FieldOf(parameter) = WholeFormat().Round(Number(grid, parameter, cycle));
+            set.Cycles[cycle].*RowOf(parameter).Field = WholeFormat().Round(Number(grid, parameter, cycle));
         }
     }
 }
 
 } // namespace
+
+std::string_view ParameterName(Parameter parameter) {
+    return RowOf(parameter).Name;
+}
 
 std::string TextGrid::Text(Parameter parameter, int cycle) const {
     return cells_.at(static_cast<std::size_t>(parameter))[cycle];
@@ -102,7 +115,7 @@ bool ReadGrid(ParameterGrid& grid, CycleParameterSet& set, platform::PendingMess
 void WriteGrid(CycleParameterSet const& set, ParameterGrid& grid) {
     for (int cycle = 1; cycle <= CycleCount; ++cycle) {
         for (Parameter const parameter : Parameters) {
-            WriteCell(grid, parameter, cycle, set.Cycles[cycle].*FieldOf(parameter));
+            WriteCell(grid, parameter, cycle, set.Cycles[cycle].*RowOf(parameter).Field);
         }
     }
 }

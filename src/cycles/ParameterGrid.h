@@ -19,6 +19,9 @@ enum class Parameter { Weight, Period, Shift, Decay };
 inline constexpr std::array<Parameter, 4> Parameters = {Parameter::Weight, Parameter::Period,
                                                         Parameter::Shift, Parameter::Decay};
 
+// What a parameter is called, in captions and tables.
+[[nodiscard]] std::string_view ParameterName(Parameter parameter);
+
 class ParameterGrid {
 public:
     ParameterGrid() = default;

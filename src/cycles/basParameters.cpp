@@ -30,7 +30,7 @@ void ChooseParameterFile(CycleParameterSet& set, std::string_view programFolder,
         platform::ShowWarning(dialogs, "Cannot find Cycle Parameter text files.");
         return;
     }
-    auto const name = dialogs.ChooseParameterFile(names);
+    auto const name = dialogs.Choose(platform::FileKind::Parameters, names);
     set.ParameterFileName = name ? folder + *name : std::string();
     if (name) {
         ReadParameterFile(set.ParameterFileName, set, files, dialogs);

@@ -56,6 +56,9 @@ public:
     [[nodiscard]] virtual std::optional<PrintRange> Show() = 0;
 };
 
+// The kinds of file that are chosen from a list.
+enum class FileKind { Quotes, Parameters };
+
 class Dialogs {
 public:
     Dialogs() = default;
@@ -70,12 +73,9 @@ public:
     // The text that the user entered, as typed; empty when the box was cancelled.
     [[nodiscard]] virtual std::string Ask(Question const& question) = 0;
 
-    // The quote file chooser: the name chosen among those offered, nothing when it was cancelled.
-    [[nodiscard]] virtual std::optional<std::string> ChooseQuoteFile(std::span<std::string const> names) = 0;
-
-    // The parameter file chooser, likewise.
-    [[nodiscard]] virtual std::optional<std::string>
-    ChooseParameterFile(std::span<std::string const> names) = 0;
+    // The chooser of this kind of file: the name chosen among those offered, nothing when it was cancelled.
+    [[nodiscard]] virtual std::optional<std::string> Choose(FileKind kind,
+                                                            std::span<std::string const> names) = 0;
 
     // The host's own file dialog: the whole path of an existing file, empty when it was cancelled.
     [[nodiscard]] virtual std::string AskForFile(FileQuestion const& question) = 0;

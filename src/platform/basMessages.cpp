@@ -11,11 +11,6 @@ void ShowWarning(Dialogs& dialogs, std::string_view text) {
     dialogs.Show({std::string(text), std::string(ApplicationTitle), Icon::Exclamation});
 }
 
-void ShowNoQuotesMessage(Dialogs& dialogs) {
-    dialogs.Show({"Please use File Open option to load a quote data file", std::string(ApplicationTitle),
-                  Icon::Information});
-}
-
 Message ErrorMessage(text::RunTimeError const& error) {
     return {std::string(error.Description()), std::string(ApplicationTitle), Icon::None};
 }

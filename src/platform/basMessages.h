@@ -18,9 +18,6 @@ inline constexpr std::string_view ApplicationTitle = "Quorvex";
 // Shows the text with an OK button and the exclamation icon.
 void ShowWarning(Dialogs& dialogs, std::string_view text);
 
-// Tells the user that the command needs a quote file.
-void ShowNoQuotesMessage(Dialogs& dialogs);
-
 // The plain box with an OK button that shows an error's own description.
 [[nodiscard]] Message ErrorMessage(text::RunTimeError const& error);
 

@@ -9,9 +9,14 @@
 
 namespace quorvex::quotes {
 
+void ShowNoQuotesMessage(platform::Dialogs& dialogs) {
+    dialogs.Show({"Please use File Open option to load a quote data file",
+                  std::string(platform::ApplicationTitle), platform::Icon::Information});
+}
+
 bool RequireQuotes(QuoteSeries const& series, platform::Dialogs& dialogs) {
     if (!series.HasQuotes()) {
-        platform::ShowNoQuotesMessage(dialogs);
+        ShowNoQuotesMessage(dialogs);
     }
     return series.HasQuotes();
 }
@@ -23,7 +28,7 @@ void OpenQuoteFile(QuoteSeries& series, settings::Settings const& settings, plat
         platform::ShowWarning(dialogs, "Cannot find daily quote text files.");
         return;
     }
-    series.QuoteFileName = dialogs.ChooseQuoteFile(names).value_or("");
+    series.QuoteFileName = dialogs.Choose(platform::FileKind::Quotes, names).value_or("");
     // A file that could not be read to its end must not pass for an open one: Save As offers its name.
     if (series.HasQuotes() && LoadQuoteFile(series, settings, files, dialogs) == 0) {
         CloseQuoteFile(series);

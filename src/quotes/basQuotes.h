@@ -17,6 +17,9 @@ namespace quorvex::quotes {
 // The quote files of the data folder.
 inline constexpr std::string_view QuoteFilePattern = "*.Txt";
 
+// Tells the user that the command needs a quote file.
+void ShowNoQuotesMessage(platform::Dialogs& dialogs);
+
 // Whether a quote file is open. When none is, tells the user to open one.
 [[nodiscard]] bool RequireQuotes(QuoteSeries const& series, platform::Dialogs& dialogs);
 

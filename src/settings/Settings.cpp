@@ -37,6 +37,10 @@ std::span<SettingRow const> SettingTable() {
     return Rows;
 }
 
+SettingRow const& SettingRowOf(std::string Settings::*member) {
+    return *std::ranges::find(Rows, member, &SettingRow::Member);
+}
+
 Settings DefaultSettings(std::string_view programFolder) {
     Settings settings;
     for (SettingRow const& row : Rows) {

@@ -31,6 +31,9 @@ struct SettingRow {
 // The rows in the order in which they are read and written.
 [[nodiscard]] std::span<SettingRow const> SettingTable();
 
+// The row of a setting.
+[[nodiscard]] SettingRow const& SettingRowOf(std::string Settings::*member);
+
 // The settings of a program without an INI file. The folder gets its separator.
 [[nodiscard]] Settings DefaultSettings(std::string_view programFolder);
 

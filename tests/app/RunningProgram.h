@@ -3,12 +3,13 @@
 
 #pragma once
 
+#include "RecordingWindow.h"
 #include "app/Program.h"
 #include "platform/RecordingCanvas.h"
 #include "platform/fake/MemoryFiles.h"
 #include "platform/fake/MemoryProfile.h"
+#include "platform/fake/RecordingLauncher.h"
 #include "platform/fake/RecordingPrinter.h"
-#include "platform/fake/RecordingWindow.h"
 #include "platform/fake/ScriptedDialogs.h"
 
 #include <memory>
@@ -40,7 +41,7 @@ public:
     platform::RecordingCanvas Pic3{7000, 1500};
     platform::RecordingCanvas Pic4{7000, 1500};
     platform::fake::RecordingLauncher Launcher;
-    platform::fake::RecordingWindow Window;
+    RecordingWindow Window;
     platform::fake::RecordingPrintQueue Printing;
     platform::NoRegistry Registry;
     Services Outside{.System = {Profile, Files, Launcher, Registry, Printing, Printing},

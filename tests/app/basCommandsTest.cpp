@@ -31,6 +31,7 @@ constexpr auto NoQuotes = "Please use File Open option to load a quote data file
 TEST(Commands, OpenLoadsAndComputes) {
     RunningProgram running;
     running.Open("corn.txt", QuoteLines(30));
+    EXPECT_THAT(running.Dialogs.Choosers, testing::ElementsAre(platform::FileKind::Quotes));
     EXPECT_EQ(running.Data->Quotes.QuoteFileName, "corn.txt");
     EXPECT_EQ(running.Data->Quotes.WorkingCount, 30);
     EXPECT_EQ(running.Data->Curves.MovingAverageCurve[30], 130);
@@ -228,7 +229,7 @@ TEST(Commands, ForecastNeedsWeights) {
     running.Dialogs.Messages.clear();
     running.TypeCycle(1, "50", "20");
     Forecast(*running.Data, running.Outside);
-    EXPECT_THAT(running.Window.Opened, testing::ElementsAre(platform::SecondaryWindow::Forecast));
+    EXPECT_THAT(running.Window.Opened, testing::ElementsAre(SecondaryWindow::Forecast));
     EXPECT_TRUE(running.Dialogs.Messages.empty());
 }
 
@@ -237,6 +238,7 @@ TEST(Commands, ParametersOpenShowsAndTakesUpTheSet) {
     running.Files.Contents["C:\\Quorvex\\mine.dat"] = "1, 40, 10, 0\r\n3, 20, 5, 0\r\n";
     running.Dialogs.Choices = {"mine.dat"};
     ParametersOpen(*running.Data, running.Outside);
+    EXPECT_THAT(running.Dialogs.Choosers, testing::ElementsAre(platform::FileKind::Parameters));
     EXPECT_EQ(running.Grid.Text(cycles::Parameter::Weight, 1), "25");
     EXPECT_EQ(running.Data->Cycles.Cycles[2].Weight, 75);
     EXPECT_NE(running.Data->Curves.CompositeCurve[1], 0);
@@ -416,7 +418,7 @@ TEST(Commands, PropertiesNeedQuotes) {
     running.Dialogs.Messages.clear();
     running.Open("corn.txt", QuoteLines(30));
     FileProperties(*running.Data, running.Outside);
-    EXPECT_THAT(running.Window.Opened, testing::ElementsAre(platform::SecondaryWindow::Properties));
+    EXPECT_THAT(running.Window.Opened, testing::ElementsAre(SecondaryWindow::Properties));
     EXPECT_TRUE(running.Dialogs.Messages.empty());
 }
 
@@ -425,7 +427,7 @@ TEST(Commands, PreferencesAreFollowedByARedraw) {
     running.Window.Calls.clear();
     Preferences(*running.Data, running.Outside);
     EXPECT_THAT(running.Window.Calls, testing::ElementsAre("open", "caption", "layout"));
-    EXPECT_THAT(running.Window.Opened, testing::ElementsAre(platform::SecondaryWindow::Preferences));
+    EXPECT_THAT(running.Window.Opened, testing::ElementsAre(SecondaryWindow::Preferences));
 }
 
 // How often each command lays the window out, which is what a redraw begins with.
@@ -460,8 +462,7 @@ TEST(Commands, LegendAndAboutOpenTheirWindows) {
     RunningProgram running;
     Legend(*running.Data, running.Outside);
     HelpAbout(*running.Data, running.Outside);
-    EXPECT_THAT(running.Window.Opened,
-                testing::ElementsAre(platform::SecondaryWindow::Legend, platform::SecondaryWindow::About));
+    EXPECT_THAT(running.Window.Opened, testing::ElementsAre(SecondaryWindow::Legend, SecondaryWindow::About));
 }
 
 TEST(Commands, HelpItemsNameTheirDocuments) {
@@ -474,7 +475,7 @@ TEST(Commands, HelpItemsNameTheirDocuments) {
         running.Window.Opened.clear();
         MenuRowNamed(item).Run(*running.Data, running.Outside);
         EXPECT_EQ(running.Data->HelpFileName, document);
-        EXPECT_THAT(running.Window.Opened, testing::ElementsAre(platform::SecondaryWindow::Help));
+        EXPECT_THAT(running.Window.Opened, testing::ElementsAre(SecondaryWindow::Help));
     }
 }
 

@@ -148,7 +148,7 @@ TEST(Redraw, EndsWithTheFaultOfACycle) {
 }
 
 // Looks at the boxes whenever the redraw asks for something.
-class Observer final : public platform::MainWindow, public platform::PendingMessages {
+class Observer final : public MainWindow, public platform::PendingMessages {
 public:
     explicit Observer(RunningProgram const& running) : running_(running) {}
 
@@ -158,7 +158,7 @@ public:
 
     void Process() override { Note("messages"); }
 
-    void Open(platform::SecondaryWindow) override { Note("open"); }
+    void Open(SecondaryWindow) override { Note("open"); }
 
     void End() override { Note("end"); }
 

@@ -4,7 +4,7 @@
 #include "auxiliary/basSystemInfo.h"
 
 #include "platform/fake/MemoryFiles.h"
-#include "platform/fake/RecordingWindow.h"
+#include "platform/fake/RecordingLauncher.h"
 #include "platform/fake/ScriptedDialogs.h"
 #include "support/Messages.h"
 

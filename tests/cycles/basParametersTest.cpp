@@ -144,6 +144,17 @@ TEST_F(ParameterCommands, OpenWithoutParameterFilesSaysSo) {
     EXPECT_EQ(TextsOf(grid), ZeroTexts());
 }
 
+TEST_F(ParameterCommands, OpenWithoutParameterFilesShowsTheOpenSetAgain) {
+    *set = *SetOf({{50, 20, 3, 1}});
+    set->ParameterFileName = "C:\\Quorvex\\mine.dat";
+    grid.SetText(Parameter::Period, 1, "99");
+    Open();
+    EXPECT_TRUE(IsOnlyMessage(dialogs.Messages, "Cannot find Cycle Parameter text files.", "Quorvex",
+                              Icon::Exclamation));
+    EXPECT_EQ(set->ParameterFileName, "C:\\Quorvex\\mine.dat");
+    EXPECT_EQ(grid.Text(Parameter::Period, 1), "20");
+}
+
 TEST_F(ParameterCommands, CancellingOpenForgetsTheNameAndLeavesTheGrid) {
     files.Contents = {{"C:\\Quorvex\\a.dat", "25, 40, 10, 0\r\n"}};
     set->ParameterFileName = "C:\\Quorvex\\old.dat";

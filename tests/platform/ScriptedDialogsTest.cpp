@@ -30,8 +30,8 @@ TEST(ScriptedDialogs, AnswerInOrder) {
     EXPECT_EQ(dialogs.Ask({"Name", "Title", ""}), "first");
     EXPECT_EQ(dialogs.Ask({"Name", "Title", ""}), "second");
     std::vector<std::string> const names = {"a.txt", "b.txt"};
-    EXPECT_EQ(dialogs.ChooseQuoteFile(names), "a.txt");
-    EXPECT_EQ(dialogs.ChooseParameterFile(names), std::nullopt);
+    EXPECT_EQ(dialogs.Choose(FileKind::Quotes, names), "a.txt");
+    EXPECT_EQ(dialogs.Choose(FileKind::Parameters, names), std::nullopt);
     dialogs.Paths = {"C:\\a.txt", ""};
     EXPECT_EQ(dialogs.AskForFile({"C:\\", "*.txt", "Text (*.txt)|*.txt"}), "C:\\a.txt");
     EXPECT_EQ(dialogs.AskForFile({"C:\\", "*.csv", "All|*.*"}), "");
@@ -44,13 +44,14 @@ TEST(ScriptedDialogs, AnswerInOrder) {
     EXPECT_EQ(dialogs.OfferedRanges, (std::vector{PrintRange::Selection, PrintRange::Selection}));
     EXPECT_EQ(dialogs.Messages.size(), 3U);
     EXPECT_EQ(dialogs.OfferedFiles.size(), 2U);
+    EXPECT_EQ(dialogs.Choosers, (std::vector{FileKind::Quotes, FileKind::Parameters}));
 }
 
 TEST(ScriptedDialogs, RefuseAQuestionThatTheTestDidNotForesee) {
     ScriptedDialogs dialogs;
     EXPECT_THROW(dialogs.Show({"Save?", "Title", Icon::None, Buttons::YesNoCancel}), std::logic_error);
     EXPECT_THROW(static_cast<void>(dialogs.Ask({"Name", "Title", ""})), std::logic_error);
-    EXPECT_THROW(static_cast<void>(dialogs.ChooseQuoteFile({})), std::logic_error);
+    EXPECT_THROW(static_cast<void>(dialogs.Choose(FileKind::Quotes, {})), std::logic_error);
     EXPECT_THROW(static_cast<void>(dialogs.AskForFile({})), std::logic_error);
     HiddenPrintDialog dialog;
     EXPECT_THROW(static_cast<void>(dialogs.AskWhatToPrint(dialog)), std::logic_error);

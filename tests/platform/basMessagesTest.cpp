@@ -24,12 +24,6 @@ TEST(Messages, AWarningHasTheExclamationIcon) {
     ExpectOnly(dialogs, "Mind the gap", Icon::Exclamation);
 }
 
-TEST(Messages, WithoutQuotesTheUserIsToldToOpenAFile) {
-    fake::ScriptedDialogs dialogs;
-    ShowNoQuotesMessage(dialogs);
-    ExpectOnly(dialogs, "Please use File Open option to load a quote data file", Icon::Information);
-}
-
 TEST(Messages, AnErrorShowsItsDescriptionWithoutAnIcon) {
     fake::ScriptedDialogs dialogs;
     ShowError(dialogs, text::RunTimeError(text::Fault::Overflow));

@@ -16,8 +16,6 @@ namespace {
 using platform::pictures::FromQt;
 using platform::pictures::ToQt;
 
-constexpr std::array<char const*, layout::GridRows> RowCaptions = {"", "Weight", "Period", "Shift", "Decay"};
-
 // Row 0 holds the headers.
 constexpr std::size_t RowOf(cycles::Parameter parameter) {
     return static_cast<std::size_t>(parameter) + 1;
@@ -74,7 +72,7 @@ GridPanel::GridPanel(QWidget& client)
     }
     for (cycles::Parameter const parameter : cycles::Parameters) {
         std::size_t const row = RowOf(parameter);
-        QString const caption = QString::fromLatin1(RowCaptions.at(row));
+        QString const caption = ToQt(cycles::ParameterName(parameter));
         rows_.at(row)[0] = MakeCaption(client, CellName(row, 0), caption);
         for (int cycle = 1; cycle <= cycles::CycleCount; ++cycle) {
             QLineEdit* cell = MakeCell(client, CellName(row, cycle));

@@ -13,8 +13,8 @@ namespace quorvex::app::ui {
 namespace {
 
 template <class Chooser>
-std::optional<std::string> Choose(QPointer<Chooser>& chooser, QWidget& window,
-                                  std::span<std::string const> names) {
+std::optional<std::string> ChooseIn(QPointer<Chooser>& chooser, QWidget& window,
+                                    std::span<std::string const> names) {
     if (chooser.isNull()) {
         chooser = new Chooser(&window);
     }
@@ -31,12 +31,9 @@ std::string MainDialogs::Ask(platform::Question const& question) {
     return platform::qt::AskInputBox(window_, question);
 }
 
-std::optional<std::string> MainDialogs::ChooseQuoteFile(std::span<std::string const> names) {
-    return Choose(quotes_, window_, names);
-}
-
-std::optional<std::string> MainDialogs::ChooseParameterFile(std::span<std::string const> names) {
-    return Choose(parameter_, window_, names);
+std::optional<std::string> MainDialogs::Choose(platform::FileKind kind, std::span<std::string const> names) {
+    return kind == platform::FileKind::Quotes ? ChooseIn(quotes_, window_, names)
+                                              : ChooseIn(parameter_, window_, names);
 }
 
 std::string MainDialogs::AskForFile(platform::FileQuestion const& question) {

@@ -36,45 +36,45 @@ SecondaryWindows::SecondaryWindows(QWidget& mainWindow, Program& program, platfo
       dialogs_(dialogs),
       host_(host) {}
 
-void SecondaryWindows::RunModal(platform::SecondaryWindow window) {
+void SecondaryWindows::RunModal(SecondaryWindow window) {
     QWidget* const parent = &mainWindow_;
     switch (window) {
-    case platform::SecondaryWindow::Edit:
+    case SecondaryWindow::Edit:
         Need(edit_, parent, program_.Quotes, program_.Settings, host_.Files, dialogs_, host_.Printing,
              host_.Pointer)
             .RunModal();
         break;
-    case platform::SecondaryWindow::ConvertCSI:
+    case SecondaryWindow::ConvertCSI:
         Need(convertCSI_, parent, host_.Files, dialogs_, host_.Printing).RunModal();
         break;
-    case platform::SecondaryWindow::ConvertBarChart:
+    case SecondaryWindow::ConvertBarChart:
         Need(convertBarChart_, parent, host_.Files, dialogs_, host_.Printing, [this] {
             ShowConverterHelp();
         }).RunModal();
         break;
-    case platform::SecondaryWindow::ConvertCustom:
+    case SecondaryWindow::ConvertCustom:
         Need(convertCustom_, parent, host_.Files, dialogs_, host_.Printing, [this] {
             ShowConverterHelp();
         }).RunModal();
         break;
-    case platform::SecondaryWindow::Forecast:
+    case SecondaryWindow::Forecast:
         Need(forecast_, parent, program_.Quotes, program_.Cycles, program_.Settings, host_.Files, dialogs_)
             .RunModal();
         break;
-    case platform::SecondaryWindow::Preferences:
+    case SecondaryWindow::Preferences:
         Need(preferences_, parent, program_.Settings, program_.Quotes, host_.Profile, dialogs_).RunModal();
         break;
-    case platform::SecondaryWindow::Properties:
+    case SecondaryWindow::Properties:
         Need(properties_, parent, program_.Quotes, program_.Settings, dialogs_).RunModal();
         break;
-    case platform::SecondaryWindow::Legend:
+    case SecondaryWindow::Legend:
         Need(legend_, parent).RunModal();
         break;
-    case platform::SecondaryWindow::Help:
+    case SecondaryWindow::Help:
         Need(help_, parent, program_.ProgramFolder, program_.Settings, host_.Files, dialogs_)
             .RunModal(program_.HelpFileName);
         break;
-    case platform::SecondaryWindow::About:
+    case SecondaryWindow::About:
         Need(about_, parent, ProgramVersion, [this] {
             auxiliary::StartSysInfo(host_.Registry, host_.Files, host_.Launcher, dialogs_);
         }).RunModal();
@@ -84,7 +84,7 @@ void SecondaryWindows::RunModal(platform::SecondaryWindow window) {
 
 void SecondaryWindows::ShowConverterHelp() {
     program_.HelpFileName = "ConvertCustom.rtf";
-    RunModal(platform::SecondaryWindow::Help);
+    RunModal(SecondaryWindow::Help);
 }
 
 } // namespace quorvex::app::ui

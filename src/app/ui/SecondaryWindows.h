@@ -3,9 +3,9 @@
 
 #pragma once
 
+#include "app/MainWindow.h"
 #include "app/Program.h"
 #include "platform/Dialogs.h"
-#include "platform/MainWindow.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -44,7 +44,7 @@ public:
     SecondaryWindows(QWidget& mainWindow, Program& program, platform::Dialogs& dialogs, Host const& host);
 
     // Shows the window and waits until it is closed.
-    void RunModal(platform::SecondaryWindow window);
+    void RunModal(SecondaryWindow window);
 
 private:
     // One document serves the converters.

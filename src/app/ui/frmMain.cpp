@@ -228,7 +228,7 @@ void frmMain::PlaceControls() {
     }
 }
 
-void frmMain::Open(platform::SecondaryWindow window) {
+void frmMain::Open(SecondaryWindow window) {
     ShowDrawings(program_);
     windows_.RunModal(window);
 }

@@ -3,13 +3,13 @@
 
 #pragma once
 
+#include "app/MainWindow.h"
 #include "app/MenuTable.h"
 #include "app/Program.h"
 #include "app/ui/ChartReadings.h"
 #include "app/ui/GridPanel.h"
 #include "app/ui/MainDialogs.h"
 #include "app/ui/SecondaryWindows.h"
-#include "platform/MainWindow.h"
 #include "platform/PendingMessages.h"
 #include "platform/qt/PictureBox.h"
 #include "platform/qt/QtPendingMessages.h"
@@ -26,7 +26,7 @@ namespace quorvex::app::ui {
 // The program's one top-level window: menu, tool strip, parameter grid and the four charts. It owns no data:
 // its commands work on the program, and every return from another program, every change of size and every
 // command that changes data draws all charts anew, once.
-class frmMain final : public QMainWindow, private platform::MainWindow, private platform::PendingMessages {
+class frmMain final : public QMainWindow, private MainWindow, private platform::PendingMessages {
     Q_OBJECT
 
 public:
@@ -78,10 +78,10 @@ private:
     // meanwhile, unless the routine has made one since.
     void RunUndisturbed(std::function<void()> const& routine);
 
-    // platform::MainWindow
+    // MainWindow
     void SetCaption(std::string_view caption) override;
     void LayOut() override;
-    void Open(platform::SecondaryWindow window) override;
+    void Open(SecondaryWindow window) override;
     void End() override;
 
     // platform::PendingMessages

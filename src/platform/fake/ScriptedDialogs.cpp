@@ -32,12 +32,10 @@ std::string ScriptedDialogs::Ask(Question const& question) {
     return TakeFirst(Texts, question.Prompt.c_str());
 }
 
-std::optional<std::string> ScriptedDialogs::ChooseQuoteFile(std::span<std::string const> names) {
-    return Choose(names);
-}
-
-std::optional<std::string> ScriptedDialogs::ChooseParameterFile(std::span<std::string const> names) {
-    return Choose(names);
+std::optional<std::string> ScriptedDialogs::Choose(FileKind kind, std::span<std::string const> names) {
+    Choosers.push_back(kind);
+    OfferedFiles.emplace_back(names.begin(), names.end());
+    return TakeFirst(Choices, "which file");
 }
 
 std::string ScriptedDialogs::AskForFile(FileQuestion const& question) {
@@ -48,11 +46,6 @@ std::string ScriptedDialogs::AskForFile(FileQuestion const& question) {
 std::optional<PrintRange> ScriptedDialogs::AskWhatToPrint(PrintDialog& dialog) {
     OfferedRanges.push_back(dialog.Offered());
     return TakeFirst(Ranges, "what to print");
-}
-
-std::optional<std::string> ScriptedDialogs::Choose(std::span<std::string const> names) {
-    OfferedFiles.emplace_back(names.begin(), names.end());
-    return TakeFirst(Choices, "which file");
 }
 
 } // namespace quorvex::platform::fake

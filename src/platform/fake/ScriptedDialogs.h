@@ -17,8 +17,8 @@ class ScriptedDialogs final : public Dialogs {
 public:
     Answer Show(Message const& message) override;
     [[nodiscard]] std::string Ask(Question const& question) override;
-    [[nodiscard]] std::optional<std::string> ChooseQuoteFile(std::span<std::string const> names) override;
-    [[nodiscard]] std::optional<std::string> ChooseParameterFile(std::span<std::string const> names) override;
+    [[nodiscard]] std::optional<std::string> Choose(FileKind kind,
+                                                    std::span<std::string const> names) override;
     [[nodiscard]] std::string AskForFile(FileQuestion const& question) override;
 
     [[nodiscard]] std::optional<PrintRange> AskWhatToPrint(PrintDialog& dialog) override;
@@ -26,6 +26,7 @@ public:
     // What was shown, in order.
     std::vector<Message> Messages;
     std::vector<Question> Questions;
+    std::vector<FileKind> Choosers;
     std::vector<std::vector<std::string>> OfferedFiles;
     std::vector<FileQuestion> FileQuestions;
     std::vector<PrintRange> OfferedRanges;
@@ -36,9 +37,6 @@ public:
     std::deque<std::optional<std::string>> Choices;
     std::deque<std::string> Paths;                // empty where the file dialog is cancelled
     std::deque<std::optional<PrintRange>> Ranges; // nothing where the print dialog is cancelled
-
-private:
-    std::optional<std::string> Choose(std::span<std::string const> names);
 };
 
 } // namespace quorvex::platform::fake

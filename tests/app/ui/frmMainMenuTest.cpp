@@ -244,6 +244,13 @@ private Q_SLOTS:
         QVERIFY(!main.Data->Quotes.HasQuotes());
     }
 
+    void ClickingTheConvertImageOpensTheCustomConverter() {
+        RunningWindow main;
+        main.Answers.Escape();
+        ClickButton(*main.Window, u"imgConvert"_s);
+        QCOMPARE(main.Answers.Shown(), QStringList(u"frmConvertCustom"_s));
+    }
+
     void ClickingThePrintImagePrints() {
         RunningWindow main;
         main.OpenQuotes("q060.txt");

@@ -5,6 +5,8 @@
 #include "windows/RunningWindow.h"
 #include "windows/WindowTest.h"
 
+#include <filesystem>
+
 namespace quorvex::tests {
 
 using namespace Qt::StringLiterals;
@@ -137,6 +139,22 @@ private Q_SLOTS:
         main.Choose("mnuParametersOpen");
         QCOMPARE(main.Answers.Shown(), QStringList(OkMessage(u"Quorvex"_s, u"exclamation"_s,
                                                              u"Cannot find Cycle Parameter text files."_s)));
+    }
+
+    void OpenWithoutFilesShowsTheOpenSetAgain() {
+        RunningWindow main;
+        OpenParameters(main, "three.dat", GoldenFile("params/three.dat"));
+        static_cast<void>(main.Answers.TakeShown());
+        std::string const name = main.Data->Cycles.ParameterFileName;
+        QString const weights = main.RowTexts(1);
+        QVERIFY(std::filesystem::remove(main.Folder.File("three.dat")));
+        main.TypeInto(2, 1, u"17"_s);
+        main.Choose("mnuParametersOpen");
+        QCOMPARE(main.Answers.Shown(), QStringList(OkMessage(u"Quorvex"_s, u"exclamation"_s,
+                                                             u"Cannot find Cycle Parameter text files."_s)));
+        QCOMPARE(main.Data->Cycles.ParameterFileName, name);
+        QCOMPARE(main.RowTexts(1), weights);
+        QCOMPARE(main.RowTexts(2), u"80 79 15 0 0 0 0 0 0 0"_s);
     }
 
     void OpenShowsTheCyclesOfTheFile() {

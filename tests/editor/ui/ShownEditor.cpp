@@ -20,11 +20,7 @@ std::string WindowDialogs::Ask(platform::Question const& question) {
     return platform::qt::AskInputBox(parent_, question);
 }
 
-std::optional<std::string> WindowDialogs::ChooseQuoteFile(std::span<std::string const>) {
-    return std::nullopt;
-}
-
-std::optional<std::string> WindowDialogs::ChooseParameterFile(std::span<std::string const>) {
+std::optional<std::string> WindowDialogs::Choose(platform::FileKind, std::span<std::string const>) {
     return std::nullopt;
 }
 

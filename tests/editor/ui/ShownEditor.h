@@ -21,8 +21,8 @@ class WindowDialogs final : public platform::Dialogs {
 public:
     platform::Answer Show(platform::Message const& message) override;
     [[nodiscard]] std::string Ask(platform::Question const& question) override;
-    [[nodiscard]] std::optional<std::string> ChooseQuoteFile(std::span<std::string const> names) override;
-    [[nodiscard]] std::optional<std::string> ChooseParameterFile(std::span<std::string const> names) override;
+    [[nodiscard]] std::optional<std::string> Choose(platform::FileKind kind,
+                                                    std::span<std::string const> names) override;
     [[nodiscard]] std::string AskForFile(platform::FileQuestion const& question) override;
 
 private:

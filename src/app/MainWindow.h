@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-namespace quorvex::platform {
+namespace quorvex::app {
 
 // The windows that commands open.
 enum class SecondaryWindow {
@@ -41,4 +41,4 @@ public:
     virtual void End() = 0;
 };
 
-} // namespace quorvex::platform
+} // namespace quorvex::app
