@@ -28,6 +28,7 @@ class Program:
 
     def __init__(self, desktop, executable):
         self._desktop = desktop
+        self._cells = None
         # The user of the desktop may not be able to read the checkout.
         leaks = shutil.copy2(os.path.join(os.path.dirname(os.path.abspath(__file__)), "leaks.supp"), desktop.folder)
         os.chmod(leaks, 0o644)
@@ -103,8 +104,9 @@ class Program:
 
     def grid(self):
         """The texts of the grid, a list for each cycle."""
-        cells = {cell.name: cell for cell in self.main.find_all("text")}
-        return [[cells[f"Cycle {cycle} {parameter}"].text for parameter in PARAMETERS] for cycle in CYCLES]
+        if self._cells is None:  # they stay as long as the window does, and finding them takes a while
+            self._cells = {cell.name: cell for cell in self.main.find_all("text")}
+        return [[self._cells[f"Cycle {cycle} {parameter}"].text for parameter in PARAMETERS] for cycle in CYCLES]
 
     def chart(self, name):
         return self.main.find("chart", name)
