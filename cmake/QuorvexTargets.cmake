@@ -116,7 +116,8 @@ function(add_core_test core)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FILES;USES")
     set(target test_${core})
     add_executable(${target} ${arg_FILES})
-    target_link_libraries(${target} PRIVATE quorvex_${core} quorvex_test_support quorvex_options)
+    target_link_libraries(${target} PRIVATE quorvex_${core} quorvex_test_support quorvex_test_options)
+    target_precompile_headers(${target} REUSE_FROM quorvex_test_support)
     foreach(used IN LISTS arg_USES)
         target_link_libraries(${target} PRIVATE quorvex_${used})
     endforeach()
@@ -124,20 +125,33 @@ function(add_core_test core)
         PROPERTIES TIMEOUT 300 ENVIRONMENT "${QUORVEX_TEST_ENVIRONMENT}")
 endfunction()
 
-# add_windows_test(<name> FILES <sources> [USES <more targets>] [ENVIRONMENT <NAME=value>...]): a program of Qt Test that
-# drives windows on a platform without a display.
-function(add_windows_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FILES;USES;ENVIRONMENT")
+# add_windows_program(<name> FILES <sources, one of them with a main function>): a program of Qt Test.
+function(add_windows_program name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FILES")
     set(target test_${name})
     add_executable(${target} ${arg_FILES})
     set_target_properties(${target} PROPERTIES AUTOMOC ON)
-    target_link_libraries(${target} PRIVATE quorvex_test_windows quorvex_options)
-    foreach(used IN LISTS arg_USES)
-        target_link_libraries(${target} PRIVATE quorvex_${used})
-    endforeach()
-    add_test(NAME windows.${name} COMMAND ${target})
+    target_link_libraries(${target} PRIVATE quorvex_test_windows quorvex_test_options)
+    target_precompile_headers(${target} REUSE_FROM quorvex_test_windows)
+endfunction()
+
+# add_windows_case(<name> COMMAND <program> [<arguments>]): a test that drives windows on a platform without a display.
+function(add_windows_case name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "COMMAND")
+    add_test(NAME windows.${name} COMMAND ${arg_COMMAND})
     set(leaks ${PROJECT_SOURCE_DIR}/tests/windows/lsan.supp) # of libraries that are not the program's own
     # No test prints on a printer of the machine.
     set_tests_properties(windows.${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
-        "${QUORVEX_TEST_ENVIRONMENT};QT_QPA_PLATFORM=offscreen;CUPS_SERVER=/nowhere;LSAN_OPTIONS=suppressions=${leaks}:print_suppressions=0;${arg_ENVIRONMENT}")
+        "${QUORVEX_TEST_ENVIRONMENT};QT_QPA_PLATFORM=offscreen;CUPS_SERVER=/nowhere;LSAN_OPTIONS=suppressions=${leaks}:print_suppressions=0")
+endfunction()
+
+# add_windows_tests(<sources>): adds them to the program with the window tests. Each source named <name>Test.cpp holds
+# one class of that name, which is a test of its own.
+function(add_windows_tests)
+    foreach(source IN LISTS ARGN)
+        target_sources(test_windows PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/${source})
+        if(source MATCHES "^(.+)Test\\.cpp$")
+            add_windows_case(${CMAKE_MATCH_1} COMMAND test_windows ${CMAKE_MATCH_1}Test)
+        endif()
+    endforeach()
 endfunction()

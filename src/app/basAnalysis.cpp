@@ -82,8 +82,8 @@ void Correlate(Program const& program, AnalysisResult& result) {
     }
 }
 
-Forecast ComputeWholeForecast(Program const& program) {
-    Forecast forecast;
+WholeForecast ComputeWholeForecast(Program const& program) {
+    WholeForecast forecast;
     forecast.Values = cycles::ComputeForecast(program.Cycles, program.Quotes);
     forecast.Dates = cycles::ComputeForecastDates(program.Quotes.LastQuoteDate);
     forecast.PreviousCloses = cycles::PreviousCloseLines(program.Quotes);

@@ -25,7 +25,7 @@ struct AnalysisRequest {
     std::string EndDate;                      // last day to analyse; the last of the file when empty
 };
 
-struct Forecast {
+struct WholeForecast {
     cycles::ForecastCurve Values;
     cycles::ForecastDates Dates;
     std::vector<std::string> PreviousCloses;
@@ -45,7 +45,7 @@ struct AnalysisResult {
     std::vector<cycles::SinusoidFit> Fits;
     std::optional<double> CorrelationCoefficient;
     platform::Message CorrelationMessage; // what the Correlation command would show
-    std::optional<Forecast> ForecastShown;
+    std::optional<WholeForecast> ForecastShown;
     std::optional<std::vector<auxiliary::PropertyCaption>> Properties;
 };
 

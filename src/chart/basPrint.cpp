@@ -139,11 +139,11 @@ void PrintTimeTicks(platform::Printer& printer, ChartArea const& area, int days)
 
 // In shares of the step, so that the shapes of different days never overlap.
 QuoteShapes ShapesOnPage(double step) {
-    constexpr double HalfBar = 0.1;
-    constexpr double HalfBody = 0.38;
-    constexpr double HalfTick = 0.12;
-    return {HalfBar * step,  HalfBar * step,  HalfBody * step,
-            HalfBody * step, HalfTick * step, HalfBody * step};
+    constexpr double HalfBarShare = 0.1;
+    constexpr double HalfBodyShare = 0.38;
+    constexpr double HalfTickShare = 0.12;
+    return {HalfBarShare * step,  HalfBarShare * step,  HalfBodyShare * step,
+            HalfBodyShare * step, HalfTickShare * step, HalfBodyShare * step};
 }
 
 } // namespace

@@ -78,7 +78,7 @@ Json CorrelationJson(app::AnalysisResult const& result) {
             {"title", result.CorrelationMessage.Title}};
 }
 
-Json ForecastJson(app::Forecast const& forecast) {
+Json ForecastJson(app::WholeForecast const& forecast) {
     return {{"Values", ArrayOf(forecast.Values, cycles::ForecastDays)},
             {"Dates", ArrayOf(forecast.Dates, cycles::ForecastDays)},
             {"List1", forecast.PreviousCloses},

@@ -89,7 +89,7 @@ std::string Correlation(platform::Message const& message) {
     return lines;
 }
 
-std::string ForecastTable(app::Forecast const& forecast) {
+std::string ForecastTable(app::WholeForecast const& forecast) {
     constexpr std::size_t ColumnWidth = 34;
     std::string lines = "Forecast\n  " + PadRight("Previous Closes", ColumnWidth) + "Estimated Values\n";
     std::size_t const count = std::max(forecast.PreviousCloses.size(), forecast.EstimatedValues.size());

@@ -15,9 +15,9 @@ namespace quorvex::chart {
 namespace {
 
 // Quotes from 01/01/01 on, the last 25 days closing at 106 to 130, and a forecast rising from 131.
-class ForecastChart {
+class ShownForecast {
 public:
-    explicit ForecastChart(int days = 30)
+    explicit ShownForecast(int days = 30)
         : Series(tests::SeriesOf(tests::QuoteLines(days))),
           Dates(cycles::ComputeForecastDates(Series->LastQuoteDate)) {
         for (int day = 1; day <= cycles::ForecastDays; ++day) {
@@ -33,20 +33,20 @@ public:
 };
 
 TEST(ForecastReading, TellsTheQuoteOfADay) {
-    ForecastChart const chart;
+    ShownForecast const chart;
     chart.Series->Working[30].Open = 129.5;
     EXPECT_EQ(DescribeForecastDay(chart.Reading(), 1), "Day 6, 01/08/01: Open 106.25, Close 106.00");
     EXPECT_EQ(DescribeForecastDay(chart.Reading(), 25), "Day 30, 02/09/01: Open 129.50, Close 130.00");
 }
 
 TEST(ForecastReading, TellsTheForecastOfADay) {
-    ForecastChart const chart;
+    ShownForecast const chart;
     EXPECT_EQ(DescribeForecastDay(chart.Reading(), 26), "Forecast day 1, 02/12/01: 131.00");
     EXPECT_EQ(DescribeForecastDay(chart.Reading(), 50), "Forecast day 25, 03/16/01: 155.00");
 }
 
 TEST(ForecastReading, TellsNothingWhereThereIsNoDay) {
-    ForecastChart const chart(3);
+    ShownForecast const chart(3);
     EXPECT_EQ(DescribeForecastDay(chart.Reading(), 22), "");
     EXPECT_EQ(DescribeForecastDay(chart.Reading(), 23), "Day 1, 01/01/01: Open 101.25, Close 101.00");
     EXPECT_EQ(DescribeForecastDay(chart.Reading(), 0), "");
@@ -54,7 +54,7 @@ TEST(ForecastReading, TellsNothingWhereThereIsNoDay) {
 }
 
 TEST(ForecastReading, DescribesTheWholeChart) {
-    ForecastChart const chart;
+    ShownForecast const chart;
     EXPECT_EQ(DescribeForecast(chart.Reading()),
               "Forecast chart: quotes of 25 days from 01/08/01 to 02/09/01, then a forecast of 25 days from "
               "02/12/01 to 03/16/01. Lowest value 106.00, highest 155.00. Last close 130.00. Last forecast "
@@ -62,14 +62,14 @@ TEST(ForecastReading, DescribesTheWholeChart) {
 }
 
 TEST(ForecastReading, DescribesASingleDay) {
-    ForecastChart const chart(1);
+    ShownForecast const chart(1);
     EXPECT_EQ(DescribeForecast(chart.Reading()),
               "Forecast chart: quotes of 01/01/01, then a forecast of 25 days from 01/02/01 to 02/05/01. "
               "Lowest value 101.00, highest 155.00. Last close 101.00. Last forecast value 155.00.");
 }
 
 TEST(ForecastReading, DescribesTheForecastWithoutQuotes) {
-    ForecastChart const chart;
+    ShownForecast const chart;
     chart.Series->WorkingCount = 0;
     EXPECT_EQ(DescribeForecast(chart.Reading()),
               "Forecast chart: no quotes, then a forecast of 25 days from 02/12/01 to 03/16/01. Lowest value "
@@ -77,7 +77,7 @@ TEST(ForecastReading, DescribesTheForecastWithoutQuotes) {
 }
 
 TEST(ForecastReading, OverflowsWithValuesThatHaveNoScale) {
-    ForecastChart chart;
+    ShownForecast chart;
     chart.Values[4] = std::numeric_limits<double>::infinity();
     EXPECT_THROW(static_cast<void>(DescribeForecast(chart.Reading())), text::RunTimeError);
 }

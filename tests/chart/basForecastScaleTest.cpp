@@ -15,23 +15,23 @@ namespace quorvex::chart {
 namespace {
 
 // The frame runs from 960 to 5960: columns of 100 twips.
-constexpr double BoxWidth = 6260;
+constexpr double SpanWidth = 6260;
 
 TEST(ForecastColumns, AreFoundAroundTheirMiddle) {
-    auto const span = ComputeForecastSpan(BoxWidth);
+    auto const span = ComputeForecastSpan(SpanWidth);
     for (int column = 1; column <= LastForecastColumn; ++column) {
-        EXPECT_EQ(ForecastColumnAt(BoxWidth, span.X(column)), column);
-        EXPECT_EQ(ForecastColumnAt(BoxWidth, span.X(column) - 49), column);
-        EXPECT_EQ(ForecastColumnAt(BoxWidth, span.X(column) + 49), column);
+        EXPECT_EQ(ForecastColumnAt(SpanWidth, span.X(column)), column);
+        EXPECT_EQ(ForecastColumnAt(SpanWidth, span.X(column) - 49), column);
+        EXPECT_EQ(ForecastColumnAt(SpanWidth, span.X(column) + 49), column);
     }
 }
 
 TEST(ForecastColumns, EndWithTheFrame) {
-    EXPECT_EQ(ForecastColumnAt(BoxWidth, 960), 1);
-    EXPECT_EQ(ForecastColumnAt(BoxWidth, 5959.9), 50);
-    EXPECT_FALSE(ForecastColumnAt(BoxWidth, 959.9));
-    EXPECT_FALSE(ForecastColumnAt(BoxWidth, 5960));
-    EXPECT_FALSE(ForecastColumnAt(BoxWidth, std::numeric_limits<double>::quiet_NaN()));
+    EXPECT_EQ(ForecastColumnAt(SpanWidth, 960), 1);
+    EXPECT_EQ(ForecastColumnAt(SpanWidth, 5959.9), 50);
+    EXPECT_FALSE(ForecastColumnAt(SpanWidth, 959.9));
+    EXPECT_FALSE(ForecastColumnAt(SpanWidth, 5960));
+    EXPECT_FALSE(ForecastColumnAt(SpanWidth, std::numeric_limits<double>::quiet_NaN()));
 }
 
 TEST(ForecastColumns, NeverExceedFiftyByRounding) {

@@ -19,7 +19,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using text::Fault;
 
-constexpr auto GoodLine = "20020115,1145.00,1150.00,1140.00,1148.00,25000,400000\r\n";
+constexpr auto GoodRecord = "20020115,1145.00,1150.00,1140.00,1148.00,25000,400000\r\n";
 constexpr auto GoodQuote = "01/15/02, 1145.00, 1150.00, 1140.00, 1148.00, 25000, 400000\r\n";
 constexpr auto BadRecord = "20020115,1\r\n";
 constexpr auto BadValue = "20021315,1,2,3,4,5,6\r\n";
@@ -67,7 +67,7 @@ TEST(ValidateFileNames, LetsAnEmptyDestinationPass) {
 }
 
 TEST(ConvertDataFile, WritesOneLineForEachRecordAndTellsOfSuccess) {
-    auto const result = Convert(Repeat(GoodLine, 3), CsiLayout());
+    auto const result = Convert(Repeat(GoodRecord, 3), CsiLayout());
     EXPECT_EQ(result.Output, Repeat(GoodQuote, 3));
     EXPECT_THAT(result.Boxes, ElementsAre(InformationBox("Data file C:\\out.txt created successfully")));
 }
@@ -84,20 +84,20 @@ TEST(ConvertDataFile, MakesAnEmptyFileOfAnEmptyOne) {
 }
 
 TEST(ConvertDataFile, NamesTheLineAndFileOfABadRecord) {
-    auto const result = Convert(Repeat(GoodLine, 11) + BadRecord + BadRecord, CsiLayout());
+    auto const result = Convert(Repeat(GoodRecord, 11) + BadRecord + BadRecord, CsiLayout());
     EXPECT_EQ(result.Output, std::nullopt);
     EXPECT_THAT(result.Boxes, ElementsAre(ExclamationBox("Invalid record at line 12 in\nfile C:\\in.txt")));
 }
 
 TEST(ConvertDataFile, NamesTheLineAndFileOfABadValue) {
-    auto const result = Convert(Repeat(GoodLine, 99) + BadValue + BadRecord, CsiLayout());
+    auto const result = Convert(Repeat(GoodRecord, 99) + BadValue + BadRecord, CsiLayout());
     EXPECT_EQ(result.Output, std::nullopt);
     EXPECT_THAT(result.Boxes,
                 ElementsAre(ExclamationBox("Invalid field value at line 100 in file\nC:\\in.txt")));
 }
 
 TEST(ConvertDataFile, StopsAtAnEmptyLine) {
-    auto const result = Convert(Repeat(GoodLine, 3) + "\r\n" + GoodLine, CsiLayout());
+    auto const result = Convert(Repeat(GoodRecord, 3) + "\r\n" + GoodRecord, CsiLayout());
     EXPECT_EQ(result.Output, std::nullopt);
     EXPECT_THAT(result.Boxes, ElementsAre(ExclamationBox("Invalid record at line 4 in\nfile C:\\in.txt")));
 }
@@ -105,7 +105,7 @@ TEST(ConvertDataFile, StopsAtAnEmptyLine) {
 TEST(ConvertDataFile, LeavesNothingOfHundredsOfGoodLines) {
     MemoryFiles files;
     ScriptedDialogs dialogs;
-    files.Contents = {{"C:\\in.txt", Repeat(GoodLine, 5000) + BadValue}, {"C:\\out.txt", "older file"}};
+    files.Contents = {{"C:\\in.txt", Repeat(GoodRecord, 5000) + BadValue}, {"C:\\out.txt", "older file"}};
     ConvertUsualNames(CsiLayout(), files, dialogs);
     EXPECT_FALSE(files.Contents.contains("C:\\out.txt"));
     EXPECT_THAT(BoxesOf(dialogs),
@@ -113,21 +113,21 @@ TEST(ConvertDataFile, LeavesNothingOfHundredsOfGoodLines) {
 }
 
 TEST(ConvertDataFile, TellsOfTheFaultOfARecordOfMoreFieldsThanCanBeCounted) {
-    auto const result = Convert(GoodLine + std::string(40'000, ',') + "\r\n", CsiLayout());
+    auto const result = Convert(GoodRecord + std::string(40'000, ',') + "\r\n", CsiLayout());
     EXPECT_EQ(result.Output, std::nullopt);
     EXPECT_THAT(result.Boxes, ElementsAre(ExclamationBox("Overflow"),
                                           ExclamationBox("Invalid record at line 2 in\nfile C:\\in.txt")));
 }
 
 TEST(ConvertDataFile, CountsLinesUpTo32767) {
-    auto const result = Convert(Repeat(GoodLine, 32'767), CsiLayout());
+    auto const result = Convert(Repeat(GoodRecord, 32'767), CsiLayout());
     EXPECT_EQ(result.Output, Repeat(GoodQuote, 32'767));
     EXPECT_THAT(result.Boxes, ElementsAre(InformationBox("Data file C:\\out.txt created successfully")));
 }
 
 TEST(ConvertDataFile, OverflowsAtLine32768WhateverItIsAndLeavesNothing) {
-    for (auto const* last : {GoodLine, BadRecord, "\r\n"}) {
-        auto const result = Convert(Repeat(GoodLine, 32'767) + last, CsiLayout());
+    for (auto const* last : {GoodRecord, BadRecord, "\r\n"}) {
+        auto const result = Convert(Repeat(GoodRecord, 32'767) + last, CsiLayout());
         EXPECT_EQ(result.Output, std::nullopt);
         EXPECT_THAT(result.Boxes, ElementsAre(ExclamationBox("Overflow")));
     }
@@ -145,7 +145,7 @@ TEST(ConvertDataFile, LeavesTheDestinationAloneWhenThereIsNoSource) {
 TEST(ConvertDataFile, DeletesNothingWhenTheDestinationCannotBeOpened) {
     MemoryFiles files;
     ScriptedDialogs dialogs;
-    files.Contents = {{"C:\\in.txt", GoodLine}, {"C:\\out.txt", "older file"}};
+    files.Contents = {{"C:\\in.txt", GoodRecord}, {"C:\\out.txt", "older file"}};
     files.BreakWriting = Fault::PermissionDenied;
     ConvertUsualNames(CsiLayout(), files, dialogs);
     EXPECT_EQ(files.Contents.at("C:\\out.txt"), "older file");
@@ -155,7 +155,7 @@ TEST(ConvertDataFile, DeletesNothingWhenTheDestinationCannotBeOpened) {
 TEST(ConvertDataFile, DeletesTheDestinationWhenTheSourceBreaks) {
     MemoryFiles files;
     ScriptedDialogs dialogs;
-    files.Contents = {{"C:\\in.txt", Repeat(GoodLine, 4000)}};
+    files.Contents = {{"C:\\in.txt", Repeat(GoodRecord, 4000)}};
     files.BreakReading = {150'000, Fault::PermissionDenied};
     ConvertUsualNames(CsiLayout(), files, dialogs);
     EXPECT_FALSE(files.Contents.contains("C:\\out.txt"));
@@ -167,7 +167,7 @@ TEST(ConvertDataFile, DeletesTheDestinationWhenItsDiskIsFull) {
         SCOPED_TRACE(room);
         MemoryFiles files;
         ScriptedDialogs dialogs;
-        files.Contents = {{"C:\\in.txt", Repeat(GoodLine, 4000)}};
+        files.Contents = {{"C:\\in.txt", Repeat(GoodRecord, 4000)}};
         files.BreakOutput = {room, Fault::DiskFull};
         ConvertUsualNames(CsiLayout(), files, dialogs);
         EXPECT_FALSE(files.Contents.contains("C:\\out.txt"));
@@ -178,7 +178,7 @@ TEST(ConvertDataFile, DeletesTheDestinationWhenItsDiskIsFull) {
 TEST(ConvertDataFile, DeletesTheDestinationWhenItsLastBytesFailOnClosing) {
     MemoryFiles files;
     ScriptedDialogs dialogs;
-    files.Contents = {{"C:\\in.txt", GoodLine}};
+    files.Contents = {{"C:\\in.txt", GoodRecord}};
     files.BreakOutput = {1'000'000, Fault::DiskFull};
     ConvertUsualNames(CsiLayout(), files, dialogs);
     EXPECT_FALSE(files.Contents.contains("C:\\out.txt"));
@@ -188,7 +188,7 @@ TEST(ConvertDataFile, DeletesTheDestinationWhenItsLastBytesFailOnClosing) {
 TEST(ConvertDataFile, EmptiesTheDestinationWhenItCannotBeDeletedAndTells) {
     MemoryFiles files;
     ScriptedDialogs dialogs;
-    files.Contents = {{"C:\\in.txt", std::string(GoodLine) + BadRecord}};
+    files.Contents = {{"C:\\in.txt", std::string(GoodRecord) + BadRecord}};
     files.BreakRemoving = Fault::PermissionDenied;
     ConvertUsualNames(CsiLayout(), files, dialogs);
     EXPECT_EQ(files.Contents.at("C:\\out.txt"), "");
@@ -199,7 +199,7 @@ TEST(ConvertDataFile, EmptiesTheDestinationWhenItCannotBeDeletedAndTells) {
 TEST(ConvertFile, IsSilentOnSuccess) {
     MemoryFiles files;
     ScriptedDialogs dialogs;
-    files.Contents = {{"C:\\in.txt", GoodLine}};
+    files.Contents = {{"C:\\in.txt", GoodRecord}};
     EXPECT_TRUE(ConvertFile(UsualNames, CsiLayout(), files, dialogs));
     EXPECT_EQ(files.OpenCount(), 0U);
     EXPECT_THAT(dialogs.Messages, IsEmpty());

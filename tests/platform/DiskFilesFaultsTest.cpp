@@ -4,6 +4,7 @@
 // Faults of the file system that POSIX systems can be made to show: a full disk, folders and files without
 // permission, links, and a process that dies while it saves.
 
+#include "platform/FileFaults.h"
 #include "platform/disk/DiskFiles.h"
 #include "platform/disk/DiskProfile.h"
 #include "support/AsOrdinaryUser.h"
@@ -32,16 +33,6 @@ using text::Fault;
 using tests::AsOrdinaryUser;
 using tests::SmallDisk;
 
-std::optional<Fault> FaultOfReplacing(std::string const& path, std::string_view content) {
-    auto const error = text::Trap([&] { DiskFiles().Replace(path, content); });
-    return error ? std::optional(error->Kind()) : std::nullopt;
-}
-
-std::optional<Fault> FaultOfOpening(std::string const& path) {
-    auto const error = text::Trap([&] { static_cast<void>(DiskFiles().OpenForInput(path)); });
-    return error ? std::optional(error->Kind()) : std::nullopt;
-}
-
 TEST(DiskFilesFaults, AFullDiskLeavesTheOldFileAndNoOther) {
     tests::TemporaryFolder const folder;
     folder.Write("a.txt", "old");
@@ -51,11 +42,6 @@ TEST(DiskFilesFaults, AFullDiskLeavesTheOldFileAndNoOther) {
     }
     EXPECT_EQ(folder.Read("a.txt"), "old");
     EXPECT_EQ(folder.EntryCount(), 1);
-}
-
-std::optional<Fault> FaultOfEmptying(std::string const& path) {
-    auto const error = text::Trap([&] { static_cast<void>(DiskFiles().OpenForOutput(path)); });
-    return error ? std::optional(error->Kind()) : std::nullopt;
 }
 
 TEST(DiskFilesFaults, ADiskThatFillsWhileAFileIsWrittenIsReported) {

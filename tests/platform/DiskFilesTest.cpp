@@ -3,6 +3,7 @@
 
 #include "platform/disk/DiskFiles.h"
 
+#include "platform/FileFaults.h"
 #include "support/TemporaryFolder.h"
 #include "text/RunTimeError.h"
 
@@ -18,16 +19,6 @@ namespace {
 
 using testing::UnorderedElementsAre;
 using text::Fault;
-
-std::optional<Fault> FaultOfOpening(std::string const& path) {
-    auto const error = text::Trap([&] { static_cast<void>(DiskFiles().OpenForInput(path)); });
-    return error ? std::optional(error->Kind()) : std::nullopt;
-}
-
-std::optional<Fault> FaultOfReplacing(std::string const& path) {
-    auto const error = text::Trap([&] { DiskFiles().Replace(path, "new"); });
-    return error ? std::optional(error->Kind()) : std::nullopt;
-}
 
 TEST(DiskFiles, ReadAFileInPieces) {
     tests::TemporaryFolder const folder;
@@ -51,21 +42,6 @@ TEST(DiskFiles, TellWhyAFileCannotBeRead) {
     EXPECT_EQ(FaultOfOpening(folder.File(std::string(5000, 'x'))), Fault::BadFileName);
     folder.Write("a.txt", "");
     EXPECT_EQ(FaultOfOpening(folder.File("a.txt/b.txt")), Fault::PathNotFound);
-}
-
-std::optional<Fault> FaultOfEmptying(std::string const& path) {
-    auto const error = text::Trap([&] { static_cast<void>(DiskFiles().OpenForOutput(path)); });
-    return error ? std::optional(error->Kind()) : std::nullopt;
-}
-
-std::optional<Fault> FaultOfRemoving(std::string const& path) {
-    auto const error = text::Trap([&] { DiskFiles().Remove(path); });
-    return error ? std::optional(error->Kind()) : std::nullopt;
-}
-
-std::optional<Fault> FaultOfMeasuring(std::string const& path) {
-    auto const error = text::Trap([&] { static_cast<void>(DiskFiles().Length(path)); });
-    return error ? std::optional(error->Kind()) : std::nullopt;
 }
 
 TEST(DiskFiles, AreEmptiedAtOnceAndWrittenInPieces) {

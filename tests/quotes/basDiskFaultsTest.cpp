@@ -6,6 +6,7 @@
 #include "platform/disk/DiskFiles.h"
 #include "platform/fake/MemoryFiles.h"
 #include "platform/fake/ScriptedDialogs.h"
+#include "quotes/QuoteMessages.h"
 #include "quotes/basDisk.h"
 #include "support/AsOrdinaryUser.h"
 #include "support/Messages.h"
@@ -24,8 +25,6 @@ using platform::Icon;
 using tests::IsOnlyMessage;
 using tests::QuoteLines;
 using text::Fault;
-
-constexpr auto TooFewQuotes = "A minimum of 25 daily quotes is required to perform cyclical analysis";
 
 class QuoteFileFaults : public testing::Test {
 protected:

@@ -5,6 +5,7 @@
 
 #include "platform/fake/MemoryFiles.h"
 #include "platform/fake/ScriptedDialogs.h"
+#include "quotes/QuoteMessages.h"
 #include "support/Golden.h"
 #include "support/Messages.h"
 #include "support/QuoteTexts.h"
@@ -20,8 +21,6 @@ namespace {
 using platform::Icon;
 using tests::IsOnlyMessage;
 using tests::QuoteLines;
-
-constexpr auto TooFewQuotes = "A minimum of 25 daily quotes is required to perform cyclical analysis";
 
 class QuoteFile : public testing::Test {
 protected:

@@ -65,6 +65,10 @@ std::string OutlineOf(Paragraph const& paragraph) {
     return outline;
 }
 
+std::string TextOf(std::string_view body) {
+    return OutlineOf(ReadBody(body));
+}
+
 Paragraph const& ParagraphAt(RichTextDocument const& document, std::size_t index) {
     return std::get<Paragraph>(document.Blocks.at(index).Content);
 }

@@ -21,6 +21,9 @@ namespace quorvex::richtext {
 
 [[nodiscard]] std::string OutlineOf(Paragraph const& paragraph);
 
+// The same for a document with this body.
+[[nodiscard]] std::string TextOf(std::string_view body);
+
 // The parts of a document; std::bad_variant_access or std::out_of_range when there is no such one.
 [[nodiscard]] Paragraph const& ParagraphAt(RichTextDocument const& document, std::size_t index);
 [[nodiscard]] Table const& TableAt(RichTextDocument const& document, std::size_t index);

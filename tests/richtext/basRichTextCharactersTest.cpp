@@ -11,10 +11,6 @@
 namespace quorvex::richtext {
 namespace {
 
-std::string TextOf(std::string_view body) {
-    return OutlineOf(ReadBody(body));
-}
-
 TEST(RichTextCharacters, OfBytesAreThoseOfTheFontsCodePage) {
     EXPECT_EQ(TextOf(R"(Gr\'fc\'dfe \'80)"), "Grüße €");
     EXPECT_EQ(TextOf(R"(\f1 \'b3\f0 \'b3)"), "ł³");

@@ -16,10 +16,6 @@ namespace {
 
 using TabStops = std::vector<TabStop>;
 
-std::string TextOf(std::string_view body) {
-    return OutlineOf(ReadBody(body));
-}
-
 ParagraphFormat FormatBehind(std::string_view words) {
     return ParagraphAt(ReadBody(std::string(words) + " x\\par"), 0).Format;
 }

@@ -14,10 +14,6 @@
 namespace quorvex::richtext {
 namespace {
 
-std::string TextOf(std::string_view body) {
-    return OutlineOf(ReadBody(body));
-}
-
 Table FirstTable(std::string_view body) {
     return TableAt(ReadBody(body), 0);
 }

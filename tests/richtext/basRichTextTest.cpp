@@ -20,10 +20,6 @@ namespace {
 
 constexpr std::size_t Million = 1'000'000;
 
-std::string TextOf(std::string_view body) {
-    return OutlineOf(ReadBody(body));
-}
-
 std::string Repeat(std::string_view part, std::size_t count) {
     std::string text;
     text.reserve(part.size() * count);

@@ -21,4 +21,9 @@ void PrepareApplication() {
     platform::qt::SetProgramFont();
 }
 
+std::map<std::string, WindowTestRun>& ListedWindowTests() {
+    static std::map<std::string, WindowTestRun> tests;
+    return tests;
+}
+
 } // namespace quorvex::tests

@@ -8,6 +8,8 @@
 #include <QApplication>
 #include <QObject>
 #include <QTest>
+#include <map>
+#include <string>
 
 namespace quorvex::tests {
 
@@ -23,7 +25,7 @@ private Q_SLOTS:
 // Brings the application to the state in which the program shows windows.
 void PrepareApplication();
 
-// The main function of a test program.
+// Runs the functions of one class, under an application of their own.
 template <class Test>
 int RunWindowTest(int argc, char** argv) {
     EnterHostileLocale();
@@ -32,5 +34,20 @@ int RunWindowTest(int argc, char** argv) {
     Test test;
     return QTest::qExec(&test, argc, argv);
 }
+
+using WindowTestRun = int (*)(int argc, char** argv);
+
+// The classes of tests of this program by name.
+[[nodiscard]] std::map<std::string, WindowTestRun>& ListedWindowTests();
+
+// To be instantiated for each class of tests: lists it under its name without namespaces. The first argument
+// of the program is the one that runs.
+template <class Test>
+struct ListedWindowTest {
+    static inline bool const IsListed = [] {
+        std::string const name = Test::staticMetaObject.className();
+        return ListedWindowTests().emplace(name.substr(name.rfind(':') + 1), &RunWindowTest<Test>).second;
+    }();
+};
 
 } // namespace quorvex::tests

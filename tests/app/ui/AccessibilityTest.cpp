@@ -159,10 +159,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<AccessibilityTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::AccessibilityTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "AccessibilityTest.moc"

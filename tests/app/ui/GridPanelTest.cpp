@@ -179,10 +179,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<GridPanelTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::GridPanelTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "GridPanelTest.moc"

@@ -212,10 +212,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<frmMainAnalysisTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::frmMainAnalysisTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "frmMainAnalysisTest.moc"

@@ -194,10 +194,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<frmMainChartsTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::frmMainChartsTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "frmMainChartsTest.moc"

@@ -315,10 +315,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<frmMainFileTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::frmMainFileTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "frmMainFileTest.moc"

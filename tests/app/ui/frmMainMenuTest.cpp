@@ -259,10 +259,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<frmMainMenuTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::frmMainMenuTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "frmMainMenuTest.moc"

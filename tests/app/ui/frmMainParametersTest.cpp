@@ -279,10 +279,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<frmMainParametersTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::frmMainParametersTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "frmMainParametersTest.moc"

@@ -260,10 +260,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<frmMainRedrawTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::frmMainRedrawTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "frmMainRedrawTest.moc"

@@ -216,10 +216,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<frmMainStartUpTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::frmMainStartUpTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "frmMainStartUpTest.moc"

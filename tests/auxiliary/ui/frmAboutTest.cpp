@@ -50,10 +50,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<frmAboutTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::frmAboutTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "frmAboutTest.moc"

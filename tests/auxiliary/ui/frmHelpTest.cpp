@@ -455,10 +455,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<frmHelpTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::frmHelpTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "frmHelpTest.moc"

@@ -85,10 +85,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<frmPropertiesTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::frmPropertiesTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "frmPropertiesTest.moc"

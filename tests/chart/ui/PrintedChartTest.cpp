@@ -290,10 +290,8 @@ private:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<PrintedChartTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::PrintedChartTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "PrintedChartTest.moc"

@@ -257,10 +257,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<frmForecastTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::frmForecastTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "frmForecastTest.moc"

@@ -102,10 +102,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<frmLegendTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::frmLegendTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "frmLegendTest.moc"

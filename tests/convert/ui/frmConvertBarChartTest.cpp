@@ -111,10 +111,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<frmConvertBarChartTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::frmConvertBarChartTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "frmConvertBarChartTest.moc"

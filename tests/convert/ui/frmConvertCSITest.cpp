@@ -216,10 +216,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<frmConvertCSITest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::frmConvertCSITest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "frmConvertCSITest.moc"

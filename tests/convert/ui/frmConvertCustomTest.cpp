@@ -271,10 +271,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<frmConvertCustomTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::frmConvertCustomTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "frmConvertCustomTest.moc"

@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // In inches.
-constexpr double Hundredth = 0.01;
+constexpr double HundredthInch = 0.01;
 constexpr double HalfPage = 4.25; // of 8.5 inches, whatever the paper
 constexpr double FirstStop = 1.2;
 constexpr double StopDistance = 0.85;
@@ -67,14 +67,14 @@ QString TextOf(std::vector<PrintedWord> const& line) {
 
 bool IsCentred(std::vector<PrintedWord> const& line) {
     double const centre = (line.front().Box.left() + line.back().Box.right()) / 2;
-    return std::abs(centre - HalfPage) <= Hundredth;
+    return std::abs(centre - HalfPage) <= HundredthInch;
 }
 
 // Whether the eight texts of a row end at their stops.
 bool EndsAtStops(std::vector<PrintedWord> const& row) {
     for (std::size_t column = 0; column < row.size(); ++column) {
         double const stop = FirstStop + StopDistance * static_cast<double>(column);
-        if (std::abs(row[column].Box.right() - stop) > Hundredth) {
+        if (std::abs(row[column].Box.right() - stop) > HundredthInch) {
             qInfo("%s ends at %f instead of %f", qPrintable(row[column].Text), row[column].Box.right(), stop);
             return false;
         }
@@ -133,18 +133,16 @@ private Q_SLOTS:
 
     void HeadsStandLeftOfTheirStopsByTheirBlanks() {
         auto const head = LinesOf(PrintListing("q025.txt", QPageSize::Letter).at(0)).at(2);
-        QVERIFY(std::abs(head[0].Box.right() - FirstStop) <= Hundredth); // Day has no blank behind it
+        QVERIFY(std::abs(head[0].Box.right() - FirstStop) <= HundredthInch); // Day has no blank behind it
         double const dateEnd = FirstStop + StopDistance;
-        QVERIFY(head[1].Box.right() < dateEnd - Hundredth); // Date has two
+        QVERIFY(head[1].Box.right() < dateEnd - HundredthInch); // Date has two
         QVERIFY(head[1].Box.right() > dateEnd - 0.15);
-        QVERIFY(std::abs(head.back().Box.right() - (FirstStop + 7 * StopDistance)) <= Hundredth);
+        QVERIFY(std::abs(head.back().Box.right() - (FirstStop + 7 * StopDistance)) <= HundredthInch);
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<PrintedListingTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::PrintedListingTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "PrintedListingTest.moc"

@@ -293,10 +293,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<SpreadGridTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::SpreadGridTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "SpreadGridTest.moc"

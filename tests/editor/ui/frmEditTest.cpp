@@ -430,10 +430,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<frmEditTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::frmEditTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "frmEditTest.moc"

@@ -202,10 +202,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<PaintingTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::PaintingTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "PaintingTest.moc"

@@ -197,10 +197,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<PictureSavingTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::PictureSavingTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "PictureSavingTest.moc"

@@ -56,10 +56,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<DensePictureTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::DensePictureTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "DensePictureTest.moc"

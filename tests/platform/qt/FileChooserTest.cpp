@@ -220,10 +220,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<FileChooserTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::FileChooserTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "FileChooserTest.moc"

@@ -137,10 +137,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<OpenFileDialogTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::OpenFileDialogTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "OpenFileDialogTest.moc"

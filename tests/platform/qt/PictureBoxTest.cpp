@@ -270,10 +270,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<PictureBoxTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::PictureBoxTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "PictureBoxTest.moc"

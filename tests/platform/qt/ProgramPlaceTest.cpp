@@ -109,7 +109,7 @@ private Q_SLOTS:
     void TheRunningProgramStandsInItsOwnFolder() {
         auto const place = platform::qt::FindProgramPlace({});
         QCOMPARE(ToQt(place.Folder), QDir::toNativeSeparators(QCoreApplication::applicationDirPath() + u'/'));
-        QCOMPARE(place.ExecutableName, std::string("test_ProgramPlace"));
+        QCOMPARE(place.ExecutableName, std::string("test_windows"));
     }
 
     void TheFolderBecomesTheCurrentOne() {
@@ -139,10 +139,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<ProgramPlaceTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::ProgramPlaceTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "ProgramPlaceTest.moc"

@@ -243,10 +243,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<QtDialogsTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::QtDialogsTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "QtDialogsTest.moc"

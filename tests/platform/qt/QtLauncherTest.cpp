@@ -103,10 +103,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<QtLauncherTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::QtLauncherTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "QtLauncherTest.moc"

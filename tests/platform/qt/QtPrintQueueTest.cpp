@@ -171,10 +171,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<QtPrintQueueTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::QtPrintQueueTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "QtPrintQueueTest.moc"

@@ -186,10 +186,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<TextPrintingTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::TextPrintingTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "TextPrintingTest.moc"

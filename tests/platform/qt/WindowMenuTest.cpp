@@ -104,10 +104,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<WindowMenuTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::WindowMenuTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "WindowMenuTest.moc"

@@ -151,10 +151,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<WindowPrintingTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::WindowPrintingTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "WindowPrintingTest.moc"

@@ -268,10 +268,8 @@ private Q_SLOTS:
     }
 };
 
-} // namespace quorvex::tests
+template struct ListedWindowTest<frmPreferencesTest>;
 
-int main(int argc, char** argv) {
-    return quorvex::tests::RunWindowTest<quorvex::tests::frmPreferencesTest>(argc, argv);
-}
+} // namespace quorvex::tests
 
 #include "frmPreferencesTest.moc"
