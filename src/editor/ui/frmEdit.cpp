@@ -10,6 +10,7 @@
 #include "platform/qt/NominalFrame.h"
 #include "platform/qt/QtDialogs.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QScopeGuard>
 #include <QScreen>
@@ -47,7 +48,6 @@ frmEdit::frmEdit(QWidget* parent, quotes::QuoteSeries& series, settings::Setting
     column->setContentsMargins(0, 0, 0, 0);
     column->setMenuBar(&menu.Bar());
     column->addWidget(client_);
-    client_->installEventFilter(this);
     connect(spread_, &SpreadGrid::CellsLeftOut, this, [this] {
         Run([this] {
             dialogs_.Show({"Cells beyond the last row or column of the grid were left out.\n"
@@ -100,8 +100,8 @@ void frmEdit::Run(Command const& command) {
     }
     // Not the menu that the command was chosen from.
     spread_->setFocus();
-    // Some desktops tell only now that a box has closed.
-    isBoxClosing_ = !isActiveWindow();
+    // Some desktops tell only now, and some more than once, that a box has closed.
+    isUntouched_ = true;
 }
 
 void frmEdit::Tell(SaveResult const& result) {
@@ -117,9 +117,11 @@ void frmEdit::ForgetStatus() {
 void frmEdit::RunModal() {
     platform::qt::CentreForm(*this);
     platform::qt::RunGuarded(*this, [this] { LoadQuotes(); });
-    isBoxClosing_ = false;
+    isUntouched_ = false;
     spread_->setFocus();
+    qApp->installEventFilter(this);
     exec();
+    qApp->removeEventFilter(this);
 }
 
 void frmEdit::LoadQuotes() {
@@ -144,14 +146,18 @@ void frmEdit::Activate() {
 
 bool frmEdit::event(QEvent* event) {
     // Closing a box of a command activates the window as well. That must not drop what was typed: the user
-    // has just been told which cell to mend, and a save may not have come to its end.
-    if (event->type() == QEvent::WindowActivate && !isBusy_ && !std::exchange(isBoxClosing_, false)) {
+    // has just been told which cell to mend, and a save may not have come to its end. An activation that is
+    // meant comes with the keyboard back from another program, after something was done here.
+    if (event->type() == QEvent::WindowActivate && !isBusy_ && !isUntouched_) {
         platform::qt::RunGuarded(*this, [this] { Activate(); });
     }
     return QDialog::event(event);
 }
 
 bool frmEdit::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress) {
+        isUntouched_ = false;
+    }
     if (watched == client_ && event->type() == QEvent::Resize) {
         // A desktop may change the window's size while a box is open: the command goes on with what was
         // typed.

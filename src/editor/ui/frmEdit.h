@@ -76,8 +76,8 @@ private:
     SpreadGrid* spread_;
     StatusLine* status_;
     std::unique_ptr<Editor> editor_;
-    bool isBusy_ = false;       // a command is running
-    bool isBoxClosing_ = false; // the next activation belongs to the last box of a command
+    bool isBusy_ = false;      // a command is running
+    bool isUntouched_ = false; // no key and no button since the last command
 };
 
 } // namespace quorvex::editor::ui

@@ -136,6 +136,9 @@ private Q_SLOTS:
             QCOMPARE(shown.Cursor(), u"4,3"_s);
             shown.Choose("mnuEditHelp");
             QCOMPARE(shown.Text(2, 5), u"555"_s);
+            shown.ComeBack(); // a desktop may tell more than once that the box has closed
+            QCOMPARE(shown.Text(2, 5), u"555"_s);
+            PressKeys(shown, {Qt::Key_Down});
             shown.ComeBack(); // this is another matter
             QCOMPARE(shown.Text(2, 5), u"102.00"_s);
         });
@@ -166,6 +169,7 @@ private Q_SLOTS:
             QCoreApplication::processEvents();
             QVERIFY(shown.Window->isActiveWindow());
             QCOMPARE(shown.Text(2, 5), u"555"_s);
+            PressKeys(shown, {Qt::Key_Down});
             shown.ComeBack();
             QCOMPARE(shown.Text(2, 5), u"102.00"_s);
         });
@@ -262,7 +266,10 @@ private Q_SLOTS:
             shown.GoTo(2, 5);
             PressKeys(shown, {Qt::Key_7});
             ChooseByKeys(shown, Qt::Key_E, Qt::Key_Escape); // which closes the menu and stays in the bar
-            PressKeys(shown, {Qt::Key_Escape, Qt::Key_5, Qt::Key_Return});
+            if (shown.Window->findChild<QMenuBar*>()->activeAction() != nullptr) {
+                PressKeys(shown, {Qt::Key_Escape}); // leaves the bar, unless the menu has taken it along
+            }
+            PressKeys(shown, {Qt::Key_5, Qt::Key_Return});
             QCOMPARE(shown.Text(2, 5), u"75"_s);
         });
     }
