@@ -26,15 +26,27 @@ struct Basis {
     QuoteCurve Sine;
 };
 
-// Sums many arc cosines at the cost of one arc: multiplying unit vectors adds their angles. Each angle is
-// below a half turn, so that every change between the upper and the lower half of the circle is one half turn
-// more.
+// The sum of many arc cosines at the cost of one arc.
+//
+// Let S be the sum so far, and a the next angle, whose cosine c is what is added. The point x = cos S,
+// y = sin S of the unit circle turns by the addition theorems:
+//
+//     cos(S + a) = cos S cos a - sin S sin a          sin a = sqrt(1 - c * c), which is above zero,
+//     sin(S + a) = cos S sin a + sin S cos a          because a lies between 0 and pi
+//
+// The point alone forgets whole turns. So split S = h pi + r with a whole number h of half turns and a rest r
+// from 0 up to pi. sin S is sin r when h is even and -sin r when it is odd: the sign of y tells the parity of
+// h. An angle below pi adds one half turn or none, so that h grows by one exactly when y changes its sign.
+// The last point tells the rest: sin r is |y|, and cos r is x, or -x where y is below zero.
+//
+// The arc cosine of this program is Pi / 2 - arctan(c / sin a), with a Pi that falls short of pi: each angle
+// is less by half of that. A c of -1 or 1, or beyond, counts as an angle of 0.
 class ArcCosineSum {
 public:
     void Add(double cosine) {
         double const square = cosine * cosine;
         if (square >= 1) {
-            return; // counts as an angle of 0
+            return;
         }
         double const sine = std::sqrt(1 - square);
         double const x = x_ * cosine - y_ * sine;
@@ -46,7 +58,6 @@ public:
     }
 
     [[nodiscard]] double Radians() const {
-        // An arc cosine is taken from half of Pi, which falls short of a quarter turn.
         constexpr double Shortfall = (std::numbers::pi - Pi) / 2;
         double const rest = std::atan2(std::fabs(y_), std::signbit(y_) ? -x_ : x_);
         return halfTurns_ * std::numbers::pi + rest - angles_ * Shortfall;

@@ -5,6 +5,7 @@
 
 #include "text/Characters.h"
 #include "text/RunTimeError.h"
+#include "text/basTexts.h"
 
 #include <array>
 #include <cstddef>
@@ -164,14 +165,8 @@ char Units(unsigned number) {
 } // namespace
 
 std::optional<CalendarDay> ParseDate(std::string_view text) {
-    while (!text.empty() && IsBlank(text.front())) {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && IsBlank(text.back())) {
-        text.remove_suffix(1);
-    }
     DateParts parts;
-    if (!ScanDate(text, parts) || parts.Year < FirstYear) {
+    if (!ScanDate(TrimBlanksAndTabs(text), parts) || parts.Year < FirstYear) {
         return std::nullopt;
     }
     std::chrono::year_month_day const date{std::chrono::year{parts.Year},

@@ -8,35 +8,26 @@
 
 #include <algorithm>
 #include <cstring>
-#include <utility>
 
 namespace quorvex::text {
 
 namespace {
 
-constexpr std::size_t FirstCapacity = 65'536;
-constexpr char CtrlZ = '\x1a';
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+// The most bytes that are kept of a field's text, and the room behind them in which the rest is passed over.
+constexpr std::size_t MostText = 65'536;
+constexpr std::size_t RoomToPass = 4'096;
+constexpr std::size_t FieldCapacity = MostText + RoomToPass;
 
 bool IsLineEnd(char c) {
     return c == '\r' || c == '\n';
 }
 
-// Blanks, line ends and Ctrl-Z are all at or below ' ', and what ends a plain field at or below ','.
-bool StartsField(char c) {
-    return static_cast<unsigned char>(c) > ' ';
-}
-
-bool EndsField(char c) {
+// All of them are at or below ','.
+constexpr auto EndsField = [](char c) {
     return static_cast<unsigned char>(c) <= ',' && (c == ',' || IsLineEnd(c));
-}
+};
 
-std::string_view WithoutTrailingBlanks(std::string_view field) {
-    while (!field.empty() && IsBlank(field.back())) {
-        field.remove_suffix(1);
-    }
-    return field;
-}
+constexpr auto EndsQuotedText = [](char c) { return c == '"' || IsLineEnd(c); };
 
 } // namespace
 
@@ -49,8 +40,7 @@ std::size_t TextSource::Read(std::span<char> buffer) {
 
 FieldReader::FieldReader(ByteSource& source)
     : source_(source),
-      buffer_(std::make_unique_for_overwrite<char[]>(FirstCapacity)),
-      capacity_(FirstCapacity) {
+      buffer_(std::make_unique_for_overwrite<char[]>(FieldCapacity)) {
     while (end_ < ByteOrderMark.size() && Fill()) {
     }
     if (std::string_view(buffer_.get(), end_).starts_with(ByteOrderMark)) {
@@ -58,134 +48,93 @@ FieldReader::FieldReader(ByteSource& source)
     }
 }
 
-// Reads on behind the bytes at hand. Moves the bytes from keep_ on to the front first, so that places in the
-// buffer shift by the old keep_; a block that is still full then doubles.
+// Reads on behind the bytes at hand. Those from keep_ on move to the front, MostText of them at most: what a
+// longer field has behind them is of no use.
 bool FieldReader::Fill() {
     if (sourceEnded_) {
         return false;
     }
+    std::size_t const kept = std::min(end_ - keep_, MostText);
     if (keep_ > 0) {
-        std::memmove(buffer_.get(), buffer_.get() + keep_, end_ - keep_);
-        end_ -= keep_;
-        at_ -= keep_;
-        keep_ = 0;
+        std::memmove(buffer_.get(), buffer_.get() + keep_, kept);
     }
-    if (end_ == capacity_) {
-        auto larger = std::make_unique_for_overwrite<char[]>(capacity_ * 2);
-        std::memcpy(larger.get(), buffer_.get(), end_);
-        buffer_ = std::move(larger);
-        capacity_ *= 2;
-    }
-    std::size_t const count = source_.Read({buffer_.get() + end_, capacity_ - end_});
+    at_ = std::min(at_ - keep_, kept);
+    keep_ = 0;
+    end_ = kept;
+    std::size_t const count = source_.Read({buffer_.get() + kept, FieldCapacity - kept});
     end_ += count;
     sourceEnded_ = count == 0;
     return count > 0;
 }
 
-bool FieldReader::AtEnd() {
-    // Mostly a field follows behind one blank.
-    std::size_t const behindBlank = at_ < end_ && buffer_[at_] == ' ' ? at_ + 1 : at_;
-    if (behindBlank < end_ && StartsField(buffer_[behindBlank])) {
-        return false;
-    }
-    // White space is passed only on the way to a next field: behind a comma an empty field may still stand
-    // here.
-    keep_ = at_;
-    std::size_t passed = 0;
-    while (MoreAt(keep_ + passed)) {
-        char const c = buffer_[keep_ + passed];
-        if (c == CtrlZ) {
-            return true;
+bool FieldReader::PassWhiteSpace() {
+    for (std::size_t at = at_;; ++at) {
+        if (at == end_) {
+            keep_ = at_ = at;
+            if (!Fill()) {
+                return false;
+            }
+            at = at_;
         }
-        if (!IsBlank(c) && !IsLineEnd(c)) {
-            return false;
-        }
-        ++passed;
-        if (!insideLine_) {
-            // Nothing here is wanted again, so a long blank stretch needs no larger buffer.
-            ++at_;
-            keep_ = at_;
-            passed = 0;
+        char const c = buffer_[at];
+        if (IsLineEnd(c)) {
+            owesEmpty_ = owesEmpty_ || insideLine_;
+            insideLine_ = false;
+        } else if (!IsBlank(c)) {
+            at_ = at;
+            return c != CtrlZ;
         }
     }
-    return true;
+}
+
+// Fills at the end of the bytes at hand; that place moves with them.
+bool FieldReader::FillBehind(std::size_t& at) {
+    at_ = at;
+    bool const hasMore = Fill();
+    at = at_;
+    return hasMore;
+}
+
+// Where the first byte from there on is that ends the text, or the end of the source.
+template <class Ends>
+std::size_t FieldReader::FindEnd(std::size_t at, Ends ends) {
+    do {
+        while (at < end_ && !ends(buffer_[at])) {
+            ++at;
+        }
+    } while (at == end_ && FillBehind(at));
+    return at;
 }
 
 std::string_view FieldReader::Take() {
-    // Mostly a plain field is at hand, together with what ends it.
-    std::size_t begin = at_;
-    while (begin < end_ && IsBlank(buffer_[begin])) {
-        ++begin;
-    }
-    if (begin < end_ && StartsField(buffer_[begin]) && buffer_[begin] != '"') {
-        std::size_t at = begin;
-        while (at < end_ && !EndsField(buffer_[at])) {
-            ++at;
-        }
-        if (at < end_) {
-            keep_ = begin;
-            insideLine_ = buffer_[at] == ',';
-            at_ = insideLine_ ? at + 1 : at;
-            return WithoutTrailingBlanks({buffer_.get() + begin, at - begin});
-        }
-    }
-    if (AtEnd()) {
+    if (!Seek()) {
         throw RunTimeError(Fault::InputPastEnd);
     }
-    SkipBlanks();
-    return buffer_[at_] == '"' ? TakeQuoted() : TakePlain();
-}
-
-// A field is there, so a byte that is no blank follows.
-void FieldReader::SkipBlanks() {
-    while (MoreAt(at_) && IsBlank(buffer_[at_])) {
-        ++at_;
+    if (owesEmpty_) {
+        owesEmpty_ = false;
+        return {};
     }
-    keep_ = at_;
-}
-
-std::string_view FieldReader::TakePlain() {
+    std::size_t end = 0;
     std::size_t length = 0;
-    while (MoreAt(keep_ + length)) {
-        char const c = buffer_[keep_ + length];
-        if (c == ',' || IsLineEnd(c)) {
-            break;
+    if (buffer_[at_] == '"') {
+        keep_ = at_ + 1;
+        end = FindEnd(keep_, EndsQuotedText);
+        length = std::min(end - keep_, MostText);
+        end = FindEnd(end, EndsField); // what follows the closing mark is skipped
+    } else {
+        keep_ = at_;
+        end = FindEnd(at_, EndsField);
+        length = std::min(end - keep_, MostText);
+        while (length > 0 && IsBlank(buffer_[keep_ + length - 1])) {
+            --length;
         }
-        ++length;
     }
-    at_ = keep_ + length;
-    SkipSeparator();
-    return WithoutTrailingBlanks({buffer_.get() + keep_, length});
-}
-
-std::string_view FieldReader::TakeQuoted() {
-    keep_ = ++at_;
-    std::size_t length = 0;
-    while (MoreAt(keep_ + length)) {
-        char const c = buffer_[keep_ + length];
-        if (c == '"' || IsLineEnd(c)) {
-            break;
-        }
-        ++length;
-    }
-    at_ = keep_ + length;
-    SkipToSeparator();
-    SkipSeparator();
+    // A line end stays: it is white space in front of the next field.
+    insideLine_ = end < end_ && buffer_[end] == ',';
+    end += insideLine_ ? 1 : 0;
+    // Mostly a blank follows: with it out of the way the next field is at hand.
+    at_ = end < end_ && buffer_[end] == ' ' ? end + 1 : end;
     return {buffer_.get() + keep_, length};
-}
-
-void FieldReader::SkipToSeparator() {
-    while (MoreAt(at_) && buffer_[at_] != ',' && !IsLineEnd(buffer_[at_])) {
-        ++at_;
-    }
-}
-
-// Line ends are left in place: in front of the next field they are white space.
-void FieldReader::SkipSeparator() {
-    insideLine_ = MoreAt(at_) && buffer_[at_] == ',';
-    if (insideLine_) {
-        ++at_;
-    }
 }
 
 } // namespace quorvex::text

@@ -40,15 +40,15 @@ private:
 // dropped. A field that starts with `"` runs to the next `"` or to the line's end, commas included; what
 // follows the closing mark up to the comma is skipped. A line of nothing but blanks holds no field. The text
 // ends where only white space is left or where a Ctrl-Z stands in place of a field. A UTF-8 byte order mark
-// at the start is skipped; other bytes beyond ASCII pass through. The text streams through one buffer that
-// grows only for a field, or white space behind a comma, that is larger.
+// at the start is skipped; other bytes beyond ASCII pass through. The text streams through one buffer of a
+// fixed size: of a longer field its first 64 KiB are given.
 class FieldReader {
 public:
     // The source must outlive the reader.
     explicit FieldReader(ByteSource& source);
 
     // Whether no field is left.
-    [[nodiscard]] bool AtEnd();
+    [[nodiscard]] bool AtEnd() { return !Seek(); }
 
     // The next field, good until the next call. Raises "Input past end of file" when none is left.
     [[nodiscard]] std::string_view Take();
@@ -56,21 +56,25 @@ public:
 private:
     [[nodiscard]] bool Fill();
 
-    [[nodiscard]] bool MoreAt(std::size_t at) { return at < end_ || Fill(); }
+    // Passes the white space in front of the next field. Returns whether there is one.
+    [[nodiscard]] bool Seek() { return IsAtField() || PassWhiteSpace(); }
 
-    [[nodiscard]] std::string_view TakePlain();
-    [[nodiscard]] std::string_view TakeQuoted();
-    void SkipBlanks();
-    void SkipToSeparator();
-    void SkipSeparator();
+    // Blanks, line ends and Ctrl-Z are all at or below ' '.
+    [[nodiscard]] bool IsAtField() const { return at_<end_&& static_cast<unsigned char>(buffer_[at_])> ' '; }
+
+    [[nodiscard]] bool PassWhiteSpace();
+
+    template <class Ends>
+    [[nodiscard]] std::size_t FindEnd(std::size_t at, Ends ends);
+    [[nodiscard]] bool FillBehind(std::size_t& at);
 
     ByteSource& source_;
     std::unique_ptr<char[]> buffer_; // bytes 0..end_-1 are filled; a new block need not be cleared first
-    std::size_t capacity_;
     std::size_t end_ = 0;
-    std::size_t keep_ = 0; // bytes in front of it are of no more use
+    std::size_t keep_ = 0; // where the text of the field begins; bytes in front of it are of no more use
     std::size_t at_ = 0;
     bool insideLine_ = false; // behind a comma, where an empty rest of the line still is a field
+    bool owesEmpty_ = false;  // that empty rest was passed and is the next field, should another one follow
     bool sourceEnded_ = false;
 };
 

@@ -3,6 +3,8 @@
 
 #include "text/basLines.h"
 
+#include "text/Characters.h"
+
 #include <algorithm>
 
 namespace quorvex::text {
@@ -10,8 +12,6 @@ namespace quorvex::text {
 namespace {
 
 constexpr std::size_t Capacity = 65'536;
-constexpr char CtrlZ = '\x1a';
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
 } // namespace
 

@@ -6,6 +6,7 @@
 #include "text/Characters.h"
 #include "text/DecimalNumber.h"
 #include "text/RunTimeError.h"
+#include "text/basTexts.h"
 
 #include <array>
 #include <charconv>
@@ -176,13 +177,7 @@ double LeadingNumber(std::string_view text) {
 }
 
 double StrictNumber(std::string_view text) {
-    while (!text.empty() && IsBlank(text.back())) {
-        text.remove_suffix(1);
-    }
-    while (!text.empty() && IsBlank(text.front())) {
-        text.remove_prefix(1);
-    }
-    std::string const plain = WithoutThousandsMarks(text);
+    std::string const plain = WithoutThousandsMarks(TrimBlanksAndTabs(text));
     ScannedNumber const number = ScanNumber(plain);
     if (!number.Found || number.End != plain.size()) {
         throw RunTimeError(Fault::TypeMismatch);

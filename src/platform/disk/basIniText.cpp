@@ -4,6 +4,7 @@
 #include "platform/disk/basIniText.h"
 
 #include "platform/basProfileTexts.h"
+#include "text/Characters.h"
 #include "text/RunTimeError.h"
 #include "text/basTexts.h"
 
@@ -14,7 +15,6 @@ namespace quorvex::platform::disk {
 
 namespace {
 
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view LineEnd = "\r\n";
 
 // Where something stands in a file.
@@ -30,7 +30,7 @@ bool IsSameName(std::string_view left, std::string_view right) {
 }
 
 std::size_t ContentStart(std::string_view file) {
-    return file.starts_with(ByteOrderMark) ? ByteOrderMark.size() : 0;
+    return file.starts_with(text::ByteOrderMark) ? text::ByteOrderMark.size() : 0;
 }
 
 // Where the line behind the one with this end begins.
