@@ -12,8 +12,8 @@ namespace {
 
 using app::layout::Rectangle;
 using platform::PictureKind;
-
-constexpr double TwipsPerPixel = 15;
+using platform::TwipsPerPixel;
+using platform::TwipsPerPoint;
 
 // Ten pixels around the charts.
 constexpr double Margin = 10 * TwipsPerPixel;
@@ -60,7 +60,6 @@ std::string ChartSheet::RefusalOf(PictureKind kind) const {
     constexpr double MostPixels = 100e6;     // a picture of 400 MB while it is painted
     constexpr double LongestPngSide = 32767; // in pixels, what can be painted
     constexpr double LongestPdfSide = 14400; // in points, what readers show
-    constexpr double TwipsPerPoint = 20;
     double const side = std::max(width_, height_);
     double const pixels = width_ / TwipsPerPixel * (height_ / TwipsPerPixel);
     if (kind == PictureKind::Png && pixels > MostPixels) {

@@ -9,6 +9,10 @@
 
 namespace quorvex::platform {
 
+inline constexpr double TwipsPerInch = 1440;
+inline constexpr double TwipsPerPixel = 15;
+inline constexpr double TwipsPerPoint = 20;
+
 // 24-bit RGB, 0xRRGGBB.
 using Colour = std::uint32_t;
 
@@ -17,7 +21,7 @@ inline constexpr Colour Magenta = 0xFF00FF;
 
 enum class Fill { Outline, Filled };
 
-// Coordinates are in twips, 1440 to the inch and 15 to the pixel, from the top left corner, y growing
+// Coordinates are in twips from the top left corner, y growing
 // downward. Lines are hairlines unless the canvas says otherwise. What was drawn stays until the next Clear.
 class Canvas {
 public:

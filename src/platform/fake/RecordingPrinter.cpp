@@ -11,8 +11,6 @@ namespace quorvex::platform::fake {
 
 namespace {
 
-constexpr double TwipsOfInch = 1440;
-
 class RecordingPrinter final : public Printer {
 public:
     RecordingPrinter(RecordingPrintQueue& queue, std::size_t document) : queue_(queue), document_(document) {}
@@ -71,7 +69,7 @@ public:
 
     [[nodiscard]] double TextHeight() const override { return LineHeight() / unit_; }
 
-    void SetScaleMode(ScaleMode mode) override { unit_ = mode == ScaleMode::Inches ? TwipsOfInch : 1; }
+    void SetScaleMode(ScaleMode mode) override { unit_ = mode == ScaleMode::Inches ? TwipsPerInch : 1; }
 
     [[nodiscard]] double TextX() const override { return x_ / unit_; }
 

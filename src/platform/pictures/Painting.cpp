@@ -319,7 +319,6 @@ QColor ToQt(Colour colour) {
 }
 
 QFont FontOf(DrawingOperation const& operation, double unitsPerTwip) {
-    constexpr double TwipsPerPoint = 20;
     QFont font(ToQt(operation.Text));
     double const size = operation.Coordinates[0] * TwipsPerPoint * unitsPerTwip;
     font.setPixelSize(std::max(1, static_cast<int>(std::lround(Limit(size)))));

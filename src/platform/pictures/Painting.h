@@ -12,8 +12,8 @@
 
 namespace quorvex::platform::pictures {
 
-// Twips to the logical pixel.
-inline constexpr double TwipsPerPixel = 15;
+// To the logical pixel.
+using platform::TwipsPerPixel;
 
 // Of boxes and pictures.
 inline constexpr Colour BorderColour = 0x808080;

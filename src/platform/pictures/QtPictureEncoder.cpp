@@ -18,7 +18,6 @@ namespace quorvex::platform::pictures {
 
 namespace {
 
-constexpr int TwipsPerInch = 1440;
 constexpr int PixelsPerInch = 96;
 constexpr int PointsPerInch = 72;
 

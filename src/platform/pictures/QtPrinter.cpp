@@ -12,12 +12,6 @@
 
 namespace quorvex::platform::pictures {
 
-namespace {
-
-constexpr double TwipsPerInch = 1440;
-
-} // namespace
-
 QtPrinter::QtPrinter(std::unique_ptr<PrintJob> job) : job_(std::move(job)) {
     NewPage();
 }
