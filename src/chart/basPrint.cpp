@@ -20,7 +20,7 @@ using platform::Fill;
 constexpr auto FontName = "Arial";
 
 // In twips.
-constexpr double PageMargin = 1440;
+constexpr double PageMargin = platform::TwipsPerInch;
 constexpr double ChartHeight = 5760;
 constexpr double FrameOffset = 25;
 
@@ -35,7 +35,7 @@ struct ChartArea {
 
 std::string DocumentName(quotes::QuoteSeries const& series) {
     std::string const& file = series.QuoteFileName;
-    return (file.empty() ? "Quorvex" : file.substr(0, file.rfind('.'))) + " chart";
+    return (series.HasQuotes() ? file.substr(0, file.rfind('.')) : "Quorvex") + " chart";
 }
 
 // The prices at the chart's edges, such that those of the quotes fill nine tenths of its height.

@@ -38,7 +38,7 @@ std::string Count(int count, std::string_view noun) {
 
 // Whether the days shown are those of quotes.
 bool HasDates(quotes::QuoteSeries const& series) {
-    return series.HasQuotes() && series.WorkingCount > 0;
+    return series.WorkingCount > 0; // none without a file
 }
 
 std::vector<std::string> NameDays(quotes::QuoteSeries const& series) {

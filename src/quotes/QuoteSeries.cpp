@@ -5,6 +5,12 @@
 
 namespace quorvex::quotes {
 
+void CloseQuoteFile(QuoteSeries& series) {
+    series.QuoteFileName.clear();
+    series.WorkingCount = 0;
+    series.QuoteCount = 0;
+}
+
 void AnalyseWholeSeries(QuoteSeries& series) {
     for (std::int16_t day = 1; day <= series.QuoteCount; ++day) {
         series.Working[day] = series.Master[day];

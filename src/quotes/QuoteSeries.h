@@ -38,9 +38,12 @@ struct QuoteSeries {
     std::string LastQuoteDate;
     std::string QuoteFileName; // without folder; empty when no quote file is open
 
-    // The one test of whether a quote file is open.
+    // The one test of whether a quote file is open. When none is, both counts are 0.
     [[nodiscard]] bool HasQuotes() const { return !QuoteFileName.empty(); }
 };
+
+// Closes the quote file: name empty, counts 0. The records stay where they are; nothing uses them then.
+void CloseQuoteFile(QuoteSeries& series);
 
 // Makes the working copy the whole series: its records, its count and its first and last date.
 void AnalyseWholeSeries(QuoteSeries& series);

@@ -10,8 +10,10 @@
 
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 namespace quorvex::quotes {
 
@@ -65,26 +67,21 @@ QuoteLine ReadLine(text::FieldReader& fields) {
     return line;
 }
 
-QuoteRecord Rounded(QuoteLine const& line, text::NumberFormat const& format) {
-    QuoteRecord record;
+void StoreRounded(QuoteLine const& line, text::NumberFormat const& format, QuoteRecord& record) {
     record.Date = text::FormatDate(*line.Date);
     for (std::size_t index = 0; index < NumberCount; ++index) {
         record.*NumberFields[index] = format.Round(line.Number(index));
     }
-    return record;
 }
 
 void RefuseQuoteFile(QuoteSeries& series, platform::Dialogs& dialogs) {
     dialogs.Show({"A minimum of 25 daily quotes is required to perform cyclical analysis",
                   "Quorvex Requirements", platform::Icon::Information});
-    series.QuoteFileName.clear();
-    series.QuoteCount = 0;
-    series.WorkingCount = 0;
+    CloseQuoteFile(series);
 }
 
-} // namespace
-
-std::int16_t ReadQuotes(text::ByteSource& source, text::NumberFormat const& format, QuoteSeries& series) {
+// The days that the source has, up to the last one that is kept. Returns their count.
+std::int16_t ReadRecords(text::ByteSource& source, text::NumberFormat const& format, QuoteRecords& records) {
     text::FieldReader fields(source);
     std::int16_t count = 0;
     while (!fields.AtEnd()) {
@@ -96,8 +93,20 @@ std::int16_t ReadQuotes(text::ByteSource& source, text::NumberFormat const& form
             break;
         }
         ++count;
-        series.Master[count] = Rounded(line, format);
-        series.Working[count] = series.Master[count];
+        StoreRounded(line, format, records[count]);
+    }
+    return count;
+}
+
+} // namespace
+
+std::int16_t ReadQuotes(text::ByteSource& source, text::NumberFormat const& format, QuoteSeries& series) {
+    // Read aside: a file that breaks off must not cost the contract that is open.
+    auto const records = std::make_unique<QuoteRecords>();
+    std::int16_t const count = ReadRecords(source, format, *records);
+    for (std::int16_t day = 1; day <= count; ++day) {
+        series.Master[day] = (*records)[day];
+        series.Working[day] = std::move((*records)[day]);
     }
     return count;
 }

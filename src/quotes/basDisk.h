@@ -19,15 +19,15 @@ namespace quorvex::quotes {
 // Reads quotes, oldest first, into both copies from day 1 on and returns how many days were stored, 0..500. A
 // line whose date is none, or whose four prices have a product that is not above zero, is skipped; reading
 // ends behind day 500. Every number is rounded through the format. Counts, dates and name of the series are
-// left alone. A fault of the source, and "Overflow" of a number beyond a double, leave the days stored so
-// far.
+// left alone. A fault of the source, and "Overflow" of a number beyond a double, leave both copies as they
+// were.
 [[nodiscard]] std::int16_t ReadQuotes(text::ByteSource& source, text::NumberFormat const& format,
                                       QuoteSeries& series);
 
 // Reads the quote file named by the series from the data folder into both copies, oldest day first, prices
 // rounded through the currency format. Returns the number of days, 25..500, or 0 when the file was refused:
 // then a message was shown and no file is open. A file that cannot be read returns 0 too, after its fault was
-// shown, and leaves the series as it was at that point.
+// shown, and leaves the series as it was.
 std::int16_t LoadQuoteFile(QuoteSeries& series, settings::Settings const& settings,
                            platform::Files const& files, platform::Dialogs& dialogs);
 

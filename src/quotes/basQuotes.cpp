@@ -7,6 +7,9 @@
 #include "quotes/basDisk.h"
 #include "text/basTexts.h"
 
+#include <optional>
+#include <utility>
+
 namespace quorvex::quotes {
 
 void ShowNoQuotesMessage(platform::Dialogs& dialogs) {
@@ -28,17 +31,17 @@ void OpenQuoteFile(QuoteSeries& series, settings::Settings const& settings, plat
         platform::ShowWarning(dialogs, "Cannot find daily quote text files.");
         return;
     }
-    series.QuoteFileName = dialogs.Choose(platform::FileKind::Quotes, names).value_or("");
-    // A file that could not be read to its end must not pass for an open one: Save As offers its name.
-    if (series.HasQuotes() && LoadQuoteFile(series, settings, files, dialogs) == 0) {
+    auto const chosen = dialogs.Choose(platform::FileKind::Quotes, names);
+    if (!chosen) {
         CloseQuoteFile(series);
+        return;
     }
-}
-
-void CloseQuoteFile(QuoteSeries& series) {
-    series.QuoteFileName.clear();
-    series.WorkingCount = 0;
-    series.QuoteCount = 0;
+    std::string const before = std::exchange(series.QuoteFileName, *chosen);
+    bool const isLoaded = LoadQuoteFile(series, settings, files, dialogs) > 0;
+    // A refused file has closed the series; one that could not be read leaves that to be done here.
+    if (!isLoaded && series.HasQuotes()) {
+        series.QuoteFileName = before;
+    }
 }
 
 bool IsQuoteFileName(std::string_view name) {

@@ -23,13 +23,11 @@ void ShowNoQuotesMessage(platform::Dialogs& dialogs);
 // Whether a quote file is open. When none is, tells the user to open one.
 [[nodiscard]] bool RequireQuotes(QuoteSeries const& series, platform::Dialogs& dialogs);
 
-// Lets the user choose among the quote files of the data folder and loads the one chosen. Cancelling forgets
-// the name of the file that was open; a file that cannot be loaded leaves none open.
+// Lets the user choose among the quote files of the data folder and loads the one chosen. Cancelling closes
+// the file that was open, and so does a file that is refused. One that cannot be read leaves all as it was
+// once its fault was shown.
 void OpenQuoteFile(QuoteSeries& series, settings::Settings const& settings, platform::Files const& files,
                    platform::Dialogs& dialogs);
-
-// Closes the quote file. The records stay where they are; nothing uses them without a file name.
-void CloseQuoteFile(QuoteSeries& series);
 
 // Whether a name is one that quotes can be saved under: five characters at least, ending with
 // ".TXT" in either case.

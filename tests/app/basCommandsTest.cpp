@@ -311,6 +311,23 @@ TEST(Commands, PrintWithoutAFilePrintsAnEmptyChartAfterItsMessage) {
     EXPECT_TRUE(running.Printing.Documents[0].IsEnded);
 }
 
+TEST(Commands, ACancelledOpenLeavesNothingToPrint) {
+    RunningProgram running;
+    running.Open("corn.txt", QuoteLines(30));
+    running.Dialogs.Choices = {std::nullopt};
+    FileOpen(*running.Data, running.Outside);
+    EXPECT_EQ(running.Data->Quotes.WorkingCount, 0);
+    FilePrint(*running.Data, running.Outside);
+    EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Please load a quote data file",
+                              "Quorvex - Print Chart", Icon::Information));
+    RunningProgram fresh;
+    FilePrint(*fresh.Data, fresh.Outside);
+    platform::fake::PrintedPage const& page = running.Printing.Documents.at(0).Pages.at(0);
+    platform::fake::PrintedPage const& emptyPage = fresh.Printing.Documents.at(0).Pages.at(0);
+    EXPECT_EQ(page.Texts.size(), emptyPage.Texts.size());
+    EXPECT_EQ(page.Shapes.size(), emptyPage.Shapes.size());
+}
+
 TEST(Commands, PrintEndsWithTheErrorOfTheFirstPage) {
     RunningProgram running;
     running.Open("corn.txt", QuoteLines(30));

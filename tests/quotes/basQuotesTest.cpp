@@ -61,10 +61,13 @@ TEST_F(QuoteCommands, OpenWithoutTextFilesSaysSoAndKeepsTheOpenFile) {
 
 TEST_F(QuoteCommands, CancellingTheChooserClosesTheFile) {
     files.Contents = {{"C:\\Quotes\\corn.txt", QuoteLines(25)}};
-    series->QuoteFileName = "open.txt";
-    dialogs.Choices = {std::nullopt};
+    dialogs.Choices = {"corn.txt", std::nullopt};
+    Open();
+    ASSERT_TRUE(series->HasQuotes());
     Open();
     EXPECT_FALSE(series->HasQuotes());
+    EXPECT_EQ(series->QuoteCount, 0);
+    EXPECT_EQ(series->WorkingCount, 0);
     EXPECT_TRUE(dialogs.Messages.empty());
 }
 
@@ -78,11 +81,29 @@ TEST_F(QuoteCommands, ChoosingARefusedFileLeavesNoFileOpen) {
                               "Quorvex Requirements", Icon::Information));
 }
 
-TEST_F(QuoteCommands, AFileThatCannotBeReadLeavesNoneOpen) {
-    files.Contents = {{"C:\\Quotes\\corn.txt", QuoteLines(25)}, {"C:\\Quotes\\bad.txt", QuoteLines(25)}};
+TEST_F(QuoteCommands, AFileThatCannotBeReadLeavesTheOpenOneAsItWas) {
+    files.Contents = {{"C:\\Quotes\\corn.txt", QuoteLines(30)},
+                      {"C:\\Quotes\\bad.txt", "06/03/02, 7, 7, 7, 7, 7, 7\r\n" + QuoteLines(25)}};
     dialogs.Choices = {"corn.txt", "bad.txt"};
     Open();
     ASSERT_TRUE(series->HasQuotes());
+    series->WorkingCount = 28;
+    files.BreakReading = {500, text::Fault::PermissionDenied};
+    Open();
+    EXPECT_TRUE(IsOnlyMessage(dialogs.Messages, "Permission denied", "Quorvex", Icon::None));
+    EXPECT_EQ(series->QuoteFileName, "corn.txt");
+    EXPECT_EQ(series->QuoteCount, 30);
+    EXPECT_EQ(series->WorkingCount, 28);
+    EXPECT_EQ(series->FirstQuoteDate, "01/01/01");
+    for (std::int16_t day = 1; day <= 30; ++day) {
+        EXPECT_EQ(series->Master[day].Close, 100 + day);
+        EXPECT_EQ(series->Working[day].Close, 100 + day);
+    }
+}
+
+TEST_F(QuoteCommands, AFileThatCannotBeReadOpensNone) {
+    files.Contents = {{"C:\\Quotes\\bad.txt", QuoteLines(25)}};
+    dialogs.Choices = {"bad.txt"};
     files.BreakReading = {500, text::Fault::PermissionDenied};
     Open();
     EXPECT_TRUE(IsOnlyMessage(dialogs.Messages, "Permission denied", "Quorvex", Icon::None));

@@ -88,6 +88,7 @@ private Q_SLOTS:
         main.Choose("mnuFileOpen");
         QCOMPARE(main.Answers.Shown(), QStringList(u"frmQuotes"_s));
         QCOMPARE(main.Window->windowTitle(), u"Quorvex"_s);
+        QCOMPARE(main.Data->Quotes.WorkingCount, 0);
         QCOMPARE(main.Box(1).accessibleDescription(), u"No quote file is open."_s);
     }
 
