@@ -14,7 +14,8 @@ namespace quorvex::platform {
 // The machine-wide part of the registry. Only Windows has one.
 class Registry {
 public:
-    // A text without its terminating zero, or a 32-bit number.
+    // A text without its terminating zero, or a 32-bit number. A text that is meant to be expanded has the
+    // values of the environment's variables in place of their names.
     using Value = std::variant<std::string, std::uint32_t>;
 
     Registry() = default;

@@ -3,6 +3,7 @@
 
 #include "platform/windows/WindowsRegistry.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <string>
@@ -41,6 +42,16 @@ private:
     bool isOpen_ = false;
 };
 
+// The text with the values of the variables that it names, such as %SystemRoot%; the text as it is when the
+// system cannot tell them.
+std::string Expanded(std::string const& text) {
+    // In the system's code page the call wants room for one more byte than it tells.
+    DWORD const room = ExpandEnvironmentStringsA(text.c_str(), nullptr, 0) + 1;
+    std::string expanded(room, '\0');
+    DWORD const written = ExpandEnvironmentStringsA(text.c_str(), expanded.data(), room);
+    return written == 0 || written > room ? text : expanded.substr(0, expanded.find('\0'));
+}
+
 } // namespace
 
 std::optional<Registry::Value> WindowsRegistry::Query(std::string_view keyName,
@@ -59,12 +70,13 @@ std::optional<Registry::Value> WindowsRegistry::Query(std::string_view keyName,
         std::memcpy(&number, buffer.data(), sizeof number);
         return number;
     }
-    if (type != REG_SZ) {
+    if (type != REG_SZ && type != REG_EXPAND_SZ) {
         return std::nullopt;
     }
     std::string text(size, '\0');
     std::memcpy(text.data(), buffer.data(), size);
-    return text.substr(0, text.find('\0'));
+    text.resize(std::min(text.find('\0'), text.size())); // the zero at the end may be missing
+    return type == REG_EXPAND_SZ ? Expanded(text) : text;
 }
 
 } // namespace quorvex::platform::windows
