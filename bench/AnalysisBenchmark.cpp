@@ -24,7 +24,8 @@ void WholeAnalysis(benchmark::State& state) {
     cycles::TextGrid grid;
     SilentDialogs dialogs;
     platform::disk::DiskFiles files;
-    app::AnalysisServices const services{.Grid = grid, .Files = files, .Dialogs = dialogs};
+    app::AnalysisServices const services{
+        .Grid = grid, .Files = files, .Dialogs = dialogs, .ParameterDialogs = dialogs};
     app::AnalysisRequest request;
     request.AutomatedCycles = 3;
     app::StartUp(*program, grid, platform::NoProfile(), file.Folder());

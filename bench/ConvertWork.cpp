@@ -5,6 +5,7 @@
 
 #include "convert/basConvertCSI.h"
 
+#include <filesystem>
 #include <fstream>
 #include <stdexcept>
 
@@ -32,7 +33,9 @@ ConvertWork::ConvertWork()
 }
 
 void ConvertWork::Convert() {
-    if (!convert::ConvertFile(names_, *layout_, files_, dialogs_)) {
+    // What an older file holds would be kept, and keeping waits for the disk.
+    std::filesystem::remove(names_.Destination);
+    if (!convert::ConvertFile(names_, *layout_, files_).empty()) {
         throw std::runtime_error("The generated vendor's file could not be converted.");
     }
 }

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include "SilentDialogs.h"
 #include "TemporaryQuoteFile.h"
 #include "convert/basConvertSubs.h"
 #include "platform/disk/DiskFiles.h"
@@ -30,7 +29,6 @@ private:
     convert::FileNames names_;
     std::unique_ptr<convert::SourceLayout> layout_;
     platform::disk::DiskFiles files_;
-    SilentDialogs dialogs_;
 };
 
 } // namespace quorvex::bench

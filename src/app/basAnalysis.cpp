@@ -53,8 +53,9 @@ bool NarrowDates(Program& program, platform::Dialogs& dialogs, AnalysisRequest c
 
 void ReadParameters(Program& program, AnalysisServices const& services, std::string const& path) {
     program.Cycles.ParameterFileName = path;
-    cycles::ReadParameterFile(path, program.Cycles, services.Files, services.Dialogs);
-    platform::RunReported(services.Dialogs, [&] { cycles::WriteGrid(program.Cycles, services.Grid); });
+    cycles::ReadParameterFile(path, program.Cycles, services.Files, services.ParameterDialogs);
+    platform::RunReported(services.ParameterDialogs,
+                          [&] { cycles::WriteGrid(program.Cycles, services.Grid); });
 }
 
 // Returns whether all cycles were fitted.

@@ -37,6 +37,7 @@ struct AnalysisServices {
     cycles::ParameterGrid& Grid;
     platform::Files const& Files;
     platform::Dialogs& Dialogs;
+    platform::Dialogs& ParameterDialogs; // for what is wrong with the parameter file
 };
 
 // What an analysis leaves beside the program's data, in whose curves stands what could not be computed. What

@@ -1,14 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-#include "cli/Analyse.h"
-
 #include "cli/AnalysisJson.h"
 #include "cli/AnalysisOptions.h"
 #include "cli/AnalysisReport.h"
 #include "cli/AnalysisSession.h"
 #include "cli/CharacterChart.h"
 #include "cli/StandardStreams.h"
+#include "cli/SubCommands.h"
 
 #include <memory>
 #include <string>

@@ -7,14 +7,20 @@
 
 namespace quorvex::cli {
 
-AnalysisSession::AnalysisSession(AnalysisOptions const& options) : request_(options.Request) {
+AnalysisSession::AnalysisSession(AnalysisOptions const& options)
+    : request_(options.Request),
+      dialogs_(options.QuotePath),
+      parameterDialogs_(options.Request.ParameterPath.value_or("")) {
     // Every run is to give the same, whatever the user prefers in the window.
     app::StartUp(*program_, grid_, platform::NoProfile(), "./");
     TakeAnalysisOptions(options, *program_);
 }
 
 std::optional<app::AnalysisResult> AnalysisSession::Analyse() {
-    return app::Analyse(*program_, {.Grid = grid_, .Files = files_, .Dialogs = dialogs_}, request_);
+    return app::Analyse(
+        *program_,
+        {.Grid = grid_, .Files = files_, .Dialogs = dialogs_, .ParameterDialogs = parameterDialogs_},
+        request_);
 }
 
 void AnalysisSession::DrawCharts(chart::ChartBoxes const& boxes) const {
@@ -23,7 +29,8 @@ void AnalysisSession::DrawCharts(chart::ChartBoxes const& boxes) const {
 }
 
 ExitStatus AnalysisSession::Status(bool written) const {
-    return written && !dialogs_.HasShown() ? ExitStatus::Success : ExitStatus::Refused;
+    bool const isRefused = dialogs_.HasShown() || parameterDialogs_.HasShown();
+    return written && !isRefused ? ExitStatus::Success : ExitStatus::Refused;
 }
 
 } // namespace quorvex::cli

@@ -8,7 +8,7 @@
 #include "chart/basCharts.h"
 #include "cli/AnalysisOptions.h"
 #include "cli/ConsoleDialogs.h"
-#include "cli/SubCommand.h"
+#include "cli/ExitStatus.h"
 #include "platform/disk/DiskFiles.h"
 
 #include <memory>
@@ -31,10 +31,6 @@ public:
 
     [[nodiscard]] cycles::ParameterGrid const& Grid() const { return grid_; }
 
-    [[nodiscard]] platform::Files& Files() { return files_; }
-
-    [[nodiscard]] platform::Dialogs& Dialogs() { return dialogs_; }
-
     // What the run ends with once its results were written, or not: any message means that data were refused.
     [[nodiscard]] ExitStatus Status(bool written) const;
 
@@ -43,6 +39,7 @@ private:
     std::unique_ptr<app::Program> program_ = std::make_unique<app::Program>();
     cycles::TextGrid grid_;
     ConsoleDialogs dialogs_;
+    ConsoleDialogs parameterDialogs_;
     platform::disk::DiskFiles files_;
 };
 

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-#include "cli/Chart.h"
-
 #include "cli/AnalysisSession.h"
 #include "cli/ChartJson.h"
 #include "cli/ChartSheet.h"
-#include "cli/StandardStreams.h"
+#include "cli/ConsoleDialogs.h"
+#include "cli/PipeFiles.h"
+#include "cli/SubCommands.h"
 #include "platform/basMessages.h"
 #include "text/basTexts.h"
 
@@ -57,7 +57,7 @@ CLI::Validator IsSize() {
 
 CLI::Validator IsChartFile(bool hasPictures) {
     return {[hasPictures](std::string const& text) -> std::string {
-                if (text == "-" || text::UpperCase(text).ends_with(".JSON")) {
+                if (text == PipeName || text::UpperCase(text).ends_with(".JSON")) {
                     return {};
                 }
                 if (!platform::PictureKindOf(text)) {
@@ -68,14 +68,11 @@ CLI::Validator IsChartFile(bool hasPictures) {
             ""};
 }
 
-bool WriteChart(std::string const& path, ChartSheet const& sheet, platform::PictureEncoder* encoder,
-                AnalysisSession& session) {
-    if (path == "-") {
-        return Print(ChartJson(sheet.Drawings()));
-    }
-    return platform::RunReported(session.Dialogs(), [&] {
+bool WriteChart(std::string const& path, ChartSheet const& sheet, platform::PictureEncoder* encoder) {
+    ConsoleDialogs dialogs(OutputName(path));
+    return platform::RunReported(dialogs, [&] {
         auto const kind = platform::PictureKindOf(path);
-        session.Files().Overwrite(path, kind ? sheet.Encode(*encoder, *kind) : ChartJson(sheet.Drawings()));
+        PipeFiles().Overwrite(path, kind ? sheet.Encode(*encoder, *kind) : ChartJson(sheet.Drawings()));
     });
 }
 
@@ -100,7 +97,7 @@ ExitStatus Chart(ChartOptions const& options, platform::PictureEncoder* encoder)
         return ExitStatus::Refused;
     }
     session.DrawCharts(sheet.Boxes());
-    return session.Status(WriteChart(options.OutputPath, sheet, encoder, session));
+    return session.Status(WriteChart(options.OutputPath, sheet, encoder));
 }
 
 } // namespace

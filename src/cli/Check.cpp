@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-#include "cli/Check.h"
-
 #include "cli/EditSession.h"
 #include "cli/SettingOptions.h"
+#include "cli/SubCommands.h"
 #include "editor/basValidate.h"
 
 #include <memory>

@@ -9,7 +9,7 @@ namespace quorvex::cli {
 
 platform::Answer ConsoleDialogs::Show(platform::Message const& message) {
     hasShown_ = true;
-    Complain(message.Text);
+    Complain(fileName_, message.Text);
     return message.Offered == platform::Buttons::Ok ? platform::Answer::Ok : platform::Answer::Cancel;
 }
 

@@ -5,11 +5,16 @@
 
 #include "platform/Dialogs.h"
 
+#include <string>
+#include <utility>
+
 namespace quorvex::cli {
 
-// Puts the program's messages on standard error and has no one to answer questions.
+// Puts the program's messages about one file on standard error and has no one to answer questions.
 class ConsoleDialogs final : public platform::Dialogs {
 public:
+    explicit ConsoleDialogs(std::string fileName) : fileName_(std::move(fileName)) {}
+
     platform::Answer Show(platform::Message const& message) override;
     [[nodiscard]] std::string Ask(platform::Question const& question) override;
     [[nodiscard]] std::optional<std::string> Choose(platform::FileKind kind,
@@ -20,6 +25,7 @@ public:
     [[nodiscard]] bool HasShown() const { return hasShown_; }
 
 private:
+    std::string fileName_;
     bool hasShown_ = false;
 };
 

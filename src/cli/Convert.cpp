@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-#include "cli/Convert.h"
-
 #include "cli/ConsoleDialogs.h"
 #include "cli/PipeFiles.h"
 #include "cli/StandardStreams.h"
+#include "cli/SubCommands.h"
 #include "convert/basConvertBarChart.h"
 #include "convert/basConvertCSI.h"
 #include "convert/basConvertCustom.h"
@@ -79,14 +78,19 @@ CLI::Validator IsDateFormat() {
 }
 
 ExitStatus Convert(convert::FileNames const& names, convert::SourceLayout const& layout) {
-    ConsoleDialogs dialogs;
+    ConsoleDialogs dialogs(names.Source.empty() ? std::string() : OutputName(names.Destination));
     PipeFiles files;
     // From pipe to pipe both names are the same and yet two things.
     bool const isFilter = names.Source == PipeName && names.Destination == PipeName;
     if (!isFilter && !convert::ValidateFileNames(names, dialogs)) {
         return ExitStatus::Refused;
     }
-    if (!convert::ConvertFile(names, layout, files, dialogs)) {
+    auto const troubles = convert::ConvertFile(names, layout, files);
+    for (convert::Trouble const& trouble : troubles) {
+        Complain(trouble.IsOfDestination ? OutputName(names.Destination) : InputName(names.Source),
+                 trouble.Told.Text);
+    }
+    if (!troubles.empty()) {
         return ExitStatus::Refused;
     }
     bool const told = names.Destination == PipeName || Print(convert::SuccessText(names.Destination) + '\n');
@@ -94,7 +98,7 @@ ExitStatus Convert(convert::FileNames const& names, convert::SourceLayout const&
 }
 
 ExitStatus ConvertCustom(ConvertOptions const& options) {
-    ConsoleDialogs dialogs;
+    ConsoleDialogs dialogs("--fields");
     auto choices = ReadFields(options.Fields).value();
     choices.DateFormat = options.DateFormat;
     auto const description = convert::ReadDescription(choices, dialogs);

@@ -10,7 +10,8 @@
 namespace quorvex::cli {
 
 EditSession::EditSession(std::string const& quotePath, std::optional<std::string> const& format)
-    : settings_(settings::DefaultSettings("./")) {
+    : settings_(settings::DefaultSettings("./")),
+      dialogs_(quotePath) {
     settings_.CurrencyFormat = format.value_or(settings_.CurrencyFormat);
     TakeQuotePath(quotePath, settings_, *series_);
 }

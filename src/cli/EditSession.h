@@ -34,8 +34,6 @@ public:
 
     [[nodiscard]] platform::Dialogs& Dialogs() { return dialogs_; }
 
-    [[nodiscard]] platform::Files& Files() { return files_; }
-
 private:
     settings::Settings settings_;
     std::unique_ptr<quotes::QuoteSeries> series_ = std::make_unique<quotes::QuoteSeries>();

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-#include "cli/FormatNumbers.h"
-
 #include "cli/StandardStreams.h"
+#include "cli/SubCommands.h"
 #include "text/RunTimeError.h"
 #include "text/basFormats.h"
 #include "text/basNumbers.h"
@@ -21,7 +20,7 @@ ExitStatus FormatNumbers(std::string const& formatText, std::vector<std::string>
     for (std::string const& number : numbers) {
         std::string line;
         if (auto const error = text::Trap([&] { line = format.Format(text::StrictNumber(number)) + '\n'; })) {
-            Complain(number + ": " + error->what());
+            Complain(number, error->what());
             status = ExitStatus::Refused;
         } else if (!Print(line)) {
             return ExitStatus::Refused;

@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-#include "cli/List.h"
-
 #include "cli/EditSession.h"
 #include "cli/PdfOutput.h"
 #include "cli/SettingOptions.h"
+#include "cli/SubCommands.h"
 #include "editor/basListing.h"
 #include "platform/MousePointer.h"
 
@@ -29,11 +28,9 @@ ExitStatus List(ListOptions const& options, platform::PdfPrintQueue& queue) {
         return ExitStatus::Refused;
     }
     platform::NoMousePointer pointer;
-    bool const written =
-        PrintToPdf(queue, options.OutputPath, session.Files(), session.Dialogs(), [&](auto& printing) {
-            editor::PrintQuotes(session.Edited(), session.QuoteFileName(), session.Settings(), printing,
-                                pointer);
-        });
+    bool const written = PrintToPdf(queue, options.OutputPath, [&](auto& printing) {
+        editor::PrintQuotes(session.Edited(), session.QuoteFileName(), session.Settings(), printing, pointer);
+    });
     return written ? ExitStatus::Success : ExitStatus::Refused;
 }
 

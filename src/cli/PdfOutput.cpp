@@ -3,7 +3,8 @@
 
 #include "cli/PdfOutput.h"
 
-#include "cli/StandardStreams.h"
+#include "cli/ConsoleDialogs.h"
+#include "cli/PipeFiles.h"
 #include "platform/basMessages.h"
 #include "text/basTexts.h"
 
@@ -16,7 +17,7 @@ CLI::Validator IsPdfFile(bool hasQueue) {
                 if (!hasQueue) {
                     return "this program was built without Qt and cannot print";
                 }
-                bool const isPdf = text == "-" || text::UpperCase(text).ends_with(".PDF");
+                bool const isPdf = text == PipeName || text::UpperCase(text).ends_with(".PDF");
                 return isPdf ? "" : text + " does not end with .pdf";
             },
             ""};
@@ -31,18 +32,12 @@ void AddPdfOption(CLI::App& command, std::string& path, platform::PdfPrintQueue 
         ->check(IsPdfFile(queue != nullptr));
 }
 
-bool PrintToPdf(platform::PdfPrintQueue& queue, std::string const& path, platform::Files& files,
-                platform::Dialogs& dialogs, PrintRoutine const& print) {
-    bool isWritten = true;
-    bool const isPrinted = platform::RunReported(dialogs, [&] {
+bool PrintToPdf(platform::PdfPrintQueue& queue, std::string const& path, PrintRoutine const& print) {
+    ConsoleDialogs dialogs(OutputName(path));
+    return platform::RunReported(dialogs, [&] {
         print(queue);
-        if (path == "-") {
-            isWritten = PrintBytes(queue.Pdf());
-        } else {
-            files.Overwrite(path, queue.Pdf());
-        }
+        PipeFiles().Overwrite(path, queue.Pdf());
     });
-    return isPrinted && isWritten;
 }
 
 } // namespace quorvex::cli

@@ -4,8 +4,6 @@
 // Printed documents as PDF files, for the sub-commands that print.
 #pragma once
 
-#include "platform/Dialogs.h"
-#include "platform/Files.h"
 #include "platform/PdfPrintQueue.h"
 
 #include <CLI/CLI.hpp>
@@ -24,7 +22,7 @@ using PrintRoutine = std::function<void(platform::PrintQueue& queue)>;
 // Runs the routine, which prints one document, and writes that to the file, or to standard output for "-".
 // Returns false, after telling what is wrong, when it was not printed or not written; the file is as it was
 // then.
-[[nodiscard]] bool PrintToPdf(platform::PdfPrintQueue& queue, std::string const& path, platform::Files& files,
-                              platform::Dialogs& dialogs, PrintRoutine const& print);
+[[nodiscard]] bool PrintToPdf(platform::PdfPrintQueue& queue, std::string const& path,
+                              PrintRoutine const& print);
 
 } // namespace quorvex::cli

@@ -7,6 +7,14 @@
 
 namespace quorvex::cli {
 
+std::string InputName(std::string_view path) {
+    return std::string(path == PipeName ? "standard input" : path);
+}
+
+std::string OutputName(std::string_view path) {
+    return std::string(path == PipeName ? "standard output" : path);
+}
+
 std::unique_ptr<text::ByteSource> PipeFiles::OpenForInput(std::string const& path) const {
     return path == PipeName ? platform::disk::OpenStandardInput() : platform::disk::OpenFileOrPipe(path);
 }

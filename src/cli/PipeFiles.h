@@ -5,12 +5,17 @@
 
 #include "platform/disk/DiskFiles.h"
 
+#include <string>
 #include <string_view>
 
 namespace quorvex::cli {
 
 // Where a file is named, this stands for standard input or standard output.
 inline constexpr std::string_view PipeName = "-";
+
+// What a complaint calls the file that is read or written under this name.
+[[nodiscard]] std::string InputName(std::string_view path);
+[[nodiscard]] std::string OutputName(std::string_view path);
 
 // The files of this machine, and besides them what PipeName stands for; the pipes and devices that have a
 // name, as a shell makes them, can be read too. What was written on standard output cannot be taken back:

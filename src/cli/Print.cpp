@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-#include "cli/Print.h"
-
 #include "chart/basPrint.h"
 #include "cli/AnalysisSession.h"
 #include "cli/PdfOutput.h"
+#include "cli/SubCommands.h"
 
 #include <memory>
 #include <string>
@@ -25,10 +24,9 @@ ExitStatus PrintPage(PrintOptions const& options, platform::PdfPrintQueue& queue
         return ExitStatus::Refused;
     }
     platform::NoMousePointer pointer;
-    bool const written =
-        PrintToPdf(queue, options.OutputPath, session.Files(), session.Dialogs(), [&](auto& printing) {
-            chart::PrintChart(printing, pointer, session.Program().Quotes, session.Program().Settings);
-        });
+    bool const written = PrintToPdf(queue, options.OutputPath, [&](auto& printing) {
+        chart::PrintChart(printing, pointer, session.Program().Quotes, session.Program().Settings);
+    });
     return session.Status(written);
 }
 

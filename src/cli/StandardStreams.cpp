@@ -3,9 +3,11 @@
 
 #include "cli/StandardStreams.h"
 
-#include "platform/disk/HostConsole.h"
+#include "cli/PipeFiles.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <string>
 
 namespace quorvex::cli {
 
@@ -13,20 +15,18 @@ bool Print(std::string_view text) {
     bool const written =
         std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0;
     if (!written) {
-        Complain("The results could not be written.");
+        Complain(OutputName(PipeName), "The results could not be written.");
     }
     return written;
 }
 
-bool PrintBytes(std::string_view bytes) {
-    platform::disk::LeaveOutputAsItIs();
-    return Print(bytes);
-}
-
-void Complain(std::string_view text) {
+void Complain(std::string_view name, std::string_view message) {
+    std::string line = "quorvex-cli: ";
+    line.append(name).append(name.empty() ? "" : ": ").append(message);
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    line += '\n';
     // When even this fails there is nobody left to tell.
-    static_cast<void>(std::fwrite(text.data(), 1, text.size(), stderr));
-    static_cast<void>(std::fputc('\n', stderr));
+    static_cast<void>(std::fwrite(line.data(), 1, line.size(), stderr));
 }
 
 } // namespace quorvex::cli

@@ -11,10 +11,8 @@ namespace quorvex::cli {
 // there.
 bool Print(std::string_view text);
 
-// The same with bytes that are no text, which no system may change on their way.
-bool PrintBytes(std::string_view bytes);
-
-// Puts the text and a line end on standard error.
-void Complain(std::string_view text);
+// Puts "quorvex-cli: NAME: message" on standard error, in one line. The name is that of the file, or of
+// whatever else the message is about; nothing stands in its place when it is empty.
+void Complain(std::string_view name, std::string_view message);
 
 } // namespace quorvex::cli

@@ -4,15 +4,9 @@
 // The companion: the program's routines without a window, for scripts.
 
 #include "app/Program.h"
-#include "cli/Analyse.h"
-#include "cli/Chart.h"
-#include "cli/Check.h"
-#include "cli/Convert.h"
-#include "cli/FormatNumbers.h"
-#include "cli/List.h"
-#include "cli/Print.h"
+#include "cli/ExitStatus.h"
 #include "cli/StandardStreams.h"
-#include "cli/SubCommand.h"
+#include "cli/SubCommands.h"
 #include "platform/disk/HostArguments.h"
 #include "platform/disk/HostConsole.h"
 #ifdef QUORVEX_PICTURES
@@ -72,10 +66,10 @@ int main(int argc, char** argv) {
             status = asked ? ExitStatus::Success : ExitStatus::Usage;
         }
     } catch (std::bad_alloc const&) {
-        quorvex::cli::Complain("Out of memory");
+        quorvex::cli::Complain({}, "Out of memory");
         status = ExitStatus::Refused;
     } catch (std::exception const& error) {
-        quorvex::cli::Complain(error.what());
+        quorvex::cli::Complain({}, error.what());
         status = ExitStatus::Refused;
     }
     return static_cast<int>(status);

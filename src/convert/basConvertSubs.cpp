@@ -49,14 +49,14 @@ bool ParseRecord(std::string_view line, SourceLayout const& layout, Fields& fiel
 }
 
 // The destination of a run. Unless it is kept, it is deleted when the run is over.
-class Destination {
+class Destination final : public platform::ByteSink {
 public:
     Destination(std::string const& name, platform::Files& files) : name_(name), files_(files) {}
 
     Destination(Destination const&) = delete;
     Destination& operator=(Destination const&) = delete;
 
-    ~Destination() {
+    ~Destination() override {
         try {
             static_cast<void>(Discard());
         } catch (std::exception const&) {
@@ -64,11 +64,23 @@ public:
         }
     }
 
-    platform::ByteSink& Open() {
-        files_.Keep(name_);
-        sink_ = files_.OpenForOutput(name_);
-        return *sink_;
+    void Open() {
+        Watch([this] {
+            files_.Keep(name_);
+            sink_ = files_.OpenForOutput(name_);
+        });
     }
+
+    void Write(std::string_view bytes) override {
+        Watch([&] { sink_->Write(bytes); });
+    }
+
+    void Close() override {
+        Watch([this] { sink_->Close(); });
+    }
+
+    // Whether a fault was its own.
+    [[nodiscard]] bool HasFailed() const { return hasFailed_; }
 
     void Keep() { sink_.reset(); }
 
@@ -89,9 +101,17 @@ public:
     }
 
 private:
+    template <class Routine>
+    void Watch(Routine&& routine) {
+        hasFailed_ = true;
+        std::forward<Routine>(routine)();
+        hasFailed_ = false;
+    }
+
     std::string const& name_;
     platform::Files& files_;
     std::unique_ptr<platform::ByteSink> sink_;
+    bool hasFailed_ = false;
 };
 
 } // namespace
@@ -143,29 +163,25 @@ std::vector<Message> ConvertRecords(text::ByteSource& source, platform::ByteSink
     return messages;
 }
 
-bool ConvertFile(FileNames const& names, SourceLayout const& layout, platform::Files& files,
-                 platform::Dialogs& dialogs) {
-    std::vector<Message> messages;
-    {
-        Destination destination(names.Destination, files);
-        auto const fault = text::Trap([&] {
-            auto const source = files.OpenForInput(names.Source);
-            messages = ConvertRecords(*source, destination.Open(), layout, names.Source);
-        });
-        if (fault) {
-            messages.push_back(FaultMessage(*fault));
+std::vector<Trouble> ConvertFile(FileNames const& names, SourceLayout const& layout, platform::Files& files) {
+    std::vector<Trouble> troubles;
+    Destination destination(names.Destination, files);
+    auto const fault = text::Trap([&] {
+        auto const source = files.OpenForInput(names.Source);
+        destination.Open();
+        for (Message const& message : ConvertRecords(*source, destination, layout, names.Source)) {
+            troubles.push_back({message, false});
         }
-        if (messages.empty()) {
-            destination.Keep();
-        } else if (auto const survival = destination.Discard()) {
-            messages.push_back(FaultMessage(*survival));
-        }
+    });
+    if (fault) {
+        troubles.push_back({FaultMessage(*fault), destination.HasFailed()});
     }
-    // The partial output is gone before a box waits for the user.
-    for (Message const& message : messages) {
-        dialogs.Show(message);
+    if (troubles.empty()) {
+        destination.Keep();
+    } else if (auto const survival = destination.Discard()) {
+        troubles.push_back({FaultMessage(*survival), true});
     }
-    return messages.empty();
+    return troubles;
 }
 
 std::string SuccessText(std::string_view destination) {
@@ -174,7 +190,12 @@ std::string SuccessText(std::string_view destination) {
 
 void ConvertDataFile(FileNames const& names, SourceLayout const& layout, platform::Files& files,
                      platform::Dialogs& dialogs) {
-    if (ConvertFile(names, layout, files, dialogs)) {
+    // The partial output is gone before a box waits for the user.
+    auto const troubles = ConvertFile(names, layout, files);
+    for (Trouble const& trouble : troubles) {
+        dialogs.Show(trouble.Told);
+    }
+    if (troubles.empty()) {
         dialogs.Show({SuccessText(names.Destination), std::string(ConversionTitle), Icon::Information});
     }
 }

@@ -37,16 +37,23 @@ struct FileNames {
                                                             SourceLayout const& layout,
                                                             std::string_view sourceName);
 
-// Converts the source file into the destination file, which is emptied first. Returns false after a message
-// told why that failed: then there is no destination file any more, or it is untouched if one of the two
-// files could not be opened. A destination that cannot be deleted is left empty, and a message tells why.
-[[nodiscard]] bool ConvertFile(FileNames const& names, SourceLayout const& layout, platform::Files& files,
-                               platform::Dialogs& dialogs);
+// A message that tells why a file was not converted.
+struct Trouble {
+    platform::Message Told;
+    bool IsOfDestination = false; // it is about that file, else about the source
+};
+
+// Converts the source file into the destination file, which is emptied first; what it held is kept. Returns
+// why that failed, nothing on success: then there is no destination file any more, or it is untouched if one
+// of the two files could not be opened or the old content not be kept. A destination that cannot be deleted
+// is left empty, which is told too.
+[[nodiscard]] std::vector<Trouble> ConvertFile(FileNames const& names, SourceLayout const& layout,
+                                               platform::Files& files);
 
 // "Data file ... created successfully".
 [[nodiscard]] std::string SuccessText(std::string_view destination);
 
-// The same as ConvertFile, and a message tells of success too.
+// The same as ConvertFile with all messages shown, that of success too.
 void ConvertDataFile(FileNames const& names, SourceLayout const& layout, platform::Files& files,
                      platform::Dialogs& dialogs);
 

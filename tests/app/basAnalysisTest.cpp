@@ -27,7 +27,11 @@ protected:
         running.Files.Contents["C:\\Quorvex\\q.txt"] = quotes;
         running.Data->Quotes.QuoteFileName = "q.txt";
         return Analyse(*running.Data,
-                       {.Grid = running.Grid, .Files = running.Files, .Dialogs = running.Dialogs}, request);
+                       {.Grid = running.Grid,
+                        .Files = running.Files,
+                        .Dialogs = running.Dialogs,
+                        .ParameterDialogs = running.Dialogs},
+                       request);
     }
 
     [[nodiscard]] cycles::ChartStates const& States() const { return running.Data->Curves.States; }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-#include "cli/Analyse.h"
+#include "cli/SubCommands.h"
 #include "support/Golden.h"
 
 #include <gtest/gtest.h>

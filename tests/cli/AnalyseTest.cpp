@@ -180,10 +180,12 @@ TEST(AnalyseJson, AgreesWithTheReferenceProperties) {
 }
 
 TEST(Analyse, RefusesAShortFileWithTheProgramsMessage) {
-    auto const run = RunCompanion({"analyse", GoldenPath("quotes/few24.txt"), "--json"});
+    std::string const file = GoldenPath("quotes/few24.txt");
+    auto const run = RunCompanion({"analyse", file, "--json"});
     EXPECT_EQ(run.ExitStatus, 1);
     EXPECT_EQ(run.Output, "");
-    EXPECT_EQ(run.Errors, "A minimum of 25 daily quotes is required to perform cyclical analysis\n");
+    EXPECT_EQ(run.Errors, "quorvex-cli: " + file +
+                              ": A minimum of 25 daily quotes is required to perform cyclical analysis\n");
 }
 
 TEST(Analyse, ReportsFilesThatCannotBeRead) {
@@ -191,7 +193,7 @@ TEST(Analyse, ReportsFilesThatCannotBeRead) {
     auto run = RunCompanion({"analyse", folder.File("gone.txt")});
     EXPECT_EQ(run.ExitStatus, 1);
     EXPECT_EQ(run.Output, "");
-    EXPECT_EQ(run.Errors, "File not found\n");
+    EXPECT_EQ(run.Errors, "quorvex-cli: " + folder.File("gone.txt") + ": File not found\n");
     run = RunCompanion({"analyse", folder.Text()});
     EXPECT_EQ(run.ExitStatus, 1);
     EXPECT_EQ(run.Output, "");
@@ -200,24 +202,24 @@ TEST(Analyse, ReportsFilesThatCannotBeRead) {
 TEST(Analyse, TakesAnEmptyPathForABadName) {
     auto run = RunCompanion({"analyse", ""});
     EXPECT_EQ(run.ExitStatus, 1);
-    EXPECT_EQ(run.Errors, "Bad file name or number\n");
+    EXPECT_EQ(run.Errors, "quorvex-cli: Bad file name or number\n");
     run = RunCompanion({"analyse", GoldenPath("quotes/q060.txt"), "--parameters", ""});
     EXPECT_EQ(run.ExitStatus, 1);
-    EXPECT_EQ(run.Errors, "Bad file name or number\n");
+    EXPECT_EQ(run.Errors, "quorvex-cli: Bad file name or number\n");
 }
 
 TEST(Analyse, RefusesALastDayThatNoQuoteBears) {
     auto const run = RunCompanion({"analyse", GoldenPath("quotes/q250.txt"), "--end", "08/14/99", "--json"});
     EXPECT_EQ(run.ExitStatus, 1);
     EXPECT_EQ(run.Output, "");
-    EXPECT_EQ(run.Errors, "No quote is dated 08/14/99\n");
+    EXPECT_EQ(run.Errors, "quorvex-cli: " + GoldenPath("quotes/q250.txt") + ": No quote is dated 08/14/99\n");
 }
 
 TEST(Analyse, PrintsWhatThereIsWhenTheParameterFileBreaksOff) {
     auto const run = RunCompanion({"analyse", GoldenPath("quotes/q060.txt"), "--parameters",
                                    GoldenPath("params/eleven.dat"), "--json"});
     EXPECT_EQ(run.ExitStatus, 1);
-    EXPECT_EQ(run.Errors, "Subscript out of range\n");
+    EXPECT_EQ(run.Errors, "quorvex-cli: " + GoldenPath("params/eleven.dat") + ": Subscript out of range\n");
     EXPECT_EQ(json::parse(run.Output).at("Cycles").size(), 10U);
 }
 
@@ -230,7 +232,7 @@ TEST(Analyse, ReportsAFitThatFails) {
     folder.Write("flat.txt", flat);
     auto const run = RunCompanion({"analyse", folder.File("flat.txt"), "--automate", "1", "--json"});
     EXPECT_EQ(run.ExitStatus, 1);
-    EXPECT_EQ(run.Errors, "Division by zero\n");
+    EXPECT_EQ(run.Errors, "quorvex-cli: " + folder.File("flat.txt") + ": Division by zero\n");
     EXPECT_TRUE(json::parse(run.Output).at("Fits").is_null());
 }
 

@@ -118,7 +118,7 @@ TEST(Chart, ReportsAFileThatCannotBeWritten) {
     auto const run =
         RunCompanion({"chart", GoldenPath("quotes/q060.txt"), "-o", folder.File("nowhere/charts.json")});
     EXPECT_EQ(run.ExitStatus, 1);
-    EXPECT_EQ(run.Errors, "Path not found\n");
+    EXPECT_EQ(run.Errors, "quorvex-cli: " + folder.File("nowhere/charts.json") + ": Path not found\n");
 }
 
 TEST(Chart, OfARefusedFileIsNotWritten) {
@@ -191,7 +191,7 @@ TEST(Chart, ShowsWhyAPictureCannotBeWritten) {
     auto const run =
         RunCompanion({"chart", GoldenPath("quotes/q060.txt"), "-o", folder.File("missing/charts.png")});
     EXPECT_EQ(run.ExitStatus, 1);
-    EXPECT_EQ(run.Errors, "Path not found\n");
+    EXPECT_EQ(run.Errors, "quorvex-cli: " + folder.File("missing/charts.png") + ": Path not found\n");
 }
 
 #else

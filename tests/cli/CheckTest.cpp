@@ -15,7 +15,7 @@ void ExpectRefused(std::string const& path, std::string const& message) {
     auto const run = RunCompanion({"check", path});
     EXPECT_EQ(run.ExitStatus, 1);
     EXPECT_EQ(run.Output, "");
-    EXPECT_EQ(run.Errors, message + "\n");
+    EXPECT_EQ(run.Errors, "quorvex-cli: " + path + ": " + message + "\n");
 }
 
 // So many good days and these lines behind them.

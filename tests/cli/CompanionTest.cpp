@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "RunCompanion.h"
+#include "support/Golden.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -54,6 +56,31 @@ TEST(Companion, EndsWithTwoOnWrongUsage) {
         EXPECT_NE(run.Errors, "");
     }
 }
+
+#ifndef _WIN32
+
+TEST(Companion, NamesTheFileThatCannotBeRead) {
+    TemporaryFolder const folder;
+    std::string const page = folder.File("charts.json");
+    for (std::vector<std::string> const& arguments :
+         {std::vector<std::string>{"analyse", "/dev/zero"},
+          {"check", "/dev/zero"},
+          {"chart", "/dev/zero", "-o", page},
+#ifdef QUORVEX_PICTURES
+          {"list", "/dev/zero", "-o", folder.File("page.pdf")},
+          {"print", "/dev/zero", "-o", folder.File("page.pdf")},
+#endif
+          {"convert", "csi", GoldenPath("quotes/q060.txt"), "/dev/zero"}}) {
+        SCOPED_TRACE(testing::PrintToString(arguments));
+        auto const run = RunCompanion(arguments);
+        EXPECT_EQ(run.ExitStatus, 1);
+        EXPECT_EQ(run.Output, "");
+        EXPECT_EQ(run.Errors, "quorvex-cli: /dev/zero: Permission denied\n");
+    }
+    EXPECT_EQ(folder.EntryCount(), 0);
+}
+
+#endif
 
 } // namespace
 } // namespace quorvex::tests

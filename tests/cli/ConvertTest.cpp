@@ -95,7 +95,9 @@ TEST(Convert, RefusesABadFileAndLeavesNothing) {
     auto const run = RunCompanion({"convert", "barchart", "--layout", "N", source, folder.File("out.txt")});
     EXPECT_EQ(run.ExitStatus, 1);
     EXPECT_EQ(run.Output, "");
-    EXPECT_EQ(run.Errors, "Wrong number of fields!\nInvalid record at line 2 in\nfile " + source + "\n");
+    std::string const complaint = "quorvex-cli: " + source + ": ";
+    EXPECT_EQ(run.Errors, complaint + "Wrong number of fields!\n" + complaint +
+                              "Invalid record at line 2 in file " + source + "\n");
     EXPECT_FALSE(std::filesystem::exists(folder.File("out.txt")));
 }
 
@@ -103,23 +105,26 @@ TEST(Convert, NamesThePipeInItsMessages) {
     auto const run = RunCompanion({"convert", "csi", "-", "-"}, "20021315,1,2,3,4,5,6\n");
     EXPECT_EQ(run.ExitStatus, 1);
     EXPECT_EQ(run.Output, "");
-    EXPECT_EQ(run.Errors, "Invalid field value at line 1 in file\n-\n");
+    EXPECT_EQ(run.Errors, "quorvex-cli: standard input: Invalid field value at line 1 in file -\n");
 }
 
 TEST(Convert, TellsOfNamesAndFilesThatCannotBe) {
     TemporaryFolder const folder;
     folder.Write("in.txt", CsiLine);
     std::string const source = folder.File("in.txt");
+    std::string const pattern = folder.File("*.txt");
+    std::string const gone = folder.File("gone.txt");
+    std::string const nowhere = folder.File("gone/out.txt");
     for (auto const& [names, errors] :
-         {std::pair(std::pair(source, source), "Invalid destination file name\n"),
-          std::pair(std::pair(source, folder.File("*.txt")), "Invalid destination file name\n"),
-          std::pair(std::pair(std::string(), source), "Invalid source file name\n"),
-          std::pair(std::pair(folder.File("gone.txt"), source), "File not found\n"),
-          std::pair(std::pair(source, folder.File("gone/out.txt")), "Path not found\n")}) {
+         {std::pair(std::pair(source, source), source + ": Invalid destination file name\n"),
+          std::pair(std::pair(source, pattern), pattern + ": Invalid destination file name\n"),
+          std::pair(std::pair(std::string(), source), std::string("Invalid source file name\n")),
+          std::pair(std::pair(gone, source), gone + ": File not found\n"),
+          std::pair(std::pair(source, nowhere), nowhere + ": Path not found\n")}) {
         auto const run = RunCompanion({"convert", "csi", names.first, names.second});
         EXPECT_EQ(run.ExitStatus, 1);
         EXPECT_EQ(run.Output, "");
-        EXPECT_EQ(run.Errors, errors);
+        EXPECT_EQ(run.Errors, "quorvex-cli: " + errors);
     }
     EXPECT_EQ(folder.Read("in.txt"), CsiLine);
     EXPECT_EQ(folder.EntryCount(), 1);
@@ -154,7 +159,7 @@ TEST(Convert, TellsOfAFieldThatIsMissingOrTwice) {
     auto const run = RunCompanion(
         {"convert", "custom", "--fields", "date,open,high,low,low", "--date-format", "yymmdd", "a", "b"});
     EXPECT_EQ(run.ExitStatus, 2);
-    EXPECT_EQ(run.Errors, "Missing or duplicate low field\n");
+    EXPECT_EQ(run.Errors, "quorvex-cli: --fields: Missing or duplicate low field\n");
 }
 
 } // namespace

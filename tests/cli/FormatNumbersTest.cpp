@@ -33,7 +33,7 @@ TEST(FormatNumbers, RefusesWhatIsNoNumberAndPrintsTheOthers) {
     auto const run = RunCompanion({"format", "##0", "12abc", "7", "1e999"});
     EXPECT_EQ(run.ExitStatus, 1);
     EXPECT_EQ(run.Output, "7\n");
-    EXPECT_EQ(run.Errors, "12abc: Type mismatch\n1e999: Overflow\n");
+    EXPECT_EQ(run.Errors, "quorvex-cli: 12abc: Type mismatch\nquorvex-cli: 1e999: Overflow\n");
 }
 
 } // namespace

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-#include "cli/List.h"
-
 #include "RecordingPdfQueue.h"
+#include "cli/SubCommands.h"
 #include "support/Golden.h"
 #include "support/QuoteTexts.h"
 #include "support/TemporaryFolder.h"
@@ -75,22 +74,24 @@ TEST_F(List, GoesToStandardOutput) {
 }
 
 TEST_F(List, OfARefusedFileIsNotWritten) {
-    EXPECT_EQ(Run({GoldenPath("quotes/few24.txt"), "-o", folder.File("a.pdf")}, &queue), ExitStatus::Refused);
-    EXPECT_EQ(errors, "A minimum of 25 daily quotes is required to perform cyclical analysis\n");
+    std::string const file = GoldenPath("quotes/few24.txt");
+    EXPECT_EQ(Run({file, "-o", folder.File("a.pdf")}, &queue), ExitStatus::Refused);
+    EXPECT_EQ(errors, "quorvex-cli: " + file +
+                          ": A minimum of 25 daily quotes is required to perform cyclical analysis\n");
     EXPECT_EQ(folder.EntryCount(), 0);
 }
 
 TEST_F(List, TellsThatThePrinterFails) {
     queue.Recorded.Sheet.FailingText = 20;
     EXPECT_EQ(Run({GoldenPath("quotes/q025.txt"), "-o", folder.File("a.pdf")}, &queue), ExitStatus::Refused);
-    EXPECT_EQ(errors, "Printer error\n");
+    EXPECT_EQ(errors, "quorvex-cli: " + folder.File("a.pdf") + ": Printer error\n");
     EXPECT_EQ(folder.EntryCount(), 0);
 }
 
 TEST_F(List, TellsThatTheFileCannotBeWritten) {
     EXPECT_EQ(Run({GoldenPath("quotes/q025.txt"), "-o", folder.File("missing/a.pdf")}, &queue),
               ExitStatus::Refused);
-    EXPECT_EQ(errors, "Path not found\n");
+    EXPECT_EQ(errors, "quorvex-cli: " + folder.File("missing/a.pdf") + ": Path not found\n");
 }
 
 TEST_F(List, WritesPdfFilesAlone) {

@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-#include "cli/Print.h"
-
 #include "RecordingPdfQueue.h"
 #include "RunCompanion.h"
+#include "cli/SubCommands.h"
 #include "support/Golden.h"
 #include "support/TemporaryFolder.h"
 #include "text/basTexts.h"
@@ -114,7 +113,7 @@ TEST(Print, ReportsAFileThatCannotBeWritten) {
     auto const run =
         RunCompanion({"print", GoldenPath("quotes/q060.txt"), "-o", folder.File("nowhere/page.pdf")});
     EXPECT_EQ(run.ExitStatus, 1);
-    EXPECT_EQ(run.Errors, "Path not found\n");
+    EXPECT_EQ(run.Errors, "quorvex-cli: " + folder.File("nowhere/page.pdf") + ": Path not found\n");
 }
 
 TEST(Print, PricesWithoutARangeAreRefused) {

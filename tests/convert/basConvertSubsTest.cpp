@@ -196,13 +196,42 @@ TEST(ConvertDataFile, EmptiesTheDestinationWhenItCannotBeDeletedAndTells) {
                                               ExclamationBox("Permission denied")));
 }
 
-TEST(ConvertFile, IsSilentOnSuccess) {
+// Text and file of each trouble.
+std::vector<std::string> TroublesOf(MemoryFiles& files) {
+    std::vector<std::string> texts;
+    for (Trouble const& trouble : ConvertFile(UsualNames, CsiLayout(), files)) {
+        std::string const& file = trouble.IsOfDestination ? UsualNames.Destination : UsualNames.Source;
+        texts.push_back(file + ": " + trouble.Told.Text);
+    }
+    return texts;
+}
+
+TEST(ConvertFile, TellsWhichFileATroubleIsAbout) {
     MemoryFiles files;
-    ScriptedDialogs dialogs;
+    EXPECT_THAT(TroublesOf(files), ElementsAre("C:\\in.txt: File not found"));
+    files.Contents = {{"C:\\in.txt", BadRecord}};
+    files.BreakRemoving = Fault::PermissionDenied;
+    EXPECT_THAT(TroublesOf(files), ElementsAre("C:\\in.txt: Invalid record at line 1 in\nfile C:\\in.txt",
+                                               "C:\\out.txt: Permission denied"));
+    files.BreakRemoving.reset();
+    files.Contents = {{"C:\\in.txt", GoodRecord}, {"C:\\out.txt", "old"}};
+    files.BreakOutput = {4, Fault::DiskFull};
+    EXPECT_THAT(TroublesOf(files), ElementsAre("C:\\out.txt: Disk full"));
+    files.BreakOutput.reset();
+    files.BreakReading = {4, Fault::PermissionDenied};
+    EXPECT_THAT(TroublesOf(files), ElementsAre("C:\\in.txt: Permission denied"));
+    files.BreakReading.reset();
+    files.Contents["C:\\out.txt"] = "old";
+    files.BreakKeeping = Fault::DiskFull;
+    EXPECT_THAT(TroublesOf(files), ElementsAre("C:\\out.txt: Disk full"));
+    EXPECT_EQ(files.Contents.at("C:\\out.txt"), "old");
+}
+
+TEST(ConvertFile, HasNothingToTellOfSuccess) {
+    MemoryFiles files;
     files.Contents = {{"C:\\in.txt", GoodRecord}};
-    EXPECT_TRUE(ConvertFile(UsualNames, CsiLayout(), files, dialogs));
+    EXPECT_THAT(TroublesOf(files), IsEmpty());
     EXPECT_EQ(files.OpenCount(), 0U);
-    EXPECT_THAT(dialogs.Messages, IsEmpty());
     EXPECT_EQ(files.Contents.at("C:\\out.txt"), GoodQuote);
 }
 

@@ -128,9 +128,9 @@ public:
     }
 
     [[nodiscard]] bool Save(bool isLong) override {
-        platform::fake::ScriptedDialogs dialogs;
         return convert::ConvertFile({sources_.File(SourceName(isLong)), Path()}, convert::CsiLayout(),
-                                    Files(), dialogs);
+                                    Files())
+            .empty();
     }
 
 private:

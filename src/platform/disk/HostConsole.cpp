@@ -4,7 +4,6 @@
 #include "platform/disk/HostConsole.h"
 
 #ifdef _WIN32
-#include <fcntl.h>
 #include <io.h>
 #include <windows.h>
 #else
@@ -34,10 +33,6 @@ int HostConsole::Width() const {
     return info.srWindow.Right - info.srWindow.Left + 1;
 }
 
-void LeaveOutputAsItIs() {
-    static_cast<void>(_setmode(1, _O_BINARY));
-}
-
 #else
 
 bool HostConsole::IsTerminal() const {
@@ -51,8 +46,6 @@ int HostConsole::Width() const {
     }
     return size.ws_col;
 }
-
-void LeaveOutputAsItIs() {}
 
 #endif
 

@@ -14,7 +14,4 @@ public:
     [[nodiscard]] int Width() const override;
 };
 
-// From now on no line end is changed on its way to standard output.
-void LeaveOutputAsItIs();
-
 } // namespace quorvex::platform::disk
