@@ -14,6 +14,13 @@ namespace quorvex::platform::qt {
 
 namespace {
 
+// What a save replaced is in none of the lists. To Qt, only names with a dot match *.*
+#ifdef Q_OS_WIN
+constexpr QLatin1StringView AllFiles("*.*"); // the system's own dialog knows no sets of characters
+#else
+constexpr QLatin1StringView AllFiles("*[!~]");
+#endif
+
 QString StartFolder(std::string_view folder) {
     QDir const wanted(pictures::ToQt(folder));
     return wanted.isAbsolute() && wanted.exists() ? wanted.path() : QDir::homePath();
@@ -24,8 +31,7 @@ QStringList NameFiltersOf(std::string_view filter) {
     QStringList filters;
     QStringList const parts = pictures::ToQt(filter).split(u'|');
     for (qsizetype index = 0; index + 1 < parts.size(); index += 2) {
-        // To Qt, only names with a dot match *.*
-        QString const pattern = parts[index + 1] == u"*.*" ? QStringLiteral("*") : parts[index + 1];
+        QString const pattern = parts[index + 1] == u"*.*" ? QString(AllFiles) : parts[index + 1];
         filters.append(QStringLiteral("%1(%2)").arg(parts[index], pattern));
     }
     return filters;

@@ -68,9 +68,9 @@ private Q_SLOTS:
         QCOMPARE(answers.Shown(), QStringList(u"OpenFileDialog"_s));
     }
 
-    void AllFilesAreThoseWithoutADotToo() {
+    void AllFilesAreThoseWithoutADotTooButNotWhatASaveReplaced() {
         TemporaryFolder const folder;
-        for (char const* name : {"a.csv", "b.txt", "README", "S&P<b>500"}) {
+        for (char const* name : {"a.csv", "a.csv~", "b.txt", "README", "README~", "S&P<b>500"}) {
             folder.Write(name, "x");
         }
         ModalAnswers answers;
