@@ -16,8 +16,8 @@ namespace quorvex::text {
 
 namespace {
 
-constexpr std::size_t MostText = 64 * 1024;      // that is kept of a field
-constexpr std::size_t LargestBuffer = 72 * 1024; // that the reader may have
+constexpr std::size_t MostText = 65'536;      // that is kept of a field
+constexpr std::size_t LargestBuffer = 72'000; // that the reader may have
 
 // A device that fails once its text is read.
 class FailingSource final : public ByteSource {

@@ -351,7 +351,7 @@ void CopyHostFileRights(std::filesystem::path const& from, std::filesystem::path
     constexpr mode_t WithoutSetId = 0777;
     constexpr mode_t WithoutGroup = 0707;
     constexpr mode_t Others = 0007;
-    constexpr uid_t SameOwner = static_cast<uid_t>(-1);
+    constexpr auto SameOwner = static_cast<uid_t>(-1);
 
     struct stat status {};
 
