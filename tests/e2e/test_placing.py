@@ -14,7 +14,7 @@ class Placing(Session):
         def is_in_the_middle():
             left, top, width, height = self.desktop.frame(title)
             right, bottom = (side - end for side, end in zip(self.SCREEN, (left + width, top + height)))
-            return abs(left - right) <= 1 and abs(top - bottom) <= 1
+            return abs(left - right) <= 4 and abs(top - bottom) <= 4
         try:
             wait_for(is_in_the_middle, f"{title!r} in the middle", seconds=10)
         except AssertionError:
