@@ -58,9 +58,12 @@ QString Describe(QWidget const& window) {
     return window.objectName();
 }
 
-// Whether it can take keys: a menu at once, a window as soon as it is active.
+// Whether it can take keys. A menu could take them at once, but a platform without a display activates menus
+// too, and does so later: one that is closed before that would keep the keyboard.
 bool IsReady(QWidget const& window) {
-    return window.isVisible() && (window.windowType() == Qt::Popup || window.isActiveWindow());
+    bool const isPopup = window.windowType() == Qt::Popup;
+    return window.isVisible() &&
+           (isPopup ? QGuiApplication::focusWindow() == window.windowHandle() : window.isActiveWindow());
 }
 
 bool NeedsNoAnswer(QWidget const& window) {
