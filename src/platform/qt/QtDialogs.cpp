@@ -136,9 +136,17 @@ QMargins FrameOf(QWidget const& window) {
 
 void Place(QWidget& window) {
     QRect const screen = window.screen()->geometry();
-    QSize const size = window.size().grownBy(FrameOf(window));
-    window.move(screen.left() + (screen.width() - size.width()) / 2,
-                screen.top() + (screen.height() - size.height()) / 2);
+    QMargins const frame = FrameOf(window);
+    QSize const size = window.size().grownBy(frame);
+    QPoint const corner(screen.left() + (screen.width() - size.width()) / 2,
+                        screen.top() + (screen.height() - size.height()) / 2);
+    if (HasFrame(window)) {
+        // A move would count from the frame that Qt has noted, and a window that was hidden may have none
+        // there.
+        window.setGeometry({corner + QPoint(frame.left(), frame.top()), window.size()});
+    } else {
+        window.move(corner);
+    }
 }
 
 // Waits for the window's frame, which it has when the system asks to paint it for the first time.
