@@ -35,6 +35,11 @@ BUS_CONFIGURATION = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus
 # Permissions bind ordinary users only, and programs are run by them: an administrator's tests run as nobody.
 ORDINARY_USER = 65534
 
+# A program under assistive technology hands each key to the accessibility bus and does what it means when it comes back,
+# after 100 ms at the latest; a shortcut works at once. An Alt that comes back after its shortcut has opened a menu closes
+# that. Nobody is that quick at a keyboard.
+HOLD_SECONDS = "0.15"
+
 
 class Desktop:
     """Runs from its construction until close()."""
@@ -147,7 +152,13 @@ class Desktop:
 
     def press(self, *keys):
         """Presses keys, or chords such as alt+f, one after the other, whoever has the focus."""
-        self.xdotool("key", *keys)
+        arguments = []
+        for key in keys:
+            if key.startswith("alt+"):
+                arguments += ["keydown", "alt", "sleep", HOLD_SECONDS, "key", key.removeprefix("alt+"), "keyup", "alt"]
+            else:
+                arguments += ["key", key]
+        self.xdotool(*arguments)
 
     def type(self, text):
         self.xdotool("type", text)
