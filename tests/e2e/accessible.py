@@ -12,6 +12,8 @@ from waiting import Gone
 
 ROOT_PATH = "/org/a11y/atspi/accessible/root"
 ANSWER_MILLISECONDS = 20000
+# Calls that wait for their answers at the same time; a bus may refuse more than this.
+CALLS_AT_ONCE = 100
 
 # Numbers of the states on the bus.
 STATES = {
@@ -56,6 +58,27 @@ class AccessibilityBus:
         except GLib.Error as error:
             raise Gone(f"{interface}.{method} of {path}: {error.message}") from error
         return answer.unpack()
+
+    def call_all(self, methods):
+        """The answers of methods, given as the arguments of call(): none waits for the answer to the one before."""
+        answers = []
+        for start in range(0, len(methods), CALLS_AT_ONCE):
+            answers += self._call_at_once(methods[start:start + CALLS_AT_ONCE])
+        return answers
+
+    def _call_at_once(self, methods):
+        results = {}
+        for number, (owner, path, interface, method, *rest) in enumerate(methods):
+            parameters = GLib.Variant(rest[0], tuple(rest[1:])) if rest else None
+            self._connection.call(owner, path, interface, method, parameters, None, Gio.DBusCallFlags.NONE,
+                                  ANSWER_MILLISECONDS, None,
+                                  lambda _, result, number: results.__setitem__(number, result), number)
+        while len(results) < len(methods):
+            GLib.MainContext.default().iteration(True)
+        try:
+            return [self._connection.call_finish(results[number]).unpack() for number in range(len(methods))]
+        except GLib.Error as error:
+            raise Gone(f"one of {len(methods)} objects: {error.message}") from error
 
     def tell(self, owner, path, interface, method, signature, *arguments):
         """Calls a method without waiting for its end: opening a modal window lasts until it is closed."""
@@ -107,12 +130,18 @@ class Accessible:
     def __hash__(self):
         return hash((self.owner, self.path))
 
-    def _call(self, interface, method, signature=None, *arguments):
-        return self._bus.call(self.owner, self.path, "org.a11y.atspi." + interface, method, signature, *arguments)
+    def _method(self, interface, method, *arguments):
+        return self.owner, self.path, "org.a11y.atspi." + interface, method, *arguments
+
+    def _getter(self, interface, name):
+        return (self.owner, self.path, "org.freedesktop.DBus.Properties", "Get", "(ss)", "org.a11y.atspi." + interface,
+                name)
+
+    def _call(self, interface, method, *arguments):
+        return self._bus.call(*self._method(interface, method, *arguments))
 
     def _property(self, interface, name):
-        return self._bus.call(self.owner, self.path, "org.freedesktop.DBus.Properties", "Get", "(ss)",
-                              "org.a11y.atspi." + interface, name)[0]
+        return self._bus.call(*self._getter(interface, name))[0]
 
     @property
     def name(self):
@@ -127,21 +156,56 @@ class Accessible:
         return self._call("Accessible", "GetRoleName")[0]
 
     def children(self):
-        return [Accessible(self._bus, owner, path) for owner, path in self._call("Accessible", "GetChildren")[0]]
+        return self._children_of(self._call("Accessible", "GetChildren"))
 
-    def descendants(self):
-        """Every object inside this one, in the order in which they are read out."""
-        for child in self.children():
-            yield child
-            yield from child.descendants()
+    def _children_of(self, answer):
+        return [Accessible(self._bus, owner, path) for owner, path in answer[0]]
+
+    def _roles_inside(self):
+        """Every object inside this one with its role, in the order in which they are read out. The cells of a table
+        stay out: there may be thousands."""
+        children = {}
+        roles = {}
+        level = [self]
+        while level:
+            answers = self._bus.call_all([outer._method("Accessible", "GetChildren") for outer in level])
+            children.update((outer, self._children_of(answer)) for outer, answer in zip(level, answers))
+            inner = [child for outer in level for child in children[outer]]
+            answers = self._bus.call_all([child._method("Accessible", "GetRoleName") for child in inner])
+            roles.update((child, answer[0]) for child, answer in zip(inner, answers))
+            level = [child for child in inner if roles[child] != "table"]
+
+        def in_order(outer):
+            for child in children.get(outer, []):
+                yield child, roles[child]
+                yield from in_order(child)
+        return list(in_order(self))
 
     def has(self, *states):
-        low, high = self._call("Accessible", "GetState")[0]
+        return self._are_set(self._call("Accessible", "GetState"), states)
+
+    @staticmethod
+    def _are_set(answer, states):
+        low, high = answer[0]
         return all((low | high << 32) >> STATES[state] & 1 for state in states)
 
+    def _those_with(self, accessibles, *states):
+        answers = self._bus.call_all([each._method("Accessible", "GetState") for each in accessibles])
+        return [each for each, answer in zip(accessibles, answers) if self._are_set(answer, states)]
+
     def find_all(self, role, name=None, showing=True):
-        return [inner for inner in self.descendants()
-                if inner.role == role and name in (None, inner.name) and (not showing or inner.has("showing"))]
+        found = [inner for inner, inner_role in self._roles_inside() if inner_role == role]
+        if name is not None:
+            answers = self._bus.call_all([inner._getter("Accessible", "Name") for inner in found])
+            found = [inner for inner, answer in zip(found, answers) if answer[0] == name]
+        return self._those_with(found, "showing") if showing else found
+
+    def focused(self):
+        """The object inside this one that has the focus."""
+        found = self._those_with([inner for inner, _ in self._roles_inside()], "focused")
+        if not found:
+            raise Gone("nothing has the focus")
+        return found[0]
 
     def find(self, role, name=None, showing=True):
         found = self.find_all(role, name, showing)

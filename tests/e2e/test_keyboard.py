@@ -20,10 +20,8 @@ class Keyboard(Session):
         """The object that has the focus in the active window."""
         for window in self.program.root.children():
             if window.has("active"):
-                for inner in window.descendants():
-                    if inner.has("focused"):
-                        return inner
-        raise Gone("nothing has the focus")
+                return window.focused()
+        raise Gone("no window is active")
 
     def wait_for_focus(self, name):
         wait_for(lambda: self.focused().name == name, f"the focus on {name!r}")
