@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "search/basSearch.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+namespace quorvex::search {
+
+namespace {
+
+// What is left of a straight line by rounding, as a part of the series' largest value.
+constexpr double LeastRest = 1e-9;
+
+std::vector<int> PeriodsOf(SearchRequest const& request, int days) {
+    int const count = MaxPeriodOf(request, days) - request.MinPeriod + 1;
+    std::vector<int> periods(static_cast<std::size_t>(std::max(0, count)));
+    std::iota(periods.begin(), periods.end(), request.MinPeriod);
+    return periods;
+}
+
+double LargestSize(std::span<double const> values) {
+    double largest = 0;
+    for (double const value : values) {
+        largest = std::max(largest, std::fabs(value));
+    }
+    return largest;
+}
+
+// What is searched; empty when nothing changes in it.
+std::vector<double> Searched(std::span<double const> series, SearchRequest const& request) {
+    if (!request.Detrend) {
+        return {series.begin(), series.end()};
+    }
+    std::vector<double> rest = WithoutLine(series);
+    return LargestSize(rest) > LeastRest * LargestSize(series) ? rest : std::vector<double>();
+}
+
+} // namespace
+
+int MaxPeriodOf(SearchRequest const& request, int days) {
+    return request.MaxPeriod.value_or(days / 2);
+}
+
+std::vector<double> WithoutLine(std::span<double const> series) {
+    auto const n = static_cast<double>(series.size());
+    double const middle = (n - 1) / 2;
+    double mean = 0;
+    for (double const value : series) {
+        mean += value / n;
+    }
+    double moment = 0;
+    double square = 0;
+    for (std::size_t day = 0; day < series.size(); ++day) {
+        double const place = static_cast<double>(day) - middle;
+        moment += place * (series[day] - mean);
+        square += place * place;
+    }
+    double const slope = square > 0 ? moment / square : 0;
+    std::vector<double> rest;
+    rest.reserve(series.size());
+    for (std::size_t day = 0; day < series.size(); ++day) {
+        rest.push_back(series[day] - mean - slope * (static_cast<double>(day) - middle));
+    }
+    return rest;
+}
+
+SearchOutcome SearchSeries(std::span<double const> series, SearchRequest const& request, GoOn const& goOn) {
+    auto const days = static_cast<int>(series.size());
+    std::vector<int> const periods = PeriodsOf(request, days);
+    if (periods.empty()) {
+        return {{},
+                "No period lies between " + std::to_string(request.MinPeriod) + " and " +
+                    std::to_string(MaxPeriodOf(request, days)) + " days"};
+    }
+    std::vector<double> const searched = Searched(series, request);
+    bool isEnded = false;
+    auto const follow = [&] {
+        isEnded = isEnded || !goOn();
+        return !isEnded;
+    };
+    SearchOutcome outcome{
+        CycleSearch(days, periods).Find(searched, request.CycleCount, request.HowHard, follow), {}};
+    if (outcome.Models.empty() && !isEnded) {
+        outcome.Refusal = request.Detrend ? "The moving average is a straight line: there is no cycle in it"
+                                          : "The moving average does not change: there is no cycle in it";
+    }
+    return outcome;
+}
+
+SearchOutcome SearchMovingAverage(cycles::CycleCurves const& curves, std::int16_t workingCount,
+                                  SearchRequest const& request, GoOn const& goOn) {
+    std::vector<double> series;
+    for (int day = 1; day <= workingCount; ++day) {
+        series.push_back(curves.MovingAverageCurve[day]);
+    }
+    return SearchSeries(series, request, goOn);
+}
+
+void WriteModel(CycleModel const& model, cycles::ParameterGrid& grid) {
+    cycles::ClearGrid(grid);
+    int cycle = 0;
+    for (FoundCycle const& found : model.Cycles) {
+        ++cycle;
+        cycles::WriteCell(grid, cycles::Parameter::Weight, cycle, found.Weight);
+        cycles::WriteCell(grid, cycles::Parameter::Period, cycle, found.Period);
+        cycles::WriteCell(grid, cycles::Parameter::Shift, cycle, found.Shift);
+    }
+}
+
+} // namespace quorvex::search

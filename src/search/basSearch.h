@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// The search of the moving average, as the companion and the window ask for it, and what it puts into the
+// grid.
+#pragma once
+
+#include "cycles/CycleCurves.h"
+#include "cycles/ParameterGrid.h"
+#include "search/CycleModel.h"
+#include "search/CycleSearch.h"
+#include "search/GoOn.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace quorvex::search {
+
+inline constexpr int MostCycles = 10;
+inline constexpr int ShortestPeriod = 2; // trading days
+inline constexpr int DefaultMinPeriod = 5;
+inline constexpr int LongestPeriod = 500; // trading days
+
+struct SearchRequest {
+    int CycleCount = 3; // 1..10
+    int MinPeriod = DefaultMinPeriod;
+    std::optional<int>
+        MaxPeriod; // half the days when there is none: a cycle that was not seen twice is a trend
+    Effort HowHard = Effort::Thorough;
+    bool Detrend = false; // search what is left of the moving average beside its straight line
+};
+
+struct SearchOutcome {
+    // Of 1, 2 .. cycles, as many as were asked for; empty after a refusal, and when the search was ended.
+    std::vector<CycleModel> Models;
+    std::string Refusal; // why there is nothing to search, a sentence for the user; empty otherwise
+};
+
+// The longest period that a request means for so many days.
+[[nodiscard]] int MaxPeriodOf(SearchRequest const& request, int days);
+
+// Searches a series of daily values. REQUIRES: one value at least; all are finite.
+[[nodiscard]] SearchOutcome SearchSeries(std::span<double const> series, SearchRequest const& request,
+                                         GoOn const& goOn);
+
+// Searches the moving average of the working days.
+[[nodiscard]] SearchOutcome SearchMovingAverage(cycles::CycleCurves const& curves, std::int16_t workingCount,
+                                                SearchRequest const& request, GoOn const& goOn);
+
+// The series less the straight line that fits it best.
+[[nodiscard]] std::vector<double> WithoutLine(std::span<double const> series);
+
+// Makes the grid hold the model and nothing else: cycles from 1 on, all other cells "0".
+void WriteModel(CycleModel const& model, cycles::ParameterGrid& grid);
+
+} // namespace quorvex::search
