@@ -59,6 +59,20 @@ bool ReadParameterFile(std::string const& path, CycleParameterSet& set, platform
     return platform::RunReported(dialogs, [&] { ReadParameters(*files.OpenForInput(path), set); });
 }
 
+std::string ParameterFileText(ParameterGrid const& grid) {
+    std::string content;
+    for (int cycle = 1; cycle <= CycleCount; ++cycle) {
+        std::string_view separator;
+        for (Parameter const parameter : Parameters) {
+            content += separator;
+            content += text::PlainNumber(text::LeadingNumber(grid.Text(parameter, cycle)));
+            separator = ", ";
+        }
+        content += "\r\n";
+    }
+    return content;
+}
+
 void OpenParameters(CycleParameterSet& set, ParameterGrid& grid, std::string_view programFolder,
                     platform::Files const& files, platform::Dialogs& dialogs) {
     ChooseParameterFile(set, programFolder, files, dialogs);

@@ -29,6 +29,10 @@ void ReadParameters(text::ByteSource& source, CycleParameterSet& set);
 bool ReadParameterFile(std::string const& path, CycleParameterSet& set, platform::Files const& files,
                        platform::Dialogs& dialogs);
 
+// What the grid holds as the text of a parameter file: all ten cycles, so that reading it leaves nothing of
+// what was there before. Cells are taken by the leading-number rule.
+[[nodiscard]] std::string ParameterFileText(ParameterGrid const& grid);
+
 // Lets the user choose among the parameter files of the program folder, reads the one chosen and shows the
 // set in the grid. Cancelling forgets the current file's name and leaves set and grid alone.
 void OpenParameters(CycleParameterSet& set, ParameterGrid& grid, std::string_view programFolder,

@@ -286,5 +286,30 @@ TEST_F(ParameterCommands, YesToNewRunsSaveAsForANamelessSet) {
     EXPECT_EQ(TextsOf(grid), ZeroTexts());
 }
 
+TEST_F(ParameterCommands, TheTextOfAParameterFileHoldsAllTenCycles) {
+    ClearGrid(grid);
+    grid.SetText(Parameter::Weight, 1, "60");
+    grid.SetText(Parameter::Period, 1, "40.5 days");
+    grid.SetText(Parameter::Shift, 10, "-7");
+    EXPECT_EQ(ParameterFileText(grid), "60, 40.5, 0, 0\r\n"
+                                       "0, 0, 0, 0\r\n0, 0, 0, 0\r\n0, 0, 0, 0\r\n0, 0, 0, 0\r\n"
+                                       "0, 0, 0, 0\r\n0, 0, 0, 0\r\n0, 0, 0, 0\r\n0, 0, 0, 0\r\n"
+                                       "0, 0, -7, 0\r\n");
+}
+
+TEST_F(ParameterCommands, ReadingTheTextOfAParameterFileLeavesNothingOfAnEarlierModel) {
+    for (int cycle = 1; cycle <= CycleCount; ++cycle) {
+        set->Cycles[cycle].Weight = 10;
+        set->Cycles[cycle].Period = 20;
+    }
+    grid.SetText(Parameter::Weight, 2, "100");
+    grid.SetText(Parameter::Period, 2, "33");
+    EXPECT_TRUE(Read(ParameterFileText(grid)));
+    WriteGrid(*set, grid);
+    auto texts = ZeroTexts();
+    texts[1] = {"100", "33", "0", "0"};
+    EXPECT_EQ(TextsOf(grid), texts);
+}
+
 } // namespace
 } // namespace quorvex::cycles
