@@ -12,6 +12,8 @@
 #include "text/RunTimeError.h"
 #include "text/basDates.h"
 
+#include <utility>
+
 namespace quorvex::app {
 
 namespace {
@@ -70,6 +72,35 @@ bool FitCycles(Program& program, AnalysisServices const& services, int cycleCoun
     });
 }
 
+// Returns whether there was something to find cycles in.
+bool FindCycles(Program const& program, AnalysisServices const& services,
+                search::SearchRequest const& request, std::vector<search::CycleModel>& models) {
+    if (!program.Curves.States.MovingAverage.IsReady()) {
+        return false; // which has been told
+    }
+    search::SearchOutcome outcome = search::SearchMovingAverage(program.Curves, program.Quotes.WorkingCount,
+                                                                request, [] { return true; });
+    if (!outcome.Refusal.empty()) {
+        platform::ShowWarning(services.Dialogs, outcome.Refusal);
+        return false;
+    }
+    models = std::move(outcome.Models);
+    search::WriteModel(models.back(), services.Grid);
+    return true;
+}
+
+// Puts cycles into the grid as it was asked for. Returns false when those could not be found.
+bool MakeCycles(Program& program, AnalysisServices const& services, AnalysisRequest const& request,
+                AnalysisResult& result) {
+    if (request.ParameterPath) {
+        ReadParameters(program, services, *request.ParameterPath);
+    }
+    if (request.Search) {
+        return FindCycles(program, services, *request.Search, result.Models);
+    }
+    return request.AutomatedCycles == 0 || FitCycles(program, services, request.AutomatedCycles, result.Fits);
+}
+
 void Correlate(Program const& program, AnalysisResult& result) {
     auto const error = text::Trap([&] {
         if (program.Curves.States.MovingAverage.IsReady()) {
@@ -120,10 +151,7 @@ std::optional<AnalysisResult> Analyse(Program& program, AnalysisServices const& 
     cycles::ComputeQuoteCurves(program.Quotes, program.Settings, program.Curves);
     Report(program.Curves.States.Quotes, services.Dialogs);
     Report(program.Curves.States.MovingAverage, services.Dialogs);
-    if (request.ParameterPath) {
-        ReadParameters(program, services, *request.ParameterPath);
-    }
-    if (request.AutomatedCycles == 0 || FitCycles(program, services, request.AutomatedCycles, result.Fits)) {
+    if (MakeCycles(program, services, request, result)) {
         FollowCycles(program, services, result);
     }
     Correlate(program, result);

@@ -11,6 +11,7 @@
 #include "cycles/basForecast.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
+#include "search/basSearch.h"
 
 #include <optional>
 #include <string>
@@ -23,6 +24,7 @@ struct AnalysisRequest {
     int AutomatedCycles = 0;                  // cycles to fit; none when 0
     std::string StartDate;                    // first day to analyse; the first of the file when empty
     std::string EndDate;                      // last day to analyse; the last of the file when empty
+    std::optional<search::SearchRequest> Search = std::nullopt; // what to look for instead of a fit
 };
 
 struct WholeForecast {
@@ -44,6 +46,7 @@ struct AnalysisServices {
 // does not exist is empty.
 struct AnalysisResult {
     std::vector<cycles::SinusoidFit> Fits;
+    std::vector<search::CycleModel> Models; // found by the search, of 1, 2 .. cycles; the last is in the grid
     std::optional<double> CorrelationCoefficient;
     platform::Message CorrelationMessage; // what the Correlation command would show
     std::optional<WholeForecast> ForecastShown;
@@ -52,8 +55,8 @@ struct AnalysisResult {
 
 // Analyses the quote file that the program's settings and file name point at; the program has just been
 // started up. Messages and faults go to the dialogs; after them the analysis goes on with what there is,
-// only a fit that fails leaves no cycles. Nothing comes back when the quote file was refused or could not be
-// read, or when it has no such days as were asked for.
+// only a fit or a search that fails leaves no cycles. Nothing comes back when the quote file was refused or
+// could not be read, or when it has no such days as were asked for.
 [[nodiscard]] std::optional<AnalysisResult> Analyse(Program& program, AnalysisServices const& services,
                                                     AnalysisRequest const& request);
 

@@ -71,6 +71,21 @@ Json FitsJson(std::vector<cycles::SinusoidFit> const& fits) {
     return array;
 }
 
+Json ModelsJson(std::vector<search::CycleModel> const& models) {
+    Json array = Json::array();
+    for (search::CycleModel const& model : models) {
+        Json found = Json::array();
+        for (search::FoundCycle const& cycle : model.Cycles) {
+            found.push_back({{"Weight", cycle.Weight},
+                             {"Period", cycle.Period},
+                             {"Shift", cycle.Shift},
+                             {"Adds", cycle.Adds}});
+        }
+        array.push_back({{"Correlation", model.Correlation}, {"Cycles", std::move(found)}});
+    }
+    return array;
+}
+
 Json CorrelationJson(app::AnalysisResult const& result) {
     auto const& r = result.CorrelationCoefficient;
     return {{"r", r ? Json(*r) : Json()},
@@ -120,6 +135,9 @@ std::string AnalysisJson(app::Program const& program, cycles::ParameterGrid cons
     json["CompositeCurve"] = hasComposite ? ArrayOf(curves.CompositeCurve, lastDay) : Json();
     json["ResidualCurve"] = hasResidual ? ArrayOf(curves.ResidualCurve, n) : Json();
     json["Fits"] = result.Fits.empty() ? Json() : FitsJson(result.Fits);
+    if (!result.Models.empty()) {
+        json["Search"] = ModelsJson(result.Models);
+    }
     json["Correlation"] = CorrelationJson(result);
     json["Forecast"] = result.ForecastShown ? ForecastJson(*result.ForecastShown) : Json();
     json["Properties"] = result.Properties ? PropertiesJson(*result.Properties) : Json();

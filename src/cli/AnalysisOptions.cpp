@@ -4,6 +4,7 @@
 #include "cli/AnalysisOptions.h"
 
 #include "cli/QuotePath.h"
+#include "cli/SearchOptions.h"
 #include "cli/SettingOptions.h"
 #include "text/basDates.h"
 
@@ -28,26 +29,32 @@ CLI::Validator IsFitCount() {
 
 } // namespace
 
-void AddAnalysisOptions(CLI::App& command, AnalysisOptions& options) {
+void AddQuoteOptions(CLI::App& command, AnalysisOptions& options) {
     command.add_option("QUOTES", options.QuotePath, "Quote file to read")->required()->type_name("");
-    auto* const parameters = command
-                                 .add_option("--parameters", options.Request.ParameterPath,
-                                             "Read the cycles from a parameter file")
-                                 ->type_name("FILE.dat");
-    command
-        .add_option("--automate", options.Request.AutomatedCycles, "Fit so many cycles to the moving average")
-        ->type_name("1|2|3")
-        ->check(IsFitCount())
-        ->excludes(parameters);
     AddMovingAverageOption(command, options.MovingAverage);
     AddFormatOption(command, options.Format);
-    AddChartTypeOption(command, options.ChartType);
     command.add_option("--start", options.Request.StartDate, "First day to analyse")
         ->type_name("mm/dd/yy")
         ->check(IsDate());
     command.add_option("--end", options.Request.EndDate, "Last day to analyse")
         ->type_name("mm/dd/yy")
         ->check(IsDate());
+}
+
+void AddAnalysisOptions(CLI::App& command, AnalysisOptions& options) {
+    AddQuoteOptions(command, options);
+    auto* const parameters = command
+                                 .add_option("--parameters", options.Request.ParameterPath,
+                                             "Read the cycles from a parameter file")
+                                 ->type_name("FILE.dat");
+    auto* const automate = command
+                               .add_option("--automate", options.Request.AutomatedCycles,
+                                           "Fit so many cycles to the moving average")
+                               ->type_name("1|2|3")
+                               ->check(IsFitCount())
+                               ->excludes(parameters);
+    AddSearchOptions(command, "--search", options.Request.Search)->excludes(parameters)->excludes(automate);
+    AddChartTypeOption(command, options.ChartType);
 }
 
 void TakeAnalysisOptions(AnalysisOptions const& options, app::Program& program) {

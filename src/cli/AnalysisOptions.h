@@ -24,6 +24,7 @@ struct AnalysisOptions {
 };
 
 // Adds them to the sub-command. The options must outlive it.
+void AddQuoteOptions(CLI::App& command, AnalysisOptions& options); // those of the quotes alone
 void AddAnalysisOptions(CLI::App& command, AnalysisOptions& options);
 
 // Puts the settings and the quote file of the options into the started program.

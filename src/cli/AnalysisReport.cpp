@@ -41,7 +41,7 @@ std::string Cycles(app::Program const& program, cycles::ParameterGrid const& gri
     constexpr std::size_t NameWidth = 10;
     constexpr std::size_t ColumnWidth = 8;
     if (!cycles::HasActiveCycle(program.Cycles)) {
-        return "Cycles\n  none: give --parameters FILE.dat or --automate 1|2|3\n";
+        return "Cycles\n  none: give --parameters FILE.dat, --automate 1|2|3 or --search N\n";
     }
     std::string lines = PadRight("Cycles", NameWidth + 2);
     for (auto const parameter : cycles::Parameters) {
@@ -89,6 +89,33 @@ std::string Correlation(platform::Message const& message) {
     return lines;
 }
 
+// A share as "12.34%", in a column.
+std::string Percent(double share) {
+    constexpr std::size_t ColumnWidth = 12;
+    return PadLeft(text::FormatNumber(share * 100, "##0.00"), ColumnWidth) + '%';
+}
+
+// What each of the cycles adds, and what fewer would do.
+std::string Found(std::vector<search::CycleModel> const& models) {
+    constexpr std::size_t NameWidth = 10;
+    constexpr std::size_t ColumnWidth = 12;
+    search::CycleModel const& model = models.back();
+    std::string lines = PadRight("Search", NameWidth + 2) + PadLeft("Adds", ColumnWidth) + '\n';
+    for (std::size_t cycle = 0; cycle < model.Cycles.size(); ++cycle) {
+        lines += "  " + PadRight("Cycle " + std::to_string(cycle + 1), NameWidth) +
+                 Percent(model.Cycles[cycle].Adds) + '\n';
+    }
+    if (model.Cycles.size() < models.size()) {
+        lines += "  No further cycle helps.\n";
+    }
+    lines += '\n' + PadRight("Cycles", NameWidth + 2) + PadLeft("Correlation", ColumnWidth) + '\n';
+    for (std::size_t count = 0; count < models.size(); ++count) {
+        lines +=
+            "  " + PadRight(std::to_string(count + 1), NameWidth) + Percent(models[count].Correlation) + '\n';
+    }
+    return lines;
+}
+
 std::string ForecastTable(app::WholeForecast const& forecast) {
     constexpr std::size_t ColumnWidth = 34;
     std::string lines = "Forecast\n  " + PadRight("Previous Closes", ColumnWidth) + "Estimated Values\n";
@@ -114,10 +141,19 @@ std::string AnalysisReport(app::Program const& program, cycles::ParameterGrid co
         report += '\n' + Fits(result.Fits);
     }
     report += '\n' + Correlation(result.CorrelationMessage);
+    if (!result.Models.empty()) {
+        report += '\n' + Found(result.Models);
+    }
     if (result.ForecastShown) {
         report += '\n' + ForecastTable(*result.ForecastShown);
     }
     return report;
+}
+
+std::string SearchReport(app::Program const& program, cycles::ParameterGrid const& grid,
+                         app::AnalysisResult const& result) {
+    return Cycles(program, grid) + '\n' + Correlation(result.CorrelationMessage) + '\n' +
+           Found(result.Models);
 }
 
 } // namespace quorvex::cli

@@ -14,4 +14,8 @@ namespace quorvex::cli {
 [[nodiscard]] std::string AnalysisReport(app::Program const& program, cycles::ParameterGrid const& grid,
                                          app::AnalysisResult const& result);
 
+// What a search found: the cycles and what each of them adds, the correlation, and that of fewer cycles.
+[[nodiscard]] std::string SearchReport(app::Program const& program, cycles::ParameterGrid const& grid,
+                                       app::AnalysisResult const& result);
+
 } // namespace quorvex::cli

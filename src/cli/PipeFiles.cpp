@@ -7,6 +7,16 @@
 
 namespace quorvex::cli {
 
+namespace {
+
+void WriteStandardOutput(std::string_view content) {
+    auto const output = platform::disk::OpenStandardOutput();
+    output->Write(content);
+    output->Close();
+}
+
+} // namespace
+
 std::string InputName(std::string_view path) {
     return std::string(path == PipeName ? "standard input" : path);
 }
@@ -20,17 +30,19 @@ std::unique_ptr<text::ByteSource> PipeFiles::OpenForInput(std::string const& pat
 }
 
 void PipeFiles::Replace(std::string const& path, std::string_view content) {
-    disk_.Replace(path, content);
+    if (path == PipeName) {
+        WriteStandardOutput(content);
+    } else {
+        disk_.Replace(path, content);
+    }
 }
 
 void PipeFiles::Overwrite(std::string const& path, std::string_view content) {
-    if (path != PipeName) {
+    if (path == PipeName) {
+        WriteStandardOutput(content);
+    } else {
         disk_.Overwrite(path, content);
-        return;
     }
-    auto const output = platform::disk::OpenStandardOutput();
-    output->Write(content);
-    output->Close();
 }
 
 void PipeFiles::Keep(std::string const& path) {

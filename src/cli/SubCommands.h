@@ -29,6 +29,9 @@ void AddConvert(CLI::App& app, ExitStatus& status);
 // "format".
 void AddFormat(CLI::App& app, ExitStatus& status);
 
+// "search".
+void AddSearch(CLI::App& app, ExitStatus& status);
+
 // "list", which prints the listing of the quotes, and "print", which prints the chart page, into a PDF file.
 // Without a queue they accept no file, as there is nothing to print with.
 void AddList(CLI::App& app, platform::PdfPrintQueue* queue, ExitStatus& status);

@@ -58,6 +58,7 @@ int main(int argc, char** argv) {
         quorvex::cli::AddConvert(app, status);
         quorvex::cli::AddList(app, outputs.Printing.get(), status);
         quorvex::cli::AddPrint(app, outputs.Printing.get(), status);
+        quorvex::cli::AddSearch(app, status);
         quorvex::cli::AddFormat(app, status);
         try {
             app.parse(platform::disk::ReversedArguments(argc, argv));

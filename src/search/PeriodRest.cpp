@@ -16,16 +16,23 @@ double PeriodRest::Gain(Direction const& phase) const {
     return product > 0 && square > LeastSquare ? product * product / square : 0;
 }
 
+double PeriodRest::Determinant() const {
+    return SineSine * CosineCosine - SineCosine * SineCosine;
+}
+
+bool PeriodRest::IsFlat() const {
+    constexpr double LeastDeterminant = 1e-9;
+    return Determinant() <= LeastDeterminant;
+}
+
 double PeriodRest::MostGain() const {
     constexpr double All = 1;
-    constexpr double LeastDeterminant = 1e-9;
-    double const determinant = SineSine * CosineCosine - SineCosine * SineCosine;
-    if (determinant <= LeastDeterminant) {
+    if (IsFlat()) {
         return All;
     }
     double const sine = CosineCosine * WithSeries.Sine - SineCosine * WithSeries.Cosine;
     double const cosine = SineSine * WithSeries.Cosine - SineCosine * WithSeries.Sine;
-    double const ofParts = (sine * WithSeries.Sine + cosine * WithSeries.Cosine) / determinant;
+    double const ofParts = (sine * WithSeries.Sine + cosine * WithSeries.Cosine) / Determinant();
     return ofParts + (CommonSeries > 0 ? CommonSeries * CommonSeries / CommonCommon : 0);
 }
 

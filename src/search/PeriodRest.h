@@ -25,11 +25,18 @@ struct PeriodRest {
     // would need a negative weight, or when nothing is left of it.
     [[nodiscard]] double Gain(Direction const& phase) const;
 
+    // Whether the waves of the period differ in size alone, so that no direction tells the best of them. So
+    // it is for the period 2, of which every wave changes between two values.
+    [[nodiscard]] bool IsFlat() const;
+
     // At least what the best phase gains, were any angle to be had.
     [[nodiscard]] double MostGain() const;
 
     // About the phase that gains most. Not of length 1.
     [[nodiscard]] Direction BestDirection() const;
+
+private:
+    [[nodiscard]] double Determinant() const;
 };
 
 // The phase with the largest gain on the way from the first in steps of so many places, while the gain rises.

@@ -121,6 +121,10 @@ std::vector<Pursuit::Offer> Pursuit::OffersBeside(WaveSet const& set, Range cons
         if (chosen.Explained() + rest.MostGain() <= offers.Least()) {
             continue;
         }
+        if (rest.IsFlat()) {
+            OfferAllPhases(rest, period, chosen.Explained(), offers);
+            continue;
+        }
         auto const [below, above] = waves_.PhasesAround(rest.BestDirection());
         for (auto const& [first, places] : {std::pair(below, -1), std::pair(above, 1)}) {
             auto const [phase, gain] = Climb(rest, waves_, first, places);
@@ -130,6 +134,15 @@ std::vector<Pursuit::Offer> Pursuit::OffersBeside(WaveSet const& set, Range cons
         }
     }
     return std::move(offers).Best();
+}
+
+void Pursuit::OfferAllPhases(PeriodRest const& rest, std::size_t period, double explained,
+                             Offers& offers) const {
+    for (std::size_t phase = 0; phase < waves_.PhaseCount(); ++phase) {
+        if (double const gain = rest.Gain(waves_.DirectionOf(phase)); gain > 0) {
+            offers.Take({{period, phase}, explained + gain});
+        }
+    }
 }
 
 bool Pursuit::IsShorter(Wave const& a, Wave const& b) const {

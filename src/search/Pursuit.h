@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "search/PeriodRest.h"
 #include "search/Sinusoids.h"
 #include "search/basWeights.h"
 
@@ -84,6 +85,7 @@ private:
     [[nodiscard]] Range PeriodsAround(std::size_t period) const;
     [[nodiscard]] std::vector<Offer> OffersBeside(WaveSet const& set, Range const& periods, double threshold,
                                                   std::size_t most) const;
+    void OfferAllPhases(PeriodRest const& rest, std::size_t period, double explained, Offers& offers) const;
     [[nodiscard]] bool IsBetterOffer(Offer const& a, Offer const& b) const;
 
     // Adds the wave without a weight.

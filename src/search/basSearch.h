@@ -27,8 +27,8 @@ inline constexpr int LongestPeriod = 500; // trading days
 struct SearchRequest {
     int CycleCount = 3; // 1..10
     int MinPeriod = DefaultMinPeriod;
-    std::optional<int>
-        MaxPeriod; // half the days when there is none: a cycle that was not seen twice is a trend
+    std::optional<int> MaxPeriod =
+        std::nullopt; // half the days when there is none: a cycle that was not seen twice is a trend
     Effort HowHard = Effort::Thorough;
     bool Detrend = false; // search what is left of the moving average beside its straight line
 };

@@ -252,7 +252,8 @@ TEST(AnalyseReport, ReadsAsATextOfFiveParts) {
 TEST(AnalyseReport, SaysHowToGetCycles) {
     auto const run = RunCompanion({"analyse", GoldenPath("quotes/q250.txt")});
     EXPECT_EQ(run.ExitStatus, 0);
-    EXPECT_NE(run.Output.find("none: give --parameters FILE.dat or --automate 1|2|3"), std::string::npos);
+    EXPECT_NE(run.Output.find("none: give --parameters FILE.dat, --automate 1|2|3 or --search N"),
+              std::string::npos);
 }
 
 } // namespace
