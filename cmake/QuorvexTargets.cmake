@@ -105,6 +105,9 @@ function(add_windows name)
     endif()
     target_compile_definitions(quorvex_${name} PUBLIC
         QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+    if(TARGET quorvex_platform_qt AND NOT name STREQUAL platform_qt AND NOT arg_WITHOUT_WIDGETS)
+        target_precompile_headers(quorvex_${name} REUSE_FROM quorvex_platform_qt)
+    endif()
     set_property(GLOBAL APPEND PROPERTY QUORVEX_WINDOWS ${name})
 endfunction()
 

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/CommandLine.h"
+
+#include "app/Program.h"
+#include "cli/ExitStatus.h"
+#include "cli/StandardStreams.h"
+#include "cli/SubCommands.h"
+#include "platform/disk/HostArguments.h"
+#include "platform/disk/HostConsole.h"
+
+#include <CLI/CLI.hpp>
+
+#include <exception>
+#include <new>
+#include <string>
+
+namespace quorvex::cli {
+
+int RunCommandLine(int argc, char** argv, Outputs (*makeOutputs)()) {
+    auto status = ExitStatus::Success;
+    try {
+        CLI::App app("Cycle analysis of commodity futures quotes", "quorvex-cli");
+        app.set_version_flag("--version", "quorvex-cli " + std::string(quorvex::app::ProgramVersion));
+        app.require_subcommand(1);
+        app.allow_windows_style_options(false);
+        platform::disk::HostConsole const console;
+        Outputs const outputs = makeOutputs();
+        AddAnalyse(app, console, status);
+        AddChart(app, outputs.Pictures.get(), status);
+        AddCheck(app, status);
+        AddConvert(app, status);
+        AddList(app, outputs.Printing.get(), status);
+        AddPrint(app, outputs.Printing.get(), status);
+        AddSearch(app, status);
+        AddFormat(app, status);
+        try {
+            app.parse(platform::disk::ReversedArguments(argc, argv));
+        } catch (CLI::ParseError const& error) {
+            bool const asked = app.exit(error) == 0; // prints help, version or what is wrong
+            status = asked ? ExitStatus::Success : ExitStatus::Usage;
+        }
+    } catch (std::bad_alloc const&) {
+        Complain({}, "Out of memory");
+        status = ExitStatus::Refused;
+    } catch (std::exception const& error) {
+        Complain({}, error.what());
+        status = ExitStatus::Refused;
+    }
+    return static_cast<int>(status);
+}
+
+} // namespace quorvex::cli
