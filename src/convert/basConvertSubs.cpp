@@ -144,7 +144,7 @@ std::vector<Message> ConvertRecords(text::ByteSource& source, platform::ByteSink
     std::int16_t lineNumber = 0;
     while (auto const line = lines.Next()) {
         Increment(lineNumber);
-        if (!ParseRecord(*line, layout, fields, messages)) {
+        if (!ParseRecord(*line, layout, fields, messages) || lines.IsCut()) {
             messages.push_back(InvalidRecord(lineNumber, sourceName));
             return messages;
         }

@@ -12,6 +12,7 @@ namespace quorvex::text {
 namespace {
 
 constexpr std::size_t Capacity = 65'536;
+constexpr std::size_t MostOfLine = 65'536; // that is kept
 
 } // namespace
 
@@ -45,6 +46,7 @@ std::optional<std::string_view> LineReader::Next() {
         isAtStart_ = false;
         SkipByteOrderMark();
     }
+    SkipRest();
     if (isBehindCr_) {
         isBehindCr_ = false;
         if (MoreAt() && buffer_[at_] == '\n') {
@@ -57,6 +59,15 @@ std::optional<std::string_view> LineReader::Next() {
     return TakeLine();
 }
 
+// Only now, as what follows a cut line is of no use to those who refuse it, and may have no end.
+void LineReader::SkipRest() {
+    isCut_ = false;
+    std::string_view piece;
+    while (owesEnd_) {
+        owesEnd_ = !TakePiece(piece) && Refill();
+    }
+}
+
 std::string_view LineReader::TakeLine() {
     std::string_view piece;
     if (TakePiece(piece)) {
@@ -64,10 +75,13 @@ std::string_view LineReader::TakeLine() {
     }
     line_ = piece;
     bool isWhole = false;
-    while (!isWhole && Refill()) {
+    while (!isWhole && !isCut_ && Refill()) {
         isWhole = TakePiece(piece);
-        line_ += piece;
+        std::size_t const room = MostOfLine - line_.size();
+        line_ += piece.substr(0, room);
+        isCut_ = piece.size() > room;
     }
+    owesEnd_ = isCut_ && !isWhole;
     return line_;
 }
 

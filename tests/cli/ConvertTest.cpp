@@ -86,6 +86,14 @@ TEST(Convert, ReadsAPipeThatHasAName) {
     EXPECT_EQ(pipe.Output, QuoteLine);
 }
 
+TEST(Convert, EndsAtALineThatDoesNotEnd) {
+    TemporaryFolder const folder;
+    auto const run = RunCompanion({"convert", "csi", "/dev/zero", folder.File("out.txt")});
+    EXPECT_EQ(run.ExitStatus, 1);
+    EXPECT_EQ(run.Errors, "quorvex-cli: /dev/zero: Invalid record at line 1 in file /dev/zero\n");
+    EXPECT_FALSE(std::filesystem::exists(folder.File("out.txt")));
+}
+
 #endif
 
 TEST(Convert, RefusesABadFileAndLeavesNothing) {

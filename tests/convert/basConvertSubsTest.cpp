@@ -119,6 +119,21 @@ TEST(ConvertDataFile, TellsOfTheFaultOfARecordOfMoreFieldsThanCanBeCounted) {
                                           ExclamationBox("Invalid record at line 2 in\nfile C:\\in.txt")));
 }
 
+TEST(ConvertDataFile, RefusesALineLongerThan64KiBHoweverGoodItsStart) {
+    constexpr std::size_t MostOfLine = 65'536;
+    std::string const record = "20020115,1,2,3,4,5,6";
+    std::string const blanks(MostOfLine - record.size(), ' ');
+    auto const longest = Convert(record + blanks + "\r\n" + GoodRecord, CsiLayout());
+    EXPECT_EQ(longest.Output, std::string("01/15/02, 1, 2, 3, 4, 5, 6\r\n") + GoodQuote);
+    for (std::string const rest : {" ", ",7", "7"}) {
+        SCOPED_TRACE(rest);
+        auto const longer = Convert(GoodRecord + record + blanks + rest + "\r\n" + GoodRecord, CsiLayout());
+        EXPECT_EQ(longer.Output, std::nullopt);
+        EXPECT_THAT(longer.Boxes,
+                    ElementsAre(ExclamationBox("Invalid record at line 2 in\nfile C:\\in.txt")));
+    }
+}
+
 TEST(ConvertDataFile, CountsLinesUpTo32767) {
     auto const result = Convert(Repeat(GoodRecord, 32'767), CsiLayout());
     EXPECT_EQ(result.Output, Repeat(GoodQuote, 32'767));

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -25,6 +27,21 @@ Lines AllLines(ByteSource& source) {
     EXPECT_FALSE(reader.Next()); // the end stays the end
     return lines;
 }
+
+// A device like /dev/zero.
+class EndlessSource final : public ByteSource {
+public:
+    [[nodiscard]] std::size_t Read(std::span<char> buffer) override {
+        std::ranges::fill(buffer, '\0');
+        taken_ += buffer.size();
+        return buffer.size();
+    }
+
+    [[nodiscard]] std::size_t Taken() const { return taken_; }
+
+private:
+    std::size_t taken_ = 0;
+};
 
 Lines LinesOf(std::string_view text) {
     TextSource source(text);
@@ -79,7 +96,7 @@ TEST(LineReader, TakesTheSameLinesFromASlowDevice) {
 
 TEST(LineReader, TakesLinesThatCrossTheEdgeOfItsBuffer) {
     constexpr std::size_t BufferSize = 65'536;
-    for (std::size_t length = BufferSize - 3; length <= BufferSize + 3; ++length) {
+    for (std::size_t length = BufferSize - 3; length <= BufferSize; ++length) {
         SCOPED_TRACE(length);
         std::string const line(length, 'x');
         std::string text = line;
@@ -99,9 +116,49 @@ TEST(LineReader, TakesLinesOfEveryEndInOneTextOfManyBuffers) {
     EXPECT_EQ(LinesOf(text), expected);
 }
 
-TEST(LineReader, TakesALineLongerThanManyBuffers) {
-    std::string const line(1'000'000, 'x');
-    EXPECT_EQ(LinesOf("a\n" + line + "\r\nb"), (Lines{"a", line, "b"}));
+constexpr std::size_t MostOfLine = 65'536; // that is kept
+
+TEST(LineReader, GivesTheStartOfALongerLineAndThenTheNextLine) {
+    for (std::size_t const length : {MostOfLine + 1, 2 * MostOfLine, std::size_t{1'000'000}}) {
+        for (std::string const end : {"\n", "\r", "\r\n"}) {
+            SCOPED_TRACE(std::to_string(length) + " " + std::to_string(end.size()));
+            std::string const line(length, 'x');
+            std::string const start = line.substr(0, MostOfLine);
+            EXPECT_EQ(LinesOf("a\n" + line + end + "b"), (Lines{"a", start, "b"}));
+            EXPECT_EQ(LinesOf(line + end + end + line), (Lines{start, "", start}));
+            EXPECT_EQ(LinesOf(line + end + "\x1a" + line), Lines{start});
+        }
+    }
+}
+
+TEST(LineReader, GivesTheSameStartFromASlowDevice) {
+    std::string const text = std::string(MostOfLine + 10, 'x') + "\r\nb";
+    for (std::size_t const pieceSize : {1U, 7U, 60'000U}) {
+        SCOPED_TRACE(pieceSize);
+        PieceSource source(text, pieceSize);
+        EXPECT_EQ(AllLines(source), (Lines{text.substr(0, MostOfLine), "b"}));
+    }
+}
+
+TEST(LineReader, TellsWhichLinesAreCut) {
+    std::string const most(MostOfLine, 'x');
+    std::string const text = most + "\n" + most + "y\n" + most + "\r\n" + most + most;
+    TextSource source(text);
+    LineReader reader(source);
+    for (bool const isCut : {false, true, false, true}) {
+        EXPECT_EQ(reader.Next(), most);
+        EXPECT_EQ(reader.IsCut(), isCut);
+    }
+    EXPECT_FALSE(reader.Next());
+    EXPECT_FALSE(reader.IsCut());
+}
+
+TEST(LineReader, ReadsNoMoreOfAnEndlessLineThanItGives) {
+    EndlessSource source;
+    LineReader reader(source);
+    EXPECT_EQ(reader.Next(), std::string(MostOfLine, '\0'));
+    EXPECT_TRUE(reader.IsCut());
+    EXPECT_LE(source.Taken(), 2 * MostOfLine);
 }
 
 } // namespace
