@@ -278,6 +278,9 @@ std::vector<CycleModel> CycleSearch::Find(std::span<double const> series, int cy
         if (!goOn()) {
             return {};
         }
+        if (climbing.Best().Waves.empty()) {
+            return {};
+        }
         models.push_back(ModelOf(climbing.Best(), climbing.UsedPursuit()));
     }
     return models;

@@ -33,7 +33,7 @@ double PeriodRest::MostGain() const {
     double const sine = CosineCosine * WithSeries.Sine - SineCosine * WithSeries.Cosine;
     double const cosine = SineSine * WithSeries.Cosine - SineCosine * WithSeries.Sine;
     double const ofParts = (sine * WithSeries.Sine + cosine * WithSeries.Cosine) / Determinant();
-    return ofParts + (CommonSeries > 0 ? CommonSeries * CommonSeries / CommonCommon : 0);
+    return ofParts + (CommonSeries > 0 && CommonCommon > 0 ? CommonSeries * CommonSeries / CommonCommon : 0);
 }
 
 // The common component lengthens all phases alike, which is taken for a longer sine and cosine.

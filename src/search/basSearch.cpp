@@ -38,6 +38,18 @@ std::vector<double> Searched(std::span<double const> series, SearchRequest const
     return LargestSize(rest) > LeastRest * LargestSize(series) ? rest : std::vector<double>();
 }
 
+// Why nothing was found in it.
+std::string RefusalOf(std::span<double const> searched, SearchRequest const& request, int days) {
+    bool const isFlat = std::all_of(searched.begin(), searched.end(),
+                                    [&](double value) { return value == searched.front(); });
+    if (isFlat) {
+        return request.Detrend ? "The moving average is a straight line: there is no cycle in it"
+                               : "The moving average does not change: there is no cycle in it";
+    }
+    return "No cycle of " + std::to_string(request.MinPeriod) + " to " +
+           std::to_string(MaxPeriodOf(request, days)) + " days follows the moving average";
+}
+
 } // namespace
 
 int MaxPeriodOf(SearchRequest const& request, int days) {
@@ -84,8 +96,7 @@ SearchOutcome SearchSeries(std::span<double const> series, SearchRequest const& 
     SearchOutcome outcome{
         CycleSearch(days, periods).Find(searched, request.CycleCount, request.HowHard, follow), {}};
     if (outcome.Models.empty() && !isEnded) {
-        outcome.Refusal = request.Detrend ? "The moving average is a straight line: there is no cycle in it"
-                                          : "The moving average does not change: there is no cycle in it";
+        outcome.Refusal = RefusalOf(searched, request, days);
     }
     return outcome;
 }

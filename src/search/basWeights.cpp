@@ -73,8 +73,9 @@ bool MoveUntilZero(Weights& weights, Weights const& target, Chosen const& chosen
     std::size_t first = LargestSystem;
     for (std::size_t index = 0; index < chosen.Count; ++index) {
         std::size_t const wave = chosen.Waves[index];
-        if (target[wave] <= 0 && weights[wave] / (weights[wave] - target[wave]) < way) {
-            way = weights[wave] / (weights[wave] - target[wave]);
+        double const fall = weights[wave] - target[wave];
+        if (target[wave] <= 0 && weights[wave] < way * fall) {
+            way = weights[wave] / fall;
             first = wave;
         }
     }

@@ -60,6 +60,14 @@ TEST(SearchSeries, RefusesAStraightLineWithoutItsTrend) {
     EXPECT_EQ(SearchSeries(line, {}, GoOnAlways).Refusal, "");
 }
 
+TEST(SearchSeries, RefusesWhatNoCycleOfTheRangeFollows) {
+    // Symmetrical about its middle, while the period 2 over four days is the opposite.
+    Series const series = {1, 2, 2, 1};
+    auto const outcome = SearchSeries(series, {.MinPeriod = 2, .MaxPeriod = 2}, GoOnAlways);
+    EXPECT_EQ(outcome.Refusal, "No cycle of 2 to 2 days follows the moving average");
+    EXPECT_TRUE(outcome.Models.empty());
+}
+
 TEST(SearchSeries, FindsTheCycleOnATrendWithoutTheTrend) {
     Series series = tests::CurveOf(15, 7, 120);
     for (std::size_t day = 0; day < series.size(); ++day) {
