@@ -7,6 +7,7 @@
 #include "CycleWork.h"
 #include "QuoteWork.h"
 #include "Ratio.h"
+#include "SearchWork.h"
 
 namespace quorvex::bench {
 
@@ -17,6 +18,7 @@ void AddCoreRatios(RatioTable& table) {
     QuoteWork quotes;
     CycleWork cycles;
     ConvertWork converter;
+    SearchWork search;
     auto const pass = [&] { quotes.ParseNumbers(); };
     table.Add("reading a 500-day quote file / one std::from_chars pass",
               MeasureRatio([&] { quotes.Load(); }, pass), ReadingTarget);
@@ -24,6 +26,11 @@ void AddCoreRatios(RatioTable& table) {
     table.Add("three-cycle fit over 500 days / its sines and cosines",
               MeasureRatio([&] { cycles.FitThreeCycles(); }, [&] { cycles.ComputeSinesAndCosines(); }),
               FitTarget);
+    auto const scan = [&] { search.ComputeSinesAndCosines(); };
+    table.Add("search for one cycle over 500 days / sines of all periods",
+              MeasureRatio([&] { search.Find(1); }, scan));
+    table.Add("search for three cycles / the same", MeasureRatio([&] { search.Find(3); }, scan));
+    table.Add("search for ten cycles / the same", MeasureRatio([&] { search.Find(10); }, scan));
     table.Add("converting 32,000 lines / copying them with std::getline",
               MeasureRatio([&] { converter.Convert(); }, [&] { converter.CopyLines(); }), ConvertTarget);
 }
