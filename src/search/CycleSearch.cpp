@@ -139,6 +139,7 @@ private:
 // The search of one series, from stage to stage with one cycle more.
 class Climbing {
 public:
+    // The sequence is to be the same in every run. NOLINTNEXTLINE(cert-msc32-c,cert-msc51-cpp)
     Climbing(Sinusoids& waves, std::span<double const> series, GoOn const& goOn)
         : waves_(waves),
           pursuit_(waves, series),
@@ -236,7 +237,7 @@ private:
     Sinusoids& waves_;
     Pursuit pursuit_;
     GoOn const& goOn_;
-    std::mt19937 random_; // NOLINT(cert-msc32-c,cert-msc51-cpp): it is to begin the same each time
+    std::mt19937 random_; // begins the same each time
     std::vector<WaveSet> sets_{WaveSet()};
     WholeSet best_;
 };

@@ -89,7 +89,7 @@ PeriodRest ChosenWaves::ComputeRest(ChosenWaves const& chosen, std::size_t perio
                                     Parts const& withSeries) {
     PeriodRest rest{own.SineSine, own.SineCosine,     own.CosineCosine,    withSeries,
                     {},           chosen.commonRest_, chosen.commonSeries_};
-    std::array<Parts, Size> coordinates;
+    std::array<Parts, Size> coordinates{};
     for (std::size_t i = 0; i < Size; ++i) {
         Products const& products = chosen.waves_[i].ByPeriod[period];
         Direction const& phase = chosen.waves_[i].Phase;
