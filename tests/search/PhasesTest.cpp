@@ -36,8 +36,9 @@ TEST(Phases, HoldThePhaseOfEveryShiftOnce) {
 }
 
 TEST(Phases, OfShiftsWithOnePhaseTheSmallestStandsForAll) {
+    Phases const phases;
     std::set<int> shifts;
-    for (Phase const& phase : Phases().All()) {
+    for (Phase const& phase : phases.All()) {
         shifts.insert(phase.Shift);
     }
     EXPECT_EQ(shifts.count(0), 1U);
