@@ -141,10 +141,24 @@ void FollowCycles(Program& program, AnalysisServices const& services, AnalysisRe
 
 } // namespace
 
+bool OpenQuotes(Program& program, AnalysisServices const& services, AnalysisRequest const& request) {
+    return quotes::LoadQuoteFile(program.Quotes, program.Settings, services.Files, services.Dialogs) != 0 &&
+           NarrowDates(program, services.Dialogs, request);
+}
+
+bool TakeParameters(Program& program, AnalysisServices const& services, std::string const& path) {
+    ReadParameters(program, services, path);
+    platform::NoPendingMessages pending;
+    if (cycles::ReadGrid(services.Grid, program.Cycles, pending) && cycles::HasActiveCycle(program.Cycles)) {
+        return true;
+    }
+    platform::ShowWarning(services.ParameterDialogs, "There is no cycle with a weight and a period");
+    return false;
+}
+
 std::optional<AnalysisResult> Analyse(Program& program, AnalysisServices const& services,
                                       AnalysisRequest const& request) {
-    if (quotes::LoadQuoteFile(program.Quotes, program.Settings, services.Files, services.Dialogs) == 0 ||
-        !NarrowDates(program, services.Dialogs, request)) {
+    if (!OpenQuotes(program, services, request)) {
         return std::nullopt;
     }
     AnalysisResult result;

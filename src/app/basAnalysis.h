@@ -53,6 +53,16 @@ struct AnalysisResult {
     std::optional<std::vector<auxiliary::PropertyCaption>> Properties;
 };
 
+// The first step of an analysis alone: opens the quote file and narrows it to the days asked for. Returns
+// whether there are such days; what is in the way goes to the dialogs.
+[[nodiscard]] bool OpenQuotes(Program& program, AnalysisServices const& services,
+                              AnalysisRequest const& request);
+
+// Takes the cycles of the parameter file up through the grid. Returns whether one at least is active; what is
+// in the way goes to the dialogs of the parameters.
+[[nodiscard]] bool TakeParameters(Program& program, AnalysisServices const& services,
+                                  std::string const& path);
+
 // Analyses the quote file that the program's settings and file name point at; the program has just been
 // started up. Messages and faults go to the dialogs; after them the analysis goes on with what there is,
 // only a fit or a search that fails leaves no cycles. Nothing comes back when the quote file was refused or

@@ -17,10 +17,19 @@ AnalysisSession::AnalysisSession(AnalysisOptions const& options)
 }
 
 std::optional<app::AnalysisResult> AnalysisSession::Analyse() {
-    return app::Analyse(
-        *program_,
-        {.Grid = grid_, .Files = files_, .Dialogs = dialogs_, .ParameterDialogs = parameterDialogs_},
-        request_);
+    return app::Analyse(*program_, Services(), request_);
+}
+
+bool AnalysisSession::OpenQuotes() {
+    return app::OpenQuotes(*program_, Services(), request_);
+}
+
+bool AnalysisSession::TakeParameters() {
+    return app::TakeParameters(*program_, Services(), request_.ParameterPath.value_or(""));
+}
+
+app::AnalysisServices AnalysisSession::Services() {
+    return {.Grid = grid_, .Files = files_, .Dialogs = dialogs_, .ParameterDialogs = parameterDialogs_};
 }
 
 void AnalysisSession::DrawCharts(chart::ChartBoxes const& boxes) const {

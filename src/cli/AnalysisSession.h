@@ -24,6 +24,11 @@ public:
     // Runs the analysis of the options; nothing comes back when the quote file was refused.
     [[nodiscard]] std::optional<app::AnalysisResult> Analyse();
 
+    // The first step of the analysis alone, and the cycles of the options' parameter file; both return
+    // whether there is what was asked for.
+    [[nodiscard]] bool OpenQuotes();
+    [[nodiscard]] bool TakeParameters();
+
     // Draws what the analysis left on these boxes.
     void DrawCharts(chart::ChartBoxes const& boxes) const;
 
@@ -35,6 +40,8 @@ public:
     [[nodiscard]] ExitStatus Status(bool written) const;
 
 private:
+    [[nodiscard]] app::AnalysisServices Services();
+
     app::AnalysisRequest request_;
     std::unique_ptr<app::Program> program_ = std::make_unique<app::Program>();
     cycles::TextGrid grid_;

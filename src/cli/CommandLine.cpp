@@ -31,6 +31,7 @@ int RunCommandLine(int argc, char** argv, Outputs (*makeOutputs)()) {
         AddChart(app, outputs.Pictures.get(), status);
         AddCheck(app, status);
         AddConvert(app, status);
+        AddEvaluate(app, console, outputs.Pictures.get(), status);
         AddList(app, outputs.Printing.get(), status);
         AddPrint(app, outputs.Printing.get(), status);
         AddSearch(app, status);

@@ -29,6 +29,10 @@ void AddConvert(CLI::App& app, ExitStatus& status);
 // "format".
 void AddFormat(CLI::App& app, ExitStatus& status);
 
+// "evaluate". Without an encoder it draws no plot.
+void AddEvaluate(CLI::App& app, platform::Console const& console, platform::PictureEncoder* encoder,
+                 ExitStatus& status);
+
 // "search".
 void AddSearch(CLI::App& app, ExitStatus& status);
 

@@ -16,7 +16,10 @@ public:
     // Whether standard output is a terminal that somebody looks at.
     [[nodiscard]] virtual bool IsTerminal() const = 0;
 
-    // The width of that terminal in characters, 80 when it is not known.
+    // Whether standard error is one.
+    [[nodiscard]] virtual bool ShowsErrors() const = 0;
+
+    // The width of the terminal of standard output in characters, 80 when it is not known.
     [[nodiscard]] virtual int Width() const = 0;
 };
 

@@ -15,6 +15,8 @@ public:
 
     [[nodiscard]] bool IsTerminal() const override { return terminal_; }
 
+    [[nodiscard]] bool ShowsErrors() const override { return false; }
+
     [[nodiscard]] int Width() const override { return 60; }
 
 private:

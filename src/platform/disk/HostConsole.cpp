@@ -25,6 +25,10 @@ bool HostConsole::IsTerminal() const {
     return _isatty(1) != 0;
 }
 
+bool HostConsole::ShowsErrors() const {
+    return _isatty(2) != 0;
+}
+
 int HostConsole::Width() const {
     CONSOLE_SCREEN_BUFFER_INFO info;
     if (GetConsoleScreenBufferInfo(GetStdHandle(STD_OUTPUT_HANDLE), &info) == 0) {
@@ -37,6 +41,10 @@ int HostConsole::Width() const {
 
 bool HostConsole::IsTerminal() const {
     return isatty(STDOUT_FILENO) != 0;
+}
+
+bool HostConsole::ShowsErrors() const {
+    return isatty(STDERR_FILENO) != 0;
 }
 
 int HostConsole::Width() const {

@@ -11,6 +11,7 @@ namespace quorvex::platform::disk {
 class HostConsole final : public Console {
 public:
     [[nodiscard]] bool IsTerminal() const override;
+    [[nodiscard]] bool ShowsErrors() const override;
     [[nodiscard]] int Width() const override;
 };
 

@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/AnalysisSession.h"
+#include "cli/ConsoleDialogs.h"
+#include "cli/EvaluationJson.h"
+#include "cli/EvaluationReport.h"
+#include "cli/PipeFiles.h"
+#include "cli/ProgressBar.h"
+#include "cli/StandardStreams.h"
+#include "cli/SubCommands.h"
+#include "cycles/basCurves.h"
+#include "evaluation/basEvaluation.h"
+#include "evaluation/basEvaluationPlot.h"
+#include "platform/RecordingCanvas.h"
+#include "platform/basMessages.h"
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <optional>
+#include <string>
+#include <thread>
+
+namespace quorvex::cli {
+
+namespace {
+
+constexpr int MostJobs = 256;
+
+struct EvaluateOptions {
+    AnalysisOptions Analysis;
+    int Every = evaluation::DefaultEvery;
+    int Jobs = static_cast<int>(std::clamp(std::thread::hardware_concurrency(), 1U, unsigned{MostJobs}));
+    bool Json = false;
+    std::string PlotPath;
+};
+
+// Without a description of its own: the help names the type of the option.
+CLI::Validator IsCountUpTo(int most) {
+    return {[most](std::string const& text) {
+                int value = 0;
+                bool const good = CLI::detail::lexical_cast(text, value) && value >= 1 && value <= most;
+                return good ? std::string() : text + " is not between 1 and " + std::to_string(most);
+            },
+            ""};
+}
+
+CLI::Validator IsPictureFile(bool hasPictures) {
+    return {[hasPictures](std::string const& text) -> std::string {
+                if (!hasPictures) {
+                    return "this program was built without Qt and draws no pictures";
+                }
+                return platform::PictureKindOf(text) ? "" : text + " does not end with .png, .svg or .pdf";
+            },
+            ""};
+}
+
+// Nothing after a refusal, which has been told.
+std::optional<evaluation::Evaluation> Test(EvaluateOptions const& options, AnalysisSession& session,
+                                           platform::Console const& console) {
+    bool const hasParameters = options.Analysis.Request.ParameterPath.has_value();
+    if (!session.OpenQuotes() || (hasParameters && !session.TakeParameters())) {
+        return std::nullopt;
+    }
+    app::Program const& program = session.Program();
+    evaluation::EvaluationRequest request;
+    request.Models = evaluation::StandardModels(hasParameters);
+    request.Parameters = hasParameters ? &program.Cycles : nullptr;
+    request.Every = options.Every;
+    request.Jobs = options.Jobs;
+    ConsoleDialogs dialogs(options.Analysis.QuotePath);
+    evaluation::EvaluationOutcome outcome;
+    platform::RunReported(dialogs, [&] {
+        request.MovingAverageLength = cycles::MovingAverageLength(program.Settings.MovingAverageIndex);
+        ProgressBar bar(console);
+        outcome = evaluation::Evaluate(program.Quotes, request, [&bar](double share) {
+            bar.Show(share);
+            return true;
+        });
+    });
+    if (!outcome.Refusal.empty()) {
+        platform::ShowWarning(dialogs, outcome.Refusal);
+    }
+    return std::move(outcome.Result);
+}
+
+bool WritePlot(std::string const& path, evaluation::Evaluation const& evaluation,
+               platform::PictureEncoder& encoder) {
+    platform::RecordingCanvas canvas(evaluation::PlotWidth, evaluation::PlotHeight);
+    evaluation::DrawEvaluation(canvas, evaluation, evaluation::ChooseFan(evaluation));
+    std::array<platform::PlacedDrawing, 1> const placed = {{{0, 0, &canvas}}};
+    ConsoleDialogs dialogs(path);
+    return platform::RunReported(dialogs, [&] {
+        platform::PictureSheet const sheet{canvas.Width(), canvas.Height(), placed};
+        PipeFiles().Overwrite(path, encoder.Encode(sheet, *platform::PictureKindOf(path)));
+    });
+}
+
+ExitStatus Evaluate(EvaluateOptions const& options, platform::Console const& console,
+                    platform::PictureEncoder* encoder) {
+    AnalysisSession session(options.Analysis);
+    auto const result = Test(options, session, console);
+    if (!result) {
+        return ExitStatus::Refused;
+    }
+    bool const isDrawn = options.PlotPath.empty() || WritePlot(options.PlotPath, *result, *encoder);
+    bool const isPrinted = Print(options.Json ? EvaluationJson(*result) : EvaluationReport(*result));
+    return session.Status(isDrawn && isPrinted);
+}
+
+} // namespace
+
+void AddEvaluate(CLI::App& app, platform::Console const& console, platform::PictureEncoder* encoder,
+                 ExitStatus& status) {
+    constexpr int LargestEvery = 400;
+    auto const options = std::make_shared<EvaluateOptions>();
+    CLI::App* command = app.add_subcommand("evaluate", "Test whether cycles forecast one contract");
+    AddQuoteOptions(*command, options->Analysis);
+    command
+        ->add_option("--parameters", options->Analysis.Request.ParameterPath,
+                     "Test the cycles of a parameter file, too")
+        ->type_name("FILE.dat");
+    command
+        ->add_option("--every", options->Every,
+                     "Days from one forecast to the next [" + std::to_string(evaluation::DefaultEvery) + "]")
+        ->type_name("N")
+        ->check(IsCountUpTo(LargestEvery));
+    command
+        ->add_option("--jobs", options->Jobs,
+                     "Threads to work with, whatever the result [as many as the machine has]")
+        ->type_name("N")
+        ->check(IsCountUpTo(MostJobs));
+    command->add_flag("--json", options->Json, "Print one JSON object instead of a report");
+    command->add_option("--plot", options->PlotPath, "Draw errors and forecasts into a file")
+        ->type_name("FILE.png|.svg|.pdf")
+        ->check(IsPictureFile(encoder != nullptr));
+    command->callback(
+        [options, &console, encoder, &status] { status = Evaluate(*options, console, encoder); });
+}
+
+} // namespace quorvex::cli

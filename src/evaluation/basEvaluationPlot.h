@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// Draws what a test of forecasts found: the errors with their intervals above, forecasts over the closes
+// below.
+#pragma once
+
+#include "evaluation/Evaluation.h"
+#include "platform/Canvas.h"
+
+#include <cstddef>
+
+namespace quorvex::evaluation {
+
+// The size in which texts and marks have room, in twips.
+inline constexpr double PlotWidth = 16'500;
+inline constexpr double PlotHeight = 12'000;
+
+// Whose forecasts are drawn over the closes.
+struct FanChoice {
+    std::size_t Model = 0; // its position
+    ForecastKind Kind = ForecastKind::Composite;
+};
+
+// The model and kind that is most surely better than the last close. When none is, the composite of the
+// parameters or, without them, of the search of three cycles; of the last model without that. REQUIRES: one
+// model at least.
+[[nodiscard]] FanChoice ChooseFan(Evaluation const& evaluation);
+
+// Clears the canvas and draws both. A canvas too small for that stays empty.
+void DrawEvaluation(platform::Canvas& canvas, Evaluation const& evaluation, FanChoice const& choice);
+
+} // namespace quorvex::evaluation

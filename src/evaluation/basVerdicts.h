@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// What a test found, in words.
+#pragma once
+
+#include "evaluation/Evaluation.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorvex::evaluation {
+
+// Whether the model is better than the last close, and where; a sentence without its subject and full stop.
+[[nodiscard]] std::string VerdictOf(ModelReport const& model);
+
+// What was tested, on which days, as whole sentences.
+[[nodiscard]] std::string DescribeTest(Evaluation const& evaluation);
+
+// One row of the table: model, kind, days ahead, error ratio, right directions, correlation and chance. A
+// figure has its interval behind it; what does not exist is "-".
+struct TableRow {
+    std::string Model;
+    std::string Kind;
+    std::string Days;
+    std::string Error;
+    std::string Right;
+    std::string Correlation;
+    std::string Chance;
+};
+
+[[nodiscard]] TableRow TableHead();
+
+// The drift first, then each model and kind, four rows each.
+[[nodiscard]] std::vector<TableRow> TableRows(Evaluation const& evaluation);
+
+// One line for each search: its correlation and how many surrogates correlate as well.
+[[nodiscard]] std::vector<std::string> SurrogateLines(Evaluation const& evaluation);
+
+// One line for each model that has no forecast at some origins, and why.
+[[nodiscard]] std::vector<std::string> FaultLines(Evaluation const& evaluation);
+
+} // namespace quorvex::evaluation

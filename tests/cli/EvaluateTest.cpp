@@ -1,0 +1,203 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "RunCompanion.h"
+#include "support/Golden.h"
+#include "support/QuoteTexts.h"
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+namespace quorvex::tests {
+namespace {
+
+using nlohmann::json;
+
+std::string const Contract = GoldenPath("quotes/q250.txt");
+
+TEST(EvaluateCommand, PrintsTableSurrogatesAndVerdicts) {
+    auto const run = RunCompanion({"evaluate", Contract, "--every", "25"});
+    EXPECT_EQ(run.ExitStatus, 0) << run.Errors;
+    EXPECT_EQ(run.Errors, "");
+    EXPECT_TRUE(run.Output.starts_with("Forecasts from 5 days, every 25 days from ")) << run.Output;
+    for (auto const* part :
+         {"\n\nModel               Forecast   Days  Error", "\nDrift               -             1  ",
+          "\nFit of 3 cycles     scaled       25  ", "\nSearch of 5 cycles  composite    10  ",
+          "\n\nCorrelation with the moving average of all days\n  Search of 1 cycle: ", " of 200 surrogates ",
+          "\n\nVerdict\n  Fit of 1 cycle: not tested: 5 forecasts are too few\n"}) {
+        EXPECT_NE(run.Output.find(part), std::string::npos) << part << '\n' << run.Output;
+    }
+    EXPECT_EQ(run.Output.find("Parameter file"), std::string::npos);
+}
+
+TEST(EvaluateCommand, GivesTheSameWithAnyNumberOfThreads) {
+    auto const one = RunCompanion({"evaluate", Contract, "--every", "20", "--jobs", "1", "--json"});
+    auto const three = RunCompanion({"evaluate", Contract, "--every", "20", "--jobs", "3", "--json"});
+    EXPECT_EQ(one.ExitStatus, 0);
+    EXPECT_EQ(one.Output, three.Output);
+}
+
+TEST(EvaluateCommand, PrintsOneJsonObject) {
+    TemporaryFolder const folder;
+    folder.Write("one.dat", "100, 40, 0, 0\n");
+    auto const run = RunCompanion({"evaluate", Contract, "--every", "10", "--moving-average", "7",
+                                   "--parameters", folder.File("one.dat"), "--json"});
+    ASSERT_EQ(run.ExitStatus, 0) << run.Errors;
+    auto const object = nlohmann::ordered_json::parse(run.Output);
+    std::vector<std::string> members;
+    for (auto const& [key, value] : object.items()) {
+        members.push_back(key);
+    }
+    EXPECT_EQ(members, (std::vector<std::string>{"QuoteFileName", "MovingAverageLength", "Every",
+                                                 "BlockLength", "SampleCount", "Dates", "Closes", "Origins",
+                                                 "LastClose", "Drift", "Models", "Surrogates"}));
+    EXPECT_EQ(object.at("MovingAverageLength"), 7);
+    EXPECT_EQ(object.at("Every"), 10);
+    EXPECT_EQ(object.at("BlockLength"), 3);
+    EXPECT_EQ(object.at("Closes").size(), 250U);
+    EXPECT_EQ(object.at("Origins").size(), 11U); // 125, 135 .. 225
+    EXPECT_EQ(object.at("Origins").at(0).at("Day"), 125);
+    EXPECT_EQ(object.at("Origins").at(0).at("Date"), object.at("Dates").at(124));
+    EXPECT_EQ(object.at("LastClose").at("MeanAbsoluteError").size(), 4U);
+    ASSERT_EQ(object.at("Models").size(), 8U);
+    auto const& parameters = object.at("Models").back();
+    EXPECT_EQ(parameters.at("Name"), "Parameter file");
+    EXPECT_EQ(parameters.at("Method"), "parameters");
+    EXPECT_TRUE(parameters.at("CycleCount").is_null());
+    EXPECT_EQ(parameters.at("Faults"), json::object());
+    auto const& forecast = parameters.at("Forecasts").at(1);
+    EXPECT_EQ(forecast.at("Kind"), "composite");
+    EXPECT_EQ(forecast.at("ForecastCount"), 11);
+    EXPECT_EQ(forecast.at("Values").size(), 11U);
+    EXPECT_EQ(forecast.at("Values").at(0).size(), 25U);
+    auto const& horizon = forecast.at("Horizons").at(3);
+    EXPECT_EQ(horizon.at("Days"), 25);
+    for (auto const* figure : {"ErrorRatio", "RightDirections", "Correlation"}) {
+        EXPECT_LE(horizon.at(figure).at("Low").get<double>(), horizon.at(figure).at("High").get<double>());
+        EXPECT_TRUE(horizon.at(figure).at("Value").is_number());
+    }
+    EXPECT_TRUE(horizon.at("p").is_number());
+    EXPECT_FALSE(horizon.at("IsBetter"));
+    EXPECT_FALSE(object.at("Drift").at("Horizons").at(0).contains("p"));
+    EXPECT_EQ(object.at("Surrogates").at("Count"), 200);
+    EXPECT_EQ(object.at("Surrogates").at("Searches").size(), 4U);
+}
+
+TEST(EvaluateCommand, TheWindowForecastIsThatOfAnAnalysisOfTheDaysUpToTheOrigin) {
+    TemporaryFolder const folder;
+    folder.Write("two.dat", "60, 40, 5, 0\n40, 90, -7, 0\n");
+    auto const whole = json::parse(RunCompanion({"evaluate", Contract, "--every", "50", "--parameters",
+                                                 folder.File("two.dat"), "--json"})
+                                       .Output);
+    auto const& origin = whole.at("Origins").at(1);
+    auto const analysis =
+        json::parse(RunCompanion({"analyse", Contract, "--parameters", folder.File("two.dat"), "--end",
+                                  origin.at("Date").get<std::string>(), "--json"})
+                        .Output);
+    EXPECT_EQ(analysis.at("WorkingCount"), origin.at("Day"));
+    EXPECT_EQ(whole.at("Models").back().at("Forecasts").at(0).at("Values").at(1),
+              analysis.at("Forecast").at("Values"));
+    double const unit =
+        (analysis.at("PriceScaleHigh").get<double>() - analysis.at("PriceScaleLow").get<double>()) / 200;
+    auto const& composite = analysis.at("CompositeCurve");
+    auto const n = analysis.at("WorkingCount").get<std::size_t>();
+    double const close = analysis.at("Quotes").at(n - 1).at(4);
+    for (std::size_t day = 1; day <= 25; ++day) {
+        double const change = composite.at(n - 1 + day).get<double>() - composite.at(n - 1).get<double>();
+        EXPECT_NEAR(
+            whole.at("Models").back().at("Forecasts").at(1).at("Values").at(1).at(day - 1).get<double>(),
+            close + change * unit, 1e-9);
+    }
+}
+
+TEST(EvaluateCommand, TestsTheDaysAskedFor) {
+    auto const all = json::parse(RunCompanion({"evaluate", Contract, "--every", "50", "--json"}).Output);
+    std::string const end = all.at("Dates").at(199);
+    auto const some =
+        json::parse(RunCompanion({"evaluate", Contract, "--every", "50", "--end", end, "--json"}).Output);
+    EXPECT_EQ(some.at("Closes").size(), 200U);
+    EXPECT_EQ(some.at("Origins").at(0).at("Day"), 100);
+}
+
+TEST(EvaluateCommand, TellsWhyItRefuses) {
+    TemporaryFolder const folder;
+    folder.Write("short.txt", QuoteLines(124));
+    folder.Write("none.dat", "0, 40, 5, 0\n");
+    std::string level;
+    for (int day = 0; day < 130; ++day) {
+        level += "01/02/03, 5, 5, 5, 5, 1, 1\n";
+    }
+    folder.Write("level.txt", level);
+    auto const expectRefused = [](std::vector<std::string> const& arguments, std::string const& message) {
+        auto const run = RunCompanion(arguments);
+        EXPECT_EQ(run.ExitStatus, 1);
+        EXPECT_EQ(run.Output, "");
+        EXPECT_EQ(run.Errors, "quorvex-cli: " + message + '\n');
+    };
+    std::string const shortFile = folder.File("short.txt");
+    expectRefused({"evaluate", shortFile},
+                  shortFile + ": Forecasts are tested on 125 days at least; there are 124");
+    expectRefused({"evaluate", folder.File("level.txt")},
+                  folder.File("level.txt") + ": The closes do not change: there is nothing to forecast");
+    expectRefused({"evaluate", Contract, "--moving-average", "200"},
+                  Contract + ": A moving average of 200 days does not fit into the 125 days before the first "
+                             "forecast");
+    expectRefused({"evaluate", Contract, "--moving-average", "99999"}, Contract + ": Overflow");
+    expectRefused({"evaluate", Contract, "--parameters", folder.File("none.dat")},
+                  folder.File("none.dat") + ": There is no cycle with a weight and a period");
+    expectRefused({"evaluate", Contract, "--start", "01/01/48"},
+                  Contract + ": No quote is dated 01/01/48 or later");
+}
+
+TEST(EvaluateCommand, EndsWithTwoOnWrongUsage) {
+    for (std::vector<std::string> const& arguments : {std::vector<std::string>{"evaluate"},
+                                                      {"evaluate", Contract, "--every", "0"},
+                                                      {"evaluate", Contract, "--every", "x"},
+                                                      {"evaluate", Contract, "--jobs", "0"},
+                                                      {"evaluate", Contract, "--jobs", "257"},
+                                                      {"evaluate", Contract, "--automate", "1"},
+                                                      {"evaluate", Contract, "--plot", "plot.json"}}) {
+        SCOPED_TRACE(testing::PrintToString(arguments));
+        auto const run = RunCompanion(arguments);
+        EXPECT_EQ(run.ExitStatus, 2);
+        EXPECT_EQ(run.Output, "");
+        EXPECT_NE(run.Errors, "");
+    }
+}
+
+#ifdef QUORVEX_PICTURES
+
+TEST(EvaluateCommand, DrawsThePlot) {
+    TemporaryFolder const folder;
+    for (auto const& [name, begin] :
+         {std::pair{"plot.png", "\x89PNG"}, {"plot.svg", "<?xml"}, {"plot.PDF", "%PDF"}}) {
+        auto const run = RunCompanion({"evaluate", Contract, "--every", "50", "--plot", folder.File(name)});
+        EXPECT_EQ(run.ExitStatus, 0) << run.Errors;
+        EXPECT_TRUE(folder.Read(name).starts_with(begin)) << name;
+        EXPECT_TRUE(run.Output.starts_with("Forecasts from "));
+    }
+    EXPECT_NE(folder.Read("plot.svg").find("Search of 3 cycles"), std::string::npos);
+}
+
+TEST(EvaluateCommand, PrintsItsTableWhenThePlotCannotBeWritten) {
+    TemporaryFolder const folder;
+    std::string const path = folder.File("nowhere/plot.svg");
+    auto const run = RunCompanion({"evaluate", Contract, "--every", "50", "--plot", path});
+    EXPECT_EQ(run.ExitStatus, 1);
+    EXPECT_EQ(run.Errors, "quorvex-cli: " + path + ": Path not found\n");
+    EXPECT_TRUE(run.Output.starts_with("Forecasts from "));
+}
+
+#else
+
+TEST(EvaluateCommand, DrawsNoPlotWithoutQt) {
+    auto const run = RunCompanion({"evaluate", Contract, "--plot", "plot.png"});
+    EXPECT_EQ(run.ExitStatus, 2);
+    EXPECT_NE(run.Errors.find("this program was built without Qt and draws no pictures"), std::string::npos);
+}
+
+#endif
+
+} // namespace
+} // namespace quorvex::tests

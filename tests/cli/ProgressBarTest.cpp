@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/ProgressBar.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace quorvex::cli {
+namespace {
+
+class ErrorConsole final : public platform::Console {
+public:
+    explicit ErrorConsole(bool shows) : shows_(shows) {}
+
+    [[nodiscard]] bool IsTerminal() const override { return false; }
+
+    [[nodiscard]] bool ShowsErrors() const override { return shows_; }
+
+    [[nodiscard]] int Width() const override { return 80; }
+
+private:
+    bool shows_;
+};
+
+std::string ErrorsOf(bool shows) {
+    testing::internal::CaptureStderr();
+    {
+        ErrorConsole const console(shows);
+        ProgressBar bar(console);
+        for (double const share : {0.0, 0.004, 0.5, 1.0}) {
+            bar.Show(share);
+        }
+    }
+    return testing::internal::GetCapturedStderr();
+}
+
+TEST(ProgressBar, GrowsAndIsGoneInTheEnd) {
+    EXPECT_EQ(ErrorsOf(true), "\r[" + std::string(40, '.') + "] 0 %" + "\r[" + std::string(20, '#') +
+                                  std::string(20, '.') + "] 50 %" + "\r[" + std::string(40, '#') + "] 100 %" +
+                                  '\r' + std::string(48, ' ') + '\r');
+}
+
+TEST(ProgressBar, IsNotThereWhereNobodyLooks) {
+    EXPECT_EQ(ErrorsOf(false), "");
+}
+
+} // namespace
+} // namespace quorvex::cli

@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "evaluation/basEvaluationPlot.h"
+
+#include "MadeSeries.h"
+#include "evaluation/basEvaluation.h"
+#include "platform/RecordingCanvas.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace quorvex::evaluation {
+namespace {
+
+using platform::DrawingOperation;
+using platform::RecordingCanvas;
+
+Evaluation SomeEvaluation(std::vector<double> const& closes) {
+    EvaluationRequest request;
+    request.Models = {{Method::Automate, 1}, {Method::Search, 3}, {Method::Search, 1}};
+    request.MovingAverageLength = 5;
+    request.SampleCount = 50;
+    request.SurrogateCount = 0;
+    return Evaluate(*tests::SeriesOfCloses(closes), request, [](double) { return true; }).Result.value();
+}
+
+struct PrintedText {
+    double X = 0;
+    double Y = 0;
+    std::string Text;
+};
+
+std::vector<PrintedText> TextsOf(RecordingCanvas const& canvas) {
+    std::vector<PrintedText> texts;
+    double x = 0;
+    double y = 0;
+    for (DrawingOperation const& operation : canvas.Operations()) {
+        if (operation.What == DrawingOperation::Kind::TextPosition) {
+            x = operation.Coordinates[0];
+            y = operation.Coordinates[1];
+        } else if (operation.What == DrawingOperation::Kind::Print) {
+            texts.push_back({x, y, operation.Text});
+        }
+    }
+    return texts;
+}
+
+bool Overlap(RecordingCanvas const& canvas, PrintedText const& a, PrintedText const& b) {
+    double const height = canvas.TextHeight();
+    return a.X < b.X + canvas.TextWidth(b.Text) && b.X < a.X + canvas.TextWidth(a.Text) &&
+           a.Y < b.Y + height && b.Y < a.Y + height;
+}
+
+int CountLines(RecordingCanvas const& canvas, platform::Colour colour) {
+    int count = 0;
+    for (DrawingOperation const& operation : canvas.Operations()) {
+        bool const isLine = operation.What == DrawingOperation::Kind::Line;
+        count += isLine && operation.Drawn == colour ? 1 : 0;
+    }
+    return count;
+}
+
+TEST(EvaluationPlot, HasAllItsTextsInsideAndApart) {
+    Evaluation const evaluation = SomeEvaluation(tests::CyclicCloses(250, 1));
+    RecordingCanvas canvas(PlotWidth, PlotHeight);
+    DrawEvaluation(canvas, evaluation, {1, ForecastKind::Composite});
+    auto const texts = TextsOf(canvas);
+    std::set<std::string> words;
+    for (std::size_t index = 0; index < texts.size(); ++index) {
+        words.insert(texts[index].Text);
+        EXPECT_GE(texts[index].X, 0) << texts[index].Text;
+        EXPECT_GE(texts[index].Y, 0) << texts[index].Text;
+        EXPECT_LE(texts[index].X + canvas.TextWidth(texts[index].Text), PlotWidth) << texts[index].Text;
+        EXPECT_LE(texts[index].Y + canvas.TextHeight(), PlotHeight) << texts[index].Text;
+        for (std::size_t other = 0; other < index; ++other) {
+            EXPECT_FALSE(Overlap(canvas, texts[index], texts[other]))
+                << texts[index].Text << " on " << texts[other].Text;
+        }
+    }
+    for (auto const* word : {"Drift", "Fit of 1 cycle", "Search of 3 cycles", "1 day ahead", "25 days ahead",
+                             "0.5", "4", "window", "composite", "scaled", "01/02/03", "500"}) {
+        EXPECT_TRUE(words.contains(word)) << word;
+    }
+}
+
+TEST(EvaluationPlot, DrawsEveryForecastOfTheChoiceAndTheCloses) {
+    Evaluation evaluation = SomeEvaluation(tests::WalkingCloses(200, 2));
+    evaluation.Origins[1].Forecasts[1].Prices = {}; // a fault
+    RecordingCanvas canvas(PlotWidth, PlotHeight);
+    DrawEvaluation(canvas, evaluation, {1, ForecastKind::Composite});
+    constexpr platform::Colour Composite = 0x0000C0;
+    RecordingCanvas other(PlotWidth, PlotHeight);
+    DrawEvaluation(other, evaluation, {1, ForecastKind::Window});
+    auto const forecasts = static_cast<int>(evaluation.Origins.size()) - 1;
+    EXPECT_EQ(CountLines(canvas, Composite) - CountLines(other, Composite),
+              forecasts * 25 + 1); // and the sample of the legend
+    // A forecast begins at the close of its origin.
+    EXPECT_GE(CountLines(canvas, platform::Black), 199);
+}
+
+TEST(EvaluationPlot, StaysEmptyWithoutRoom) {
+    Evaluation const evaluation = SomeEvaluation(tests::WalkingCloses(200, 3));
+    for (auto const& [width, height] : {std::pair{100.0, 100.0}, {PlotWidth, 3000.0}, {2000.0, PlotHeight}}) {
+        RecordingCanvas canvas(width, height);
+        DrawEvaluation(canvas, evaluation, {0, ForecastKind::Window});
+        EXPECT_TRUE(TextsOf(canvas).empty());
+    }
+}
+
+TEST(EvaluationPlot, LabelsSmallAndLargePrices) {
+    for (double const factor : {1e-5, 1e9}) {
+        auto closes = tests::WalkingCloses(200, 4);
+        for (double& close : closes) {
+            close *= factor;
+        }
+        auto series = tests::SeriesOfCloses(closes);
+        for (int day = 1; day <= series->WorkingCount; ++day) {
+            series->Working[day].High = series->Working[day].Close + factor;
+            series->Working[day].Low = series->Working[day].Close - factor;
+        }
+        EvaluationRequest request;
+        request.Models = {{Method::Search, 1}};
+        request.SampleCount = 10;
+        request.SurrogateCount = 0;
+        auto const outcome = Evaluate(*series, request, [](double) { return true; });
+        RecordingCanvas canvas(PlotWidth, PlotHeight);
+        DrawEvaluation(canvas, *outcome.Result, {0, ForecastKind::Scaled});
+        auto const texts = TextsOf(canvas);
+        EXPECT_GT(texts.size(), 30U);
+        std::set<std::string> prices;
+        for (PrintedText const& text : texts) {
+            prices.insert(text.Text);
+        }
+        EXPECT_TRUE(prices.contains(factor < 1 ? "0.0100" : "1000000000000"))
+            << testing::PrintToString(prices);
+    }
+}
+
+TEST(EvaluationPlot, ChoosesWhatIsBetterThanTheLastClose) {
+    Evaluation evaluation = SomeEvaluation(tests::WalkingCloses(200, 5));
+    for (ModelReport& model : evaluation.Models) {
+        for (KindReport& kind : model.ByKind) {
+            for (HorizonReport& report : kind.ByHorizon) {
+                report.IsBetter = false;
+            }
+        }
+    }
+    EXPECT_EQ(ChooseFan(evaluation).Model, 1U); // the search of three cycles
+    EXPECT_EQ(ChooseFan(evaluation).Kind, ForecastKind::Composite);
+    auto const improve = [&evaluation](std::size_t model, ForecastKind kind, double chance) {
+        HorizonReport& report =
+            evaluation.Models.at(model).ByKind.at(static_cast<std::size_t>(kind)).ByHorizon.at(3);
+        report.IsBetter = true;
+        report.Chance = chance;
+    };
+    improve(0, ForecastKind::Scaled, 0.02);
+    improve(2, ForecastKind::Window, 0.01);
+    EXPECT_EQ(ChooseFan(evaluation).Model, 2U);
+    EXPECT_EQ(ChooseFan(evaluation).Kind, ForecastKind::Window);
+}
+
+TEST(EvaluationPlot, WithoutThatChoosesTheParametersOrTheLastModel) {
+    Evaluation evaluation;
+    evaluation.Models.resize(2);
+    evaluation.Models[0].Model = {Method::Search, 3};
+    evaluation.Models[1].Model = {Method::Parameters, 0};
+    EXPECT_EQ(ChooseFan(evaluation).Model, 1U);
+    evaluation.Models[0].Model = {Method::Automate, 1};
+    evaluation.Models[1].Model = {Method::Automate, 2};
+    EXPECT_EQ(ChooseFan(evaluation).Model, 1U);
+}
+
+} // namespace
+} // namespace quorvex::evaluation

@@ -1,0 +1,264 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "evaluation/basEvaluation.h"
+
+#include "MadeSeries.h"
+#include "evaluation/basVerdicts.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <random>
+
+namespace quorvex::evaluation {
+namespace {
+
+using tests::CyclicCloses;
+using tests::SeriesOfCloses;
+using tests::WalkingCloses;
+
+bool GoToTheEnd(double) {
+    return true;
+}
+
+// Few models and samples.
+EvaluationRequest SmallRequest() {
+    EvaluationRequest request;
+    request.Models = {{Method::Automate, 1}, {Method::Search, 1}, {Method::Search, 2}};
+    request.MovingAverageLength = 5;
+    request.SampleCount = 100;
+    request.SurrogateCount = 0;
+    return request;
+}
+
+Evaluation EvaluationOf(quotes::QuoteSeries const& series, EvaluationRequest const& request) {
+    auto outcome = Evaluate(series, request, GoToTheEnd);
+    EXPECT_EQ(outcome.Refusal, "");
+    return outcome.Result.value();
+}
+
+bool AreSame(std::vector<ModelForecast> const& a, std::vector<ModelForecast> const& b) {
+    bool same = a.size() == b.size();
+    for (std::size_t model = 0; same && model < a.size(); ++model) {
+        same = a[model].Fault == b[model].Fault;
+        for (ForecastKind const kind : ForecastKinds) {
+            auto const& x = a[model].Of(kind);
+            auto const& y = b[model].Of(kind);
+            same = same && x.has_value() == y.has_value();
+            for (int day = 1; same && x && day <= cycles::ForecastDays; ++day) {
+                same = (*x)[day] == (*y)[day];
+            }
+        }
+    }
+    return same;
+}
+
+std::string TextOf(Evaluation const& evaluation) {
+    std::string text = DescribeTest(evaluation);
+    for (TableRow const& row : TableRows(evaluation)) {
+        text += row.Model + row.Kind + row.Days + row.Error + row.Right + row.Correlation + row.Chance + '\n';
+    }
+    for (ModelReport const& model : evaluation.Models) {
+        text += model.Verdict + '\n';
+    }
+    for (std::string const& line : SurrogateLines(evaluation)) {
+        text += line + '\n';
+    }
+    return text;
+}
+
+TEST(Evaluate, NoLaterDayChangesAnEarlierForecast) {
+    auto const parameters = std::make_unique<cycles::CycleParameterSet>();
+    parameters->Cycles[1].Weight = 100;
+    parameters->Cycles[1].Period = 33;
+    EvaluationRequest request = SmallRequest();
+    request.Models = {
+        {Method::Automate, 1}, {Method::Automate, 2}, {Method::Search, 1}, {Method::Parameters, 0}};
+    request.Parameters = parameters.get();
+    request.SampleCount = 1;
+    std::mt19937 random(1);
+    int compared = 0;
+    for (int round = 0; round < 1000; ++round) {
+        SCOPED_TRACE(round);
+        request.Every = 1 + static_cast<int>(random() % 7);
+        auto const seed = static_cast<std::uint32_t>(random());
+        auto closes = WalkingCloses(127 + static_cast<int>(random() % 12), seed);
+        auto const before = SeriesOfCloses(closes);
+        // From some day on everything is another, and there are more days or fewer.
+        std::size_t const known = 100 + random() % 20;
+        closes.resize(std::max<std::size_t>(known, 127 + random() % 12), 1);
+        for (std::size_t day = known; day < closes.size(); ++day) {
+            closes[day] = 1 + static_cast<double>(random() % 5000);
+        }
+        auto const after = SeriesOfCloses(closes);
+        Evaluation const first = EvaluationOf(*before, request);
+        Evaluation const second = EvaluationOf(*after, request);
+        for (Origin const& a : first.Origins) {
+            for (Origin const& b : second.Origins) {
+                if (a.Day == b.Day && static_cast<std::size_t>(a.Day) <= known) {
+                    EXPECT_TRUE(AreSame(a.Forecasts, b.Forecasts)) << a.Day;
+                    ++compared;
+                }
+            }
+        }
+    }
+    EXPECT_GE(compared, 1000);
+}
+
+TEST(Evaluate, GivesTheSameWithAnyNumberOfThreads) {
+    auto const series = SeriesOfCloses(CyclicCloses(200, 2));
+    EvaluationRequest request = SmallRequest();
+    request.SurrogateCount = 10;
+    auto const one = EvaluationOf(*series, request);
+    for (int const jobs : {2, 3, 50}) {
+        request.Jobs = jobs;
+        auto const more = EvaluationOf(*series, request);
+        EXPECT_EQ(TextOf(more), TextOf(one));
+        ASSERT_EQ(more.Origins.size(), one.Origins.size());
+        for (std::size_t origin = 0; origin < one.Origins.size(); ++origin) {
+            EXPECT_TRUE(AreSame(more.Origins[origin].Forecasts, one.Origins[origin].Forecasts));
+        }
+    }
+}
+
+TEST(Evaluate, FindsTheSkillOfCyclesThatAreThere) {
+    Evaluation const evaluation = EvaluationOf(*SeriesOfCloses(CyclicCloses(300, 3)), SmallRequest());
+    ModelReport const& search = evaluation.Models.at(2);
+    EXPECT_TRUE(search.Of(ForecastKind::Scaled).ByHorizon.at(2).IsBetter);
+    EXPECT_TRUE(search.Verdict.starts_with("better than the last close: ")) << search.Verdict;
+    EXPECT_EQ(evaluation.Models.front().Verdict, "no better than the last close");
+}
+
+TEST(Evaluate, ClaimsNothingOfAWalk) {
+    Evaluation const evaluation = EvaluationOf(*SeriesOfCloses(WalkingCloses(300, 4)), SmallRequest());
+    for (ModelReport const& model : evaluation.Models) {
+        EXPECT_EQ(model.Verdict, "no better than the last close");
+    }
+}
+
+TEST(Evaluate, DriftIsTheMeanChangeSoFar) {
+    std::vector<double> closes;
+    for (int day = 0; day < 200; ++day) {
+        closes.push_back(100 + day);
+    }
+    Evaluation const evaluation = EvaluationOf(*SeriesOfCloses(closes), SmallRequest());
+    for (std::size_t index = 0; index < Horizons.size(); ++index) {
+        EXPECT_DOUBLE_EQ(evaluation.LastCloseError.at(index), Horizons.at(index));
+        EXPECT_NEAR(evaluation.Drift.at(index).Figures.ErrorRatio.value(), 0, 1e-12);
+        EXPECT_EQ(evaluation.Drift.at(index).Chance, std::nullopt);
+    }
+}
+
+TEST(Evaluate, ComparesWithTheCloseOfTheHorizon) {
+    auto const closes = WalkingCloses(160, 5);
+    Evaluation const evaluation = EvaluationOf(*SeriesOfCloses(closes), SmallRequest());
+    double error = 0;
+    double errorOfLastClose = 0;
+    for (Origin const& origin : evaluation.Origins) {
+        auto const day = static_cast<std::size_t>(origin.Day);
+        auto const& prices = origin.Forecasts.at(1).Of(ForecastKind::Composite);
+        error += std::fabs(closes.at(day + 9) - (*prices)[10]);
+        errorOfLastClose += std::fabs(closes.at(day + 9) - closes.at(day - 1));
+    }
+    KindReport const& report = evaluation.Models.at(1).Of(ForecastKind::Composite);
+    EXPECT_EQ(report.ForecastCount, static_cast<int>(evaluation.Origins.size()));
+    EXPECT_NEAR(report.ByHorizon.at(2).Figures.ErrorRatio.value(), error / errorOfLastClose, 1e-12);
+}
+
+TEST(Evaluate, CountsOriginsWithoutAForecastAndGoesOnWithTheOthers) {
+    // Level for the first origins.
+    auto closes = WalkingCloses(200, 6);
+    std::fill(closes.begin(), closes.begin() + 122, 1000.0);
+    Evaluation const evaluation = EvaluationOf(*SeriesOfCloses(closes), SmallRequest());
+    ModelReport const& fit = evaluation.Models.at(0);
+    ModelReport const& search = evaluation.Models.at(1);
+    EXPECT_EQ(fit.Faults.at("Division by zero"), 5); // days 100, 105 .. 120
+    EXPECT_EQ(search.Faults.at("The moving average does not change: there is no cycle in it"), 5);
+    EXPECT_EQ(search.Of(ForecastKind::Window).ForecastCount, static_cast<int>(evaluation.Origins.size()) - 5);
+}
+
+TEST(Evaluate, ReportsTheSurrogatesOfItsSearches) {
+    EvaluationRequest request = SmallRequest();
+    request.SurrogateCount = 12;
+    Evaluation const evaluation = EvaluationOf(*SeriesOfCloses(CyclicCloses(130, 7)), request);
+    EXPECT_EQ(evaluation.SurrogateCount, 12);
+    ASSERT_EQ(evaluation.Surrogates.size(), 2U);
+    EXPECT_EQ(evaluation.Surrogates[0].CycleCount, 1);
+    EXPECT_EQ(evaluation.Surrogates[1].CycleCount, 2);
+    EXPECT_GE(evaluation.Surrogates[1].Correlation, evaluation.Surrogates[0].Correlation);
+    EXPECT_GT(evaluation.Surrogates[1].Correlation, 0.8);
+    EXPECT_LE(evaluation.Surrogates[1].AsWell, 12);
+}
+
+TEST(Evaluate, WithoutSurrogatesOrSearchesThereIsNoReportOfThem) {
+    auto const series = SeriesOfCloses(CyclicCloses(130, 8));
+    EXPECT_TRUE(EvaluationOf(*series, SmallRequest()).Surrogates.empty());
+    EvaluationRequest request = SmallRequest();
+    request.Models = {{Method::Automate, 1}};
+    request.SurrogateCount = 5;
+    Evaluation const evaluation = EvaluationOf(*series, request);
+    EXPECT_TRUE(evaluation.Surrogates.empty());
+    EXPECT_EQ(evaluation.SurrogateCount, 0);
+}
+
+TEST(Evaluate, RefusesTooFewDays) {
+    auto const outcome = Evaluate(*SeriesOfCloses(WalkingCloses(124, 9)), SmallRequest(), GoToTheEnd);
+    EXPECT_FALSE(outcome.Result);
+    EXPECT_EQ(outcome.Refusal, "Forecasts are tested on 125 days at least; there are 124");
+}
+
+TEST(Evaluate, TestsNothingOnOneOrigin) {
+    Evaluation const evaluation = EvaluationOf(*SeriesOfCloses(WalkingCloses(125, 10)), SmallRequest());
+    EXPECT_EQ(evaluation.Origins.size(), 1U);
+    for (ModelReport const& model : evaluation.Models) {
+        EXPECT_EQ(model.Verdict, "not tested: 1 forecast is too few");
+        EXPECT_FALSE(model.Of(ForecastKind::Window).ByHorizon.at(0).Intervals.ErrorRatio);
+    }
+}
+
+TEST(Evaluate, RefusesConstantCloses) {
+    auto const outcome = Evaluate(*SeriesOfCloses(std::vector<double>(200, 7)), SmallRequest(), GoToTheEnd);
+    EXPECT_FALSE(outcome.Result);
+    EXPECT_EQ(outcome.Refusal, "The closes do not change: there is nothing to forecast");
+}
+
+TEST(Evaluate, RefusesPricesWhoseSquaresLeaveTheRange) {
+    auto const series = SeriesOfCloses(WalkingCloses(200, 13));
+    series->Working[17].High = 2e100;
+    auto const outcome = Evaluate(*series, SmallRequest(), GoToTheEnd);
+    EXPECT_FALSE(outcome.Result);
+    EXPECT_EQ(outcome.Refusal, "The prices are too large to be tested");
+}
+
+TEST(Evaluate, RefusesAMovingAverageLongerThanTheDaysBeforeTheFirstForecast) {
+    auto const series = SeriesOfCloses(WalkingCloses(200, 11));
+    EvaluationRequest request = SmallRequest();
+    request.MovingAverageLength = 103;
+    auto const outcome = Evaluate(*series, request, GoToTheEnd);
+    EXPECT_FALSE(outcome.Result);
+    EXPECT_EQ(outcome.Refusal,
+              "A moving average of 103 days does not fit into the 100 days before the first forecast");
+    request.MovingAverageLength = 101;
+    EXPECT_TRUE(Evaluate(*series, request, GoToTheEnd).Result);
+}
+
+TEST(Evaluate, TellsItsProgressAndEndsWhenTheWatchSaysSo) {
+    auto const series = SeriesOfCloses(WalkingCloses(500, 12));
+    EvaluationRequest request;
+    request.MovingAverageLength = 5;
+    request.Jobs = 2;
+    auto const start = std::chrono::steady_clock::now();
+    auto const outcome = Evaluate(*series, request, [](double share) {
+        EXPECT_GE(share, 0);
+        EXPECT_LE(share, 1);
+        return false;
+    });
+    EXPECT_FALSE(outcome.Result);
+    EXPECT_EQ(outcome.Refusal, "");
+    // Five times what Cancel may take, for a busy machine.
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+}
+
+} // namespace
+} // namespace quorvex::evaluation
