@@ -20,6 +20,8 @@ public:
     }
 
     [[nodiscard]] std::string AskForFile(platform::FileQuestion const&) override { return {}; }
+
+    [[nodiscard]] std::string AskWhereToSave(platform::SaveQuestion const&) override { return {}; }
 };
 
 } // namespace quorvex::bench

@@ -15,6 +15,7 @@ enum class SecondaryWindow {
     ConvertCustom,
     Properties,
     Forecast,
+    FindCycles,
     Preferences,
     Legend,
     Help,

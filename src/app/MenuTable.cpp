@@ -4,6 +4,7 @@
 #include "app/MenuTable.h"
 
 #include "app/basCommands.h"
+#include "app/basCycleCommands.h"
 
 #include <algorithm>
 #include <array>
@@ -82,6 +83,13 @@ constexpr auto Menu = std::to_array<MenuRow>({
     {"mnuHelpAbout", "&About Quorvex", "mnuHelp", HelpAbout},
 });
 
+constexpr auto ChartMenu = std::to_array<MenuRow>({
+    {"mnuChartFindCycles", "&Find Best Cycles...", "Pic2", FindBestCycles},
+    {"mnuChartWriteParameters", "&Write Parameter File...", "Pic2", WriteParameterFile},
+    {"mnuChartFindCycles", "&Find Best Cycles...", "Pic3", FindBestCycles},
+    {"mnuChartWriteParameters", "&Write Parameter File...", "Pic3", WriteParameterFile},
+});
+
 constexpr auto Tools = std::to_array<ToolRow>({
     {"imgOpen", "Open", "mnuFileOpen"},
     {"imgClose", "Close", "mnuFileClose"},
@@ -99,6 +107,10 @@ std::span<MenuRow const> MenuTable() {
 
 MenuRow const& MenuRowNamed(std::string_view name) {
     return *std::ranges::find(Menu, name, &MenuRow::Name);
+}
+
+std::span<MenuRow const> ChartMenuTable() {
+    return ChartMenu;
 }
 
 std::span<ToolRow const> ToolTable() {

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-// The menu of the main window and what each of its items does, and the images of the tool strip.
+// The menu of the main window and what each of its items does, the images of the tool strip, and what the
+// context menus of the charts add.
 #pragma once
 
 #include "app/Program.h"
@@ -29,6 +30,9 @@ struct MenuRow {
 
 // The row of this name. REQUIRES: there is one.
 [[nodiscard]] MenuRow const& MenuRowNamed(std::string_view name);
+
+// What the context menus of the charts have besides Copy and Save, in order. The parent is the chart's box.
+[[nodiscard]] std::span<MenuRow const> ChartMenuTable();
 
 // One image of the tool strip: it does what its menu item does.
 struct ToolRow {

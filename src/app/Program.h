@@ -19,8 +19,10 @@
 #include "platform/Profile.h"
 #include "platform/Registry.h"
 #include "quotes/QuoteSeries.h"
+#include "search/CycleModel.h"
 #include "settings/Settings.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -34,8 +36,10 @@ struct Program {
     quotes::QuoteSeries Quotes;
     cycles::CycleParameterSet Cycles;
     cycles::CycleCurves Curves; // of the last redraw
-    std::string HelpFileName;   // the document that the help window shows, without folder
-    std::string ProgramFolder;  // where the program keeps its files
+    std::optional<search::CycleModel>
+        FoundModel;            // what the search window was left with, nothing after Cancel
+    std::string HelpFileName;  // the document that the help window shows, without folder
+    std::string ProgramFolder; // where the program keeps its files
 };
 
 // What the charts are drawn and read from.

@@ -25,4 +25,8 @@ std::string ConsoleDialogs::AskForFile(platform::FileQuestion const&) {
     return {};
 }
 
+std::string ConsoleDialogs::AskWhereToSave(platform::SaveQuestion const&) {
+    return {};
+}
+
 } // namespace quorvex::cli

@@ -20,6 +20,7 @@ public:
     [[nodiscard]] std::optional<std::string> Choose(platform::FileKind kind,
                                                     std::span<std::string const> names) override;
     [[nodiscard]] std::string AskForFile(platform::FileQuestion const& question) override;
+    [[nodiscard]] std::string AskWhereToSave(platform::SaveQuestion const& question) override;
 
     // Whether the program had to say something.
     [[nodiscard]] bool HasShown() const { return hasShown_; }

@@ -3,6 +3,7 @@
 
 #include "cycles/basParameters.h"
 
+#include "platform/basFiles.h"
 #include "platform/basMessages.h"
 #include "text/basFolders.h"
 #include "text/basNumbers.h"
@@ -101,6 +102,35 @@ void SaveParametersAs(CycleParameterSet const& set, ParameterGrid const& grid, p
         platform::ShowWarning(dialogs, "Invalid cycle parameters file (*.dat)");
     }
     dialogs.Show({"Cycle parameters file " + set.ParameterFileName + " successfully saved", "Save As..."});
+}
+
+void WriteParameterFile(CycleParameterSet const& set, ParameterGrid const& grid,
+                        std::string_view programFolder, platform::Files& files, platform::Dialogs& dialogs) {
+    if (!RequireWeights(grid, dialogs)) {
+        return;
+    }
+    std::string_view const opened = platform::BareName(set.ParameterFileName);
+    platform::SaveQuestion question{.Title = "Write Parameter File",
+                                    .Folder = std::string(programFolder),
+                                    .Name = std::string(opened.empty() ? "Cycles.dat" : opened),
+                                    .Filter = "Cycle Parameters (*.dat)|*.dat",
+                                    .Ending = "dat"};
+    for (;;) {
+        std::string path = dialogs.AskWhereToSave(question);
+        if (path.empty()) {
+            return;
+        }
+        if (!IsParameterFileName(path)) {
+            path += ".dat"; // behind another ending, too: the chooser lists no other files
+        }
+        std::string const name(platform::BareName(path));
+        if (!platform::IsThere(files, path) || platform::MayReplace(dialogs, name, question.Title)) {
+            files.Replace(path, ParameterFileText(grid));
+            return;
+        }
+        question.Folder = path.substr(0, path.size() - name.size());
+        question.Name = name;
+    }
 }
 
 bool IsParameterFileName(std::string_view name) {

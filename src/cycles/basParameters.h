@@ -38,12 +38,17 @@ bool ReadParameterFile(std::string const& path, CycleParameterSet& set, platform
 void OpenParameters(CycleParameterSet& set, ParameterGrid& grid, std::string_view programFolder,
                     platform::Files const& files, platform::Dialogs& dialogs);
 
-// Checks that there is something to save. Parameter files are only ever read by the program: no file is
-// written (docs/behaviour.md).
+// Checks that there is something to save, and writes no file (docs/behaviour.md).
 void SaveParameters(ParameterGrid const& grid, platform::Dialogs& dialogs);
 
 // As SaveParameters, asking for a name until one is good or empty, and reporting the current name as saved.
 void SaveParametersAs(CycleParameterSet const& set, ParameterGrid const& grid, platform::Dialogs& dialogs);
+
+// Writes what the grid holds into a parameter file that the user names, first of all in the program folder,
+// where OpenParameters finds it; ".dat" completes a name that lacks it, and an existing file is replaced only
+// when the user agrees. Refuses like SaveParameters. Raises the faults of Files.
+void WriteParameterFile(CycleParameterSet const& set, ParameterGrid const& grid,
+                        std::string_view programFolder, platform::Files& files, platform::Dialogs& dialogs);
 
 // Whether a name is one that parameters can be saved under: five characters at least, ending with ".DAT" in
 // either case.

@@ -38,6 +38,15 @@ struct FileQuestion {
     std::string Filter; // description|pattern, all joined by "|", first one chosen
 };
 
+// A dialog that names a file to write, as it is at first.
+struct SaveQuestion {
+    std::string Title;
+    std::string Folder; // as above
+    std::string Name;   // in the name box
+    std::string Filter; // as above
+    std::string Ending; // without the point; of a name that is typed without one
+};
+
 enum class PrintRange { All, Selection };
 
 // The host's print dialog for a document. Whoever prints the document makes it; Dialogs decides whether it is
@@ -79,6 +88,10 @@ public:
 
     // The host's own file dialog: the whole path of an existing file, empty when it was cancelled.
     [[nodiscard]] virtual std::string AskForFile(FileQuestion const& question) = 0;
+
+    // The host's own file dialog: the whole path of a file to write, empty when it was cancelled. Whether an
+    // existing file may be replaced is asked by whoever writes it.
+    [[nodiscard]] virtual std::string AskWhereToSave(SaveQuestion const& question) = 0;
 
     // The host's own print dialog: what to print of the document, nothing when it was cancelled.
     [[nodiscard]] virtual std::optional<PrintRange> AskWhatToPrint(PrintDialog& dialog) {

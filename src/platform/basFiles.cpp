@@ -40,6 +40,13 @@ std::string ReadFileIfThere(Files const& files, std::string const& path) {
     return content;
 }
 
+bool IsThere(Files const& files, std::string const& path) {
+    auto const error = text::Trap([&] { static_cast<void>(files.Length(path)); });
+    return !error ||
+           (error->Kind() != text::Fault::FileNotFound && error->Kind() != text::Fault::PathNotFound &&
+            error->Kind() != text::Fault::BadFileName);
+}
+
 std::string_view BareName(std::string_view path) {
     return path.substr(path.find_last_of(FolderEnds) + 1); // 0 when there is none
 }

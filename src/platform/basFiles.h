@@ -17,6 +17,9 @@ namespace quorvex::platform {
 // The same; the empty text when there is no such file in its folder.
 [[nodiscard]] std::string ReadFileIfThere(Files const& files, std::string const& path);
 
+// Whether something has this name, be it a file that cannot be read.
+[[nodiscard]] bool IsThere(Files const& files, std::string const& path);
+
 // The name of the file without its folder: what stands behind the last separator of this system.
 [[nodiscard]] std::string_view BareName(std::string_view path);
 

@@ -19,4 +19,9 @@ void ShowError(Dialogs& dialogs, text::RunTimeError const& error) {
     dialogs.Show(ErrorMessage(error));
 }
 
+bool MayReplace(Dialogs& dialogs, std::string_view fileName, std::string_view title) {
+    return dialogs.Show({std::string(fileName) + " already exists.\nDo you want to replace it?",
+                         std::string(title), Icon::Exclamation, Buttons::YesNo}) == Answer::Yes;
+}
+
 } // namespace quorvex::platform

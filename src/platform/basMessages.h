@@ -23,6 +23,9 @@ void ShowWarning(Dialogs& dialogs, std::string_view text);
 
 void ShowError(Dialogs& dialogs, text::RunTimeError const& error);
 
+// Asks whether the existing file may be replaced. The title is that of the dialog which named it.
+[[nodiscard]] bool MayReplace(Dialogs& dialogs, std::string_view fileName, std::string_view title);
+
 // Runs the routine under an error trap and shows the fault that ended it. Returns whether there was none.
 template <class Routine>
 bool RunReported(Dialogs& dialogs, Routine&& routine) {

@@ -267,7 +267,7 @@ CycleModel ModelOf(WholeSet const& set, Pursuit const& pursuit) {
 } // namespace
 
 std::vector<CycleModel> CycleSearch::Find(std::span<double const> series, int cycleCount, Effort effort,
-                                          GoOn const& goOn) {
+                                          GoOn const& goOn, TakeModel const& take) {
     std::vector<double> const normalised = Normalised(series);
     if (normalised.empty()) {
         return {};
@@ -283,6 +283,9 @@ std::vector<CycleModel> CycleSearch::Find(std::span<double const> series, int cy
             return {};
         }
         models.push_back(ModelOf(climbing.Best(), climbing.UsedPursuit()));
+        if (take) {
+            take(models.back());
+        }
     }
     return models;
 }

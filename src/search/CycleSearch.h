@@ -29,9 +29,9 @@ public:
     // The best models of 1, 2 .. so many cycles, each as good as the one before or better; one that found no
     // further cycle that helps is the one before. The models of fewer cycles do not depend on how many are
     // asked for. Nothing at all for a series without a change or that no wave of the periods follows, and
-    // when the search was ended.
+    // when the search was ended; what was found until then has been told.
     [[nodiscard]] std::vector<CycleModel> Find(std::span<double const> series, int cycleCount, Effort effort,
-                                               GoOn const& goOn);
+                                               GoOn const& goOn, TakeModel const& take = {});
 
 private:
     Sinusoids waves_;

@@ -3,8 +3,13 @@
 
 #include "search/basSearch.h"
 
+#include "cycles/CycleParameterSet.h"
+#include "cycles/basCorrel.h"
+#include "cycles/basCurves.h"
+
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <numeric>
 
 namespace quorvex::search {
@@ -79,7 +84,8 @@ std::vector<double> WithoutLine(std::span<double const> series) {
     return rest;
 }
 
-SearchOutcome SearchSeries(std::span<double const> series, SearchRequest const& request, GoOn const& goOn) {
+SearchOutcome SearchSeries(std::span<double const> series, SearchRequest const& request, GoOn const& goOn,
+                           TakeModel const& take) {
     auto const days = static_cast<int>(series.size());
     std::vector<int> const periods = PeriodsOf(request, days);
     if (periods.empty()) {
@@ -94,7 +100,7 @@ SearchOutcome SearchSeries(std::span<double const> series, SearchRequest const& 
         return !isEnded;
     };
     SearchOutcome outcome{
-        CycleSearch(days, periods).Find(searched, request.CycleCount, request.HowHard, follow), {}};
+        CycleSearch(days, periods).Find(searched, request.CycleCount, request.HowHard, follow, take), {}};
     if (outcome.Models.empty() && !isEnded) {
         outcome.Refusal = RefusalOf(searched, request, days);
     }
@@ -103,11 +109,33 @@ SearchOutcome SearchSeries(std::span<double const> series, SearchRequest const& 
 
 SearchOutcome SearchMovingAverage(cycles::CycleCurves const& curves, std::int16_t workingCount,
                                   SearchRequest const& request, GoOn const& goOn) {
+    return SearchSeries(MovingAverageSeries(curves, workingCount), request, goOn);
+}
+
+std::vector<double> MovingAverageSeries(cycles::CycleCurves const& curves, std::int16_t workingCount) {
     std::vector<double> series;
     for (int day = 1; day <= workingCount; ++day) {
         series.push_back(curves.MovingAverageCurve[day]);
     }
-    return SearchSeries(series, request, goOn);
+    return series;
+}
+
+GridComposite CompositeInGrid(CycleModel const& model, cycles::CycleCurves const& curves,
+                              std::int16_t workingCount) {
+    cycles::TextGrid grid;
+    WriteModel(model, grid);
+    platform::NoPendingMessages pending;
+    auto const set = std::make_unique<cycles::CycleParameterSet>();
+    cycles::ReadGrid(grid, *set, pending);
+    auto const computed = std::make_unique<cycles::CycleCurves>(curves);
+    cycles::ComputeCycleValues(*set, workingCount);
+    cycles::ComputeComposite(*set, workingCount, computed->CompositeCurve);
+    GridComposite composite{cycles::CoefficientOfCorrelation(*computed, workingCount), 0, 0};
+    for (int day = 1; day <= workingCount; ++day) {
+        composite.Lowest = std::min(composite.Lowest, computed->CompositeCurve[day]);
+        composite.Highest = std::max(composite.Highest, computed->CompositeCurve[day]);
+    }
+    return composite;
 }
 
 void WriteModel(CycleModel const& model, cycles::ParameterGrid& grid) {

@@ -44,11 +44,28 @@ struct SearchOutcome {
 
 // Searches a series of daily values. REQUIRES: one value at least; all are finite.
 [[nodiscard]] SearchOutcome SearchSeries(std::span<double const> series, SearchRequest const& request,
-                                         GoOn const& goOn);
+                                         GoOn const& goOn, TakeModel const& take = {});
+
+// The moving average of the working days.
+[[nodiscard]] std::vector<double> MovingAverageSeries(cycles::CycleCurves const& curves,
+                                                      std::int16_t workingCount);
 
 // Searches the moving average of the working days.
 [[nodiscard]] SearchOutcome SearchMovingAverage(cycles::CycleCurves const& curves, std::int16_t workingCount,
                                                 SearchRequest const& request, GoOn const& goOn);
+
+// What the program tells and draws once the grid holds a model.
+struct GridComposite {
+    std::optional<double> Correlation; // with the moving average; nothing where there is none to tell
+    // The composite's extremes over the working days: of the 100 units on each side of zero little is used
+    // when cycles almost cancel each other.
+    double Lowest = 0;
+    double Highest = 0;
+};
+
+// Raises the faults of the Correlation command.
+[[nodiscard]] GridComposite CompositeInGrid(CycleModel const& model, cycles::CycleCurves const& curves,
+                                            std::int16_t workingCount);
 
 // The series less the straight line that fits it best.
 [[nodiscard]] std::vector<double> WithoutLine(std::span<double const> series);

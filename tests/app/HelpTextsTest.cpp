@@ -26,6 +26,11 @@ TEST(IndexDocument, HasAnEntryForEveryMenuItem) {
             ++items[caption];
         }
     }
+    for (MenuRow const& row : ChartMenuTable()) {
+        std::string caption(row.Caption);
+        std::erase(caption, '&');
+        items.emplace(caption, 1); // the charts share an entry
+    }
     auto const entries = tests::ReadIndexEntries();
     for (auto const& [caption, count] : items) {
         EXPECT_GE(std::ranges::count(entries, caption, &tests::IndexEntry::Name), count) << caption;
@@ -53,6 +58,15 @@ TEST(IndexDocument, TellsWhereTheEditorSaysHowASaveEnded) {
         }
     }
     EXPECT_EQ(told, 2);
+}
+
+TEST(QuickStartDocument, LeadsToTheContextMenusOfTheCycles) {
+    std::string const text = tests::TextOf(tests::ReadHelp("Quorvex-QuickStart.rtf"));
+    for (MenuRow const& row : ChartMenuTable()) {
+        std::string caption(row.Caption);
+        std::erase(caption, '&');
+        EXPECT_THAT(text, testing::HasSubstr(caption));
+    }
 }
 
 TEST(ReadMeDocument, NamesEverySettingWithItsDefault) {

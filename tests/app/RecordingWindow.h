@@ -5,6 +5,7 @@
 
 #include "app/MainWindow.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -23,10 +24,14 @@ public:
     void Open(SecondaryWindow window) override {
         Opened.push_back(window);
         Calls.emplace_back("open");
+        if (WhenOpened) {
+            WhenOpened();
+        }
     }
 
     void End() override { Calls.emplace_back("end"); }
 
+    std::function<void()> WhenOpened; // what the user does in the next windows
     std::string Caption;
     std::vector<SecondaryWindow> Opened;
     std::vector<std::string> Calls;

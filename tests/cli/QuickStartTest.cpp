@@ -11,6 +11,7 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <string>
 #include <utility>
@@ -22,8 +23,16 @@ namespace {
 class QuickStart : public testing::Test {
 protected:
     static nlohmann::json AnalyseWheat(std::vector<std::string> const& more) {
+        return RunOnWheat("analyse", more);
+    }
+
+    static nlohmann::json SearchWheat(std::vector<std::string> const& more) {
+        return RunOnWheat("search", more);
+    }
+
+    static nlohmann::json RunOnWheat(std::string const& command, std::vector<std::string> const& more) {
         std::string const samples = QUORVEX_SAMPLES;
-        std::vector<std::string> arguments = {"analyse", "--json", samples + "/Wheat.txt"};
+        std::vector<std::string> arguments = {command, "--json", samples + "/Wheat.txt"};
         arguments.insert(arguments.end(), more.begin(), more.end());
         auto const run = RunCompanion(arguments);
         EXPECT_EQ(run.ExitStatus, 0) << run.Errors;
@@ -87,9 +96,26 @@ TEST_F(QuickStart, TellsOfTheForecast) {
 TEST_F(QuickStart, TellsOfTheCyclesFromTheFile) {
     auto const analysis = AnalyseWheat({"--parameters", WheatCycles()});
     ExpectGridTable(1, analysis);
-    ExpectText("Correlation now says " + CorrelationOf(analysis));
+    ExpectText("\nCorrelation now says " + CorrelationOf(analysis));
     ExpectText("begins at " + EstimateOf(analysis, 0).second + " and ends at " +
                EstimateOf(analysis, 24).second);
+}
+
+// The whole numbers between which the composite swings.
+std::string SwingOf(nlohmann::json const& analysis) {
+    std::vector<double> curve = analysis.at("CompositeCurve");
+    curve.resize(analysis.at("WorkingCount").get<std::size_t>());
+    auto const [lowest, highest] = std::ranges::minmax(curve);
+    return std::to_string(std::lround(lowest)) + " to " + std::to_string(std::lround(highest));
+}
+
+TEST_F(QuickStart, TellsOfTheBestCycles) {
+    auto const half = SearchWheat({});
+    ExpectText("correlation of " + CorrelationOf(half) + ", and that the composite swings from " +
+               SwingOf(half));
+    auto const whole = SearchWheat({"--max-period", "250"});
+    ExpectText("Now the composite swings from " + SwingOf(whole) + ". Press OK. Correlation now says " +
+               CorrelationOf(whole) + ",");
 }
 
 TEST_F(QuickStart, TellsOfTheDateRange) {

@@ -311,5 +311,96 @@ TEST_F(ParameterCommands, ReadingTheTextOfAParameterFileLeavesNothingOfAnEarlier
     EXPECT_EQ(TextsOf(grid), texts);
 }
 
+class WritingParameters : public ParameterCommands {
+protected:
+    void Write() { WriteParameterFile(*set, grid, "C:\\Quorvex", files, dialogs); }
+};
+
+TEST_F(WritingParameters, TheFileHoldsTheGridAndIsReadAgain) {
+    TypeWeights();
+    grid.SetText(Parameter::Period, 1, "40");
+    dialogs.Paths = {"C:\\Quorvex\\mine.dat"};
+    Write();
+    EXPECT_TRUE(dialogs.Messages.empty());
+    EXPECT_EQ(files.Contents.at("C:\\Quorvex\\mine.dat"), ParameterFileText(grid));
+    dialogs.Choices = {"mine.dat"};
+    ClearGrid(grid);
+    Open();
+    EXPECT_THAT(dialogs.OfferedFiles, ElementsAre(ElementsAre("mine.dat")));
+    EXPECT_EQ(grid.Text(Parameter::Weight, 2), "25");
+    EXPECT_EQ(grid.Text(Parameter::Period, 1), "40");
+}
+
+TEST_F(WritingParameters, TheDialogBeginsInTheProgramFolderWithTheNameOfTheOpenFile) {
+    TypeWeights();
+    dialogs.Paths = {"", ""};
+    Write();
+    set->ParameterFileName = "D:\\Models\\Wheat.dat";
+    Write();
+    ASSERT_EQ(dialogs.SaveQuestions.size(), 2U);
+    platform::SaveQuestion const& question = dialogs.SaveQuestions[0];
+    EXPECT_EQ(question.Title, "Write Parameter File");
+    EXPECT_EQ(question.Folder, "C:\\Quorvex");
+    EXPECT_EQ(question.Name, "Cycles.dat");
+    EXPECT_EQ(question.Filter, "Cycle Parameters (*.dat)|*.dat");
+    EXPECT_EQ(question.Ending, "dat");
+    EXPECT_EQ(dialogs.SaveQuestions[1].Name, "Wheat.dat");
+    EXPECT_EQ(dialogs.SaveQuestions[1].Folder, "C:\\Quorvex");
+    EXPECT_TRUE(files.Contents.empty()) << "both were cancelled";
+    EXPECT_EQ(set->ParameterFileName, "D:\\Models\\Wheat.dat");
+}
+
+TEST_F(WritingParameters, NeedsWeights) {
+    grid.SetText(Parameter::Period, 1, "40");
+    Write();
+    EXPECT_TRUE(IsOnlyMessage(dialogs.Messages, NothingToSave, "Quorvex", Icon::Exclamation));
+    EXPECT_TRUE(dialogs.SaveQuestions.empty());
+}
+
+TEST_F(WritingParameters, EveryNameGetsTheEndingThatTheChooserLists) {
+    TypeWeights();
+    for (auto const& [typed, written] : {std::pair("C:\\Quorvex\\mine", "C:\\Quorvex\\mine.dat"),
+                                         {"C:\\a\\mine.txt", "C:\\a\\mine.txt.dat"},
+                                         {"C:\\a\\MINE.DAT", "C:\\a\\MINE.DAT"},
+                                         {"C:\\a\\.dat", "C:\\a\\.dat"}}) {
+        files.Contents.clear();
+        dialogs.Paths = {typed};
+        Write();
+        EXPECT_EQ(files.Contents.size(), 1U);
+        EXPECT_TRUE(files.Contents.contains(written)) << typed;
+    }
+}
+
+TEST_F(WritingParameters, AnExistingFileIsReplacedOnlyOnRequestAndKept) {
+    TypeWeights();
+    files.Contents["D:\\Models\\mine.dat"] = "precious";
+    dialogs.Paths = {"D:\\Models\\mine", ""};
+    dialogs.Answers = {Answer::No};
+    Write();
+    EXPECT_EQ(files.Contents.size(), 1U);
+    EXPECT_EQ(files.Contents.at("D:\\Models\\mine.dat"), "precious");
+    ASSERT_EQ(dialogs.Messages.size(), 1U);
+    EXPECT_EQ(dialogs.Messages[0].Text, "mine.dat already exists.\nDo you want to replace it?");
+    EXPECT_EQ(dialogs.Messages[0].Title, "Write Parameter File");
+    ASSERT_EQ(dialogs.SaveQuestions.size(), 2U) << "after No the dialog comes back";
+    EXPECT_EQ(dialogs.SaveQuestions[1].Folder, "D:\\Models\\");
+    EXPECT_EQ(dialogs.SaveQuestions[1].Name, "mine.dat");
+    dialogs.Paths = {"D:\\Models\\mine.dat"};
+    dialogs.Answers = {Answer::Yes};
+    Write();
+    EXPECT_EQ(files.Contents.at("D:\\Models\\mine.dat"), ParameterFileText(grid));
+    EXPECT_EQ(files.Contents.at("D:\\Models\\mine.dat~"), "precious");
+}
+
+TEST_F(WritingParameters, AFaultIsRaisedAndLeavesTheOldFile) {
+    TypeWeights();
+    files.Contents["C:\\Quorvex\\mine.dat"] = "precious";
+    files.BreakWriting = text::Fault::DiskFull;
+    dialogs.Paths = {"C:\\Quorvex\\mine.dat"};
+    dialogs.Answers = {Answer::Yes};
+    EXPECT_THROW(Write(), text::RunTimeError);
+    EXPECT_EQ(files.Contents.at("C:\\Quorvex\\mine.dat"), "precious");
+}
+
 } // namespace
 } // namespace quorvex::cycles

@@ -37,7 +37,7 @@ SECONDARY_WINDOWS = (
 
 
 class Studio:
-    """The program with three fitted cycles on a real contract, on a screen of its own."""
+    """The program with the three best cycles of a real contract, on a screen of its own."""
 
     def __init__(self, width, height, scale, chart_type):
         self.desktop = Desktop(width + 40, height + 80, scale)
@@ -67,8 +67,21 @@ class Studio:
         self.program.choose("File", "Open")
         self.program.choose_file("Open Quote File", "Wheat.txt")
         self.program.wait_for_main()
-        self.program.choose("Parameters", "Automate", "Three Cycles")
-        wait_for(lambda: self.program.cell(3, "Weight").text != "0", "three fitted cycles")
+        window = self.find_best_cycles()
+        self.program.press_button(window, "OK")
+        self.program.wait_for_main()
+        wait_for(lambda: self.program.cell(3, "Weight").text != "0", "three cycles")
+
+    def find_best_cycles(self):
+        """The window that looks for them, when it has found them. A cycle may be as long as the series."""
+        self.program.chart("Composite estimate cycle chart").focus()
+        self.desktop.press("Menu", "f")
+        window = self.program.window("Quorvex - Find Best Cycles - [Wheat.txt]")
+        self.desktop.press("alt+l")
+        self.desktop.type("250")
+        wait_for(lambda: window.find("spin box", "Longest Period").text == "250 days", "the longest period")
+        wait_for(lambda: not window.find_all("progress bar"), "the end of the search")
+        return window
 
     def take(self, title, path):
         """A picture of the window alone, without the window manager's frame."""
@@ -103,6 +116,10 @@ def take_dialogs(studio, folder):
     forecast = program.window("Quorvex Forecast - [Wheat.txt]")
     studio.take("Quorvex Forecast", os.path.join(folder, "forecast.png"))
     program.choose("File", "Exit", window=forecast)
+    program.wait_for_main()
+    studio.find_best_cycles()
+    studio.take("Quorvex - Find Best Cycles", os.path.join(folder, "find-cycles.png"))
+    studio.desktop.press("Escape")
     program.wait_for_main()
     for picture, exit_item, title, *command in SECONDARY_WINDOWS:
         program.choose(*command)

@@ -37,6 +37,12 @@ TEST(ScriptedDialogs, AnswerInOrder) {
     EXPECT_EQ(dialogs.AskForFile({"C:\\", "*.csv", "All|*.*"}), "");
     ASSERT_EQ(dialogs.FileQuestions.size(), 2U);
     EXPECT_EQ(dialogs.FileQuestions[1].Name, "*.csv");
+    dialogs.Paths = {"C:\\mine.dat"};
+    EXPECT_EQ(dialogs.AskWhereToSave(
+                  {.Title = "Save", .Folder = "C:\\", .Name = "", .Filter = "", .Ending = "dat"}),
+              "C:\\mine.dat");
+    ASSERT_EQ(dialogs.SaveQuestions.size(), 1U);
+    EXPECT_EQ(dialogs.SaveQuestions[0].Ending, "dat");
     HiddenPrintDialog dialog;
     dialogs.Ranges = {PrintRange::All, std::nullopt};
     EXPECT_EQ(dialogs.AskWhatToPrint(dialog), PrintRange::All);
@@ -53,6 +59,7 @@ TEST(ScriptedDialogs, RefuseAQuestionThatTheTestDidNotForesee) {
     EXPECT_THROW(static_cast<void>(dialogs.Ask({"Name", "Title", ""})), std::logic_error);
     EXPECT_THROW(static_cast<void>(dialogs.Choose(FileKind::Quotes, {})), std::logic_error);
     EXPECT_THROW(static_cast<void>(dialogs.AskForFile({})), std::logic_error);
+    EXPECT_THROW(static_cast<void>(dialogs.AskWhereToSave({})), std::logic_error);
     HiddenPrintDialog dialog;
     EXPECT_THROW(static_cast<void>(dialogs.AskWhatToPrint(dialog)), std::logic_error);
 }

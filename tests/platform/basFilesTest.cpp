@@ -35,6 +35,14 @@ TEST(ReadFileIfThere, ToleratesAMissingFileAlone) {
     EXPECT_THROW(static_cast<void>(ReadFileIfThere(files, "a.txt")), text::RunTimeError);
 }
 
+TEST(IsThere, AFileIsThereEvenWhenItCannotBeRead) {
+    fake::MemoryFiles files;
+    EXPECT_FALSE(IsThere(files, "a.txt"));
+    files.Contents["a.txt"] = "";
+    files.BreakReading = {0, text::Fault::PermissionDenied};
+    EXPECT_TRUE(IsThere(files, "a.txt"));
+}
+
 TEST(BareName, IsWhatStandsBehindTheLastSeparator) {
     EXPECT_EQ(BareName("C:\\Quotes\\a.txt"), "a.txt");
     EXPECT_EQ(BareName("/home/ann/a b.txt"), "a b.txt");

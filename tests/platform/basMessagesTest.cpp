@@ -30,5 +30,17 @@ TEST(Messages, AnErrorShowsItsDescriptionWithoutAnIcon) {
     ExpectOnly(dialogs, "Overflow", Icon::None);
 }
 
+TEST(Messages, AFileIsReplacedAfterAYesAlone) {
+    fake::ScriptedDialogs dialogs;
+    dialogs.Answers = {Answer::Yes, Answer::No};
+    EXPECT_TRUE(MayReplace(dialogs, "S&P.dat", "Save As"));
+    EXPECT_FALSE(MayReplace(dialogs, "S&P.dat", "Save As"));
+    ASSERT_EQ(dialogs.Messages.size(), 2U);
+    EXPECT_EQ(dialogs.Messages[0].Text, "S&P.dat already exists.\nDo you want to replace it?");
+    EXPECT_EQ(dialogs.Messages[0].Title, "Save As");
+    EXPECT_EQ(dialogs.Messages[0].Shown, Icon::Exclamation);
+    EXPECT_EQ(dialogs.Messages[0].Offered, Buttons::YesNo);
+}
+
 } // namespace
 } // namespace quorvex::platform

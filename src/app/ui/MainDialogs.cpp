@@ -4,7 +4,7 @@
 #include "app/ui/MainDialogs.h"
 
 #include "cycles/ui/frmParameter.h"
-#include "platform/qt/OpenFileDialog.h"
+#include "platform/qt/FileDialogs.h"
 #include "platform/qt/QtDialogs.h"
 #include "quotes/ui/frmQuotes.h"
 
@@ -38,6 +38,10 @@ std::optional<std::string> MainDialogs::Choose(platform::FileKind kind, std::spa
 
 std::string MainDialogs::AskForFile(platform::FileQuestion const& question) {
     return platform::qt::AskForFile(window_, question);
+}
+
+std::string MainDialogs::AskWhereToSave(platform::SaveQuestion const& question) {
+    return platform::qt::AskWhereToSave(window_, question);
 }
 
 } // namespace quorvex::app::ui

@@ -14,6 +14,7 @@
 #include "convert/ui/frmConvertCustom.h"
 #include "editor/ui/frmEdit.h"
 #include "prefs/ui/frmPreferences.h"
+#include "search/ui/frmFindCycles.h"
 
 namespace quorvex::app::ui {
 
@@ -60,6 +61,11 @@ void SecondaryWindows::RunModal(SecondaryWindow window) {
     case SecondaryWindow::Forecast:
         Need(forecast_, parent, program_.Quotes, program_.Cycles, program_.Settings, host_.Files, dialogs_)
             .RunModal();
+        break;
+    case SecondaryWindow::FindCycles:
+        program_.FoundModel = Need(findCycles_, parent, program_.Quotes, program_.Curves, program_.Settings,
+                                   host_.Files, dialogs_)
+                                  .RunModal();
         break;
     case SecondaryWindow::Preferences:
         Need(preferences_, parent, program_.Settings, program_.Quotes, host_.Profile, dialogs_).RunModal();

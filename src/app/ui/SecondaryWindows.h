@@ -35,6 +35,10 @@ namespace quorvex::prefs::ui {
 class frmPreferences;
 }
 
+namespace quorvex::search::ui {
+class frmFindCycles;
+}
+
 namespace quorvex::app::ui {
 
 // The windows that commands open. Each is created when it is first needed, and kept.
@@ -60,6 +64,7 @@ private:
     QPointer<convert::ui::frmConvertCustom> convertCustom_;
     QPointer<editor::ui::frmEdit> edit_;
     QPointer<chart::ui::frmForecast> forecast_;
+    QPointer<search::ui::frmFindCycles> findCycles_;
     QPointer<auxiliary::ui::frmHelp> help_;
     QPointer<chart::ui::frmLegend> legend_;
     QPointer<prefs::ui::frmPreferences> preferences_;

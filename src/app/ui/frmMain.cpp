@@ -81,10 +81,21 @@ void frmMain::AddBoxes() {
         box->setObjectName(QString::fromLatin1(row.Name));
         box->setAccessibleName(QString::fromLatin1(row.AccessibleName));
         box->OfferSaving(files_, dialogs_, box->accessibleName());
+        box->OfferCommands(CommandsOf(row.Name));
         boxes_.at(index) = box;
         readings_.at(index) = std::make_unique<ChartReadings>(box->Drawing());
         box->SetReadings(readings_.at(index).get());
     }
+}
+
+std::vector<platform::qt::PictureCommand> frmMain::CommandsOf(std::string_view boxName) {
+    std::vector<platform::qt::PictureCommand> commands;
+    for (MenuRow const& row : ChartMenuTable()) {
+        if (row.Parent == boxName) {
+            commands.push_back({ToQt(row.Name), ToQt(row.Caption), [this, &row] { Run(row); }});
+        }
+    }
+    return commands;
 }
 
 chart::ChartBoxes frmMain::Boxes() {

@@ -20,6 +20,8 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <string_view>
+#include <vector>
 
 namespace quorvex::app::ui {
 
@@ -51,6 +53,9 @@ private:
     [[nodiscard]] static Flag Raise(bool& flag);
 
     void AddBoxes();
+
+    // What the context menu of the chart of this name offers besides its own.
+    [[nodiscard]] std::vector<platform::qt::PictureCommand> CommandsOf(std::string_view boxName);
 
     // Whether a command, a redraw or a dialog is under way. Redraws that are wanted wait for its end.
     [[nodiscard]] bool IsOccupied() const;

@@ -43,6 +43,11 @@ std::string ScriptedDialogs::AskForFile(FileQuestion const& question) {
     return TakeFirst(Paths, "which file to open");
 }
 
+std::string ScriptedDialogs::AskWhereToSave(SaveQuestion const& question) {
+    SaveQuestions.push_back(question);
+    return TakeFirst(Paths, "where to save");
+}
+
 std::optional<PrintRange> ScriptedDialogs::AskWhatToPrint(PrintDialog& dialog) {
     OfferedRanges.push_back(dialog.Offered());
     return TakeFirst(Ranges, "what to print");

@@ -20,6 +20,7 @@ public:
     [[nodiscard]] std::optional<std::string> Choose(FileKind kind,
                                                     std::span<std::string const> names) override;
     [[nodiscard]] std::string AskForFile(FileQuestion const& question) override;
+    [[nodiscard]] std::string AskWhereToSave(SaveQuestion const& question) override;
 
     [[nodiscard]] std::optional<PrintRange> AskWhatToPrint(PrintDialog& dialog) override;
 
@@ -29,13 +30,14 @@ public:
     std::vector<FileKind> Choosers;
     std::vector<std::vector<std::string>> OfferedFiles;
     std::vector<FileQuestion> FileQuestions;
+    std::vector<SaveQuestion> SaveQuestions;
     std::vector<PrintRange> OfferedRanges;
 
     // What to answer, first one first. A box with only an OK button needs no answer.
     std::deque<Answer> Answers;
     std::deque<std::string> Texts;
     std::deque<std::optional<std::string>> Choices;
-    std::deque<std::string> Paths;                // empty where the file dialog is cancelled
+    std::deque<std::string> Paths;                // empty where a file dialog is cancelled
     std::deque<std::optional<PrintRange>> Ranges; // nothing where the print dialog is cancelled
 };
 

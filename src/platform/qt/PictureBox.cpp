@@ -166,6 +166,10 @@ void PictureBox::MoveCursor(int column) {
 }
 
 void PictureBox::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        ShowMenu(mapToGlobal(rect().center()));
+        return;
+    }
     int const columns = readings_ == nullptr ? 0 : readings_->Columns();
     if (columns == 0) {
         QWidget::keyPressEvent(event);
@@ -203,8 +207,30 @@ void PictureBox::focusOutEvent(QFocusEvent* event) {
 }
 
 void PictureBox::contextMenuEvent(QContextMenuEvent* event) {
+    bool const byMouse = event->reason() == QContextMenuEvent::Mouse;
+    ShowMenu(byMouse ? event->globalPos() : mapToGlobal(rect().center()));
+}
+
+void PictureBox::ShowMenu(QPoint place) {
     QMenu menu(this);
     menu.setObjectName(QStringLiteral("mnuPicture"));
+    AddCommands(menu);
+    AddOwnCommands(menu);
+    menu.exec(place);
+}
+
+void PictureBox::AddCommands(QMenu& menu) {
+    for (PictureCommand const& command : commands_) {
+        QAction* item = menu.addAction(command.Caption);
+        item->setObjectName(command.Name);
+        connect(item, &QAction::triggered, this, command.Run);
+    }
+    if (!commands_.empty()) {
+        menu.addSeparator();
+    }
+}
+
+void PictureBox::AddOwnCommands(QMenu& menu) {
     QAction* copy = menu.addAction(QStringLiteral("&Copy Image"));
     copy->setObjectName(QStringLiteral("mnuPictureCopy"));
     connect(copy, &QAction::triggered, this, [this] { CopyImage(); });
@@ -213,8 +239,6 @@ void PictureBox::contextMenuEvent(QContextMenuEvent* event) {
         save->setObjectName(QStringLiteral("mnuPictureSaveAs"));
         connect(save, &QAction::triggered, this, [this] { SaveImageAs(); });
     }
-    bool const byMouse = event->reason() == QContextMenuEvent::Mouse;
-    menu.exec(byMouse ? event->globalPos() : mapToGlobal(rect().center()));
 }
 
 void PictureBox::CopyImage() const {
@@ -250,9 +274,7 @@ void PictureBox::SaveImageAs() {
 
 bool PictureBox::MayWrite(QString const& path) {
     QFileInfo const file(path);
-    return !file.exists() ||
-           dialogs_->Show({pictures::FromQt(file.fileName()) + " already exists.\nDo you want to replace it?",
-                           "Save Image As", Icon::Exclamation, Buttons::YesNo}) == Answer::Yes;
+    return !file.exists() || MayReplace(*dialogs_, pictures::FromQt(file.fileName()), "Save Image As");
 }
 
 } // namespace quorvex::platform::qt

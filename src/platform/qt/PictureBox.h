@@ -9,13 +9,25 @@
 #include "platform/RecordingCanvas.h"
 
 #include <QImage>
+#include <QMenu>
 #include <QWidget>
+#include <functional>
+#include <utility>
+#include <vector>
 
 namespace quorvex::platform::qt {
 
+// An item that a window adds to the context menu of a picture.
+struct PictureCommand {
+    QString Name;    // of the action
+    QString Caption; // "&" marks the access key
+    std::function<void()> Run;
+};
+
 // A white box with a thin border that shows a drawing. The drawing is kept until the next one and painted in
 // the screen's own resolution. Resting the pointer on it, or moving the cursor with the arrow keys, tells the
-// values of a column; its context menu copies and saves the picture.
+// values of a column; its context menu, by mouse, by its key or by Shift+F10, copies and saves the picture
+// and does what the window offers besides.
 class PictureBox final : public QWidget {
     Q_OBJECT
 
@@ -35,6 +47,9 @@ public:
     // the box.
     void OfferSaving(Files& files, Dialogs& dialogs, QString const& suggestedName);
 
+    // Puts these above what the context menu has of its own, in this order.
+    void OfferCommands(std::vector<PictureCommand> commands) { commands_ = std::move(commands); }
+
     [[nodiscard]] QImage const& Picture() const { return picture_; }
 
 protected:
@@ -51,6 +66,9 @@ private:
     void PaintBorder(QPainter& painter, QRect const& box) const;
     void ShowReading(int column, QPoint place);
     void MoveCursor(int column);
+    void ShowMenu(QPoint place);
+    void AddCommands(QMenu& menu);
+    void AddOwnCommands(QMenu& menu);
     void CopyImage() const;
     void SaveImageAs();
     [[nodiscard]] bool MayWrite(QString const& path);
@@ -63,6 +81,7 @@ private:
     Files* files_ = nullptr;
     Dialogs* dialogs_ = nullptr;
     QString suggestedName_;
+    std::vector<PictureCommand> commands_;
 };
 
 } // namespace quorvex::platform::qt

@@ -10,6 +10,7 @@
 #include "editor/ui/ShownEditor.h"
 #include "platform/qt/QtDialogs.h"
 #include "quotes/ui/frmQuotes.h"
+#include "search/ui/ShownSearch.h"
 #include "support/QuoteTexts.h"
 #include "windows/RunningWindow.h"
 #include "windows/WindowTest.h"
@@ -113,6 +114,18 @@ private Q_SLOTS:
         QAccessibleInterface* chart = QAccessible::queryAccessibleInterface(&shown.Chart());
         QCOMPARE(chart->role(), QAccessible::Chart);
         QCOMPARE(chart->text(QAccessible::Name), u"Forecast chart"_s);
+    }
+
+    void EveryControlOfTheSearchHasAName() {
+        ShownSearch shown("q250.txt");
+        shown.Run([&] {
+            QVERIFY(shown.WaitForEnd());
+            VerifyNamed(*shown.Window, 4 + 3 * 4 + 1 + 2);
+            QAccessibleInterface* chart =
+                QAccessible::queryAccessibleInterface(&shown.Find<platform::qt::PictureBox>("Pic1"));
+            QCOMPARE(chart->role(), QAccessible::Chart);
+            QCOMPARE(chart->text(QAccessible::Name), u"Correlation chart"_s);
+        });
     }
 
     void EveryControlOfTheEditorHasAName() {

@@ -28,6 +28,10 @@ std::string WindowDialogs::AskForFile(platform::FileQuestion const&) {
     return {};
 }
 
+std::string WindowDialogs::AskWhereToSave(platform::SaveQuestion const&) {
+    return {};
+}
+
 ShownEditor::ShownEditor(std::string const& content, std::string const& name)
     : Settings(settings::DefaultSettings(Folder.Text())) {
     // The editor takes the name as it is, so that it saves into the test's folder only under a whole path.

@@ -235,6 +235,52 @@ private Q_SLOTS:
         QVERIFY(answers.IsDone());
     }
 
+    void CommandsOfTheWindowStandAboveALine_data() {
+        QTest::addColumn<bool>("byF10");
+        QTest::newRow("by the context-menu key") << false;
+        QTest::newRow("by Shift+F10") << true;
+    }
+
+    void CommandsOfTheWindowStandAboveALine() {
+        QFETCH(bool, byF10);
+        ShownPicture shown;
+        QStringList run;
+        shown.Box.OfferCommands({{u"mnuFirst"_s, u"&First..."_s, [&run] { run.append(u"first"_s); }},
+                                 {u"mnuSecond"_s, u"&Second"_s, [&run] { run.append(u"second"_s); }}});
+        ModalAnswers answers;
+        QStringList items;
+        answers.Next([&items](QWidget& window) {
+            for (QAction const* item : qobject_cast<QMenu*>(&window)->actions()) {
+                items.append(item->isSeparator() ? u"-"_s : item->objectName() + u' ' + item->text());
+            }
+            QTest::keyClick(&window, Qt::Key_S);
+            QTest::keyClick(&window, Qt::Key_Return); // two items have this letter
+        });
+        if (byF10) {
+            QTest::keyClick(&shown.Box, Qt::Key_F10, Qt::ShiftModifier);
+        } else {
+            AskForMenu(shown.Box, QContextMenuEvent::Keyboard);
+        }
+        QVERIFY(answers.IsDone());
+        QCOMPARE(items,
+                 QStringList({u"mnuFirst &First..."_s, u"mnuSecond &Second"_s, u"-"_s,
+                              u"mnuPictureCopy &Copy Image"_s, u"mnuPictureSaveAs Save Image &As..."_s}));
+        QCOMPARE(run, QStringList(u"second"_s));
+    }
+
+    void ACommandOfTheWindowRunsByMouse() {
+        ShownPicture shown;
+        int runs = 0;
+        shown.Box.OfferCommands({{u"mnuOnly"_s, u"Only"_s, [&runs] { ++runs; }}});
+        ModalAnswers answers;
+        answers.Next([](QWidget& window) {
+            auto* menu = qobject_cast<QMenu*>(&window);
+            QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(menu->actions()[0]).center());
+        });
+        AskForMenu(shown.Box, QContextMenuEvent::Mouse);
+        QCOMPARE(runs, 1);
+    }
+
     void CopyPutsThePictureOnTheClipboard() {
         ShownPicture shown;
         shown.Draw();

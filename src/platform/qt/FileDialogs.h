@@ -15,4 +15,7 @@ namespace quorvex::platform::qt {
 // cancelled.
 [[nodiscard]] std::string AskForFile(QWidget& window, FileQuestion const& question);
 
+// Lets the user name a file to write, likewise. An existing one is not asked about.
+[[nodiscard]] std::string AskWhereToSave(QWidget& window, SaveQuestion const& question);
+
 } // namespace quorvex::platform::qt

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/qt/OpenFileDialog.h"
+#include "platform/qt/FileDialogs.h"
 
 #include "app/ui/MainDialogs.h"
 #include "platform/pictures/QtTexts.h"
@@ -20,12 +20,22 @@ namespace quorvex::tests {
 
 using namespace Qt::StringLiterals;
 using platform::FileQuestion;
+using platform::SaveQuestion;
 using platform::qt::AskForFile;
+using platform::qt::AskWhereToSave;
 
 namespace {
 
 FileQuestion QuestionIn(std::string const& folder) {
     return {folder, "*.csv", "Comma Separated Values (*.csv)|*.csv|All Files (*.*)|*.*"};
+}
+
+SaveQuestion SaveQuestionIn(std::string const& folder) {
+    return {.Title = "Write It",
+            .Folder = folder,
+            .Name = "old.dat",
+            .Filter = "Cycle Parameters (*.dat)|*.dat",
+            .Ending = "dat"};
 }
 
 // What the list of the dialog shows.
@@ -41,7 +51,7 @@ QStringList ListedNames(QWidget& dialog) {
 
 } // namespace
 
-class OpenFileDialogTest final : public WindowTest {
+class FileDialogsTest final : public WindowTest {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -112,6 +122,45 @@ private Q_SLOTS:
         QCOMPARE(AskForFile(window, QuestionIn(folder.Text())), folder.File("in.txt"));
     }
 
+    void TheSaveDialogStartsAsAsked() {
+        TemporaryFolder const folder;
+        folder.Write("old.dat", "x");
+        folder.Write("old.txt", "x");
+        ModalAnswers answers;
+        QWidget window;
+        answers.Next([&](QWidget& dialog) {
+            auto* files = qobject_cast<QFileDialog*>(&dialog);
+            QVERIFY(files != nullptr);
+            QCOMPARE(files->windowTitle(), u"Write It"_s);
+            QCOMPARE(files->acceptMode(), QFileDialog::AcceptSave);
+            QCOMPARE(files->findChild<QLineEdit*>(u"fileNameEdit"_s)->text(), u"old.dat"_s);
+            QTRY_COMPARE(ListedNames(dialog), QStringList(u"old.dat"_s));
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+        QCOMPARE(AskWhereToSave(window, SaveQuestionIn(folder.Text())), std::string());
+        QCOMPARE(answers.Shown(), QStringList(u"SaveFileDialog"_s));
+    }
+
+    // Whether an existing one is replaced is asked by whoever writes.
+    void TheSaveDialogCompletesANameAndTakesAnExistingOne() {
+        TemporaryFolder const folder;
+        folder.Write("old.dat", "x");
+        for (auto const& [typed, path] : {std::pair("new", "new.dat"),
+                                          {"new.txt", "new.txt"},
+                                          {"old", "old.dat"},
+                                          {"S&P<b>", "S&P<b>.dat"}}) {
+            ModalAnswers answers;
+            QWidget window;
+            answers.Next([file = folder.File(typed)](QWidget& dialog) {
+                auto* name = dialog.findChild<QLineEdit*>(u"fileNameEdit"_s);
+                name->setText(platform::pictures::ToQt(file));
+                QTest::keyClick(name, Qt::Key_Return);
+            });
+            QCOMPARE(AskWhereToSave(window, SaveQuestionIn(folder.Text())), folder.File(path));
+            QCOMPARE(answers.Shown(), QStringList(u"SaveFileDialog"_s));
+        }
+    }
+
     void OpensOverTheWindowThatTheUserIsIn() {
         TemporaryFolder const folder;
         folder.Write("in.txt", "x");
@@ -137,8 +186,8 @@ private Q_SLOTS:
     }
 };
 
-template struct ListedWindowTest<OpenFileDialogTest>;
+template struct ListedWindowTest<FileDialogsTest>;
 
 } // namespace quorvex::tests
 
-#include "OpenFileDialogTest.moc"
+#include "FileDialogsTest.moc"

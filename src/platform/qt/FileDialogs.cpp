@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-#include "platform/qt/OpenFileDialog.h"
+#include "platform/qt/FileDialogs.h"
 
 #include "platform/pictures/QtTexts.h"
 #include "platform/qt/QtDialogs.h"
@@ -37,6 +37,21 @@ QStringList NameFiltersOf(std::string_view filter) {
     return filters;
 }
 
+void StartAt(QFileDialog& dialog, std::string_view folder, std::string_view filter, std::string_view name) {
+    dialog.setDirectory(StartFolder(folder));
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilters(NameFiltersOf(filter));
+    dialog.selectFile(pictures::ToQt(name));
+}
+
+// The path that the user chose, empty when he did not.
+std::string RunFileDialog(QFileDialog& dialog) {
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return {};
+    }
+    return pictures::FromQt(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
+}
+
 } // namespace
 
 std::string AskForFile(QWidget& window, FileQuestion const& question) {
@@ -44,14 +59,19 @@ std::string AskForFile(QWidget& window, FileQuestion const& question) {
     dialog.setObjectName(QStringLiteral("OpenFileDialog"));
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setDirectory(StartFolder(question.Folder));
-    dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setNameFilters(NameFiltersOf(question.Filter));
-    dialog.selectFile(pictures::ToQt(question.Name));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-        return {};
-    }
-    return pictures::FromQt(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
+    StartAt(dialog, question.Folder, question.Filter, question.Name);
+    return RunFileDialog(dialog);
+}
+
+std::string AskWhereToSave(QWidget& window, SaveQuestion const& question) {
+    QFileDialog dialog(TopmostOf(window), pictures::ToQt(question.Title));
+    dialog.setObjectName(QStringLiteral("SaveFileDialog"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(pictures::ToQt(question.Ending));
+    dialog.setOption(QFileDialog::DontConfirmOverwrite); // Qt's own question takes markup in a name as such
+    StartAt(dialog, question.Folder, question.Filter, question.Name);
+    return RunFileDialog(dialog);
 }
 
 } // namespace quorvex::platform::qt
