@@ -65,7 +65,7 @@ TEST(EvaluateCommand, PrintsOneJsonObject) {
     EXPECT_EQ(parameters.at("Name"), "Parameter file");
     EXPECT_EQ(parameters.at("Method"), "parameters");
     EXPECT_TRUE(parameters.at("CycleCount").is_null());
-    EXPECT_EQ(parameters.at("Faults"), json::object());
+    EXPECT_EQ(parameters.at("Faults"), nlohmann::ordered_json::object());
     auto const& forecast = parameters.at("Forecasts").at(1);
     EXPECT_EQ(forecast.at("Kind"), "composite");
     EXPECT_EQ(forecast.at("ForecastCount"), 11);

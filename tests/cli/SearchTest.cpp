@@ -100,7 +100,8 @@ TEST(Search, TellsAFileThatCannotBeWritten) {
 
 TEST(Search, KeepsToTheRangeOfPeriods) {
     auto const run = RunCompanion({"search", Quotes, "--min-period", "8", "--max-period", "9", "--json"});
-    for (auto const& cycle : json::parse(run.Output).at("Search").back().at("Cycles")) {
+    auto const object = json::parse(run.Output);
+    for (auto const& cycle : object.at("Search").back().at("Cycles")) {
         EXPECT_GE(cycle.at("Period").get<int>(), 8);
         EXPECT_LE(cycle.at("Period").get<int>(), 9);
     }
