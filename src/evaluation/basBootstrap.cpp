@@ -50,6 +50,7 @@ double Quantile(std::vector<double> const& sorted, double share) {
 
 } // namespace
 
+// The sequence is to be the same in every run. NOLINTNEXTLINE(cert-msc32-c,cert-msc51-cpp)
 BlockResampler::BlockResampler(std::size_t count, std::size_t blockLength)
     : count_(count),
       blockLength_(blockLength) {}
@@ -96,6 +97,7 @@ std::vector<FigureIntervals> ResampledIntervals(std::span<Moves const> sets, std
         }
     }
     std::vector<FigureIntervals> intervals;
+    intervals.reserve(sampled.size());
     for (SampledFigures& figures : sampled) {
         intervals.push_back(figures.Intervals(sampleCount));
     }
