@@ -5,6 +5,7 @@
 
 #include "cycles/basCurves.h"
 #include "search/basSearch.h"
+#include "search/basWeights.h"
 
 #include <algorithm>
 #include <memory>
@@ -79,7 +80,8 @@ std::vector<SurrogateReport> SurrogateTest::Report() const {
         SurrogateReport report{cycleCount, correlations_.front().at(position), 0};
         for (std::size_t number = 1; number < correlations_.size(); ++number) {
             std::vector<double> const& ofSurrogate = correlations_[number];
-            bool const asWell = !ofSurrogate.empty() && ofSurrogate.at(position) >= report.Correlation;
+            bool const asWell = !ofSurrogate.empty() && search::Comparable(ofSurrogate.at(position)) >=
+                                                            search::Comparable(report.Correlation);
             report.AsWell += asWell ? 1 : 0;
         }
         reports.push_back(report);

@@ -76,17 +76,17 @@ std::optional<Interval> MiddleOf(std::vector<double>& values) {
 }
 
 std::vector<FigureIntervals> ResampledIntervals(std::span<Moves const> sets, std::size_t blockLength,
-                                                int sampleCount) {
+                                                int sampleCount, search::GoOn const& goOn) {
     std::vector<std::vector<Sums>> parts;
     for (Moves const& moves : sets) {
-        std::vector<Sums>& ofSet = parts.emplace_back();
-        for (std::optional<Move> const& move : moves) {
-            ofSet.push_back(SumsOf(move));
-        }
+        parts.push_back(PartsOf(moves));
     }
     std::vector<SampledFigures> sampled(sets.size());
     BlockResampler resampler(parts.empty() ? 1 : parts.front().size(), blockLength);
     for (int sample = 0; sample < sampleCount; ++sample) {
+        if (!goOn()) {
+            return {};
+        }
         std::span<std::size_t const> const positions = resampler.Next();
         for (std::size_t set = 0; set < sets.size(); ++set) {
             Sums sums;
@@ -97,9 +97,9 @@ std::vector<FigureIntervals> ResampledIntervals(std::span<Moves const> sets, std
         }
     }
     std::vector<FigureIntervals> intervals;
-    intervals.reserve(sampled.size());
-    for (SampledFigures& figures : sampled) {
-        intervals.push_back(figures.Intervals(sampleCount));
+    for (std::size_t set = 0; set < sets.size(); ++set) {
+        bool const areFew = ForecastCount(sets[set]) < FewestForecasts;
+        intervals.push_back(areFew ? FigureIntervals() : sampled[set].Intervals(sampleCount));
     }
     return intervals;
 }

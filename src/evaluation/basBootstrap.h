@@ -6,6 +6,7 @@
 #pragma once
 
 #include "evaluation/basFigures.h"
+#include "search/GoOn.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -41,15 +42,17 @@ private:
 [[nodiscard]] std::optional<Interval> MiddleOf(std::vector<double>& values);
 
 // Each figure's interval. A sample in which a figure does not exist tells nothing of it; a figure that most
-// samples lack has no interval.
+// samples lack has no interval, nor has one of fewer than ten forecasts.
 struct FigureIntervals {
     std::optional<Interval> ErrorRatio;
     std::optional<Interval> RightDirections;
     std::optional<Interval> Correlation;
 };
 
-// The intervals of several sets of moves from the same origins, all from the same samples.
+// The intervals of several sets of moves from the same origins, all from the same samples. Nothing at all
+// when the callback ended it.
 [[nodiscard]] std::vector<FigureIntervals> ResampledIntervals(std::span<Moves const> sets,
-                                                              std::size_t blockLength, int sampleCount);
+                                                              std::size_t blockLength, int sampleCount,
+                                                              search::GoOn const& goOn);
 
 } // namespace quorvex::evaluation

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 
 namespace quorvex::evaluation {
 
@@ -50,16 +51,30 @@ std::string RefusalOf(quotes::QuoteSeries const& series, EvaluationRequest const
     return {};
 }
 
+// The last of these closes and how far they reach, of which the larger one is what prices are rounded by.
+double SizeOf(std::span<double const> closes) {
+    auto const ends = std::minmax_element(closes.begin(), closes.end());
+    return std::max(std::fabs(closes.back()), *ends.second - *ends.first);
+}
+
+// The change that the forecast foresees. A cycle of which whole turns fit into the horizon comes back to
+// where it was but for rounding, which is no change and has no direction.
+double ForeseenChange(double price, std::span<double const> past) {
+    constexpr double Negligible = 1e-9;
+    double const change = price - past.back();
+    return std::fabs(change) > Negligible * SizeOf(past) ? change : 0;
+}
+
 // The moves that a set of forecasts foresaw, by origin.
 template <class Routine>
 Moves MovesOf(Evaluation const& evaluation, int horizon, Routine&& foreseen) {
     Moves moves;
     for (Origin const& origin : evaluation.Origins) {
         auto const day = static_cast<std::size_t>(origin.Day);
-        double const close = evaluation.Closes[day - 1];
-        double const actual = evaluation.Closes[day - 1 + static_cast<std::size_t>(horizon)] - close;
-        std::optional<double> const price = foreseen(origin, close);
-        moves.push_back(price ? std::optional(Move{*price - close, actual}) : std::nullopt);
+        auto const past = std::span(evaluation.Closes).first(day);
+        double const actual = evaluation.Closes[day - 1 + static_cast<std::size_t>(horizon)] - past.back();
+        std::optional<double> const price = foreseen(origin, past.back());
+        moves.push_back(price ? std::optional(Move{ForeseenChange(*price, past), actual}) : std::nullopt);
     }
     return moves;
 }
@@ -88,9 +103,9 @@ class Judging {
 public:
     explicit Judging(Evaluation& evaluation) : evaluation_(evaluation) {}
 
-    void Run() {
+    void Run(search::GoOn const& goOn) {
         Collect();
-        ComputeFigures();
+        ComputeFigures(goOn);
         ComputeChances();
     }
 
@@ -107,19 +122,18 @@ private:
                     cases_.push_back({&report.ByHorizon.at(index), Horizons.at(index), true});
                     moves_.push_back(ModelMoves(evaluation_, model, kind, Horizons.at(index)));
                 }
-                report.ForecastCount = static_cast<int>(
-                    std::count_if(moves_.back().begin(), moves_.back().end(),
-                                  [](std::optional<Move> const& move) { return move.has_value(); }));
+                report.ForecastCount = static_cast<int>(ForecastCount(moves_.back()));
             }
         }
     }
 
-    void ComputeFigures() {
+    void ComputeFigures(search::GoOn const& goOn) {
         auto const blockLength = static_cast<std::size_t>(evaluation_.BlockLength);
         std::vector<FigureIntervals> intervals(cases_.size());
         // One block is no choice: all samples would be alike.
         if (evaluation_.Origins.size() >= 2 * blockLength) {
-            intervals = ResampledIntervals(moves_, blockLength, evaluation_.SampleCount);
+            intervals = ResampledIntervals(moves_, blockLength, evaluation_.SampleCount, goOn);
+            intervals.resize(cases_.size());
         }
         for (std::size_t index = 0; index < cases_.size(); ++index) {
             cases_[index].Report->Figures = FiguresOf(moves_[index]);
@@ -159,10 +173,7 @@ private:
 
 void ComputeLastCloseErrors(Evaluation& evaluation) {
     for (std::size_t index = 0; index < Horizons.size(); ++index) {
-        Sums sums;
-        for (auto const& move : DriftMoves(evaluation, Horizons.at(index))) {
-            sums.Add(SumsOf(move));
-        }
+        Sums const sums = SumsOf(DriftMoves(evaluation, Horizons.at(index)));
         evaluation.LastCloseError.at(index) = sums.ErrorOfLastClose / sums.Count;
     }
 }
@@ -202,10 +213,10 @@ Evaluation Prepare(quotes::QuoteSeries const& series, EvaluationRequest const& r
 
 } // namespace
 
-void Judge(Evaluation& evaluation) {
+void Judge(Evaluation& evaluation, search::GoOn const& goOn) {
     ComputeLastCloseErrors(evaluation);
     CountFaults(evaluation);
-    Judging(evaluation).Run();
+    Judging(evaluation).Run(goOn);
     for (ModelReport& model : evaluation.Models) {
         model.Verdict = VerdictOf(model);
     }
@@ -226,7 +237,7 @@ EvaluationOutcome Evaluate(quotes::QuoteSeries const& series, EvaluationRequest 
     Plan const plan{request.Models, request.MovingAverageLength, request.Parameters};
     SurrogateTest surrogates(series, request);
     auto const workers = static_cast<std::size_t>(std::max(1, request.Jobs));
-    Piece const piece = [&](std::size_t number, std::size_t, search::GoOn const& goOn) {
+    Piece const piece = [&](std::size_t number, search::GoOn const& goOn) {
         if (number < origins.size()) {
             // The latest origins take longest.
             Origin& origin = evaluation.Origins[origins.size() - 1 - number];
@@ -241,7 +252,10 @@ EvaluationOutcome Evaluate(quotes::QuoteSeries const& series, EvaluationRequest 
     }
     evaluation.SurrogateCount = surrogates.SurrogateCount();
     evaluation.Surrogates = surrogates.Report();
-    Judge(evaluation);
+    Piece const judge = [&](std::size_t, search::GoOn const& goOn) { Judge(evaluation, goOn); };
+    if (!DoPieces(1, 1, judge, [&](double) { return watch(1); })) {
+        return {};
+    }
     return {std::move(evaluation), {}};
 }
 

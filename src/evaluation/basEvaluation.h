@@ -39,7 +39,8 @@ struct EvaluationOutcome {
 [[nodiscard]] EvaluationOutcome Evaluate(quotes::QuoteSeries const& series, EvaluationRequest const& request,
                                          Watch const& watch);
 
-// Makes figures, intervals and verdicts of the origins' forecasts, which are those of the models.
-void Judge(Evaluation& evaluation);
+// Makes figures, intervals and verdicts of the origins' forecasts, which are those of the models. Once the
+// callback says no it ends in any state.
+void Judge(Evaluation& evaluation, search::GoOn const& goOn);
 
 } // namespace quorvex::evaluation

@@ -18,6 +18,48 @@ double DirectionScore(Move const& move) {
     return (move.Foreseen > 0) == (move.Actual > 0) ? 1 : 0;
 }
 
+// Those of all forecasts.
+struct Means {
+    double Foreseen = 0;
+    double Actual = 0;
+};
+
+Means MeansOf(Moves const& moves) {
+    Means means;
+    auto const count = static_cast<double>(ForecastCount(moves));
+    for (std::optional<Move> const& move : moves) {
+        means.Foreseen += move ? move->Foreseen / count : 0;
+        means.Actual += move ? move->Actual / count : 0;
+    }
+    return means;
+}
+
+// 0 when it is rounding: moves are differences of prices that are larger by far.
+double DistanceFrom(double mean, double value) {
+    constexpr double Negligible = 1e-9;
+    double const distance = value - mean;
+    return std::fabs(distance) > Negligible * std::fabs(mean) ? distance : 0;
+}
+
+Sums PartOf(std::optional<Move> const& move, Means const& means) {
+    if (!move) {
+        return {};
+    }
+    bool const hasMoved = move->Actual != 0;
+    double const foreseen = DistanceFrom(means.Foreseen, move->Foreseen);
+    double const actual = DistanceFrom(means.Actual, move->Actual);
+    return {.Count = 1,
+            .Error = std::fabs(move->Actual - move->Foreseen),
+            .ErrorOfLastClose = std::fabs(move->Actual),
+            .Moved = hasMoved ? 1.0 : 0.0,
+            .Right = hasMoved ? DirectionScore(*move) : 0,
+            .Foreseen = foreseen,
+            .Actual = actual,
+            .ForeseenSquare = foreseen * foreseen,
+            .ActualSquare = actual * actual,
+            .Product = foreseen * actual};
+}
+
 // The sum of squared distances from the mean; 0 when nothing but rounding is left of it.
 double SpreadOf(double square, double sum, double count) {
     constexpr double Negligible = 1e-12;
@@ -26,7 +68,8 @@ double SpreadOf(double square, double sum, double count) {
 }
 
 std::optional<double> CorrelationOf(Sums const& sums) {
-    if (sums.Count == 0) {
+    constexpr double Fewest = 3; // two forecasts lie on a line whatever they are
+    if (sums.Count < Fewest) {
         return std::nullopt;
     }
     double const foreseen = SpreadOf(sums.ForeseenSquare, sums.Foreseen, sums.Count);
@@ -53,21 +96,27 @@ void Sums::Add(Sums const& other) {
     Product += other.Product;
 }
 
-Sums SumsOf(std::optional<Move> const& move) {
-    if (!move) {
-        return {};
+std::size_t ForecastCount(Moves const& moves) {
+    return static_cast<std::size_t>(
+        std::count_if(moves.begin(), moves.end(), [](auto const& move) { return move.has_value(); }));
+}
+
+std::vector<Sums> PartsOf(Moves const& moves) {
+    Means const means = MeansOf(moves);
+    std::vector<Sums> parts;
+    parts.reserve(moves.size());
+    for (std::optional<Move> const& move : moves) {
+        parts.push_back(PartOf(move, means));
     }
-    bool const hasMoved = move->Actual != 0;
-    return {.Count = 1,
-            .Error = std::fabs(move->Actual - move->Foreseen),
-            .ErrorOfLastClose = std::fabs(move->Actual),
-            .Moved = hasMoved ? 1.0 : 0.0,
-            .Right = hasMoved ? DirectionScore(*move) : 0,
-            .Foreseen = move->Foreseen,
-            .Actual = move->Actual,
-            .ForeseenSquare = move->Foreseen * move->Foreseen,
-            .ActualSquare = move->Actual * move->Actual,
-            .Product = move->Foreseen * move->Actual};
+    return parts;
+}
+
+Sums SumsOf(Moves const& moves) {
+    Sums sums;
+    for (Sums const& part : PartsOf(moves)) {
+        sums.Add(part);
+    }
+    return sums;
 }
 
 Figures FiguresOf(Sums const& sums) {
@@ -83,11 +132,7 @@ Figures FiguresOf(Sums const& sums) {
 }
 
 Figures FiguresOf(Moves const& moves) {
-    Sums sums;
-    for (std::optional<Move> const& move : moves) {
-        sums.Add(SumsOf(move));
-    }
-    return FiguresOf(sums);
+    return FiguresOf(SumsOf(moves));
 }
 
 } // namespace quorvex::evaluation

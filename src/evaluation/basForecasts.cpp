@@ -11,6 +11,7 @@
 #include "text/RunTimeError.h"
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 
 namespace quorvex::evaluation {
@@ -111,28 +112,34 @@ private:
         return prices;
     }
 
-    // The price of a cycle unit that makes the composite fit the moving average by least squares; 0 when it
-    // would have to be upside down for that, or does not change.
-    [[nodiscard]] double FittedUnit() const {
-        constexpr double Negligible = 1e-12;
-        double const n = Count();
-        double sumX = 0;
-        double sumY = 0;
-        double sumXX = 0;
-        double sumXY = 0;
+    // The mean of days 1..n.
+    template <class Curve>
+    [[nodiscard]] double MeanOf(Curve const& curve) const {
+        double sum = 0;
         for (int day = 1; day <= Count(); ++day) {
-            double const x = curves_->CompositeCurve[day];
-            double const y = curves_->MovingAverageCurve[day];
-            sumX += x;
-            sumY += y;
-            sumXX += x * x;
-            sumXY += x * y;
+            sum += curve[day];
         }
-        double const spread = text::RequireFinite(sumXX - sumX * sumX / n);
-        if (spread <= Negligible * sumXX) {
+        return sum / Count();
+    }
+
+    // The price of a cycle unit that makes the composite fit the moving average by least squares; 0 when it
+    // would have to be upside down for that, or does not change by more than rounding.
+    [[nodiscard]] double FittedUnit() const {
+        constexpr double Negligible = 1e-9; // of a cycle unit, or of the composite's distance from 0
+        double const meanX = MeanOf(curves_->CompositeCurve);
+        double const meanY = MeanOf(curves_->MovingAverageCurve);
+        double spread = 0;
+        double common = 0;
+        for (int day = 1; day <= Count(); ++day) {
+            double const x = curves_->CompositeCurve[day] - meanX;
+            spread += x * x;
+            common += x * (curves_->MovingAverageCurve[day] - meanY);
+        }
+        double const least = Negligible * (1 + std::fabs(meanX));
+        if (text::RequireFinite(spread) <= least * least * Count()) {
             return 0;
         }
-        return std::max(0.0, text::RequireFinite((sumXY - sumX * sumY / n) / spread));
+        return std::max(0.0, text::RequireFinite(common / spread));
     }
 
     std::unique_ptr<quotes::QuoteSeries> series_ = std::make_unique<quotes::QuoteSeries>();

@@ -33,7 +33,7 @@ public:
     void Start(std::size_t workers) {
         threads_.reserve(workers);
         for (std::size_t worker = 0; worker < workers; ++worker) {
-            threads_.emplace_back([this, worker] { Work(worker); });
+            threads_.emplace_back([this] { Work(); });
         }
     }
 
@@ -59,11 +59,11 @@ public:
     }
 
 private:
-    void Work(std::size_t worker) {
+    void Work() {
         search::GoOn const goOn = [this] { return !isEnded_; };
         for (std::size_t number = next_++; number < count_ && goOn(); number = next_++) {
             try {
-                piece_(number, worker, goOn);
+                piece_(number, goOn);
                 std::scoped_lock const lock(mutex_);
                 ++done_;
                 if (done_ < count_) {

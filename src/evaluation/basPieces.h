@@ -15,9 +15,9 @@ namespace quorvex::evaluation {
 // it.
 using Watch = std::function<bool(double)>;
 
-// One piece: its number, and that of the worker, of whom each does one piece at a time. The callback is to be
-// asked many times a second; once it says no the piece ends in any state.
-using Piece = std::function<void(std::size_t, std::size_t, search::GoOn const&)>;
+// One piece by its number. The callback is to be asked many times a second; once it says no the piece ends in
+// any state.
+using Piece = std::function<void(std::size_t, search::GoOn const&)>;
 
 // Does the pieces 0.. on so many threads, while the calling one watches. Returns whether all were done; not
 // when the watch ended it. What a piece throws ends the others and comes through. REQUIRES: 1 worker at

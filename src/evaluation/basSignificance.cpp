@@ -12,16 +12,19 @@ namespace quorvex::evaluation {
 
 namespace {
 
-constexpr std::size_t FewestForecasts = 10;
 constexpr int FewestDegrees = 3;
 
+// A ratio is rounded to some 15 digits.
+constexpr double NegligibleGain = 1e-9;
+constexpr double NegligibleVariance = NegligibleGain * NegligibleGain;
+
 // u of each origin, as the header has it. Origins without a forecast have no part in any sum.
-std::vector<double> Deviations(Moves const& moves, Sums const& sums) {
+std::vector<double> Deviations(std::vector<Sums> const& parts, Sums const& sums) {
     double const ratio = sums.Error / sums.ErrorOfLastClose;
     double const scale = sums.Count / sums.ErrorOfLastClose;
     std::vector<double> deviations;
-    for (std::optional<Move> const& move : moves) {
-        Sums const part = SumsOf(move);
+    deviations.reserve(parts.size());
+    for (Sums const& part : parts) {
         deviations.push_back((part.Error - ratio * part.ErrorOfLastClose) * scale);
     }
     return deviations;
@@ -72,18 +75,22 @@ double UpperTail(double t, int degrees) {
 }
 
 std::optional<double> ChanceOfRatio(Moves const& moves, std::size_t overlap) {
+    std::vector<Sums> const parts = PartsOf(moves);
     Sums sums;
-    for (std::optional<Move> const& move : moves) {
-        sums.Add(SumsOf(move));
+    for (Sums const& part : parts) {
+        sums.Add(part);
     }
     int const degrees = static_cast<int>(sums.Count) - 1 - 2 * (static_cast<int>(overlap) - 1);
     if (sums.Count < FewestForecasts || degrees < FewestDegrees || sums.ErrorOfLastClose == 0) {
         return std::nullopt;
     }
-    double const variance = VarianceOfMean(Deviations(moves, sums), sums.Count, overlap);
     double const gain = 1 - sums.Error / sums.ErrorOfLastClose;
-    if (variance == 0) {
-        return gain > 0 ? 0.0 : 1.0; // the ratio is the same everywhere
+    if (gain <= NegligibleGain) {
+        return 1.0;
+    }
+    double const variance = VarianceOfMean(Deviations(parts, sums), sums.Count, overlap);
+    if (variance < NegligibleVariance) {
+        return 0.0; // the ratio is the same everywhere
     }
     return UpperTail(gain / std::sqrt(variance), degrees);
 }

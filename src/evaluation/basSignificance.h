@@ -17,9 +17,9 @@ namespace quorvex::evaluation {
 // least.
 [[nodiscard]] double UpperTail(double t, int degrees);
 
-// The probability of an error ratio as low as that of these moves or lower when the truth is 1. Each forecast
-// shares days with the next overlap - 1 ones. Nothing for less than ten forecasts, and for so few that the
-// overlap leaves not enough of them.
+// The probability of an error ratio as low as that of these moves or lower when the truth is 1; 1 for a ratio
+// of 1 or more. Each forecast shares days with the next overlap - 1 ones. Nothing for less than ten
+// forecasts, for so few that the overlap leaves not enough of them, and where the close did not move.
 //
 // The ratio is that of two means, so that its variance is that of the mean of
 //

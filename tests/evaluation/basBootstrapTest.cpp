@@ -22,6 +22,11 @@ Moves SomeMoves(std::size_t count, std::uint32_t seed) {
     return moves;
 }
 
+std::vector<FigureIntervals> IntervalsOf(std::vector<Moves> const& sets, std::size_t blockLength,
+                                         int sampleCount) {
+    return ResampledIntervals(sets, blockLength, sampleCount, [] { return true; });
+}
+
 // The same interval from whole copies of the moves.
 std::optional<Interval> PlainInterval(Moves const& moves, std::size_t blockLength, int sampleCount,
                                       std::optional<double> Figures::*figure) {
@@ -88,7 +93,7 @@ TEST(Bootstrap, ABlockOfAllLeavesNoChoice) {
 
 TEST(Bootstrap, ConstantFiguresHaveIntervalsWithoutWidth) {
     Moves const moves(20, Move{1, 2});
-    auto const intervals = ResampledIntervals(std::vector<Moves>{moves}, 5, 100).front();
+    auto const intervals = IntervalsOf({moves}, 5, 100).front();
     ASSERT_TRUE(intervals.ErrorRatio);
     EXPECT_EQ(intervals.ErrorRatio->Low, 0.5);
     EXPECT_EQ(intervals.ErrorRatio->High, 0.5);
@@ -100,7 +105,7 @@ TEST(Bootstrap, ConstantFiguresHaveIntervalsWithoutWidth) {
 
 TEST(Bootstrap, GivesWhatWholeCopiesGive) {
     std::vector<Moves> const sets = {SomeMoves(30, 1), SomeMoves(30, 2)};
-    auto const intervals = ResampledIntervals(sets, 4, 300);
+    auto const intervals = IntervalsOf(sets, 4, 300);
     for (std::size_t set = 0; set < sets.size(); ++set) {
         auto const expectSame = [](std::optional<Interval> const& actual,
                                    std::optional<Interval> const& expected) {
@@ -116,12 +121,35 @@ TEST(Bootstrap, GivesWhatWholeCopiesGive) {
 }
 
 TEST(Bootstrap, AFigureThatMostSamplesLackHasNoInterval) {
-    Moves moves(20);
+    Moves moves(20, Move{1, 0});
     moves[0] = Move{1, 2};
-    auto const intervals = ResampledIntervals(std::vector<Moves>{moves}, 1, 200).front();
+    auto const intervals = IntervalsOf({moves}, 1, 200).front();
     EXPECT_TRUE(intervals.ErrorRatio); // in 64 of 100 samples
     EXPECT_FALSE(intervals.Correlation);
-    EXPECT_FALSE(ResampledIntervals(std::vector<Moves>{Moves(20)}, 1, 200).front().ErrorRatio);
+    EXPECT_FALSE(IntervalsOf({Moves(20, Move{1, 0})}, 1, 200).front().ErrorRatio);
+}
+
+TEST(Bootstrap, FewerThanTenForecastsHaveNoIntervals) {
+    Moves moves(20);
+    for (std::size_t index = 0; index < 9; ++index) {
+        moves[2 * index] = Move{static_cast<double>(index), 1 - static_cast<double>(index % 3)};
+    }
+    auto const ofNine = IntervalsOf({moves}, 1, 200).front();
+    EXPECT_FALSE(ofNine.ErrorRatio);
+    EXPECT_FALSE(ofNine.RightDirections);
+    EXPECT_FALSE(ofNine.Correlation);
+    moves[1] = Move{1, 1};
+    auto const ofTen = IntervalsOf({moves}, 1, 200).front();
+    EXPECT_TRUE(ofTen.ErrorRatio);
+    EXPECT_TRUE(ofTen.RightDirections);
+    EXPECT_TRUE(ofTen.Correlation);
+}
+
+TEST(Bootstrap, EndsWhenTheCallbackSaysSo) {
+    std::vector<Moves> const sets = {SomeMoves(30, 1)};
+    int asked = 0;
+    EXPECT_TRUE(ResampledIntervals(sets, 4, 300, [&asked] { return ++asked < 5; }).empty());
+    EXPECT_EQ(asked, 5);
 }
 
 } // namespace

@@ -4,10 +4,14 @@
 #include "evaluation/basEvaluation.h"
 
 #include "MadeSeries.h"
+#include "cycles/basCurves.h"
+#include "evaluation/Surrogates.h"
 #include "evaluation/basVerdicts.h"
+#include "search/basSearch.h"
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <chrono>
 #include <random>
 
@@ -166,6 +170,38 @@ TEST(Evaluate, ComparesWithTheCloseOfTheHorizon) {
     EXPECT_NEAR(report.ByHorizon.at(2).Figures.ErrorRatio.value(), error / errorOfLastClose, 1e-12);
 }
 
+TEST(Evaluate, ACycleThatComesBackWithinTheHorizonForeseesNoChange) {
+    // Rising closes: the slightest rounding upwards would be the right direction.
+    std::vector<double> closes;
+    for (int day = 0; day < 400; ++day) {
+        closes.push_back(1 + day * 0.75 + day % 3 * 0.2);
+    }
+    auto const series = SeriesOfCloses(closes);
+    auto const parameters = std::make_unique<cycles::CycleParameterSet>();
+    EvaluationRequest request = SmallRequest();
+    request.Models = {{Method::Parameters, 0}};
+    request.Parameters = parameters.get();
+    for (auto const& [period, first] : {std::pair{5.0, std::size_t{1}}, {25.0, std::size_t{3}}}) {
+        for (int shift = -30; shift <= 30; shift += 15) {
+            SCOPED_TRACE(testing::Message() << period << ' ' << shift);
+            parameters->Cycles[1].Weight = 100;
+            parameters->Cycles[1].Period = period;
+            parameters->Cycles[1].Shift = shift;
+            Evaluation const evaluation = EvaluationOf(*series, request);
+            for (ForecastKind const kind : {ForecastKind::Composite, ForecastKind::Scaled}) {
+                for (std::size_t horizon = first; horizon < Horizons.size(); ++horizon) {
+                    auto const& report = evaluation.Models.front().Of(kind).ByHorizon.at(horizon);
+                    EXPECT_EQ(report.Figures.ErrorRatio, 1.0);
+                    EXPECT_EQ(report.Figures.RightDirections, 0.5);
+                    EXPECT_EQ(report.Figures.Correlation, std::nullopt);
+                    EXPECT_EQ(report.Chance, 1.0);
+                    EXPECT_FALSE(report.IsBetter);
+                }
+            }
+        }
+    }
+}
+
 TEST(Evaluate, CountsOriginsWithoutAForecastAndGoesOnWithTheOthers) {
     // Level for the first origins.
     auto closes = WalkingCloses(200, 6);
@@ -181,14 +217,49 @@ TEST(Evaluate, CountsOriginsWithoutAForecastAndGoesOnWithTheOthers) {
 TEST(Evaluate, ReportsTheSurrogatesOfItsSearches) {
     EvaluationRequest request = SmallRequest();
     request.SurrogateCount = 12;
-    Evaluation const evaluation = EvaluationOf(*SeriesOfCloses(CyclicCloses(130, 7)), request);
+    Evaluation const evaluation = EvaluationOf(*SeriesOfCloses(WalkingCloses(130, 7)), request);
     EXPECT_EQ(evaluation.SurrogateCount, 12);
     ASSERT_EQ(evaluation.Surrogates.size(), 2U);
     EXPECT_EQ(evaluation.Surrogates[0].CycleCount, 1);
     EXPECT_EQ(evaluation.Surrogates[1].CycleCount, 2);
     EXPECT_GE(evaluation.Surrogates[1].Correlation, evaluation.Surrogates[0].Correlation);
-    EXPECT_GT(evaluation.Surrogates[1].Correlation, 0.8);
-    EXPECT_LE(evaluation.Surrogates[1].AsWell, 12);
+    auto const searched = [&](std::vector<double> const& closes) {
+        auto const curves = std::make_unique<cycles::CycleCurves>();
+        cycles::ComputeMovingAverage(*SeriesOfCloses(closes), 5, curves->MovingAverageCurve);
+        search::SearchRequest quick;
+        quick.CycleCount = 2;
+        quick.HowHard = search::Effort::Quick;
+        return search::SearchMovingAverage(*curves, 130, quick, [] { return true; }).Models;
+    };
+    auto const closes = WalkingCloses(130, 7);
+    auto const models = searched(closes);
+    std::array<int, 2> asWell{};
+    for (std::uint64_t number = 1; number <= 12; ++number) {
+        auto const ofSurrogate = searched(SurrogateMaker(closes).Make(number));
+        for (std::size_t index = 0; index < 2; ++index) {
+            asWell.at(index) += ofSurrogate.at(index).Correlation >= models.at(index).Correlation ? 1 : 0;
+        }
+    }
+    for (std::size_t index = 0; index < 2; ++index) {
+        EXPECT_EQ(evaluation.Surrogates[index].Correlation, models.at(index).Correlation);
+        EXPECT_EQ(evaluation.Surrogates[index].AsWell, asWell.at(index));
+    }
+    EXPECT_GT(asWell[0] + asWell[1], 0); // so that something was counted
+    EXPECT_LT(asWell[0] + asWell[1], 24);
+}
+
+TEST(Evaluate, SurrogatesThatDifferByRoundingAloneCorrelateAsWell) {
+    // A line has no changes to be given other phases.
+    std::vector<double> closes;
+    for (int day = 0; day < 130; ++day) {
+        closes.push_back(100 + day * 0.1);
+    }
+    EvaluationRequest request = SmallRequest();
+    request.SurrogateCount = 20;
+    Evaluation const evaluation = EvaluationOf(*SeriesOfCloses(closes), request);
+    ASSERT_EQ(evaluation.Surrogates.size(), 2U);
+    EXPECT_EQ(evaluation.Surrogates[0].AsWell, 20);
+    EXPECT_EQ(evaluation.Surrogates[1].AsWell, 20);
 }
 
 TEST(Evaluate, WithoutSurrogatesOrSearchesThereIsNoReportOfThem) {
@@ -258,6 +329,23 @@ TEST(Evaluate, TellsItsProgressAndEndsWhenTheWatchSaysSo) {
     EXPECT_EQ(outcome.Refusal, "");
     // Five times what Cancel may take, for a busy machine.
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+}
+
+TEST(Evaluate, EndsWhileItJudgesWhenTheWatchSaysSo) {
+    EvaluationRequest request = SmallRequest();
+    request.Models = {{Method::Automate, 1}};
+    request.Every = 1;
+    request.SampleCount = 10'000'000; // hours
+    int told = 0;
+    std::chrono::steady_clock::time_point asked;
+    auto const outcome = Evaluate(*SeriesOfCloses(WalkingCloses(300, 14)), request, [&](double share) {
+        asked = std::chrono::steady_clock::now();
+        told += share == 1 ? 1 : 0;
+        return told < 3; // the first is the end of the forecasts
+    });
+    EXPECT_FALSE(outcome.Result);
+    EXPECT_EQ(outcome.Refusal, "");
+    EXPECT_LT(std::chrono::steady_clock::now() - asked, std::chrono::seconds(1));
 }
 
 } // namespace

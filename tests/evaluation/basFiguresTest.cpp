@@ -53,6 +53,28 @@ TEST(Figures, WithoutForecastsThereAreNone) {
 
 TEST(Figures, EqualForecastsCorrelateWithNothingHoweverTheyAreRounded) {
     EXPECT_EQ(FiguresOf({Move{0.1, 1}, Move{0.1, 2}, Move{0.1, -1}}).Correlation, std::nullopt);
+    double const next = std::nextafter(0.1, 1);
+    EXPECT_EQ(FiguresOf({Move{0.1, 1}, Move{next, 2}, Move{0.1, -1}}).Correlation, std::nullopt);
+}
+
+TEST(Figures, CorrelateLargeMovesAsWellAsTheirDifferences) {
+    Moves small;
+    Moves large;
+    for (int index = 0; index < 20; ++index) {
+        double const foreseen = index % 7;
+        double const actual = index % 7 + index % 3;
+        small.push_back(Move{foreseen, actual});
+        large.push_back(Move{foreseen + 1e7, actual - 1e7});
+    }
+    EXPECT_NEAR(FiguresOf(large).Correlation.value(), FiguresOf(small).Correlation.value(), 1e-9);
+}
+
+TEST(Figures, TwoForecastsAlwaysLieOnALineAndCorrelateWithNothing) {
+    Moves moves = {Move{1, 2}, std::nullopt, Move{3, 5}};
+    EXPECT_EQ(FiguresOf(moves).Correlation, std::nullopt);
+    EXPECT_EQ(ForecastCount(moves), 2U);
+    moves.push_back(Move{2, 4});
+    EXPECT_TRUE(FiguresOf(moves).Correlation);
 }
 
 } // namespace

@@ -169,6 +169,21 @@ TEST(Forecasts, ScaledOnesAreNeverUpsideDown) {
     }
 }
 
+TEST(Forecasts, ScaledOnesOfACycleThatNeverSwingsStayAtTheLastClose) {
+    std::vector<double> closes;
+    for (int day = 1; day <= 160; ++day) {
+        closes.push_back(500 - day);
+    }
+    auto const series = SeriesOfCloses(closes);
+    auto const set = std::make_unique<cycles::CycleParameterSet>();
+    set->Cycles[1].Weight = 100;
+    set->Cycles[1].Period = 1;
+    auto const forecast = ForecastsOf(*series, {{{Method::Parameters, 0}}, 5, set.get()}).front();
+    for (int day = 1; day <= cycles::ForecastDays; ++day) {
+        EXPECT_EQ((*forecast.Of(ForecastKind::Scaled))[day], closes.back());
+    }
+}
+
 TEST(Forecasts, TellWhyThereAreNone) {
     auto const level = SeriesOfCloses(std::vector<double>(120, 50));
     auto const set = std::make_unique<cycles::CycleParameterSet>();

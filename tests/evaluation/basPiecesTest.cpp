@@ -27,8 +27,7 @@ TEST(Pieces, AreDoneOnceEachByAnyNumberOfWorkers) {
         double last = 0;
         EXPECT_TRUE(DoPieces(
             done.size(), workers,
-            [&](std::size_t number, std::size_t worker, search::GoOn const& goOn) {
-                EXPECT_LT(worker, workers);
+            [&](std::size_t number, search::GoOn const& goOn) {
                 EXPECT_TRUE(goOn());
                 ++done[number];
             },
@@ -44,7 +43,7 @@ TEST(Pieces, AreDoneOnceEachByAnyNumberOfWorkers) {
 
 TEST(Pieces, NoneAreDoneAtOnce) {
     EXPECT_TRUE(DoPieces(
-        0, 2, [](std::size_t, std::size_t, search::GoOn const&) { FAIL(); }, WatchOn));
+        0, 2, [](std::size_t, search::GoOn const&) { FAIL(); }, WatchOn));
 }
 
 TEST(Pieces, EndWithinAFifthOfASecondOnceTheWatchSaysSo) {
@@ -52,7 +51,7 @@ TEST(Pieces, EndWithinAFifthOfASecondOnceTheWatchSaysSo) {
     auto const start = std::chrono::steady_clock::now();
     EXPECT_FALSE(DoPieces(
         100, 2,
-        [&](std::size_t, std::size_t, search::GoOn const& goOn) {
+        [&](std::size_t, search::GoOn const& goOn) {
             ++begun;
             while (goOn()) {
                 std::this_thread::sleep_for(1ms);
@@ -71,7 +70,7 @@ TEST(Pieces, AFaultEndsTheOthersAndComesThrough) {
     std::atomic<int> done = 0;
     EXPECT_THROW(static_cast<void>(DoPieces(
                      1000, 2,
-                     [&](std::size_t number, std::size_t, search::GoOn const&) {
+                     [&](std::size_t number, search::GoOn const&) {
                          if (number == 3) {
                              throw text::RunTimeError(text::Fault::Overflow);
                          }

@@ -89,6 +89,20 @@ TEST(Significance, TheLastCloseItselfIsNoBetter) {
     EXPECT_EQ(ChanceOfRatio(Moves(12, Move{0, 3}), 1), 1.0);
 }
 
+TEST(Significance, RoundingIsNoGain) {
+    Moves moves(12, Move{0, 3});
+    moves[4]->Foreseen = 1e-11;
+    EXPECT_EQ(ChanceOfRatio(moves, 1), 1.0);
+}
+
+TEST(Significance, ARatioThatIsTheSameButForRoundingIsSure) {
+    Moves moves;
+    for (int index = 1; index <= 12; ++index) {
+        moves.push_back(Move{index * 0.07, index * 0.1});
+    }
+    EXPECT_EQ(ChanceOfRatio(moves, 1), 0.0);
+}
+
 TEST(Significance, FewForecastsAreNotTested) {
     EXPECT_FALSE(ChanceOfRatio(AlternatingMoves(9), 1));
     EXPECT_TRUE(ChanceOfRatio(AlternatingMoves(10), 1));
