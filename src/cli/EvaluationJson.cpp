@@ -62,7 +62,7 @@ std::string_view MethodName(evaluation::Method method) {
 
 Json ModelJson(evaluation::Evaluation const& evaluation, std::size_t position) {
     evaluation::ModelReport const& report = evaluation.Models[position];
-    bool const isCounted = report.Model.Method != evaluation::Method::Parameters;
+    bool const isRefitted = evaluation::IsRefitted(report.Model);
     Json forecasts = Json::array();
     for (ForecastKind const kind : evaluation::ForecastKinds) {
         forecasts.push_back({{"Kind", evaluation::KindName(kind)},
@@ -72,7 +72,8 @@ Json ModelJson(evaluation::Evaluation const& evaluation, std::size_t position) {
     }
     return {{"Name", evaluation::ModelName(report.Model)},
             {"Method", MethodName(report.Model.Method)},
-            {"CycleCount", isCounted ? Json(report.Model.CycleCount) : Json()},
+            {"CycleCount", isRefitted ? Json(report.Model.CycleCount) : Json()},
+            {"IsRefitted", isRefitted},
             {"Verdict", report.Verdict},
             {"Faults", Json(report.Faults)},
             {"Forecasts", std::move(forecasts)}};

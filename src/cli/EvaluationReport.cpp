@@ -68,6 +68,7 @@ std::string EvaluationReport(evaluation::Evaluation const& evaluation) {
         verdicts.push_back(evaluation::ModelName(model.Model) + ": " + model.Verdict);
     }
     return evaluation::DescribeTest(evaluation) + "\n\n" + Table(evaluation) +
+           Section("Key", evaluation::TableKey(evaluation)) +
            Section("Without a forecast", evaluation::FaultLines(evaluation)) +
            Section("Correlation with the moving average of all days",
                    evaluation::SurrogateLines(evaluation)) +

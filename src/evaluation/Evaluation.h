@@ -8,6 +8,7 @@
 #include "evaluation/basFigures.h"
 #include "evaluation/basForecasts.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <map>
@@ -68,6 +69,12 @@ struct Evaluation {
     std::vector<ModelReport> Models;
     int SurrogateCount = 0;
     std::vector<SurrogateReport> Surrogates; // of the searches among the models
+
+    // Whether the cycles of a model may have been chosen with the days in view that it is tested on.
+    [[nodiscard]] bool HasFixedCycles() const {
+        return std::any_of(Models.begin(), Models.end(),
+                           [](ModelReport const& report) { return !IsRefitted(report.Model); });
+    }
 
     [[nodiscard]] std::string const& DateOf(Origin const& origin) const {
         return Dates[static_cast<std::size_t>(origin.Day) - 1];

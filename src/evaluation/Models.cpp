@@ -22,11 +22,15 @@ std::string ModelName(Model const& model) {
     case Method::Automate:
         return "Fit of " + cycles;
     case Method::Search:
-        return "Search of " + cycles;
+        return "Quick search of " + cycles;
     case Method::Parameters:
-        return "Parameter file";
+        return "Parameter file (fixed cycles)";
     }
     return {};
+}
+
+bool IsRefitted(Model const& model) {
+    return model.Method != Method::Parameters;
 }
 
 std::string_view KindName(ForecastKind kind) {

@@ -28,8 +28,12 @@ struct Model {
 // Fits of one, two and three cycles and searches of one, two, three and five; the parameters come last.
 [[nodiscard]] std::vector<Model> StandardModels(bool withParameters);
 
-// What a model is called, such as "Search of 3 cycles".
+// What a model is called, such as "Quick search of 3 cycles".
 [[nodiscard]] std::string ModelName(Model const& model);
+
+// Whether its cycles are made anew of the days up to each origin. Fixed ones may have been chosen with the
+// days in view that they are tested on.
+[[nodiscard]] bool IsRefitted(Model const& model);
 
 // What a model's cycles are turned into prices by.
 enum class ForecastKind {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // How well the searches follow surrogates of the series, compared with the series itself: how much of a fine
-// fit is mere flexibility.
+// fit anything with such a spectrum would give.
 #pragma once
 
 #include "evaluation/Evaluation.h"

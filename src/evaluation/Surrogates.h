@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 // Surrogates: series that keep every period's share of the daily changes and nothing of how they fall
-// together. What a search finds in them is what it finds where there is nothing to be found.
+// together. A search that follows them as well as the series has gained nothing from the phases; whether
+// there are cycles they do not tell, since a cycle of the series is in all of them.
 #pragma once
 
 #include "search/basAngles.h"

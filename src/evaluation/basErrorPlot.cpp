@@ -3,6 +3,8 @@
 
 #include "evaluation/basErrorPlot.h"
 
+#include "evaluation/basVerdicts.h"
+
 #include <algorithm>
 #include <cmath>
 #include <string>
@@ -125,7 +127,7 @@ void DrawNames(platform::Canvas& canvas, double left, double top, Evaluation con
 }
 
 // The colours of the kinds, and what a ring means.
-void DrawKinds(platform::Canvas& canvas, double left, double y) {
+void DrawKinds(platform::Canvas& canvas, double left, double y, Evaluation const& evaluation) {
     double const middle = y + canvas.TextHeight() / 2;
     double x = left;
     for (ForecastKind const kind : ForecastKinds) {
@@ -136,7 +138,8 @@ void DrawKinds(platform::Canvas& canvas, double left, double y) {
     }
     DrawMark(canvas, x + HalfRing, middle, HalfMark, CloseColour, Fill::Filled);
     DrawMark(canvas, x + HalfRing, middle, HalfRing, CloseColour, Fill::Outline);
-    PrintOnPlot(canvas, x + 2 * HalfRing + TextGap, y, "better than the last close beyond chance");
+    PrintOnPlot(canvas, x + 2 * HalfRing + TextGap, y,
+                "better than the last close beyond chance" + ConditionOfFixedCycles(evaluation));
 }
 
 } // namespace
@@ -166,7 +169,7 @@ void DrawErrors(platform::Canvas& canvas, PlotArea const& area, Evaluation const
                      std::to_string(days) + (days == 1 ? " day ahead" : " days ahead"));
         DrawColumn(canvas, column, evaluation, index);
     }
-    DrawKinds(canvas, left, bottom + line);
+    DrawKinds(canvas, left, bottom + line, evaluation);
 }
 
 } // namespace quorvex::evaluation

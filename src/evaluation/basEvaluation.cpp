@@ -92,11 +92,14 @@ Moves ModelMoves(Evaluation const& evaluation, std::size_t model, ForecastKind k
     });
 }
 
+// Whose chances are corrected together: fixed cycles that are tested beside the others change none of theirs.
+enum class Family { Drift, Refitted, Fixed };
+
 // What is judged: the report to fill and the moves that it is about.
 struct Case {
     HorizonReport* Report = nullptr;
     int Horizon = 0;
-    bool IsModel = false;
+    evaluation::Family Family = evaluation::Family::Drift;
 };
 
 class Judging {
@@ -106,20 +109,23 @@ public:
     void Run(search::GoOn const& goOn) {
         Collect();
         ComputeFigures(goOn);
-        ComputeChances();
+        ComputeChances(Family::Refitted);
+        ComputeChances(Family::Fixed);
     }
 
 private:
     void Collect() {
         for (std::size_t index = 0; index < Horizons.size(); ++index) {
-            cases_.push_back({&evaluation_.Drift.at(index), Horizons.at(index), false});
+            cases_.push_back({&evaluation_.Drift.at(index), Horizons.at(index), Family::Drift});
             moves_.push_back(DriftMoves(evaluation_, Horizons.at(index)));
         }
         for (std::size_t model = 0; model < evaluation_.Models.size(); ++model) {
+            Family const family =
+                IsRefitted(evaluation_.Models[model].Model) ? Family::Refitted : Family::Fixed;
             for (ForecastKind const kind : ForecastKinds) {
                 KindReport& report = evaluation_.Models[model].ByKind.at(static_cast<std::size_t>(kind));
                 for (std::size_t index = 0; index < Horizons.size(); ++index) {
-                    cases_.push_back({&report.ByHorizon.at(index), Horizons.at(index), true});
+                    cases_.push_back({&report.ByHorizon.at(index), Horizons.at(index), family});
                     moves_.push_back(ModelMoves(evaluation_, model, kind, Horizons.at(index)));
                 }
                 report.ForecastCount = static_cast<int>(ForecastCount(moves_.back()));
@@ -141,13 +147,13 @@ private:
         }
     }
 
-    void ComputeChances() {
+    void ComputeChances(Family family) {
         std::vector<HorizonReport*> tested;
         std::vector<double> chances;
         for (std::size_t index = 0; index < cases_.size(); ++index) {
             Case const& one = cases_[index];
             std::optional<double> const chance =
-                one.IsModel ? ChanceOfRatio(moves_[index], OverlapOf(one.Horizon)) : std::nullopt;
+                one.Family == family ? ChanceOfRatio(moves_[index], OverlapOf(one.Horizon)) : std::nullopt;
             if (chance) {
                 tested.push_back(one.Report);
                 chances.push_back(*chance);
@@ -218,7 +224,7 @@ void Judge(Evaluation& evaluation, search::GoOn const& goOn) {
     CountFaults(evaluation);
     Judging(evaluation).Run(goOn);
     for (ModelReport& model : evaluation.Models) {
-        model.Verdict = VerdictOf(model);
+        model.Verdict = VerdictOf(model, evaluation);
     }
 }
 

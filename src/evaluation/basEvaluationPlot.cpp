@@ -15,15 +15,12 @@ namespace {
 
 // What is drawn when nothing is better than the last close.
 std::size_t UsualModel(std::vector<ModelReport> const& models) {
-    constexpr int UsualCycles = 3;
+    constexpr Model Usual{Method::Search, 3};
     std::size_t usual = models.size() - 1;
-    if (models[usual].Model.Method == Method::Parameters) {
-        return usual;
-    }
     for (std::size_t index = 0; index < models.size(); ++index) {
-        if (models[index].Model == Model{Method::Search, UsualCycles}) {
-            usual = index;
-        }
+        bool const isFirstChoice = models[index].Model == Usual;
+        bool const isBetterThanNone = IsRefitted(models[index].Model) && models[usual].Model != Usual;
+        usual = isFirstChoice || isBetterThanNone ? index : usual;
     }
     return usual;
 }
@@ -34,6 +31,9 @@ FanChoice ChooseFan(Evaluation const& evaluation) {
     FanChoice choice{UsualModel(evaluation.Models), ForecastKind::Composite};
     std::optional<double> least;
     for (std::size_t index = 0; index < evaluation.Models.size(); ++index) {
+        if (!IsRefitted(evaluation.Models[index].Model)) {
+            continue;
+        }
         for (ForecastKind const kind : ForecastKinds) {
             for (HorizonReport const& report : evaluation.Models[index].Of(kind).ByHorizon) {
                 if (report.IsBetter && (!least || *report.Chance < *least)) {

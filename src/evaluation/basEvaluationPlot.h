@@ -23,8 +23,8 @@ struct FanChoice {
 };
 
 // The model and kind that is most surely better than the last close. When none is, the composite of the
-// parameters or, without them, of the search of three cycles; of the last model without that. REQUIRES: one
-// model at least.
+// search of three cycles; of the last model without that. Fixed cycles are chosen when there is nothing else.
+// REQUIRES: one model at least.
 [[nodiscard]] FanChoice ChooseFan(Evaluation const& evaluation);
 
 // Clears the canvas and draws both. A canvas too small for that stays empty.

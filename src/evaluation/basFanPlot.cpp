@@ -89,10 +89,12 @@ private:
     void DrawCaption() {
         captionLeft_ = area_.Left;
         SetPlotFont(canvas_, true);
-        std::string const model = ModelName(evaluation_.Models[choice_.Model].Model);
+        Model const& model = evaluation_.Models[choice_.Model].Model;
+        std::string const origin = IsRefitted(model) ? "that were made of the days before: "
+                                                     : "by cycles that may have been chosen later: ";
         PrintOnPlot(canvas_, area_.Left, area_.Top,
-                    "Closes, and the forecasts of 25 days that were made of the days before: " + model +
-                        ", " + std::string(KindName(choice_.Kind)));
+                    "Closes, and the forecasts of 25 days " + origin + ModelName(model) + ", " +
+                        std::string(KindName(choice_.Kind)));
         SetPlotFont(canvas_, false);
         DrawLegend();
     }

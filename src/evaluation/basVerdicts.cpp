@@ -29,26 +29,63 @@ std::string Counted(int count, std::string_view noun) {
     return std::to_string(count) + ' ' + std::string(noun) + (count == 1 ? "" : "s");
 }
 
-// "composite at 10 and 25 days"; empty when the kind is nowhere better.
-std::string SkillOf(ModelReport const& model, ForecastKind kind) {
-    std::vector<std::string> horizons;
-    for (std::size_t index = 0; index < Horizons.size(); ++index) {
-        if (model.Of(kind).ByHorizon.at(index).IsBetter) {
-            horizons.push_back(std::to_string(Horizons.at(index)));
+// "window at 1 day and composite at 10 and 25 days": where the predicate of report and horizon's position is
+// true; empty when it is nowhere.
+template <class Predicate>
+std::string PlacesOf(ModelReport const& model, Predicate const& isThere) {
+    std::vector<std::string> places;
+    for (ForecastKind const kind : ForecastKinds) {
+        std::vector<std::string> horizons;
+        for (std::size_t index = 0; index < Horizons.size(); ++index) {
+            if (isThere(model.Of(kind).ByHorizon.at(index), index)) {
+                horizons.push_back(std::to_string(Horizons.at(index)));
+            }
+        }
+        if (!horizons.empty()) {
+            places.push_back(std::string(KindName(kind)) + " at " + Listed(horizons) +
+                             (horizons.back() == "1" ? " day" : " days"));
         }
     }
-    if (horizons.empty()) {
+    return Listed(places);
+}
+
+// Where the model is better than the last close.
+std::string SkillOf(ModelReport const& model) {
+    return PlacesOf(model, [](HorizonReport const& report, std::size_t) { return report.IsBetter; });
+}
+
+// What to say of skill that going on with the mean change would have had, too; empty when there is none.
+std::string ReservationOf(ModelReport const& model, HorizonReports const& drift) {
+    std::string const places = PlacesOf(model, [&drift](HorizonReport const& report, std::size_t horizon) {
+        auto const& ofDrift = drift.at(horizon).Figures.ErrorRatio;
+        return report.IsBetter && ofDrift && *report.Figures.ErrorRatio >= *ofDrift;
+    });
+    if (places.empty()) {
         return {};
     }
-    return std::string(KindName(kind)) + " at " + Listed(horizons) +
-           (horizons.back() == "1" ? " day" : " days");
+    return ", but no better than the drift" + (places == SkillOf(model) ? std::string() : ": " + places);
+}
+
+// Whether the predicate is true of any kind and horizon.
+template <class Predicate>
+bool IsAnywhere(ModelReport const& model, Predicate const& isThere) {
+    return std::any_of(model.ByKind.begin(), model.ByKind.end(), [&isThere](KindReport const& kind) {
+        return std::any_of(kind.ByHorizon.begin(), kind.ByHorizon.end(), isThere);
+    });
 }
 
 bool IsTested(ModelReport const& model) {
-    return std::any_of(model.ByKind.begin(), model.ByKind.end(), [](KindReport const& kind) {
-        return std::any_of(kind.ByHorizon.begin(), kind.ByHorizon.end(),
-                           [](HorizonReport const& report) { return report.Chance.has_value(); });
-    });
+    return IsAnywhere(model, [](HorizonReport const& report) { return report.Chance.has_value(); });
+}
+
+std::string WhyNotTested(ModelReport const& model) {
+    int const count = model.Of(ForecastKind::Composite).ForecastCount;
+    if (!IsAnywhere(model,
+                    [](HorizonReport const& report) { return report.Figures.ErrorRatio.has_value(); })) {
+        return "the close did not move on the days tested";
+    }
+    return Counted(count, "forecast") + (count == 1 ? " is" : " are") + " too few" +
+           (count < static_cast<int>(FewestForecasts) ? "" : " where they overlap");
 }
 
 std::string FaultsOf(ModelReport const& model) {
@@ -81,6 +118,12 @@ std::string ChanceText(std::optional<double> const& chance) {
     return *chance < Smallest ? "<0.001" : text::FormatNumber(*chance, "0.000");
 }
 
+// Of none in so many it cannot be known whether it is none in more.
+std::string ShareText(int count, int of) {
+    return (count == 0 ? "< " : "= ") +
+           text::FormatNumber(std::max(count, 1) / static_cast<double>(of), "0.000");
+}
+
 void AppendRows(std::vector<TableRow>& rows, std::string const& name, std::string_view kind,
                 HorizonReports const& reports) {
     for (std::size_t index = 0; index < Horizons.size(); ++index) {
@@ -95,35 +138,41 @@ void AppendRows(std::vector<TableRow>& rows, std::string const& name, std::strin
 
 } // namespace
 
-std::string VerdictOf(ModelReport const& model) {
-    std::vector<std::string> skills;
-    for (ForecastKind const kind : ForecastKinds) {
-        std::string const skill = SkillOf(model, kind);
-        if (!skill.empty()) {
-            skills.push_back(skill);
-        }
-    }
-    if (!skills.empty()) {
-        return "better than the last close: " + Listed(skills);
+std::string VerdictOf(ModelReport const& model, Evaluation const& evaluation) {
+    std::string const skill = SkillOf(model);
+    if (!skill.empty()) {
+        std::string const verdict =
+            "better than the last close: " + skill + ReservationOf(model, evaluation.Drift);
+        return IsRefitted(model.Model) ? verdict
+                                       : verdict + ", if its cycles were chosen before " +
+                                             evaluation.DateOf(evaluation.Origins.front()) +
+                                             "; otherwise they have seen these days";
     }
     if (IsTested(model)) {
         return "no better than the last close";
     }
-    int const count = model.Of(ForecastKind::Composite).ForecastCount;
-    return count == 0
-               ? "no forecasts: " + FaultsOf(model)
-               : "not tested: " + Counted(count, "forecast") + (count == 1 ? " is" : " are") + " too few";
+    return model.Of(ForecastKind::Composite).ForecastCount == 0 ? "no forecasts: " + FaultsOf(model)
+                                                                : "not tested: " + WhyNotTested(model);
+}
+
+std::string ConditionOfFixedCycles(Evaluation const& evaluation) {
+    return evaluation.HasFixedCycles()
+               ? "; fixed cycles only if chosen before " + evaluation.DateOf(evaluation.Origins.front())
+               : std::string();
 }
 
 std::string DescribeTest(Evaluation const& evaluation) {
-    Origin const& first = evaluation.Origins.front();
-    Origin const& last = evaluation.Origins.back();
-    return "Forecasts from " + Counted(static_cast<int>(evaluation.Origins.size()), "day") + ", every " +
-           (evaluation.Every == 1 ? std::string("day") : std::to_string(evaluation.Every) + " days") +
-           " from " + evaluation.DateOf(first) + " to " + evaluation.DateOf(last) +
-           ", each made of nothing but the days up to it. Errors are ratios to those of the last close: "
-           "below "
-           "1 is better.";
+    std::string const first = evaluation.DateOf(evaluation.Origins.front());
+    std::size_t const count = evaluation.Origins.size();
+    std::string days = "one day, " + first + ',';
+    if (count > 1) {
+        days = std::to_string(count) + " days, every " +
+               (evaluation.Every == 1 ? std::string("day") : std::to_string(evaluation.Every) + " days") +
+               " from " + first + " to " + evaluation.DateOf(evaluation.Origins.back()) + ", each";
+    }
+    return "Forecasts from " + days + " made of nothing but the days up to it" +
+           (evaluation.HasFixedCycles() ? ", except that fixed cycles may have been chosen later" : "") +
+           ". Errors are ratios to those of the last close: below 1 is better.";
 }
 
 TableRow TableHead() {
@@ -141,15 +190,30 @@ std::vector<TableRow> TableRows(Evaluation const& evaluation) {
     return rows;
 }
 
+std::vector<std::string> TableKey(Evaluation const& evaluation) {
+    return {
+        "window: as the forecast window has it; composite: goes on from the last close in the height of the "
+        "price scale; scaled: in the height that fits so far",
+        "[ ]: 95% interval; p: chance of such an error without skill, corrected by Holm for all that is "
+        "tested",
+        "*: better than the last close, p below 0.05 and interval below 1" +
+            ConditionOfFixedCycles(evaluation) + "; -: does not exist, or not tested"};
+}
+
 std::vector<std::string> SurrogateLines(Evaluation const& evaluation) {
     std::vector<std::string> lines;
     for (SurrogateReport const& report : evaluation.Surrogates) {
-        double const share = static_cast<double>(report.AsWell) / evaluation.SurrogateCount;
         lines.push_back(ModelName({Method::Search, report.CycleCount}) + ": " +
-                        text::FormatNumber(report.Correlation, "0.0%") +
-                        ", p = " + text::FormatNumber(share, "0.000") + " (" + std::to_string(report.AsWell) +
-                        " of " + Counted(evaluation.SurrogateCount, "surrogate") +
+                        text::FormatNumber(report.Correlation, "0.0%") + ", p " +
+                        ShareText(report.AsWell, evaluation.SurrogateCount) + " (" +
+                        std::to_string(report.AsWell) + " of " +
+                        Counted(evaluation.SurrogateCount, "surrogate") +
                         (report.AsWell == 1 ? " correlates" : " correlate") + " at least as well)");
+    }
+    if (!lines.empty()) {
+        lines.emplace_back(
+            "Surrogates have the same periods in their daily changes, in other phases: p tests the "
+            "phases, not whether there are cycles, which surrogates have, too.");
     }
     return lines;
 }

@@ -12,8 +12,14 @@
 
 namespace quorvex::evaluation {
 
-// Whether the model is better than the last close, and where; a sentence without its subject and full stop.
-[[nodiscard]] std::string VerdictOf(ModelReport const& model);
+// Whether the model, one of the test, is better than the last close, and where; a sentence without its
+// subject and full stop. Of fixed cycles it names the condition, and of what is not below the drift it says
+// so.
+[[nodiscard]] std::string VerdictOf(ModelReport const& model, Evaluation const& evaluation);
+
+// The condition under which fixed cycles are better than the last close where they seem so, to be put behind
+// what says that; empty without such cycles.
+[[nodiscard]] std::string ConditionOfFixedCycles(Evaluation const& evaluation);
 
 // What was tested, on which days, as whole sentences.
 [[nodiscard]] std::string DescribeTest(Evaluation const& evaluation);
@@ -35,7 +41,11 @@ struct TableRow {
 // The drift first, then each model and kind, four rows each.
 [[nodiscard]] std::vector<TableRow> TableRows(Evaluation const& evaluation);
 
-// One line for each search: its correlation and how many surrogates correlate as well.
+// What the columns and signs of the table mean, in three lines.
+[[nodiscard]] std::vector<std::string> TableKey(Evaluation const& evaluation);
+
+// One line for each search: its correlation and how many surrogates correlate as well. A line on what that
+// tells follows.
 [[nodiscard]] std::vector<std::string> SurrogateLines(Evaluation const& evaluation);
 
 // One line for each model that has no forecast at some origins, and why.

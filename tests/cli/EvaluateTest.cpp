@@ -22,10 +22,11 @@ TEST(EvaluateCommand, PrintsTableSurrogatesAndVerdicts) {
     EXPECT_EQ(run.Errors, "");
     EXPECT_TRUE(run.Output.starts_with("Forecasts from 5 days, every 25 days from ")) << run.Output;
     for (auto const* part :
-         {"\n\nModel               Forecast   Days  Error", "\nDrift               -             1  ",
-          "\nFit of 3 cycles     scaled       25  ", "\nSearch of 5 cycles  composite    10  ",
-          "\n\nCorrelation with the moving average of all days\n  Search of 1 cycle: ", " of 200 surrogates ",
-          "\n\nVerdict\n  Fit of 1 cycle: not tested: 5 forecasts are too few\n"}) {
+         {"\n\nModel                     Forecast   Days  Error",
+          "\nDrift                     -             1  ", "\nFit of 3 cycles           scaled       25  ",
+          "\nQuick search of 5 cycles  composite    10  ", "\n\nKey\n  window: ", "\n  [ ]: ", "\n  *: ",
+          "\n\nCorrelation with the moving average of all days\n  Quick search of 1 cycle: ",
+          " of 200 surrogates ", "\n\nVerdict\n  Fit of 1 cycle: not tested: 5 forecasts are too few\n"}) {
         EXPECT_NE(run.Output.find(part), std::string::npos) << part << '\n' << run.Output;
     }
     EXPECT_EQ(run.Output.find("Parameter file"), std::string::npos);
@@ -62,7 +63,9 @@ TEST(EvaluateCommand, PrintsOneJsonObject) {
     EXPECT_EQ(object.at("LastClose").at("MeanAbsoluteError").size(), 4U);
     ASSERT_EQ(object.at("Models").size(), 8U);
     auto const& parameters = object.at("Models").back();
-    EXPECT_EQ(parameters.at("Name"), "Parameter file");
+    EXPECT_EQ(parameters.at("Name"), "Parameter file (fixed cycles)");
+    EXPECT_EQ(parameters.at("IsRefitted"), false);
+    EXPECT_EQ(object.at("Models").at(0).at("IsRefitted"), true);
     EXPECT_EQ(parameters.at("Method"), "parameters");
     EXPECT_TRUE(parameters.at("CycleCount").is_null());
     EXPECT_EQ(parameters.at("Faults"), nlohmann::ordered_json::object());
@@ -177,7 +180,7 @@ TEST(EvaluateCommand, DrawsThePlot) {
         EXPECT_TRUE(folder.Read(name).starts_with(begin)) << name;
         EXPECT_TRUE(run.Output.starts_with("Forecasts from "));
     }
-    EXPECT_NE(folder.Read("plot.svg").find("Search of 3 cycles"), std::string::npos);
+    EXPECT_NE(folder.Read("plot.svg").find("Quick search of 3 cycles"), std::string::npos);
 }
 
 TEST(EvaluateCommand, PrintsItsTableWhenThePlotCannotBeWritten) {

@@ -79,8 +79,9 @@ TEST(EvaluationPlot, HasAllItsTextsInsideAndApart) {
                 << texts[index].Text << " on " << texts[other].Text;
         }
     }
-    for (auto const* word : {"Drift", "Fit of 1 cycle", "Search of 3 cycles", "1 day ahead", "25 days ahead",
-                             "0.5", "4", "window", "composite", "scaled", "01/02/03", "500"}) {
+    for (auto const* word :
+         {"Drift", "Fit of 1 cycle", "Quick search of 3 cycles", "1 day ahead", "25 days ahead", "0.5", "4",
+          "window", "composite", "scaled", "01/02/03", "500"}) {
         EXPECT_TRUE(words.contains(word)) << word;
     }
 }
@@ -161,15 +162,51 @@ TEST(EvaluationPlot, ChoosesWhatIsBetterThanTheLastClose) {
     EXPECT_EQ(ChooseFan(evaluation).Kind, ForecastKind::Window);
 }
 
-TEST(EvaluationPlot, WithoutThatChoosesTheParametersOrTheLastModel) {
+TEST(EvaluationPlot, WithoutThatChoosesTheSearchOfThreeCyclesOrTheLastModel) {
     Evaluation evaluation;
-    evaluation.Models.resize(2);
-    evaluation.Models[0].Model = {Method::Search, 3};
-    evaluation.Models[1].Model = {Method::Parameters, 0};
-    EXPECT_EQ(ChooseFan(evaluation).Model, 1U);
-    evaluation.Models[0].Model = {Method::Automate, 1};
-    evaluation.Models[1].Model = {Method::Automate, 2};
-    EXPECT_EQ(ChooseFan(evaluation).Model, 1U);
+    auto const choice = [&evaluation](std::vector<Model> const& models) {
+        evaluation.Models.clear();
+        for (Model const& model : models) {
+            evaluation.Models.push_back({model, {}, {}, {}});
+        }
+        return ChooseFan(evaluation).Model;
+    };
+    Model const fixed{Method::Parameters, 0};
+    EXPECT_EQ(choice({{Method::Search, 3}, {Method::Search, 5}, fixed}), 0U);
+    EXPECT_EQ(choice({{Method::Automate, 1}, {Method::Automate, 2}}), 1U);
+    EXPECT_EQ(choice({{Method::Automate, 1}, {Method::Automate, 2}, fixed}), 1U);
+    EXPECT_EQ(choice({fixed, {Method::Automate, 2}, fixed}), 1U);
+    EXPECT_EQ(choice({fixed}), 0U);
+}
+
+TEST(EvaluationPlot, NeverChoosesFixedCyclesBesideOthers) {
+    Evaluation evaluation;
+    evaluation.Models = {{{Method::Automate, 1}, {}, {}, {}}, {{Method::Parameters, 0}, {}, {}, {}}};
+    HorizonReport& report = evaluation.Models[1].ByKind.at(2).ByHorizon.at(3);
+    report.IsBetter = true;
+    report.Chance = 0.001;
+    EXPECT_EQ(ChooseFan(evaluation).Model, 0U);
+}
+
+TEST(EvaluationPlot, SaysThatFixedCyclesMayHaveBeenChosenLater) {
+    Evaluation evaluation = SomeEvaluation(tests::WalkingCloses(200, 6));
+    evaluation.Models[2].Model = {Method::Parameters, 0};
+    RecordingCanvas canvas(PlotWidth, PlotHeight);
+    DrawEvaluation(canvas, evaluation, {2, ForecastKind::Composite});
+    std::set<std::string> words;
+    auto const texts = TextsOf(canvas);
+    for (std::size_t index = 0; index < texts.size(); ++index) {
+        words.insert(texts[index].Text);
+        EXPECT_LE(texts[index].X + canvas.TextWidth(texts[index].Text), PlotWidth) << texts[index].Text;
+        for (std::size_t other = 0; other < index; ++other) {
+            EXPECT_FALSE(Overlap(canvas, texts[index], texts[other]))
+                << texts[index].Text << " on " << texts[other].Text;
+        }
+    }
+    EXPECT_TRUE(words.contains("Closes, and the forecasts of 25 days by cycles that may have been chosen "
+                               "later: Parameter file (fixed cycles), composite"));
+    EXPECT_TRUE(words.contains("better than the last close beyond chance; fixed cycles only if chosen before "
+                               "01/02/03"));
 }
 
 } // namespace

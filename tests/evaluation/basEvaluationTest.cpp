@@ -134,6 +134,33 @@ TEST(Evaluate, FindsTheSkillOfCyclesThatAreThere) {
     EXPECT_EQ(evaluation.Models.front().Verdict, "no better than the last close");
 }
 
+TEST(Evaluate, FixedCyclesChangeNothingOfTheOtherModels) {
+    auto const parameters = std::make_unique<cycles::CycleParameterSet>();
+    parameters->Cycles[1].Weight = 50;
+    parameters->Cycles[1].Period = 20;
+    parameters->Cycles[2].Weight = 50;
+    parameters->Cycles[2].Period = 47;
+    auto const series = SeriesOfCloses(CyclicCloses(300, 3));
+    EvaluationRequest request = SmallRequest();
+    Evaluation const without = EvaluationOf(*series, request);
+    request.Models.push_back({Method::Parameters, 0});
+    request.Parameters = parameters.get();
+    Evaluation const with = EvaluationOf(*series, request);
+    int below = 0;
+    for (std::size_t model = 0; model < without.Models.size(); ++model) {
+        EXPECT_EQ(with.Models[model].Verdict, without.Models[model].Verdict);
+        for (ForecastKind const kind : ForecastKinds) {
+            for (std::size_t index = 0; index < Horizons.size(); ++index) {
+                auto const& chance = without.Models[model].Of(kind).ByHorizon.at(index).Chance;
+                EXPECT_EQ(with.Models[model].Of(kind).ByHorizon.at(index).Chance, chance);
+                below += chance < 1 ? 1 : 0;
+            }
+        }
+    }
+    EXPECT_GT(below, 2);
+    EXPECT_TRUE(with.Models.back().Verdict.ends_with("; otherwise they have seen these days"));
+}
+
 TEST(Evaluate, ClaimsNothingOfAWalk) {
     Evaluation const evaluation = EvaluationOf(*SeriesOfCloses(WalkingCloses(300, 4)), SmallRequest());
     for (ModelReport const& model : evaluation.Models) {
@@ -285,6 +312,15 @@ TEST(Evaluate, TestsNothingOnOneOrigin) {
     for (ModelReport const& model : evaluation.Models) {
         EXPECT_EQ(model.Verdict, "not tested: 1 forecast is too few");
         EXPECT_FALSE(model.Of(ForecastKind::Window).ByHorizon.at(0).Intervals.ErrorRatio);
+    }
+}
+
+TEST(Evaluate, SaysThatNothingWasTestedWhereTheCloseStandsStill) {
+    auto closes = WalkingCloses(400, 15);
+    std::fill(closes.begin() + 195, closes.end(), closes[195]);
+    Evaluation const evaluation = EvaluationOf(*SeriesOfCloses(closes), SmallRequest());
+    for (ModelReport const& model : evaluation.Models) {
+        EXPECT_EQ(model.Verdict, "not tested: the close did not move on the days tested");
     }
 }
 
