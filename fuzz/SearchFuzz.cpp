@@ -46,7 +46,7 @@ void CheckModel(CycleModel const& model, SearchRequest const& request, int days)
         Require(std::isfinite(cycle.Adds));
         sum += cycle.Weight;
     }
-    Require(sum >= 90 && sum <= 110);
+    Require(sum >= 95 && sum <= 105);
 }
 
 } // namespace
@@ -62,6 +62,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         request.MaxPeriod = ShortestPeriod + data[2] % 150;
     }
     request.Detrend = (data[3] & 1U) != 0;
+    request.LeastSwing = data[3] / 4 * 90 / 63;
     request.HowHard = Effort::Quick;
     auto const series = SeriesOf(data + HeadSize, size - HeadSize, (data[3] & 2U) != 0);
     auto const outcome = SearchSeries(series, request, [] { return true; });

@@ -96,6 +96,7 @@ bool MakeCycles(Program& program, AnalysisServices const& services, AnalysisRequ
         ReadParameters(program, services, *request.ParameterPath);
     }
     if (request.Search) {
+        result.IsDetrended = request.Search->Detrend;
         return FindCycles(program, services, *request.Search, result.Models);
     }
     return request.AutomatedCycles == 0 || FitCycles(program, services, request.AutomatedCycles, result.Fits);

@@ -47,6 +47,7 @@ struct AnalysisServices {
 struct AnalysisResult {
     std::vector<cycles::SinusoidFit> Fits;
     std::vector<search::CycleModel> Models; // found by the search, of 1, 2 .. cycles; the last is in the grid
+    bool IsDetrended = false;               // whether these follow the moving average less its straight line
     std::optional<double> CorrelationCoefficient;
     platform::Message CorrelationMessage; // what the Correlation command would show
     std::optional<WholeForecast> ForecastShown;

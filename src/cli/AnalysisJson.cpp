@@ -137,6 +137,7 @@ std::string AnalysisJson(app::Program const& program, cycles::ParameterGrid cons
     json["Fits"] = result.Fits.empty() ? Json() : FitsJson(result.Fits);
     if (!result.Models.empty()) {
         json["Search"] = ModelsJson(result.Models);
+        json["Detrend"] = result.IsDetrended;
     }
     json["Correlation"] = CorrelationJson(result);
     json["Forecast"] = result.ForecastShown ? ForecastJson(*result.ForecastShown) : Json();

@@ -58,6 +58,7 @@ void AddAnalysisOptions(CLI::App& command, AnalysisOptions& options) {
 }
 
 void TakeAnalysisOptions(AnalysisOptions const& options, app::Program& program) {
+    RequirePeriods(options.Request.Search);
     settings::Settings& settings = program.Settings;
     settings.MovingAverageIndex = options.MovingAverage.value_or(settings.MovingAverageIndex);
     settings.CurrencyFormat = options.Format.value_or(settings.CurrencyFormat);

@@ -5,6 +5,7 @@
 
 #include "auxiliary/basProperties.h"
 #include "cycles/basCurves.h"
+#include "search/basSearchReading.h"
 #include "text/basFormats.h"
 #include "text/basTexts.h"
 
@@ -89,31 +90,36 @@ std::string Correlation(platform::Message const& message) {
     return lines;
 }
 
-// A share as "12.34%", in a column.
-std::string Percent(double share) {
-    constexpr std::size_t ColumnWidth = 12;
-    return PadLeft(text::FormatNumber(share * 100, "##0.00"), ColumnWidth) + '%';
-}
-
 // What each of the cycles adds, and what fewer would do.
-std::string Found(std::vector<search::CycleModel> const& models) {
+std::string Found(app::AnalysisResult const& result) {
     constexpr std::size_t NameWidth = 10;
-    constexpr std::size_t ColumnWidth = 12;
+    constexpr std::size_t ColumnWidth = 13;
+    auto const row = [](std::string const& name, double share) {
+        return "  " + PadRight(name, NameWidth) + PadLeft(search::ShareText(share), ColumnWidth) + '\n';
+    };
+    std::vector<search::CycleModel> const& models = result.Models;
     search::CycleModel const& model = models.back();
     std::string lines = PadRight("Search", NameWidth + 2) + PadLeft("Adds", ColumnWidth) + '\n';
     for (std::size_t cycle = 0; cycle < model.Cycles.size(); ++cycle) {
-        lines += "  " + PadRight("Cycle " + std::to_string(cycle + 1), NameWidth) +
-                 Percent(model.Cycles[cycle].Adds) + '\n';
+        lines += row("Cycle " + std::to_string(cycle + 1), model.Cycles[cycle].Adds);
     }
     if (model.Cycles.size() < models.size()) {
-        lines += "  No further cycle helps.\n";
+        lines += "  No better model of " + std::to_string(models.size()) + " cycles was found.\n";
     }
     lines += '\n' + PadRight("Cycles", NameWidth + 2) + PadLeft("Correlation", ColumnWidth) + '\n';
     for (std::size_t count = 0; count < models.size(); ++count) {
-        lines +=
-            "  " + PadRight(std::to_string(count + 1), NameWidth) + Percent(models[count].Correlation) + '\n';
+        lines += row(std::to_string(count + 1), models[count].Correlation);
+    }
+    if (result.IsDetrended) {
+        lines += "These are correlations with the moving average less its straight line.\n";
     }
     return lines;
+}
+
+std::string Swing(app::Program const& program) {
+    return search::DescribeSwing(
+               search::ExtremesOf(program.Curves.CompositeCurve, program.Quotes.WorkingCount)) +
+           '\n';
 }
 
 std::string ForecastTable(app::WholeForecast const& forecast) {
@@ -142,7 +148,7 @@ std::string AnalysisReport(app::Program const& program, cycles::ParameterGrid co
     }
     report += '\n' + Correlation(result.CorrelationMessage);
     if (!result.Models.empty()) {
-        report += '\n' + Found(result.Models);
+        report += Swing(program) + '\n' + Found(result);
     }
     if (result.ForecastShown) {
         report += '\n' + ForecastTable(*result.ForecastShown);
@@ -152,8 +158,8 @@ std::string AnalysisReport(app::Program const& program, cycles::ParameterGrid co
 
 std::string SearchReport(app::Program const& program, cycles::ParameterGrid const& grid,
                          app::AnalysisResult const& result) {
-    return Cycles(program, grid) + '\n' + Correlation(result.CorrelationMessage) + '\n' +
-           Found(result.Models);
+    return Cycles(program, grid) + '\n' + Correlation(result.CorrelationMessage) + Swing(program) + '\n' +
+           Found(result);
 }
 
 } // namespace quorvex::cli

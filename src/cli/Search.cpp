@@ -11,6 +11,7 @@
 #include "cli/StandardStreams.h"
 #include "cli/SubCommands.h"
 #include "cycles/basParameters.h"
+#include "platform/basFiles.h"
 #include "platform/basMessages.h"
 #include "text/basTexts.h"
 
@@ -36,24 +37,32 @@ CLI::Validator IsParameterFile() {
             ""};
 }
 
-bool Exists(platform::Files const& files, std::string const& path) {
-    return !text::Trap([&] { static_cast<void>(files.Length(path)); });
+// Returns whether the parameter file may be written; if not, that has been told.
+bool MayWrite(FindOptions const& options) {
+    if (options.OutputPath.empty() || options.OutputPath == PipeName || options.Force ||
+        !platform::IsThere(PipeFiles(), options.OutputPath)) {
+        return true;
+    }
+    Complain(options.OutputPath, "The file is there already. Give --force to replace it");
+    return false;
 }
 
 // Returns whether the file was written.
 bool WriteParameters(FindOptions const& options, cycles::ParameterGrid const& grid) {
     PipeFiles files;
-    if (options.OutputPath != PipeName && !options.Force && Exists(files, options.OutputPath)) {
-        Complain(options.OutputPath, "The file is there already. Give --force to replace it");
-        return false;
-    }
     ConsoleDialogs dialogs(OutputName(options.OutputPath));
     return platform::RunReported(dialogs,
                                  [&] { files.Replace(options.OutputPath, cycles::ParameterFileText(grid)); });
 }
 
 ExitStatus Find(FindOptions const& options) {
+    if (options.OutputPath == PipeName && options.Json) {
+        throw CLI::ValidationError("-o - and --json cannot both have standard output");
+    }
     AnalysisSession session(options.Analysis);
+    if (!MayWrite(options)) {
+        return ExitStatus::Refused;
+    }
     auto const result = session.Analyse();
     if (!result || result->Models.empty()) {
         return ExitStatus::Refused;
@@ -77,10 +86,12 @@ void AddSearch(CLI::App& app, ExitStatus& status) {
     options->Analysis.Request.Search = search::SearchRequest();
     AddQuoteOptions(*command, options->Analysis);
     AddSearchOptions(*command, "--cycles", options->Analysis.Request.Search);
-    command->add_option("-o", options->OutputPath, "Parameter file to write, - for standard output alone")
-        ->type_name("FILE.dat")
-        ->check(IsParameterFile());
-    command->add_flag("--force", options->Force, "Replace the parameter file when it is there already");
+    auto* const output =
+        command->add_option("-o", options->OutputPath, "Parameter file to write, - for standard output alone")
+            ->type_name("FILE.dat")
+            ->check(IsParameterFile());
+    command->add_flag("--force", options->Force, "Replace the parameter file when it is there already")
+        ->needs(output);
     command->add_flag("--json", options->Json, "Print one JSON object instead of a report");
     command->callback([options, &status] { status = Find(*options); });
 }

@@ -3,60 +3,98 @@
 
 #include "cli/SearchOptions.h"
 
+#include "cli/WholeNumber.h"
+
+#include <functional>
+#include <utility>
+
 namespace quorvex::cli {
 
 namespace {
 
-// Without a description of its own: the help names the type of the option.
-CLI::Validator IsBetween(int least, int most) {
-    return {[least, most](std::string const& text) {
-                int value = 0;
-                bool const good = CLI::detail::lexical_cast(text, value) && value >= least && value <= most;
-                return good ? std::string()
-                            : text + " is not between " + std::to_string(least) + " and " +
-                                  std::to_string(most);
-            },
-            ""};
-}
+using search::SearchRequest;
+
+// Changes the request, and makes one first where there is none yet.
+using Change = std::function<void(SearchRequest&, int)>;
+
+class SearchOptionAdder {
+public:
+    SearchOptionAdder(CLI::App& command, std::optional<SearchRequest>& request)
+        : command_(command),
+          request_(request) {}
+
+    CLI::Option* AddNumber(std::string const& name, std::string const& type, std::string const& help,
+                           int least, int most, Change change) {
+        return command_
+            .add_option_function<int>(
+                name,
+                [this_ = *this, change = std::move(change)](int value) { change(this_.Request(), value); },
+                help)
+            ->type_name(type)
+            ->transform(WholeNumberBetween(least, most));
+    }
+
+    CLI::Option* AddFlag(std::string const& name, std::string const& help, Change change) {
+        return command_.add_flag_callback(
+            name, [this_ = *this, change = std::move(change)] { change(this_.Request(), 1); }, help);
+    }
+
+private:
+    [[nodiscard]] SearchRequest& Request() const {
+        if (!request_) {
+            request_.emplace();
+        }
+        return *request_;
+    }
+
+    CLI::App& command_;
+    std::optional<SearchRequest>& request_;
+};
 
 } // namespace
 
 CLI::Option* AddSearchOptions(CLI::App& command, std::string const& name,
-                              std::optional<search::SearchRequest>& request) {
-    using search::SearchRequest;
+                              std::optional<SearchRequest>& request) {
+    using search::LongestPeriod;
+    using search::ShortestPeriod;
     bool const isOptional = !request;
-    auto const change = [&request]() -> SearchRequest& {
-        request = request.value_or(SearchRequest());
-        return *request;
-    };
-    auto* const cycles = command
-                             .add_option_function<int>(
-                                 name, [change](int count) { change().CycleCount = count; },
-                                 "Find so many cycles, 1 to 10, that follow the moving average best")
-                             ->type_name("N")
-                             ->check(IsBetween(1, search::MostCycles));
-    auto* const shortest =
-        command
-            .add_option_function<int>(
-                "--min-period", [change](int days) { change().MinPeriod = days; },
-                "Shortest period to look for [" + std::to_string(search::DefaultMinPeriod) + "]")
-            ->type_name("DAYS")
-            ->check(IsBetween(search::ShortestPeriod, search::LongestPeriod));
-    auto* const longest = command
-                              .add_option_function<int>(
-                                  "--max-period", [change](int days) { change().MaxPeriod = days; },
-                                  "Longest period to look for [half the days]")
-                              ->type_name("DAYS")
-                              ->check(IsBetween(search::ShortestPeriod, search::LongestPeriod));
-    auto* const detrend = command.add_flag_callback(
-        "--detrend", [change] { change().Detrend = true; },
-        "Take the straight line out of the moving average, for the search alone");
+    SearchRequest const defaults;
+    auto const standing = [](int value) { return " [" + std::to_string(value) + "]"; };
+    SearchOptionAdder adder(command, request);
+    auto* const cycles =
+        adder.AddNumber(name, "N",
+                        "Find so many cycles, 1 to 10, that follow the moving average best" +
+                            (isOptional ? std::string() : standing(defaults.CycleCount)),
+                        1, search::MostCycles, [](SearchRequest& of, int count) { of.CycleCount = count; });
+    auto* const shortest = adder.AddNumber(
+        "--min-period", "DAYS", "Shortest period to look for" + standing(defaults.MinPeriod), ShortestPeriod,
+        LongestPeriod, [](SearchRequest& of, int days) { of.MinPeriod = days; });
+    auto* const longest =
+        adder.AddNumber("--max-period", "DAYS", "Longest period to look for [half the days]", ShortestPeriod,
+                        LongestPeriod, [](SearchRequest& of, int days) { of.MaxPeriod = days; });
+    auto* const swing = adder.AddNumber("--min-swing", "N",
+                                        "How far the composite of two cycles or more swings at least, of "
+                                        "100: half the way from its lowest to its "
+                                        "highest value" +
+                                            standing(defaults.LeastSwing),
+                                        0, search::LargestLeastSwing,
+                                        [](SearchRequest& of, int least) { of.LeastSwing = least; });
+    auto* const detrend =
+        adder.AddFlag("--detrend", "Take the straight line out of the moving average, for the search alone",
+                      [](SearchRequest& of, int) { of.Detrend = true; });
     if (isOptional) {
-        for (CLI::Option* option : {shortest, longest, detrend}) {
+        for (CLI::Option* option : {shortest, longest, swing, detrend}) {
             option->needs(cycles);
         }
     }
     return cycles;
+}
+
+void RequirePeriods(std::optional<SearchRequest> const& request) {
+    if (request && request->MaxPeriod && *request->MaxPeriod < request->MinPeriod) {
+        throw CLI::ValidationError("The longest period, " + std::to_string(*request->MaxPeriod) +
+                                   ", is below the shortest, " + std::to_string(request->MinPeriod));
+    }
 }
 
 } // namespace quorvex::cli

@@ -18,4 +18,7 @@ namespace quorvex::cli {
 CLI::Option* AddSearchOptions(CLI::App& command, std::string const& name,
                               std::optional<search::SearchRequest>& request);
 
+// Throws CLI::ValidationError when the longest period that was asked for is below the shortest.
+void RequirePeriods(std::optional<search::SearchRequest> const& request);
+
 } // namespace quorvex::cli

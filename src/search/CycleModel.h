@@ -19,8 +19,9 @@ struct FoundCycle {
 };
 
 struct CycleModel {
-    std::vector<FoundCycle> Cycles; // the heaviest first; their weights sum to 100
-    double Correlation = 0;         // of the composite with what was searched, above 0 and up to 1
+    std::vector<FoundCycle>
+        Cycles; // the heaviest first; their weights sum to about 100, 95 to 105, as the grid keeps them
+    double Correlation = 0; // of the composite with what was searched, above 0 and up to 1
 };
 
 } // namespace quorvex::search

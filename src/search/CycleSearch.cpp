@@ -5,6 +5,8 @@
 
 #include "search/Pursuit.h"
 #include "search/WholeSet.h"
+#include "search/basNormalised.h"
+#include "search/basSwing.h"
 
 #include <algorithm>
 #include <array>
@@ -20,10 +22,12 @@ namespace {
 // How many sets are followed at once.
 constexpr std::size_t BeamWidth = 4;
 
-// With how many further waves each of them is extended, and how many sets are shaken.
+// With how many further waves each of them is extended, how many sets are shaken, and how far all periods of
+// a set are moved together.
 struct Trials {
     std::size_t Breadth = 0;
     std::size_t Shakes = 0;
+    int Reach = 0;
 };
 
 // Few cycles are found at once; more have more sets that nothing small improves, and take longer.
@@ -31,64 +35,31 @@ Trials TrialsFor(std::size_t waveCount, Effort effort) {
     constexpr std::size_t FewWaves = 3;
     constexpr std::size_t SomeWaves = 5;
     if (effort == Effort::Quick) {
-        return {4, 3};
+        return {4, 3, 0};
     }
     if (waveCount <= FewWaves) {
-        return {4, 12};
+        return {4, 12, 3};
     }
-    return waveCount <= SomeWaves ? Trials{6, 30} : Trials{4, 10};
+    return waveCount <= SomeWaves ? Trials{6, 72, 6} : Trials{4, 10, 0};
 }
 
-// How much the cost of rounding counts: as it is on the average, or less or more while sets are shaken, since
-// some that look too fine can be rounded well.
+// How much the costs count: more than on the average, or less while sets are shaken, since some that look too
+// fine can be rounded well.
 constexpr double UsualFactor = 2;
-constexpr std::array<double, 3> ShakingFactors = {0.5, 1, 2};
-
-double LargestOf(std::vector<double> const& values) {
-    double largest = 0;
-    for (double const value : values) {
-        largest = std::max(largest, std::fabs(value));
-    }
-    return largest;
-}
-
-// The series less its mean, with a sum of squares of 1; empty when it does not change.
-std::vector<double> Normalised(std::span<double const> series) {
-    // Sums of squares stay in range when the largest value is 1.
-    constexpr double LeastChange = 1e-12;
-    std::vector<double> values(series.begin(), series.end());
-    double const scale = LargestOf(values);
-    double mean = 0;
-    for (double& value : values) {
-        value = scale > 0 ? value / scale : 0;
-        mean += value / static_cast<double>(values.size());
-    }
-    for (double& value : values) {
-        value -= mean;
-    }
-    if (LargestOf(values) <= LeastChange) {
-        return {};
-    }
-    double squares = 0;
-    for (double const value : values) {
-        squares += value * value;
-    }
-    for (double& value : values) {
-        value /= std::sqrt(squares);
-    }
-    return values;
-}
+constexpr std::array<double, 3> ShakingFactors = {0.2, 0.4, 0.8};
 
 // A set on the way, with what it becomes in whole numbers.
 struct Candidate {
     WaveSet Set;
     WholeSet Whole;
+    bool SwingsEnough = true;
+    double Worth = 0; // the correlation, less when the composite should swing further
 };
 
 // The best of the candidates that differ, the best first.
 class Beam {
 public:
-    explicit Beam(Pursuit const& pursuit) : pursuit_(pursuit) {}
+    Beam(Pursuit const& pursuit, double leastSwing) : pursuit_(pursuit), leastSwing_(leastSwing) {}
 
     void Take(WaveSet set) {
         if (set.Waves.empty()) {
@@ -102,7 +73,10 @@ public:
         if (!whole) {
             return;
         }
-        Candidate candidate{std::move(set), *std::move(whole)};
+        Candidate candidate = Judged(std::move(set), *std::move(whole));
+        if (candidate.SwingsEnough && (!best_ || IsBetter(candidate, *best_))) {
+            best_ = candidate;
+        }
         auto const place =
             std::upper_bound(candidates_.begin(), candidates_.end(), candidate,
                              [this](Candidate const& a, Candidate const& b) { return IsBetter(a, b); });
@@ -114,18 +88,32 @@ public:
 
     [[nodiscard]] std::vector<Candidate> const& Candidates() const { return candidates_; }
 
+    // The best of all that swing far enough.
+    [[nodiscard]] std::optional<Candidate> const& Best() const { return best_; }
+
 private:
+    [[nodiscard]] Candidate Judged(WaveSet set, WholeSet whole) const {
+        Candidate candidate{std::move(set), std::move(whole)};
+        candidate.Worth = candidate.Whole.Correlation;
+        if (leastSwing_ > 0 && candidate.Whole.Waves.size() > 1) {
+            double const swing = SwingOf(candidate.Whole, pursuit_.Waves());
+            candidate.SwingsEnough = swing >= leastSwing_;
+            candidate.Worth *= std::min(1.0, swing / leastSwing_);
+        }
+        return candidate;
+    }
+
     [[nodiscard]] bool IsThere(WaveSet const& set) const {
         return std::any_of(candidates_.begin(), candidates_.end(),
                            [&](Candidate const& other) { return other.Set.Waves == set.Waves; });
     }
 
-    // By what they follow better and, when they follow equally well, by shorter periods and smaller shifts.
+    // By their worth and, when they are worth the same, by shorter periods and smaller shifts.
     [[nodiscard]] bool IsBetter(Candidate const& a, Candidate const& b) const {
-        double const correlationOfA = Comparable(a.Whole.Correlation);
-        double const correlationOfB = Comparable(b.Whole.Correlation);
-        if (correlationOfA != correlationOfB) {
-            return correlationOfA > correlationOfB;
+        double const worthOfA = Comparable(a.Worth);
+        double const worthOfB = Comparable(b.Worth);
+        if (worthOfA != worthOfB) {
+            return worthOfA > worthOfB;
         }
         return std::lexicographical_compare(
             a.Set.Waves.begin(), a.Set.Waves.end(), b.Set.Waves.begin(), b.Set.Waves.end(),
@@ -133,32 +121,37 @@ private:
     }
 
     Pursuit const& pursuit_;
+    double leastSwing_;
     std::vector<Candidate> candidates_;
+    std::optional<Candidate> best_;
 };
 
 // The search of one series, from stage to stage with one cycle more.
 class Climbing {
 public:
     // The sequence is to be the same in every run. NOLINTNEXTLINE(cert-msc32-c,cert-msc51-cpp)
-    Climbing(Sinusoids& waves, std::span<double const> series, GoOn const& goOn)
+    Climbing(Sinusoids& waves, std::span<double const> series, SearchAim const& aim, GoOn const& goOn)
         : waves_(waves),
           pursuit_(waves, series),
+          aim_(aim),
           goOn_(goOn) {}
 
     // Looks for the best sets of so many waves, from those of the stage before.
-    void Stage(std::size_t waveCount, Effort effort) {
-        Trials const trials = TrialsFor(waveCount, effort);
-        Beam beam(pursuit_);
+    void Stage(std::size_t waveCount) {
+        Trials const trials = TrialsFor(waveCount, aim_.HowHard);
+        Beam beam(pursuit_, aim_.LeastSwing);
         ExtendSets(waveCount, trials.Breadth, beam);
         if (waveCount > 1) {
+            MoveSets(waveCount, trials.Reach, beam);
             ShakeSets(waveCount, trials.Shakes, beam);
+            MoveSets(waveCount, trials.Reach, beam);
         }
         sets_.clear();
         for (Candidate const& candidate : beam.Candidates()) {
             sets_.push_back(candidate.Set);
         }
-        if (!sets_.empty() && beam.Candidates().front().Whole.Correlation > best_.Correlation) {
-            best_ = beam.Candidates().front().Whole;
+        if (beam.Best() && beam.Best()->Whole.Correlation > best_.Correlation) {
+            best_ = beam.Best()->Whole;
         }
     }
 
@@ -168,7 +161,7 @@ public:
 
 private:
     void ExtendSets(std::size_t waveCount, std::size_t breadth, Beam& beam) {
-        pursuit_.CountRoundingOf(waveCount, UsualFactor);
+        pursuit_.CountCosts(waveCount, UsualFactor, aim_.LeastSwing);
         for (WaveSet const& set : sets_) {
             WaveSet const fitted = pursuit_.Fit(set.Waves);
             for (WaveSet& extended : pursuit_.Extend(fitted, breadth)) {
@@ -179,10 +172,25 @@ private:
         }
     }
 
+    void MoveSets(std::size_t waveCount, int reach, Beam& beam) {
+        pursuit_.CountCosts(waveCount, ShakingFactors.front(), aim_.LeastSwing);
+        std::vector<Candidate> const candidates = beam.Candidates();
+        for (Candidate const& candidate : candidates) {
+            for (int places = -reach; places <= reach; ++places) {
+                if (auto moved = pursuit_.MovedTogether(candidate.Set, places); places != 0 && moved) {
+                    Complete(*moved, waveCount);
+                    Polish(*moved);
+                    beam.Take(std::move(*moved));
+                }
+            }
+        }
+    }
+
     void ShakeSets(std::size_t waveCount, std::size_t shakes, Beam& beam) {
         for (std::size_t shake = 0; shake < shakes && !beam.Candidates().empty(); ++shake) {
             std::size_t const replaced = ReplacedBy(shake, waveCount);
-            pursuit_.CountRoundingOf(waveCount, ShakingFactors[shake / 3 % ShakingFactors.size()]);
+            pursuit_.CountCosts(waveCount, ShakingFactors[shake / 3 % ShakingFactors.size()],
+                                aim_.LeastSwing);
             auto const& candidates = beam.Candidates();
             WaveSet shaken = Shake(candidates[shake % candidates.size()].Set, waveCount, replaced);
             Polish(shaken);
@@ -213,9 +221,14 @@ private:
             waves.push_back({Any(waves_.Periods().size()), Any(waves_.PhaseCount())});
         }
         WaveSet shaken = pursuit_.Fit(std::move(waves));
-        while (goOn_() && shaken.Waves.size() < waveCount && AddBest(shaken)) {
-        }
+        Complete(shaken, waveCount);
         return shaken;
+    }
+
+    // Fills the set up to so many waves, as long as more explain more.
+    void Complete(WaveSet& set, std::size_t waveCount) const {
+        while (goOn_() && set.Waves.size() < waveCount && AddBest(set)) {
+        }
     }
 
     // Adds the wave that explains most more. Returns whether one does.
@@ -236,6 +249,7 @@ private:
 
     Sinusoids& waves_;
     Pursuit pursuit_;
+    SearchAim aim_;
     GoOn const& goOn_;
     std::mt19937 random_; // begins the same each time
     std::vector<WaveSet> sets_{WaveSet()};
@@ -266,16 +280,16 @@ CycleModel ModelOf(WholeSet const& set, Pursuit const& pursuit) {
 
 } // namespace
 
-std::vector<CycleModel> CycleSearch::Find(std::span<double const> series, int cycleCount, Effort effort,
+std::vector<CycleModel> CycleSearch::Find(std::span<double const> series, SearchAim const& aim,
                                           GoOn const& goOn, TakeModel const& take) {
     std::vector<double> const normalised = Normalised(series);
     if (normalised.empty()) {
         return {};
     }
-    Climbing climbing(waves_, normalised, goOn);
+    Climbing climbing(waves_, normalised, aim, goOn);
     std::vector<CycleModel> models;
-    for (int count = 1; count <= cycleCount; ++count) {
-        climbing.Stage(static_cast<std::size_t>(count), effort);
+    for (int count = 1; count <= aim.CycleCount; ++count) {
+        climbing.Stage(static_cast<std::size_t>(count));
         if (!goOn()) {
             return {};
         }

@@ -6,6 +6,7 @@
 #include "search/PeriodRest.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <optional>
 #include <utility>
@@ -100,11 +101,15 @@ Pursuit::Pursuit(Sinusoids& waves, std::span<double const> series)
     : waves_(waves),
       withSeries_(waves.ProductsWith(series)) {}
 
-void Pursuit::CountRoundingOf(std::size_t waveCount, double factor) {
+void Pursuit::CountCosts(std::size_t waveCount, double factor, double leastSwing) {
     // Rounding to hundredths errs by 1 / 12 of their square on the average; half the days are a wave's
     // square. One wave has the weight 100 anyway.
     constexpr double Hundredths = 100.0 * 100 * 12;
-    cost_ = waveCount < 2 ? 0 : factor * static_cast<double>(waveCount) * waves_.Days() / 2 / Hundredths;
+    double const rounding = static_cast<double>(waveCount) / 2 / Hundredths;
+    // With this part of the swing that is asked for the sets around it are found.
+    constexpr double SwingPart = 0.3 / 100;
+    double const flatness = leastSwing * SwingPart * leastSwing * SwingPart;
+    cost_ = waveCount < 2 ? 0 : factor * (rounding + flatness) * waves_.Days();
 }
 
 std::vector<Pursuit::Offer> Pursuit::OffersBeside(WaveSet const& set, Range const& periods, double threshold,
@@ -275,6 +280,36 @@ bool Pursuit::MoveWithPartner(WaveSet& set, std::size_t position) const {
     }
     set = std::move(best);
     return isImproved;
+}
+
+std::optional<WaveSet> Pursuit::MovedTogether(WaveSet const& set, int places) const {
+    std::vector<Wave> waves;
+    for (Wave const& wave : set.Waves) {
+        auto const period = Moved(wave.Period, places, withSeries_.size());
+        if (!period) {
+            return std::nullopt;
+        }
+        Wave const moved = WithPeriod(wave, *period);
+        if (std::find(waves.begin(), waves.end(), moved) != waves.end()) {
+            return std::nullopt;
+        }
+        waves.push_back(moved);
+    }
+    return Fit(std::move(waves));
+}
+
+Wave Pursuit::WithPeriod(Wave const& wave, std::size_t period) const {
+    std::int64_t const from = waves_.Periods()[wave.Period];
+    std::int64_t const to = waves_.Periods()[period];
+    // Half the days, times the difference of 2 pi / period.
+    Direction const turn = DirectionAt((waves_.Days() + 1) * (to - from), from * to);
+    Direction const wanted = Turned(waves_.DirectionOf(wave.Phase), turn);
+    auto const near = waves_.PhasesAround(wanted);
+    auto const inCommon = [&](std::size_t phase) {
+        Direction const& at = waves_.DirectionOf(phase);
+        return at.Cosine * wanted.Cosine + at.Sine * wanted.Sine;
+    };
+    return {period, inCommon(near.Above) > inCommon(near.Below) ? near.Above : near.Below};
 }
 
 Pursuit::Range Pursuit::PeriodsAround(std::size_t period) const {

@@ -7,6 +7,7 @@
 #include "search/Sinusoids.h"
 #include "search/basWeights.h"
 
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -25,15 +26,17 @@ struct WaveSet {
 // Waves of almost one period and almost opposite phase explain much with weights far larger than what is left
 // of them, and whole weights are too coarse for that. So every wave gets one more component, of the same size
 // in all, which the series does not have: rounding each weight to a hundredth of their sum costs as much on
-// the average, and large sums of weights are avoided from the beginning.
+// the average, and large sums of weights are avoided from the beginning. A larger component finds sets whose
+// composite swings further.
 class Pursuit {
 public:
     // The series sums to zero and its squares to 1. Both must outlive the pursuit.
     Pursuit(Sinusoids& waves, std::span<double const> series);
 
-    // From now on the rounding of so many weights is counted in, by this factor. Sets that have been fitted
-    // are to be fitted again. REQUIRES: 1 to 10 waves.
-    void CountRoundingOf(std::size_t waveCount, double factor);
+    // From now on the rounding of so many weights is counted in, by this factor, and likewise what a
+    // composite lacks that should swing so far, 0..100. Sets that have been fitted are to be fitted again.
+    // REQUIRES: 1 to 10 waves.
+    void CountCosts(std::size_t waveCount, double factor, double leastSwing);
 
     // The set of those waves that get a weight.
     [[nodiscard]] WaveSet Fit(std::vector<Wave> waves) const;
@@ -48,6 +51,11 @@ public:
     // Moves a wave a little and gives the one that resembles it most a new place nearby at the same time,
     // since two that almost cancel each other can move only together. Returns whether that explained more.
     bool ImproveTogether(WaveSet& set) const;
+
+    // The set with all its periods so many places further in the list of periods, each wave at the same phase
+    // in the middle of the days as nearly as can be: sets of waves that almost cancel each other follow a
+    // series likewise with other periods. Nothing when there are no such periods.
+    [[nodiscard]] std::optional<WaveSet> MovedTogether(WaveSet const& set, int places) const;
 
     // The inner products of the waves with each other and the series.
     [[nodiscard]] SmallSystem SystemOf(std::span<Wave const> waves) const;
@@ -88,6 +96,9 @@ private:
     void OfferAllPhases(PeriodRest const& rest, std::size_t period, double explained, Offers& offers) const;
     [[nodiscard]] bool IsBetterOffer(Offer const& a, Offer const& b) const;
 
+    // The wave of another period that has the phase of this one in the middle of the days.
+    [[nodiscard]] Wave WithPeriod(Wave const& wave, std::size_t period) const;
+
     // Adds the wave without a weight.
     void Append(WaveSet& set, Wave const& wave) const;
 
@@ -103,7 +114,8 @@ private:
 
     Sinusoids& waves_;
     std::vector<Parts> withSeries_;
-    double cost_ = 0; // of rounding, as the square of the component that all waves have in common
+    double cost_ =
+        0; // of rounding and of a small swing, as the square of the component that all waves have in common
 };
 
 } // namespace quorvex::search

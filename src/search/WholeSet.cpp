@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 namespace quorvex::search {
 
@@ -68,7 +69,7 @@ public:
     }
 
     [[nodiscard]] WholeSet Improved() {
-        while (MoveWeights() || MoveWaves()) {
+        while (MoveWeights() || MoveWaves() || MovePairs()) {
         }
         LeaveOutWeightless();
         return set_;
@@ -142,6 +143,14 @@ private:
         }
     }
 
+    // A place for a wave of given weight, and what it adds there to the products of the composite with the
+    // series and with itself, beside waves that stay.
+    struct Place {
+        Wave At;
+        double WithSeries = 0;
+        double Square = 0;
+    };
+
     // Gives each wave in turn the best of the places nearby. Returns whether one moved.
     bool MoveWaves() {
         bool isMoved = false;
@@ -153,51 +162,113 @@ private:
 
     bool MoveWave(std::size_t position) {
         constexpr int Reach = 2;
-        Wave const from = set_.Waves[position];
+        Place const rest = Without(position, position);
         std::optional<Wave> best;
         double most = set_.Correlation + LeastRise;
-        auto const firstPeriod = from.Period - std::min<std::size_t>(from.Period, Reach);
-        auto const endPeriod = std::min(from.Period + Reach + 1, waves_.Periods().size());
-        for (std::size_t period = firstPeriod; period < endPeriod; ++period) {
-            for (int places = -Reach; places <= Reach; ++places) {
-                Wave const wave{period, waves_.PhaseFrom(from.Phase, places)};
-                if (double const correlation = CorrelationWith(position, wave); correlation > most) {
-                    best = wave;
+        for (Place const& place : PlacesAround(position, position, Reach)) {
+            double const correlation =
+                CorrelationOf(rest.WithSeries + place.WithSeries, rest.Square + place.Square);
+            if (correlation > most) {
+                best = place.At;
+                most = correlation;
+            }
+        }
+        return best && Put(position, *best, position, *best);
+    }
+
+    // Moves the first two waves that follow the series better when both move: those that almost cancel each
+    // other have no good place nearby while the other stays. Returns whether there are two.
+    bool MovePairs() {
+        for (std::size_t first = 0; first < set_.Waves.size(); ++first) {
+            for (std::size_t second = 0; second < first; ++second) {
+                if (MovePair(first, second)) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    }
+
+    bool MovePair(std::size_t first, std::size_t second) {
+        constexpr int Reach = 1;
+        Place const rest = Without(first, second);
+        std::vector<Place> const secondPlaces = PlacesAround(second, first, Reach);
+        double const between = 2.0 * set_.Percent[first] * set_.Percent[second];
+        std::optional<std::pair<Wave, Wave>> best;
+        double most = set_.Correlation + LeastRise;
+        for (Place const& a : PlacesAround(first, second, Reach)) {
+            for (Place const& b : secondPlaces) {
+                double const correlation =
+                    CorrelationOf(rest.WithSeries + a.WithSeries + b.WithSeries,
+                                  rest.Square + a.Square + b.Square + between * waves_.Product(a.At, b.At));
+                if (correlation > most && a.At != b.At) {
+                    best = {a.At, b.At};
                     most = correlation;
                 }
             }
         }
-        return best && Place(position, *best);
+        return best && Put(first, best->first, second, best->second);
     }
 
-    // The correlation with the wave in the place of the one at the position; 0 when it is there already.
-    [[nodiscard]] double CorrelationWith(std::size_t position, Wave const& wave) const {
-        double product = set_.Percent[position] * pursuit_.ProductWithSeries(wave);
-        double square = set_.Percent[position] * set_.Percent[position] * waves_.Product(wave, wave);
-        for (std::size_t i = 0; i < set_.Waves.size(); ++i) {
-            if (set_.Waves[i] == wave) {
-                return 0;
-            }
-            if (i != position) {
-                product += set_.Percent[i] * set_.System.WithSeries[i];
-                square += 2 * set_.Percent[i] * set_.Percent[position] * waves_.Product(wave, set_.Waves[i]);
-                square += set_.Percent[i] * SumWithOthers(i, position);
+    [[nodiscard]] static double CorrelationOf(double withSeries, double square) {
+        return withSeries > 0 && square > 0 ? withSeries / std::sqrt(square) : 0;
+    }
+
+    // What the waves give together without those at the two positions, which may be the same.
+    [[nodiscard]] Place Without(std::size_t first, std::size_t second) const {
+        Weights weights = AsWeights(set_.Percent);
+        weights[first] = weights[second] = 0;
+        Place rest;
+        for (std::size_t i = 0; i < set_.System.Size; ++i) {
+            rest.WithSeries += weights[i] * set_.System.WithSeries[i];
+            rest.Square += weights[i] * Dot(set_.System.Products[i], weights, set_.System.Size);
+        }
+        return rest;
+    }
+
+    // The places around a wave's own, so many periods and two phases away, that none of the others takes.
+    // What they add leaves out the partner, which may be the wave itself.
+    [[nodiscard]] std::vector<Place> PlacesAround(std::size_t position, std::size_t partner,
+                                                  int reach) const {
+        constexpr int PhaseReach = 2;
+        Wave const from = set_.Waves[position];
+        auto const periods = static_cast<std::size_t>(reach);
+        auto const firstPeriod = from.Period - std::min(from.Period, periods);
+        auto const endPeriod = std::min(from.Period + periods + 1, waves_.Periods().size());
+        std::vector<Place> places;
+        for (std::size_t period = firstPeriod; period < endPeriod; ++period) {
+            for (int steps = -PhaseReach; steps <= PhaseReach; ++steps) {
+                if (auto const place =
+                        PlaceAt(position, partner, {period, waves_.PhaseFrom(from.Phase, steps)})) {
+                    places.push_back(*place);
+                }
             }
         }
-        return product > 0 && square > 0 ? product / std::sqrt(square) : 0;
+        return places;
     }
 
-    [[nodiscard]] double SumWithOthers(std::size_t wave, std::size_t without) const {
-        double sum = 0;
+    [[nodiscard]] std::optional<Place> PlaceAt(std::size_t position, std::size_t partner,
+                                               Wave const& wave) const {
+        double const weight = set_.Percent[position];
+        Place place{wave, weight * pursuit_.ProductWithSeries(wave),
+                    weight * weight * waves_.Product(wave, wave)};
         for (std::size_t i = 0; i < set_.Waves.size(); ++i) {
-            sum += i == without ? 0 : set_.Percent[i] * set_.System.Products[wave][i];
+            if (i != position && i != partner) {
+                if (set_.Waves[i] == wave) {
+                    return std::nullopt;
+                }
+                place.Square += 2 * weight * set_.Percent[i] * waves_.Product(wave, set_.Waves[i]);
+            }
         }
-        return sum;
+        return place;
     }
 
-    bool Place(std::size_t position, Wave const& wave) {
+    // Puts waves into one or two positions when that follows the series better and loses little. Returns
+    // whether it does.
+    bool Put(std::size_t first, Wave const& atFirst, std::size_t second, Wave const& atSecond) {
         std::vector<Wave> waves = set_.Waves;
-        waves[position] = wave;
+        waves[first] = atFirst;
+        waves[second] = atSecond;
         SmallSystem const system = pursuit_.SystemOf(waves);
         double const correlation = Correlation(system, AsWeights(set_.Percent));
         if (correlation <= set_.Correlation || !LosesLittle(system, correlation)) {

@@ -19,4 +19,9 @@ struct Direction {
 // the denominator is 1 or more; both lie within 2^60.
 [[nodiscard]] Direction DirectionAt(std::int64_t numerator, std::int64_t denominator);
 
+// The first direction, turned by the angle of the second.
+[[nodiscard]] inline Direction Turned(Direction const& from, Direction const& by) {
+    return {from.Cosine * by.Cosine - from.Sine * by.Sine, from.Sine * by.Cosine + from.Cosine * by.Sine};
+}
+
 } // namespace quorvex::search

@@ -6,6 +6,7 @@
 #include "cycles/CycleParameterSet.h"
 #include "cycles/basCorrel.h"
 #include "cycles/basCurves.h"
+#include "search/basNormalised.h"
 
 #include <algorithm>
 #include <cmath>
@@ -26,14 +27,6 @@ std::vector<int> PeriodsOf(SearchRequest const& request, int days) {
     return periods;
 }
 
-double LargestSize(std::span<double const> values) {
-    double largest = 0;
-    for (double const value : values) {
-        largest = std::max(largest, std::fabs(value));
-    }
-    return largest;
-}
-
 // What is searched; empty when nothing changes in it.
 std::vector<double> Searched(std::span<double const> series, SearchRequest const& request) {
     if (!request.Detrend) {
@@ -43,16 +36,18 @@ std::vector<double> Searched(std::span<double const> series, SearchRequest const
     return LargestSize(rest) > LeastRest * LargestSize(series) ? rest : std::vector<double>();
 }
 
-// Why nothing was found in it.
-std::string RefusalOf(std::span<double const> searched, SearchRequest const& request, int days) {
-    bool const isFlat = std::all_of(searched.begin(), searched.end(),
-                                    [&](double value) { return value == searched.front(); });
-    if (isFlat) {
-        return request.Detrend ? "The moving average is a straight line: there is no cycle in it"
-                               : "The moving average does not change: there is no cycle in it";
+// Why nothing was found in what is left of the series.
+std::string RefusalOf(std::span<double const> series, std::span<double const> searched,
+                      SearchRequest const& request) {
+    if (Normalised(series).empty()) {
+        return "The moving average does not change: there is no cycle in it";
+    }
+    if (Normalised(searched).empty()) {
+        return "The moving average is a straight line: there is no cycle in it";
     }
     return "No cycle of " + std::to_string(request.MinPeriod) + " to " +
-           std::to_string(MaxPeriodOf(request, days)) + " days follows the moving average";
+           std::to_string(MaxPeriodOf(request, static_cast<int>(series.size()))) +
+           " days follows the moving average";
 }
 
 } // namespace
@@ -91,7 +86,8 @@ SearchOutcome SearchSeries(std::span<double const> series, SearchRequest const& 
     if (periods.empty()) {
         return {{},
                 "No period lies between " + std::to_string(request.MinPeriod) + " and " +
-                    std::to_string(MaxPeriodOf(request, days)) + " days"};
+                    std::to_string(MaxPeriodOf(request, days)) + " days" +
+                    (request.MaxPeriod ? "" : " (half the days)")};
     }
     std::vector<double> const searched = Searched(series, request);
     bool isEnded = false;
@@ -99,10 +95,10 @@ SearchOutcome SearchSeries(std::span<double const> series, SearchRequest const& 
         isEnded = isEnded || !goOn();
         return !isEnded;
     };
-    SearchOutcome outcome{
-        CycleSearch(days, periods).Find(searched, request.CycleCount, request.HowHard, follow, take), {}};
+    SearchAim const aim{request.CycleCount, request.HowHard, request.LeastSwing};
+    SearchOutcome outcome{CycleSearch(days, periods).Find(searched, aim, follow, take), {}};
     if (outcome.Models.empty() && !isEnded) {
-        outcome.Refusal = RefusalOf(searched, request, days);
+        outcome.Refusal = RefusalOf(series, searched, request);
     }
     return outcome;
 }
@@ -120,6 +116,15 @@ std::vector<double> MovingAverageSeries(cycles::CycleCurves const& curves, std::
     return series;
 }
 
+Extremes ExtremesOf(cycles::CycleCurve const& composite, std::int16_t workingCount) {
+    Extremes extremes;
+    for (int day = 1; day <= workingCount; ++day) {
+        extremes.Lowest = std::min(extremes.Lowest, composite[day]);
+        extremes.Highest = std::max(extremes.Highest, composite[day]);
+    }
+    return extremes;
+}
+
 GridComposite CompositeInGrid(CycleModel const& model, cycles::CycleCurves const& curves,
                               std::int16_t workingCount) {
     cycles::TextGrid grid;
@@ -130,12 +135,8 @@ GridComposite CompositeInGrid(CycleModel const& model, cycles::CycleCurves const
     auto const computed = std::make_unique<cycles::CycleCurves>(curves);
     cycles::ComputeCycleValues(*set, workingCount);
     cycles::ComputeComposite(*set, workingCount, computed->CompositeCurve);
-    GridComposite composite{cycles::CoefficientOfCorrelation(*computed, workingCount), 0, 0};
-    for (int day = 1; day <= workingCount; ++day) {
-        composite.Lowest = std::min(composite.Lowest, computed->CompositeCurve[day]);
-        composite.Highest = std::max(composite.Highest, computed->CompositeCurve[day]);
-    }
-    return composite;
+    return {cycles::CoefficientOfCorrelation(*computed, workingCount),
+            ExtremesOf(computed->CompositeCurve, workingCount)};
 }
 
 void WriteModel(CycleModel const& model, cycles::ParameterGrid& grid) {

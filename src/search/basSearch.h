@@ -22,7 +22,10 @@ namespace quorvex::search {
 inline constexpr int MostCycles = 10;
 inline constexpr int ShortestPeriod = 2; // trading days
 inline constexpr int DefaultMinPeriod = 5;
-inline constexpr int LongestPeriod = 500; // trading days
+inline constexpr int LongestPeriod = 500;    // trading days
+inline constexpr int LargestLeastSwing = 90; // of 100
+// What the window suggests: a composite that can be told from a flat line in its chart.
+inline constexpr int VisibleSwing = 20;
 
 struct SearchRequest {
     int CycleCount = 3; // 1..10
@@ -30,6 +33,7 @@ struct SearchRequest {
     std::optional<int> MaxPeriod =
         std::nullopt; // half the days when there is none: a cycle that was not seen twice is a trend
     Effort HowHard = Effort::Thorough;
+    int LeastSwing = 0;   // of the composite of two cycles or more, 0..90 of 100; see SearchAim
     bool Detrend = false; // search what is left of the moving average beside its straight line
 };
 
@@ -54,13 +58,19 @@ struct SearchOutcome {
 [[nodiscard]] SearchOutcome SearchMovingAverage(cycles::CycleCurves const& curves, std::int16_t workingCount,
                                                 SearchRequest const& request, GoOn const& goOn);
 
+// A composite's extremes over the working days: of the 100 units on each side of zero little is used when
+// cycles almost cancel each other.
+struct Extremes {
+    double Lowest = 0;  // up to 0
+    double Highest = 0; // from 0
+};
+
+[[nodiscard]] Extremes ExtremesOf(cycles::CycleCurve const& composite, std::int16_t workingCount);
+
 // What the program tells and draws once the grid holds a model.
 struct GridComposite {
     std::optional<double> Correlation; // with the moving average; nothing where there is none to tell
-    // The composite's extremes over the working days: of the 100 units on each side of zero little is used
-    // when cycles almost cancel each other.
-    double Lowest = 0;
-    double Highest = 0;
+    Extremes Swing;
 };
 
 // Raises the faults of the Correlation command.

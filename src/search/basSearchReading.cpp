@@ -30,6 +30,11 @@ std::vector<CycleRow> ModelRows(CycleModel const& model) {
     return rows;
 }
 
+std::string DescribeSwing(Extremes const& swing) {
+    return "The composite swings from " + text::FormatNumber(swing.Lowest, "##0") + " to " +
+           text::FormatNumber(swing.Highest, "##0") + ".";
+}
+
 std::string DescribeModel(CycleModel const& model, int chosen, bool isDetrended,
                           GridComposite const& inGrid) {
     bool const isOne = model.Cycles.size() == 1;
@@ -43,10 +48,9 @@ std::string DescribeModel(CycleModel const& model, int chosen, bool isDetrended,
         words += " with a correlation of " + ShareText(correlation.value_or(model.Correlation));
     }
     if (static_cast<int>(model.Cycles.size()) < chosen) {
-        words += "; no further cycle helps";
+        words += "; no better model of " + Counted(static_cast<std::size_t>(chosen)) + " was found";
     }
-    return words + ". The composite swings from " + text::FormatNumber(inGrid.Lowest, "##0") + " to " +
-           text::FormatNumber(inGrid.Highest, "##0") + ".";
+    return words + ". " + DescribeSwing(inGrid.Swing);
 }
 
 std::string DescribeCount(std::span<CycleModel const> models, int cycleCount) {

@@ -21,6 +21,9 @@ namespace quorvex::search {
 using CycleRow = std::array<std::string, 4>;
 [[nodiscard]] std::vector<CycleRow> ModelRows(CycleModel const& model);
 
+// How far a composite swings.
+[[nodiscard]] std::string DescribeSwing(Extremes const& swing);
+
 // How well the model of the chosen number of cycles does, and how far its composite swings. The correlation
 // in the grid differs from that of the model when the trend was taken out before the search.
 [[nodiscard]] std::string DescribeModel(CycleModel const& model, int chosen, bool isDetrended,

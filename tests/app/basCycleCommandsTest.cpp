@@ -108,8 +108,8 @@ TEST(FindBestCycles, TheCorrelationIsTheOneOfTheModelWhateverCyclesThereWere) {
         lowest = std::min(lowest, composite[day]);
         highest = std::max(highest, composite[day]);
     }
-    EXPECT_EQ(inGrid.Lowest, lowest);
-    EXPECT_EQ(inGrid.Highest, highest);
+    EXPECT_EQ(inGrid.Swing.Lowest, lowest);
+    EXPECT_EQ(inGrid.Swing.Highest, highest);
 }
 
 TEST(FindBestCycles, WithoutAModelEverythingStaysAsItWas) {

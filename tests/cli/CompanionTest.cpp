@@ -31,31 +31,24 @@ TEST(Companion, HelpsOnItselfAndOnEachSubCommand) {
 }
 
 TEST(Companion, EndsWithTwoOnWrongUsage) {
-    for (std::vector<std::string> const& arguments :
-         {std::vector<std::string>{},
-          {"nonsense"},
-          {"--nonsense"},
-          {"analyse"},
-          {"analyse", "a.txt", "--automate", "4"},
-          {"analyse", "a.txt", "--automate", "0"},
-          {"analyse", "a.txt", "--automate", "x"},
-          {"analyse", "a.txt", "b.txt"},
-          {"analyse", "a.txt", "--nonsense"},
-          {"analyse", "a.txt", "--start", "13/45/02"},
-          {"analyse", "a.txt", "--end", ""},
-          {"analyse", "a.txt", "--automate", "1", "--parameters", "p.dat"},
-          {"check"},
-          {"check", "a.txt", "b.txt"},
-          {"list", "a.txt"},
-          {"list", "-o", "a.pdf"},
-          {"format"},
-          {"format", "0"}}) {
-        SCOPED_TRACE(testing::PrintToString(arguments));
-        auto const run = RunCompanion(arguments);
-        EXPECT_EQ(run.ExitStatus, 2);
-        EXPECT_EQ(run.Output, "");
-        EXPECT_NE(run.Errors, "");
-    }
+    ExpectWrongUsage({{},
+                      {"nonsense"},
+                      {"--nonsense"},
+                      {"analyse"},
+                      {"analyse", "a.txt", "--automate", "4"},
+                      {"analyse", "a.txt", "--automate", "0"},
+                      {"analyse", "a.txt", "--automate", "x"},
+                      {"analyse", "a.txt", "b.txt"},
+                      {"analyse", "a.txt", "--nonsense"},
+                      {"analyse", "a.txt", "--start", "13/45/02"},
+                      {"analyse", "a.txt", "--end", ""},
+                      {"analyse", "a.txt", "--automate", "1", "--parameters", "p.dat"},
+                      {"check"},
+                      {"check", "a.txt", "b.txt"},
+                      {"list", "a.txt"},
+                      {"list", "-o", "a.pdf"},
+                      {"format"},
+                      {"format", "0"}});
 }
 
 #ifndef _WIN32

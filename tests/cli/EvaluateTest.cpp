@@ -154,19 +154,13 @@ TEST(EvaluateCommand, TellsWhyItRefuses) {
 }
 
 TEST(EvaluateCommand, EndsWithTwoOnWrongUsage) {
-    for (std::vector<std::string> const& arguments : {std::vector<std::string>{"evaluate"},
-                                                      {"evaluate", Contract, "--every", "0"},
-                                                      {"evaluate", Contract, "--every", "x"},
-                                                      {"evaluate", Contract, "--jobs", "0"},
-                                                      {"evaluate", Contract, "--jobs", "257"},
-                                                      {"evaluate", Contract, "--automate", "1"},
-                                                      {"evaluate", Contract, "--plot", "plot.json"}}) {
-        SCOPED_TRACE(testing::PrintToString(arguments));
-        auto const run = RunCompanion(arguments);
-        EXPECT_EQ(run.ExitStatus, 2);
-        EXPECT_EQ(run.Output, "");
-        EXPECT_NE(run.Errors, "");
-    }
+    ExpectWrongUsage({{"evaluate"},
+                      {"evaluate", Contract, "--every", "0"},
+                      {"evaluate", Contract, "--every", "x"},
+                      {"evaluate", Contract, "--jobs", "0"},
+                      {"evaluate", Contract, "--jobs", "257"},
+                      {"evaluate", Contract, "--automate", "1"},
+                      {"evaluate", Contract, "--plot", "plot.json"}});
 }
 
 #ifdef QUORVEX_PICTURES

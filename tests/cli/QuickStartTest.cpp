@@ -4,6 +4,7 @@
 // The Quick Start gives the figures that its reader will see.
 
 #include "RunCompanion.h"
+#include "search/basSearch.h"
 #include "support/HelpDocuments.h"
 
 #include <gmock/gmock.h>
@@ -110,10 +111,11 @@ std::string SwingOf(nlohmann::json const& analysis) {
 }
 
 TEST_F(QuickStart, TellsOfTheBestCycles) {
-    auto const half = SearchWheat({});
+    std::string const swing = std::to_string(search::VisibleSwing); // that of the window
+    auto const half = SearchWheat({"--min-swing", swing});
     ExpectText("correlation of " + CorrelationOf(half) + ", and that the composite swings from " +
                SwingOf(half));
-    auto const whole = SearchWheat({"--max-period", "250"});
+    auto const whole = SearchWheat({"--min-swing", swing, "--max-period", "250"});
     ExpectText("Now the composite swings from " + SwingOf(whole) + ". Press OK. Correlation now says " +
                CorrelationOf(whole) + ",");
 }

@@ -5,6 +5,8 @@
 
 #include "support/TemporaryFolder.h"
 
+#include <gtest/gtest.h>
+
 #include <cstdlib>
 
 #ifndef _WIN32
@@ -48,6 +50,16 @@ CompanionRun RunCompanion(std::vector<std::string> const& arguments, std::string
     run.Output = folder.Read("output");
     run.Errors = folder.Read("errors");
     return run;
+}
+
+void ExpectWrongUsage(std::vector<std::vector<std::string>> const& runs) {
+    for (auto const& arguments : runs) {
+        SCOPED_TRACE(testing::PrintToString(arguments));
+        auto const run = RunCompanion(arguments);
+        EXPECT_EQ(run.ExitStatus, 2);
+        EXPECT_EQ(run.Output, "");
+        EXPECT_NE(run.Errors, "");
+    }
 }
 
 } // namespace quorvex::tests

@@ -19,4 +19,7 @@ struct CompanionRun {
 [[nodiscard]] CompanionRun RunCompanion(std::vector<std::string> const& arguments,
                                         std::string const& input = {});
 
+// Expects status 2, no output and some error of each run.
+void ExpectWrongUsage(std::vector<std::vector<std::string>> const& runs);
+
 } // namespace quorvex::tests

@@ -122,7 +122,8 @@ TEST(Search, TellsWhatCannotBeSearched) {
 
     auto const empty = RunCompanion({"search", Quotes, "--min-period", "40"});
     EXPECT_EQ(empty.ExitStatus, 1);
-    EXPECT_EQ(empty.Errors, "quorvex-cli: " + Quotes + ": No period lies between 40 and 30 days\n");
+    EXPECT_EQ(empty.Errors,
+              "quorvex-cli: " + Quotes + ": No period lies between 40 and 30 days (half the days)\n");
     EXPECT_EQ(empty.Output, "");
 
     auto const missing = RunCompanion({"search", folder.File("missing.txt")});
@@ -133,28 +134,81 @@ TEST(Search, TellsWhatCannotBeSearched) {
 TEST(Search, AnAnalysisGoesOnWithoutCyclesWhenNoneCanBeFound) {
     auto const run = RunCompanion({"analyse", Quotes, "--search", "3", "--min-period", "40", "--json"});
     EXPECT_EQ(run.ExitStatus, 1);
-    EXPECT_NE(run.Errors.find("No period lies between 40 and 30 days"), std::string::npos);
+    EXPECT_NE(run.Errors.find("No period lies between 40 and 30 days (half the days)"), std::string::npos);
     EXPECT_TRUE(json::parse(run.Output).at("Cycles").is_null());
 }
 
 TEST(Search, IsRefusedWithWrongOptions) {
-    for (std::vector<std::string> const& arguments :
-         {std::vector<std::string>{"search"},
-          {"search", "a.txt", "--cycles", "0"},
-          {"search", "a.txt", "--cycles", "11"},
-          {"search", "a.txt", "--cycles", "two"},
-          {"search", "a.txt", "--min-period", "1"},
-          {"search", "a.txt", "--max-period", "501"},
-          {"search", "a.txt", "-o", "a.txt"},
-          {"analyse", "a.txt", "--min-period", "5"},
-          {"analyse", "a.txt", "--detrend"},
-          {"analyse", "a.txt", "--search", "2", "--automate", "1"},
-          {"analyse", "a.txt", "--search", "2", "--parameters", "p.dat"}}) {
-        SCOPED_TRACE(testing::PrintToString(arguments));
-        auto const run = RunCompanion(arguments);
-        EXPECT_EQ(run.ExitStatus, 2);
-        EXPECT_EQ(run.Output, "");
-        EXPECT_NE(run.Errors, "");
+    ExpectWrongUsage({{"search"},
+                      {"search", "a.txt", "--cycles", "0"},
+                      {"search", "a.txt", "--cycles", "11"},
+                      {"search", "a.txt", "--cycles", "two"},
+                      {"search", "a.txt", "--cycles", "0x3"},
+                      {"search", "a.txt", "--cycles", "3.5"},
+                      {"search", "a.txt", "--min-period", "1"},
+                      {"search", Quotes, "--min-period", "50", "--max-period", "10"},
+                      {"search", Quotes, "--max-period", "4"},
+                      {"analyse", Quotes, "--search", "2", "--max-period", "4"},
+                      {"search", "a.txt", "--min-swing", "91"},
+                      {"search", "a.txt", "--force"},
+                      {"search", Quotes, "-o", "-", "--json"},
+                      {"search", "a.txt", "--max-period", "501"},
+                      {"search", "a.txt", "-o", "a.txt"},
+                      {"analyse", "a.txt", "--min-period", "5"},
+                      {"analyse", "a.txt", "--detrend"},
+                      {"analyse", "a.txt", "--search", "2", "--automate", "1"},
+                      {"analyse", "a.txt", "--min-swing", "10"},
+                      {"analyse", "a.txt", "--search", "2", "--parameters", "p.dat"}});
+}
+
+TEST(Search, ReadsNumbersAsDecimal) {
+    EXPECT_EQ(RunCompanion({"search", Quotes, "--cycles", "02", "--min-period", "010"}).Output,
+              RunCompanion({"search", Quotes, "--cycles", "2", "--min-period", "10"}).Output);
+}
+
+TEST(Search, TellsThatTheTrendWasTakenOut) {
+    auto const run = RunCompanion({"search", Quotes, "--detrend"});
+    EXPECT_EQ(run.ExitStatus, 0) << run.Errors;
+    std::string const line = "These are correlations with the moving average less its straight line.\n";
+    EXPECT_TRUE(run.Output.ends_with(line)) << run.Output;
+    EXPECT_EQ(RunCompanion({"search", Quotes}).Output.find(line), std::string::npos);
+    EXPECT_EQ(json::parse(RunCompanion({"search", Quotes, "--detrend", "--json"}).Output).at("Detrend"),
+              true);
+    EXPECT_EQ(json::parse(RunCompanion({"search", Quotes, "--json"}).Output).at("Detrend"), false);
+}
+
+TEST(Search, FindsACompositeThatSwingsAsFarAsAskedFor) {
+    auto const object = json::parse(RunCompanion({"search", Quotes, "--min-swing", "40", "--json"}).Output);
+    auto const& composite = object.at("CompositeCurve");
+    auto const end = composite.begin() + object.at("WorkingCount").get<int>();
+    auto const [lowest, highest] = std::minmax_element(composite.begin(), end);
+    EXPECT_GE((highest->get<double>() - lowest->get<double>()) / 2, 40 - 1e-6);
+    EXPECT_GE(object.at("Search").back().at("Cycles").size(), 2U);
+}
+
+TEST(Search, TellsHowFarTheCompositeSwings) {
+    EXPECT_NE(RunCompanion({"search", Quotes, "--cycles", "1"}).Output.find("The composite swings from -"),
+              std::string::npos);
+}
+
+TEST(Search, PricesWithoutAChangeAreToldOfWhateverTheyAre) {
+    TemporaryFolder const folder;
+    std::string lines;
+    for (int day = 1; day <= 100; ++day) {
+        lines += "01/02/19, 361.37, 362.00, 361.00, 361.37, 0, 0\r\n";
+    }
+    folder.Write("level.txt", lines);
+    for (auto const* average : {"3", "5", "7"}) {
+        for (bool const isDetrended : {false, true}) {
+            std::vector<std::string> arguments{"search", folder.File("level.txt"), "--moving-average",
+                                               average};
+            if (isDetrended) {
+                arguments.emplace_back("--detrend");
+            }
+            EXPECT_EQ(RunCompanion(arguments).Errors,
+                      "quorvex-cli: " + folder.File("level.txt") +
+                          ": The moving average does not change: there is no cycle in it\n");
+        }
     }
 }
 

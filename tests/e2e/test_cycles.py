@@ -20,7 +20,7 @@ class BestCycles(Session):
     def test_found_written_and_read_again(self):
         program = self.start()
         program.open_quotes("Wheat.txt")
-        expected = self.analyse("--search", "3")
+        expected = self.analyse("--search", "3", "--min-swing", "20")
         self.find_best_cycles()
         self.wait_until_equal(program.grid, expected["Grid"], "the cycles that were found, in the grid")
         curve = expected["CompositeCurve"][:expected["WorkingCount"]]

@@ -95,11 +95,13 @@ double PlainCorrelation(Series const& a, Series const& b) {
 search::CycleModel BestOneCycle(Series const& series, int minPeriod, int maxPeriod) {
     search::CycleModel best;
     for (int period = minPeriod; period <= maxPeriod; ++period) {
-        for (int shift = -99; shift <= 99; ++shift) {
-            double const correlation =
-                PlainCorrelation(CurveOf(period, shift, static_cast<int>(series.size())), series);
-            if (correlation > best.Correlation + 1e-12) {
-                best = {{{100, period, shift, correlation}}, correlation};
+        for (int size = 0; size <= 99; ++size) {
+            for (int const shift : {size, -size}) {
+                double const correlation =
+                    PlainCorrelation(CurveOf(period, shift, static_cast<int>(series.size())), series);
+                if (correlation > best.Correlation + 1e-12) {
+                    best = {{{100, period, shift, correlation}}, correlation};
+                }
             }
         }
     }

@@ -22,7 +22,8 @@ using Series = std::vector<double>;
 // Pearson's coefficient; 0 when a series does not change.
 [[nodiscard]] double PlainCorrelation(Series const& a, Series const& b);
 
-// The one cycle with the largest correlation over all periods of the range and all shifts -99..99.
+// The one cycle with the largest correlation over all periods of the range and all shifts -99..99, of equal
+// ones that with the shorter period and the smaller shift.
 [[nodiscard]] search::CycleModel BestOneCycle(Series const& series, int minPeriod, int maxPeriod);
 
 // The largest correlation of two curves of the range with any weights above zero that is found from the best

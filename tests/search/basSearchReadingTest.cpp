@@ -25,28 +25,29 @@ TEST(SearchReading, EveryCycleHasARow) {
 
 TEST(SearchReading, TheModelIsTheOneOfTheGrid) {
     EXPECT_EQ(
-        DescribeModel(One, 1, false, {0.59, -100, 99.6}),
+        DescribeModel(One, 1, false, {0.59, {-100, 99.6}}),
         "1 cycle follows the moving average with a correlation of 59.00%. The composite swings from -100 "
         "to 100.");
     EXPECT_EQ(
-        DescribeModel(Two, 2, false, {std::nullopt, -8.8, 7.4}),
+        DescribeModel(Two, 2, false, {std::nullopt, {-8.8, 7.4}}),
         "2 cycles follow the moving average with a correlation of 72.00%. The composite swings from -9 to "
         "7.");
 }
 
 TEST(SearchReading, AModelWithoutTheTrendTellsBothCorrelations) {
     EXPECT_EQ(
-        DescribeModel(Two, 2, true, {0.5, -40, 50}),
+        DescribeModel(Two, 2, true, {0.5, {-40, 50}}),
         "2 cycles follow the moving average less its trend with a correlation of 72.00%, with its trend of "
         "50.00%. The composite swings from -40 to 50.");
-    EXPECT_EQ(DescribeModel(Two, 2, true, {std::nullopt, -40, 50}),
+    EXPECT_EQ(DescribeModel(Two, 2, true, {std::nullopt, {-40, 50}}),
               "2 cycles follow the moving average less its trend with a correlation of 72.00%. The composite "
               "swings from -40 to 50.");
 }
 
 TEST(SearchReading, AModelOfFewerCyclesThanChosenSaysWhy) {
-    EXPECT_EQ(DescribeModel(Two, 4, false, {0.72, -40, 50}),
-              "2 cycles follow the moving average with a correlation of 72.00%; no further cycle helps. The "
+    EXPECT_EQ(DescribeModel(Two, 4, false, {0.72, {-40, 50}}),
+              "2 cycles follow the moving average with a correlation of 72.00%; no better model of 4 cycles "
+              "was found. The "
               "composite swings from -40 to 50.");
 }
 

@@ -22,7 +22,7 @@ using tests::Series;
 
 TEST(SearchSeries, RefusesARangeThatHoldsNoPeriod) {
     auto const outcome = SearchSeries(Randomness(1).Walk(40), {.MinPeriod = 30}, GoOnAlways);
-    EXPECT_EQ(outcome.Refusal, "No period lies between 30 and 20 days");
+    EXPECT_EQ(outcome.Refusal, "No period lies between 30 and 20 days (half the days)");
     EXPECT_TRUE(outcome.Models.empty());
 }
 

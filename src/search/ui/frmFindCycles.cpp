@@ -48,6 +48,8 @@ frmFindCycles::frmFindCycles(QWidget* parent, quotes::QuoteSeries const& series,
     AddMenu();
     PrepareTable();
     ui_->prgSearch->setMaximum(MostCycles);
+    ui_->spnSwing->setMaximum(LargestLeastSwing);
+    ui_->spnSwing->setValue(VisibleSwing);
     ui_->Pic1->SetReadings(this);
     ui_->Pic1->OfferSaving(files, dialogs, ui_->Pic1->accessibleName());
     ui_->Pic1->installEventFilter(this);
@@ -88,6 +90,7 @@ void frmFindCycles::ConnectBoxes() {
         isLongestChosen_ = days != series_.WorkingCount / 2;
         StartSearch();
     });
+    connect(ui_->spnSwing, &QSpinBox::valueChanged, this, [this] { StartSearch(); });
     connect(ui_->chkDetrend, &QCheckBox::toggled, this, [this] { StartSearch(); });
 }
 
@@ -118,6 +121,7 @@ SearchRequest frmFindCycles::Request() const {
             .MinPeriod = ui_->spnShortest->value(),
             .MaxPeriod = ui_->spnLongest->value(),
             .HowHard = Effort::Thorough,
+            .LeastSwing = ui_->spnSwing->value(),
             .Detrend = ui_->chkDetrend->isChecked()};
 }
 

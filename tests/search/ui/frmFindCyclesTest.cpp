@@ -37,6 +37,7 @@ constexpr int AtOnce = 200;
 search::SearchOutcome Searched(ShownSearch const& shown, int cycleCount, bool isDetrended) {
     search::SearchRequest request;
     request.CycleCount = cycleCount;
+    request.LeastSwing = search::VisibleSwing;
     request.Detrend = isDetrended;
     return search::SearchMovingAverage(*shown.Curves, shown.Series->WorkingCount, request,
                                        [] { return true; });
@@ -119,21 +120,25 @@ private Q_SLOTS:
             QVERIFY(shown.WaitForEnd());
             shown.Spin("spnLongest").setValue(44);
             QVERIFY(shown.WaitForEnd());
+            shown.Spin("spnSwing").setValue(35);
+            QVERIFY(shown.WaitForEnd());
             shown.Find<QCheckBox>("chkDetrend").click();
             QVERIFY(shown.WaitForEnd());
         });
         auto const requests = search.Requests();
-        QCOMPARE(requests.size(), 4U);
+        QCOMPARE(requests.size(), 5U);
         auto const text = [](search::SearchRequest const& request) {
-            return u"%1 %2 %3 %4"_s.arg(request.CycleCount)
+            return u"%1 %2 %3 %4 %5"_s.arg(request.CycleCount)
                 .arg(request.MinPeriod)
                 .arg(request.MaxPeriod.value_or(0))
+                .arg(request.LeastSwing)
                 .arg(request.Detrend ? 1 : 0);
         };
-        QCOMPARE(text(requests[0]), u"10 5 30 0"_s);
-        QCOMPARE(text(requests[1]), u"10 7 30 0"_s);
-        QCOMPARE(text(requests[2]), u"10 7 44 0"_s);
-        QCOMPARE(text(requests[3]), u"10 7 44 1"_s);
+        QCOMPARE(text(requests[0]), u"10 5 30 20 0"_s);
+        QCOMPARE(text(requests[1]), u"10 7 30 20 0"_s);
+        QCOMPARE(text(requests[2]), u"10 7 44 20 0"_s);
+        QCOMPARE(text(requests[3]), u"10 7 44 35 0"_s);
+        QCOMPARE(text(requests[4]), u"10 7 44 35 1"_s);
     }
 
     void TheProgressOfASearchShows() {
@@ -390,14 +395,15 @@ private Q_SLOTS:
         shown.Run([&] {
             QVERIFY(shown.WaitForEnd());
             QStringList names;
-            for (int step = 0; step < 9; ++step) {
+            for (int step = 0; step < 10; ++step) {
                 QWidget const* focus = QApplication::focusWidget();
                 auto const* button = qobject_cast<QPushButton const*>(focus);
                 names.append(button == nullptr ? focus->objectName() : button->text().remove(u'&'));
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             }
-            QCOMPARE(names.join(u' '),
-                     u"spnCycles spnShortest spnLongest chkDetrend tblCycles Pic1 OK Cancel spnCycles"_s);
+            QCOMPARE(
+                names.join(u' '),
+                u"spnCycles spnShortest spnLongest spnSwing chkDetrend tblCycles Pic1 OK Cancel spnCycles"_s);
         });
     }
 
