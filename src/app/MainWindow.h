@@ -16,6 +16,7 @@ enum class SecondaryWindow {
     Properties,
     Forecast,
     FindCycles,
+    TestForecast,
     Preferences,
     Legend,
     Help,

@@ -87,6 +87,7 @@ constexpr auto ChartMenu = std::to_array<MenuRow>({
     {"mnuChartFindCycles", "&Find Best Cycles...", "Pic2", FindBestCycles},
     {"mnuChartWriteParameters", "&Write Parameter File...", "Pic2", WriteParameterFile},
     {"mnuChartFindCycles", "&Find Best Cycles...", "Pic3", FindBestCycles},
+    {"mnuChartTestForecast", "&Test Forecast...", "Pic3", TestForecast},
     {"mnuChartWriteParameters", "&Write Parameter File...", "Pic3", WriteParameterFile},
 });
 
@@ -111,6 +112,10 @@ MenuRow const& MenuRowNamed(std::string_view name) {
 
 std::span<MenuRow const> ChartMenuTable() {
     return ChartMenu;
+}
+
+MenuRow const& ChartMenuRowNamed(std::string_view name) {
+    return *std::ranges::find(ChartMenu, name, &MenuRow::Name);
 }
 
 std::span<ToolRow const> ToolTable() {

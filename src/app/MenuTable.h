@@ -34,6 +34,9 @@ struct MenuRow {
 // What the context menus of the charts have besides Copy and Save, in order. The parent is the chart's box.
 [[nodiscard]] std::span<MenuRow const> ChartMenuTable();
 
+// The first row of this name. REQUIRES: there is one.
+[[nodiscard]] MenuRow const& ChartMenuRowNamed(std::string_view name);
+
 // One image of the tool strip: it does what its menu item does.
 struct ToolRow {
     std::string_view Name;

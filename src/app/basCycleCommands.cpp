@@ -32,6 +32,12 @@ void FindBestCycles(Program& program, Services& services) {
     });
 }
 
+void TestForecast(Program& program, Services& services) {
+    if (quotes::RequireQuotes(program.Quotes, services.Dialogs)) {
+        services.Window.Open(SecondaryWindow::TestForecast);
+    }
+}
+
 void WriteParameterFile(Program& program, Services& services) {
     platform::RunReported(services.Dialogs, [&] {
         cycles::WriteParameterFile(program.Cycles, services.Grid, program.ProgramFolder,

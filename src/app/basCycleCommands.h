@@ -14,6 +14,9 @@ namespace quorvex::app {
 // stays as it was.
 void FindBestCycles(Program& program, Services& services);
 
+// Opens the window that tests whether the cycles forecast. Everything stays as it was.
+void TestForecast(Program& program, Services& services);
+
 // Writes the grid into a parameter file that the user names.
 void WriteParameterFile(Program& program, Services& services);
 

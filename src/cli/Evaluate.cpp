@@ -4,7 +4,6 @@
 #include "cli/AnalysisSession.h"
 #include "cli/ConsoleDialogs.h"
 #include "cli/EvaluationJson.h"
-#include "cli/EvaluationReport.h"
 #include "cli/PipeFiles.h"
 #include "cli/ProgressBar.h"
 #include "cli/StandardStreams.h"
@@ -12,26 +11,23 @@
 #include "cycles/basCurves.h"
 #include "evaluation/basEvaluation.h"
 #include "evaluation/basEvaluationPlot.h"
+#include "evaluation/basReport.h"
 #include "platform/RecordingCanvas.h"
 #include "platform/basMessages.h"
 
-#include <algorithm>
 #include <array>
 #include <memory>
 #include <optional>
 #include <string>
-#include <thread>
 
 namespace quorvex::cli {
 
 namespace {
 
-constexpr int MostJobs = 256;
-
 struct EvaluateOptions {
     AnalysisOptions Analysis;
     int Every = evaluation::DefaultEvery;
-    int Jobs = static_cast<int>(std::clamp(std::thread::hardware_concurrency(), 1U, unsigned{MostJobs}));
+    int Jobs = evaluation::UsualJobs();
     bool Json = false;
     std::string PlotPath;
 };
@@ -105,7 +101,8 @@ ExitStatus Evaluate(EvaluateOptions const& options, platform::Console const& con
         return ExitStatus::Refused;
     }
     bool const isDrawn = options.PlotPath.empty() || WritePlot(options.PlotPath, *result, *encoder);
-    bool const isPrinted = Print(options.Json ? EvaluationJson(*result) : EvaluationReport(*result));
+    bool const isPrinted =
+        Print(options.Json ? EvaluationJson(*result) : evaluation::EvaluationReport(*result));
     return session.Status(isDrawn && isPrinted);
 }
 
@@ -130,7 +127,7 @@ void AddEvaluate(CLI::App& app, platform::Console const& console, platform::Pict
         ->add_option("--jobs", options->Jobs,
                      "Threads to work with, whatever the result [as many as the machine has]")
         ->type_name("N")
-        ->check(IsCountUpTo(MostJobs));
+        ->check(IsCountUpTo(evaluation::MostJobs));
     command->add_flag("--json", options->Json, "Print one JSON object instead of a report");
     command->add_option("--plot", options->PlotPath, "Draw errors and forecasts into a file")
         ->type_name("FILE.png|.svg|.pdf")

@@ -5,6 +5,7 @@
 
 #include "platform/basFiles.h"
 #include "platform/basMessages.h"
+#include "platform/basSaving.h"
 #include "text/basFolders.h"
 #include "text/basNumbers.h"
 #include "text/basTexts.h"
@@ -110,26 +111,17 @@ void WriteParameterFile(CycleParameterSet const& set, ParameterGrid const& grid,
         return;
     }
     std::string_view const opened = platform::BareName(set.ParameterFileName);
-    platform::SaveQuestion question{.Title = "Write Parameter File",
-                                    .Folder = std::string(programFolder),
-                                    .Name = std::string(opened.empty() ? "Cycles.dat" : opened),
-                                    .Filter = "Cycle Parameters (*.dat)|*.dat",
-                                    .Ending = "dat"};
-    for (;;) {
-        std::string path = dialogs.AskWhereToSave(question);
-        if (path.empty()) {
-            return;
-        }
-        if (!IsParameterFileName(path)) {
-            path += ".dat"; // behind another ending, too: the chooser lists no other files
-        }
-        std::string const name(platform::BareName(path));
-        if (!platform::IsThere(files, path) || platform::MayReplace(dialogs, name, question.Title)) {
-            files.Replace(path, ParameterFileText(grid));
-            return;
-        }
-        question.Folder = path.substr(0, path.size() - name.size());
-        question.Name = name;
+    // Behind another ending, too: the chooser lists no other files.
+    std::string const path =
+        platform::AskForFileToWrite(dialogs, files,
+                                    {.Title = "Write Parameter File",
+                                     .Folder = std::string(programFolder),
+                                     .Name = std::string(opened.empty() ? "Cycles.dat" : opened),
+                                     .Filter = "Cycle Parameters (*.dat)|*.dat",
+                                     .Ending = "dat"},
+                                    ".dat");
+    if (!path.empty()) {
+        files.Replace(path, ParameterFileText(grid));
     }
 }
 

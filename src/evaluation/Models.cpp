@@ -24,7 +24,7 @@ std::string ModelName(Model const& model) {
     case Method::Search:
         return "Quick search of " + cycles;
     case Method::Parameters:
-        return "Parameter file (fixed cycles)";
+        return "Parameters (fixed cycles)";
     }
     return {};
 }

@@ -134,12 +134,12 @@ void DrawKinds(platform::Canvas& canvas, double left, double y, Evaluation const
         DrawMark(canvas, x + HalfMark, middle, HalfMark, KindColour(kind), Fill::Filled);
         x += 2 * HalfMark + TextGap;
         PrintOnPlot(canvas, x, y, KindName(kind));
-        x += canvas.TextWidth(KindName(kind)) + 4 * TextGap;
+        x += canvas.TextWidth(KindName(kind)) + 3 * TextGap;
     }
     DrawMark(canvas, x + HalfRing, middle, HalfMark, CloseColour, Fill::Filled);
     DrawMark(canvas, x + HalfRing, middle, HalfRing, CloseColour, Fill::Outline);
     PrintOnPlot(canvas, x + 2 * HalfRing + TextGap, y,
-                "better than the last close beyond chance" + ConditionOfFixedCycles(evaluation));
+                "better beyond chance" + ConditionOfFixedCycles(evaluation));
 }
 
 } // namespace
@@ -169,7 +169,7 @@ void DrawErrors(platform::Canvas& canvas, PlotArea const& area, Evaluation const
                      std::to_string(days) + (days == 1 ? " day ahead" : " days ahead"));
         DrawColumn(canvas, column, evaluation, index);
     }
-    DrawKinds(canvas, left, bottom + line, evaluation);
+    DrawKinds(canvas, area.Left, bottom + line, evaluation);
 }
 
 } // namespace quorvex::evaluation

@@ -6,12 +6,18 @@
 #include "evaluation/PlotArea.h"
 #include "evaluation/basErrorPlot.h"
 #include "evaluation/basFanPlot.h"
+#include "evaluation/basVerdicts.h"
 
 #include <optional>
 
 namespace quorvex::evaluation {
 
 namespace {
+
+// In twips.
+constexpr double PlotMargin = 150;
+constexpr double LeastPlotWidth = 8600;
+constexpr double LeastFanHeight = 1500;
 
 // What is drawn when nothing is better than the last close.
 std::size_t UsualModel(std::vector<ModelReport> const& models) {
@@ -25,6 +31,17 @@ std::size_t UsualModel(std::vector<ModelReport> const& models) {
     return usual;
 }
 
+// What a kind's best horizon is better by chance with; nothing when it is nowhere better.
+std::optional<double> LeastChance(KindReport const& kind) {
+    std::optional<double> least;
+    for (HorizonReport const& report : kind.ByHorizon) {
+        if (report.IsBetter && (!least || *report.Chance < *least)) {
+            least = report.Chance;
+        }
+    }
+    return least;
+}
+
 } // namespace
 
 FanChoice ChooseFan(Evaluation const& evaluation) {
@@ -34,33 +51,60 @@ FanChoice ChooseFan(Evaluation const& evaluation) {
         if (!IsRefitted(evaluation.Models[index].Model)) {
             continue;
         }
-        for (ForecastKind const kind : ForecastKinds) {
-            for (HorizonReport const& report : evaluation.Models[index].Of(kind).ByHorizon) {
-                if (report.IsBetter && (!least || *report.Chance < *least)) {
-                    least = report.Chance;
-                    choice = {index, kind};
-                }
-            }
+        ForecastKind const kind = ChooseKind(evaluation.Models[index]);
+        auto const chance = LeastChance(evaluation.Models[index].Of(kind));
+        if (chance && (!least || *chance < *least)) {
+            least = chance;
+            choice = {index, kind};
         }
     }
     return choice;
 }
 
-void DrawEvaluation(platform::Canvas& canvas, Evaluation const& evaluation, FanChoice const& choice) {
-    constexpr double Margin = 150;
-    constexpr double LeastFan = 1500;
-    canvas.Clear();
+ForecastKind ChooseKind(ModelReport const& model) {
+    ForecastKind choice = ForecastKind::Composite;
+    std::optional<double> least;
+    for (ForecastKind const kind : ForecastKinds) {
+        auto const chance = LeastChance(model.Of(kind));
+        if (chance && (!least || *chance < *least)) {
+            least = chance;
+            choice = kind;
+        }
+    }
+    return choice;
+}
+
+void DrawPlot(platform::Canvas& canvas, PlotArea const& area, Evaluation const& evaluation,
+              FanChoice const& choice) {
     canvas.SetForeColour(platform::Black);
     SetPlotFont(canvas, false);
-    double const errors = ErrorPlotHeight(canvas, evaluation);
-    PlotArea const all{Margin, Margin, canvas.Width() - Margin, canvas.Height() - Margin};
-    PlotArea const upper{all.Left, all.Top, all.Right, all.Top + errors};
-    PlotArea const lower{all.Left, upper.Bottom + Margin, all.Right, all.Bottom};
-    if (all.Width() < PlotWidth / 2 || lower.Height() < LeastFan) {
+    PlotArea upper = area;
+    upper.Bottom = upper.Top + ErrorPlotHeight(canvas, evaluation);
+    PlotArea lower = area;
+    lower.Top = upper.Bottom + PlotMargin;
+    if (area.Width() < LeastPlotWidth || lower.Height() < LeastFanHeight) {
         return;
     }
     DrawErrors(canvas, upper, evaluation);
     DrawFan(canvas, lower, evaluation, choice);
+}
+
+void DrawEvaluation(platform::Canvas& canvas, Evaluation const& evaluation, FanChoice const& choice) {
+    canvas.Clear();
+    PlotArea const all{PlotMargin, PlotMargin, canvas.Width() - PlotMargin, canvas.Height() - PlotMargin};
+    DrawPlot(canvas, all, evaluation, choice);
+}
+
+std::string DescribePlot(Evaluation const& evaluation, FanChoice const& choice) {
+    int forecasts = 0;
+    for (Origin const& origin : evaluation.Origins) {
+        forecasts += origin.Forecasts[choice.Model].Of(choice.Kind) ? 1 : 0;
+    }
+    return VerdictOf(evaluation) +
+           " Above, the errors of all models with their intervals; below, the closes from " +
+           evaluation.Dates.front() + " to " + evaluation.Dates.back() + " with " +
+           std::to_string(forecasts) + (forecasts == 1 ? " forecast: " : " forecasts: ") +
+           FanName(evaluation, choice) + '.';
 }
 
 } // namespace quorvex::evaluation

@@ -6,9 +6,11 @@
 #pragma once
 
 #include "evaluation/Evaluation.h"
+#include "evaluation/PlotArea.h"
 #include "platform/Canvas.h"
 
 #include <cstddef>
+#include <string>
 
 namespace quorvex::evaluation {
 
@@ -27,7 +29,17 @@ struct FanChoice {
 // REQUIRES: one model at least.
 [[nodiscard]] FanChoice ChooseFan(Evaluation const& evaluation);
 
-// Clears the canvas and draws both. A canvas too small for that stays empty.
+// The kind of this model that is most surely better than the last close, else the composite.
+[[nodiscard]] ForecastKind ChooseKind(ModelReport const& model);
+
+// Draws both into the area. Nothing where they have no room.
+void DrawPlot(platform::Canvas& canvas, PlotArea const& area, Evaluation const& evaluation,
+              FanChoice const& choice);
+
+// The same on the whole canvas, which it clears.
 void DrawEvaluation(platform::Canvas& canvas, Evaluation const& evaluation, FanChoice const& choice);
+
+// What the plot shows, in sentences.
+[[nodiscard]] std::string DescribePlot(Evaluation const& evaluation, FanChoice const& choice);
 
 } // namespace quorvex::evaluation

@@ -89,12 +89,7 @@ private:
     void DrawCaption() {
         captionLeft_ = area_.Left;
         SetPlotFont(canvas_, true);
-        Model const& model = evaluation_.Models[choice_.Model].Model;
-        std::string const origin = IsRefitted(model) ? "that were made of the days before: "
-                                                     : "by cycles that may have been chosen later: ";
-        PrintOnPlot(canvas_, area_.Left, area_.Top,
-                    "Closes, and the forecasts of 25 days " + origin + ModelName(model) + ", " +
-                        std::string(KindName(choice_.Kind)));
+        PrintOnPlot(canvas_, area_.Left, area_.Top, "Closes and forecasts: " + FanName(evaluation_, choice_));
         SetPlotFont(canvas_, false);
         DrawLegend();
     }
@@ -214,6 +209,10 @@ private:
 };
 
 } // namespace
+
+std::string FanName(Evaluation const& evaluation, FanChoice const& choice) {
+    return ModelName(evaluation.Models[choice.Model].Model) + ", " + std::string(KindName(choice.Kind));
+}
 
 void DrawFan(platform::Canvas& canvas, PlotArea const& area, Evaluation const& evaluation,
              FanChoice const& choice) {

@@ -90,6 +90,10 @@ private:
 
 } // namespace
 
+int UsualJobs() {
+    return static_cast<int>(std::clamp(std::thread::hardware_concurrency(), 1U, unsigned{MostJobs}));
+}
+
 bool DoPieces(std::size_t count, std::size_t workers, Piece const& piece, Watch const& watch) {
     if (count == 0) {
         return true;

@@ -19,6 +19,11 @@ using Watch = std::function<bool(double)>;
 // any state.
 using Piece = std::function<void(std::size_t, search::GoOn const&)>;
 
+inline constexpr int MostJobs = 256;
+
+// As many threads as the machine runs at once, 1 to the most.
+[[nodiscard]] int UsualJobs();
+
 // Does the pieces 0.. on so many threads, while the calling one watches. Returns whether all were done; not
 // when the watch ended it. What a piece throws ends the others and comes through. REQUIRES: 1 worker at
 // least.

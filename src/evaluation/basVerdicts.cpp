@@ -132,11 +132,15 @@ void AppendRows(std::vector<TableRow>& rows, std::string const& name, std::strin
                         FigureText(report.Figures.ErrorRatio, report.Intervals.ErrorRatio, "0.00"),
                         FigureText(report.Figures.RightDirections, report.Intervals.RightDirections, "0%"),
                         FigureText(report.Figures.Correlation, report.Intervals.Correlation, "0.00"),
-                        ChanceText(report.Chance) + (report.IsBetter ? " *" : "")});
+                        ChanceText(report.Chance) + (report.IsBetter ? " *" : ""), report.IsBetter});
     }
 }
 
 } // namespace
+
+bool HasSkill(ModelReport const& model) {
+    return IsAnywhere(model, [](HorizonReport const& report) { return report.IsBetter; });
+}
 
 std::string VerdictOf(ModelReport const& model, Evaluation const& evaluation) {
     std::string const skill = SkillOf(model);
@@ -153,6 +157,39 @@ std::string VerdictOf(ModelReport const& model, Evaluation const& evaluation) {
     }
     return model.Of(ForecastKind::Composite).ForecastCount == 0 ? "no forecasts: " + FaultsOf(model)
                                                                 : "not tested: " + WhyNotTested(model);
+}
+
+std::string VerdictOf(Evaluation const& evaluation) {
+    constexpr std::string_view Better = " better than the last close";
+    std::vector<std::string> better;
+    int count = 0;
+    int tested = 0;
+    std::string ofFixed;
+    for (ModelReport const& model : evaluation.Models) {
+        if (!IsRefitted(model.Model) && HasSkill(model)) {
+            ofFixed = " The fixed cycles look better, which counts only if they were chosen before " +
+                      evaluation.DateOf(evaluation.Origins.front()) + '.';
+            continue;
+        }
+        ++count;
+        tested += IsTested(model) ? 1 : 0;
+        if (HasSkill(model)) {
+            better.push_back(ModelName(model.Model));
+        }
+    }
+    if (!better.empty()) {
+        return std::to_string(better.size()) + " of " + Counted(count, "model") +
+               (better.size() == 1 ? " forecasts" : " forecast") + std::string(Better) + ": " +
+               Listed(better) + '.' + ofFixed;
+    }
+    if (tested == 0) {
+        return "There are too few forecasts to tell whether any model is" + std::string(Better) + '.' +
+               ofFixed;
+    }
+    std::string const those = tested < count ? " that could be tested" : "";
+    return (tested == 1 ? "The model" + those + " forecasts no"
+                        : "None of the " + Counted(tested, "model") + those + " forecasts") +
+           std::string(Better) + '.' + ofFixed;
 }
 
 std::string ConditionOfFixedCycles(Evaluation const& evaluation) {
@@ -176,7 +213,7 @@ std::string DescribeTest(Evaluation const& evaluation) {
 }
 
 TableRow TableHead() {
-    return {"Model", "Forecast", "Days", "Error", "Right direction", "Correlation", "p"};
+    return {"Model", "Forecast", "Days", "Error", "Right direction", "Correlation", "p", false};
 }
 
 std::vector<TableRow> TableRows(Evaluation const& evaluation) {

@@ -6,11 +6,15 @@
 
 #include "evaluation/Evaluation.h"
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace quorvex::evaluation {
+
+// Whether any forecast of the model is better than the last close, beyond chance.
+[[nodiscard]] bool HasSkill(ModelReport const& model);
 
 // Whether the model, one of the test, is better than the last close, and where; a sentence without its
 // subject and full stop. Of fixed cycles it names the condition, and of what is not below the drift it says
@@ -20,6 +24,10 @@ namespace quorvex::evaluation {
 // The condition under which fixed cycles are better than the last close where they seem so, to be put behind
 // what says that; empty without such cycles.
 [[nodiscard]] std::string ConditionOfFixedCycles(Evaluation const& evaluation);
+
+// Which of the models are better, as whole sentences: what a trader wants to know first. Fixed cycles are
+// told of apart when they seem so.
+[[nodiscard]] std::string VerdictOf(Evaluation const& evaluation);
 
 // What was tested, on which days, as whole sentences.
 [[nodiscard]] std::string DescribeTest(Evaluation const& evaluation);
@@ -34,7 +42,13 @@ struct TableRow {
     std::string Right;
     std::string Correlation;
     std::string Chance;
+    bool IsBetter = false; // than the last close, beyond chance
 };
+
+// In order. The days stand at the right of their column.
+inline constexpr std::array<std::string TableRow::*, 7> TableColumns = {
+    &TableRow::Model, &TableRow::Kind,        &TableRow::Days,  &TableRow::Error,
+    &TableRow::Right, &TableRow::Correlation, &TableRow::Chance};
 
 [[nodiscard]] TableRow TableHead();
 

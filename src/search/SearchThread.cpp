@@ -9,55 +9,22 @@ namespace quorvex::search {
 
 SearchThread::SearchThread(Report report, SearchRoutine routine)
     : report_(std::move(report)),
-      routine_(std::move(routine)),
-      thread_([this] { Work(); }) {}
-
-SearchThread::~SearchThread() {
-    Stop();
-    {
-        std::scoped_lock const lock(mutex_);
-        isClosed_ = true;
-    }
-    wanted_.notify_one();
-    thread_.join();
-}
+      routine_(std::move(routine)) {}
 
 int SearchThread::Start(std::vector<double> series, SearchRequest const& request) {
-    int const number = ++number_;
-    {
-        std::scoped_lock const lock(mutex_);
-        next_ = Task{number, std::move(series), request};
-    }
-    wanted_.notify_one();
-    return number;
+    return thread_.Start([this, series = std::move(series), request](int number, GoOn const& goOn) {
+        Run(number, series, request, goOn);
+    });
 }
 
-void SearchThread::Stop() {
-    ++number_;
-    std::scoped_lock const lock(mutex_);
-    next_.reset();
-}
-
-void SearchThread::Work() {
-    while (auto const task = NextTask()) {
-        Run(*task);
-    }
-}
-
-std::optional<SearchThread::Task> SearchThread::NextTask() {
-    std::unique_lock lock(mutex_);
-    wanted_.wait(lock, [this] { return next_.has_value() || isClosed_; });
-    return isClosed_ ? std::nullopt : std::exchange(next_, std::nullopt);
-}
-
-void SearchThread::Run(Task const& task) const {
-    SearchNews end{.Number = task.Number, .Found = {}, .IsOver = true, .Refusal = {}, .Fault = {}};
+void SearchThread::Run(int number, std::span<double const> series, SearchRequest const& request,
+                       GoOn const& goOn) const {
+    SearchNews end{.Number = number, .Found = {}, .IsOver = true, .Refusal = {}, .Fault = {}};
     try {
-        auto const goOn = [&] { return number_ == task.Number; };
         auto const take = [&](CycleModel const& model) {
-            report_({.Number = task.Number, .Found = model, .IsOver = false, .Refusal = {}, .Fault = {}});
+            report_({.Number = number, .Found = model, .IsOver = false, .Refusal = {}, .Fault = {}});
         };
-        end.Refusal = routine_(task.Series, task.Request, goOn, take).Refusal;
+        end.Refusal = routine_(series, request, goOn, take).Refusal;
     } catch (...) {
         end.Fault = std::current_exception();
     }

@@ -3,17 +3,14 @@
 
 #pragma once
 
+#include "search/TaskThread.h"
 #include "search/basSearch.h"
 
-#include <atomic>
-#include <condition_variable>
 #include <exception>
 #include <functional>
-#include <mutex>
 #include <optional>
 #include <span>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace quorvex::search {
@@ -31,8 +28,7 @@ struct SearchNews {
     std::exception_ptr Fault;        // what ended it otherwise
 };
 
-// Searches on a thread of its own, so that nobody waits: one search at a time, the latest that was asked for.
-// It works on copies.
+// Searches on a thread of its own: one search at a time, the latest that was asked for. It works on copies.
 class SearchThread {
 public:
     using Report = std::function<void(SearchNews const&)>;
@@ -41,37 +37,19 @@ public:
     // notice, under the number that they had.
     explicit SearchThread(Report report, SearchRoutine routine = SearchSeries);
 
-    SearchThread(SearchThread const&) = delete;
-    SearchThread& operator=(SearchThread const&) = delete;
-
-    // Waits for the search under way, which it ends.
-    ~SearchThread();
-
     // Ends the search under way and starts this one. Returns its number, which no other search has.
     int Start(std::vector<double> series, SearchRequest const& request);
 
     // Ends the search under way, without waiting for it.
-    void Stop();
+    void Stop() { thread_.Stop(); }
 
 private:
-    struct Task {
-        int Number = 0;
-        std::vector<double> Series;
-        SearchRequest Request;
-    };
-
-    void Work();
-    [[nodiscard]] std::optional<Task> NextTask();
-    void Run(Task const& task) const;
+    void Run(int number, std::span<double const> series, SearchRequest const& request,
+             GoOn const& goOn) const;
 
     Report report_;
     SearchRoutine routine_;
-    std::atomic<int> number_ = 0; // of the search that is wanted; another one goes on no longer
-    std::mutex mutex_;            // guards the next two
-    std::optional<Task> next_;
-    bool isClosed_ = false;
-    std::condition_variable wanted_;
-    std::thread thread_; // the last member: it uses the others
+    TaskThread thread_; // the last member: it uses the others, and its end is waited for
 };
 
 } // namespace quorvex::search

@@ -15,6 +15,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
+#include <string_view>
 
 namespace quorvex::app {
 namespace {
@@ -148,6 +150,27 @@ TEST(FindBestCycles, AMovingAverageThatFailsShowsItsDescription) {
     EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Overflow", "Quorvex", Icon::None));
 }
 
+TEST(TestForecast, WithoutQuotesAsksForThem) {
+    RunningProgram running;
+    TestForecast(*running.Data, running.Outside);
+    EXPECT_TRUE(running.Window.Opened.empty());
+    EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages,
+                              "Please use File Open option to load a quote data file", "Quorvex",
+                              Icon::Information));
+}
+
+TEST(TestForecast, OpensTheWindowAndChangesNothing) {
+    RunningProgram running;
+    running.Open("q250.txt", GoldenFile("quotes/q250.txt"));
+    running.TypeCycle(1, "57", "20");
+    running.Window.Calls.clear();
+    TestForecast(*running.Data, running.Outside);
+    EXPECT_THAT(running.Window.Opened, ElementsAre(SecondaryWindow::TestForecast));
+    EXPECT_THAT(running.Window.Calls, ElementsAre("open"));
+    EXPECT_EQ(RowTexts(running.Grid, 1), "57 20 0 0 ") << "the grid is not read";
+    EXPECT_TRUE(running.Dialogs.Messages.empty());
+}
+
 TEST(WriteParameterFile, WritesAFileThatParametersOpenReads) {
     FindingProgram running;
     FindBestCycles(*running.Data, running.Outside);
@@ -188,17 +211,27 @@ TEST(WriteParameterFile, AFaultShowsItsDescription) {
     EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Permission denied", "Quorvex", Icon::None));
 }
 
-TEST(ChartMenuTable, TheChartsOfTheCyclesHaveBothItems) {
+TEST(ChartMenuTable, TheChartsOfTheCyclesHaveTheirItems) {
+    std::map<std::string_view, Command> const commands = {{"mnuChartFindCycles", FindBestCycles},
+                                                          {"mnuChartTestForecast", TestForecast},
+                                                          {"mnuChartWriteParameters", WriteParameterFile}};
     std::vector<std::string> items;
     for (MenuRow const& row : ChartMenuTable()) {
         items.push_back(std::string(row.Parent) + ' ' + std::string(row.Name) + ' ' +
                         std::string(row.Caption));
-        EXPECT_EQ(row.Run, row.Name == "mnuChartFindCycles" ? FindBestCycles : WriteParameterFile);
+        EXPECT_EQ(row.Run, commands.at(row.Name));
     }
     EXPECT_THAT(items, ElementsAre("Pic2 mnuChartFindCycles &Find Best Cycles...",
                                    "Pic2 mnuChartWriteParameters &Write Parameter File...",
                                    "Pic3 mnuChartFindCycles &Find Best Cycles...",
+                                   "Pic3 mnuChartTestForecast &Test Forecast...",
                                    "Pic3 mnuChartWriteParameters &Write Parameter File..."));
+}
+
+TEST(ChartMenuTable, HasRowsByName) {
+    MenuRow const& row = ChartMenuRowNamed("mnuChartTestForecast");
+    EXPECT_EQ(row.Caption, "&Test Forecast...");
+    EXPECT_EQ(row.Run, TestForecast);
 }
 
 } // namespace

@@ -20,7 +20,10 @@ TEST(EvaluateCommand, PrintsTableSurrogatesAndVerdicts) {
     auto const run = RunCompanion({"evaluate", Contract, "--every", "25"});
     EXPECT_EQ(run.ExitStatus, 0) << run.Errors;
     EXPECT_EQ(run.Errors, "");
-    EXPECT_TRUE(run.Output.starts_with("Forecasts from 5 days, every 25 days from ")) << run.Output;
+    EXPECT_TRUE(
+        run.Output.starts_with("There are too few forecasts to tell whether any model is better than the "
+                               "last close.\n\nForecasts from 5 days, every 25 days from "))
+        << run.Output;
     for (auto const* part :
          {"\n\nModel                     Forecast   Days  Error",
           "\nDrift                     -             1  ", "\nFit of 3 cycles           scaled       25  ",
@@ -29,7 +32,7 @@ TEST(EvaluateCommand, PrintsTableSurrogatesAndVerdicts) {
           " of 200 surrogates ", "\n\nVerdict\n  Fit of 1 cycle: not tested: 5 forecasts are too few\n"}) {
         EXPECT_NE(run.Output.find(part), std::string::npos) << part << '\n' << run.Output;
     }
-    EXPECT_EQ(run.Output.find("Parameter file"), std::string::npos);
+    EXPECT_EQ(run.Output.find("Parameters"), std::string::npos);
 }
 
 TEST(EvaluateCommand, GivesTheSameWithAnyNumberOfThreads) {
@@ -63,7 +66,7 @@ TEST(EvaluateCommand, PrintsOneJsonObject) {
     EXPECT_EQ(object.at("LastClose").at("MeanAbsoluteError").size(), 4U);
     ASSERT_EQ(object.at("Models").size(), 8U);
     auto const& parameters = object.at("Models").back();
-    EXPECT_EQ(parameters.at("Name"), "Parameter file (fixed cycles)");
+    EXPECT_EQ(parameters.at("Name"), "Parameters (fixed cycles)");
     EXPECT_EQ(parameters.at("IsRefitted"), false);
     EXPECT_EQ(object.at("Models").at(0).at("IsRefitted"), true);
     EXPECT_EQ(parameters.at("Method"), "parameters");
@@ -172,7 +175,7 @@ TEST(EvaluateCommand, DrawsThePlot) {
         auto const run = RunCompanion({"evaluate", Contract, "--every", "50", "--plot", folder.File(name)});
         EXPECT_EQ(run.ExitStatus, 0) << run.Errors;
         EXPECT_TRUE(folder.Read(name).starts_with(begin)) << name;
-        EXPECT_TRUE(run.Output.starts_with("Forecasts from "));
+        EXPECT_TRUE(run.Output.starts_with("There are too few forecasts "));
     }
     EXPECT_NE(folder.Read("plot.svg").find("Quick search of 3 cycles"), std::string::npos);
 }
@@ -183,7 +186,7 @@ TEST(EvaluateCommand, PrintsItsTableWhenThePlotCannotBeWritten) {
     auto const run = RunCompanion({"evaluate", Contract, "--every", "50", "--plot", path});
     EXPECT_EQ(run.ExitStatus, 1);
     EXPECT_EQ(run.Errors, "quorvex-cli: " + path + ": Path not found\n");
-    EXPECT_TRUE(run.Output.starts_with("Forecasts from "));
+    EXPECT_TRUE(run.Output.starts_with("There are too few forecasts "));
 }
 
 #else

@@ -6,6 +6,7 @@
 #include "RunCompanion.h"
 #include "search/basSearch.h"
 #include "support/HelpDocuments.h"
+#include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -118,6 +119,20 @@ TEST_F(QuickStart, TellsOfTheBestCycles) {
     auto const whole = SearchWheat({"--min-swing", swing, "--max-period", "250"});
     ExpectText("Now the composite swings from " + SwingOf(whole) + ". Press OK. Correlation now says " +
                CorrelationOf(whole) + ",");
+}
+
+TEST_F(QuickStart, TellsWhetherTheyForecast) {
+    TemporaryFolder const folder;
+    std::string const found = folder.File("found.dat");
+    static_cast<void>(SearchWheat(
+        {"--min-swing", std::to_string(search::VisibleSwing), "--max-period", "250", "-o", found}));
+    auto const run =
+        RunCompanion({"evaluate", std::string(QUORVEX_SAMPLES) + "/Wheat.txt", "--parameters", found});
+    EXPECT_THAT(run.Output,
+                testing::StartsWith("None of the 7 models forecasts better than the last close. The fixed "
+                                    "cycles look better, which counts only if they were chosen before "));
+    ExpectText("none of the seven models which know only the past forecasts better than the last close. Your "
+               "fixed cycles look better,");
 }
 
 TEST_F(QuickStart, TellsOfTheDateRange) {

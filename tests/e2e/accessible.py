@@ -222,6 +222,15 @@ class Accessible:
         if not self._call("EditableText", "SetTextContents", "(s)", text)[0]:
             raise AssertionError(f"{self.name!r} takes no text")
 
+    def cell_texts(self):
+        """The texts of a table, a list for each row."""
+        rows, columns = self._property("Table", "NRows"), self._property("Table", "NColumns")
+        answers = self._bus.call_all([self._method("Table", "GetAccessibleAt", "(ii)", row, column)
+                                      for row in range(rows) for column in range(columns)])
+        cells = [Accessible(self._bus, *answer[0]) for answer in answers]
+        texts = [answer[0] for answer in self._bus.call_all([cell._getter("Accessible", "Name") for cell in cells])]
+        return [texts[first:first + columns] for first in range(0, len(texts), columns)]
+
     def focus(self):
         self._call("Component", "GrabFocus")
 

@@ -83,6 +83,12 @@ class Studio:
         wait_for(lambda: not window.find_all("progress bar"), "the end of the search")
         return window
 
+    def test_forecast(self):
+        self.program.chart("Composite estimate cycle chart").focus()
+        self.desktop.press("Menu", "t")
+        window = self.program.window("Quorvex - Test Forecast - [Wheat.txt]")
+        wait_for(lambda: not window.find_all("progress bar"), "the end of the test")
+
     def take(self, title, path):
         """A picture of the window alone, without the window manager's frame."""
         subprocess.run(["import", "-window", self.window_number(title), path], env=self.desktop.environment,
@@ -119,6 +125,10 @@ def take_dialogs(studio, folder):
     program.wait_for_main()
     studio.find_best_cycles()
     studio.take("Quorvex - Find Best Cycles", os.path.join(folder, "find-cycles.png"))
+    studio.desktop.press("Escape")
+    program.wait_for_main()
+    studio.test_forecast()
+    studio.take("Quorvex - Test Forecast", os.path.join(folder, "test-forecast.png"))
     studio.desktop.press("Escape")
     program.wait_for_main()
     for picture, exit_item, title, *command in SECONDARY_WINDOWS:

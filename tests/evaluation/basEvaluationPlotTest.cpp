@@ -86,6 +86,44 @@ TEST(EvaluationPlot, HasAllItsTextsInsideAndApart) {
     }
 }
 
+// The smallest box of the window.
+TEST(EvaluationPlot, HasItsTextsApartInASmallBox) {
+    EvaluationRequest request;
+    request.Models = StandardModels(false);
+    request.MovingAverageLength = 5;
+    request.Every = 25;
+    request.SampleCount = 10;
+    request.SurrogateCount = 0;
+    Evaluation evaluation =
+        Evaluate(*tests::SeriesOfCloses(tests::CyclicCloses(200, 1)), request, [](double) {
+            return true;
+        }).Result.value();
+    evaluation.Models.push_back(evaluation.Models.back());
+    evaluation.Models.back().Model = {Method::Parameters, 0};
+    RecordingCanvas canvas(600 * platform::TwipsPerPixel, 480 * platform::TwipsPerPixel);
+    DrawEvaluation(canvas, evaluation, {6, ForecastKind::Composite});
+    auto const texts = TextsOf(canvas);
+    EXPECT_GT(texts.size(), 40U);
+    for (std::size_t index = 0; index < texts.size(); ++index) {
+        EXPECT_LE(texts[index].X + canvas.TextWidth(texts[index].Text), canvas.Width()) << texts[index].Text;
+        EXPECT_LE(texts[index].Y + canvas.TextHeight(), canvas.Height()) << texts[index].Text;
+        for (std::size_t other = 0; other < index; ++other) {
+            EXPECT_FALSE(Overlap(canvas, texts[index], texts[other]))
+                << texts[index].Text << " on " << texts[other].Text;
+        }
+    }
+}
+
+TEST(EvaluationPlot, DescribesWhatItShows) {
+    Evaluation evaluation = SomeEvaluation(tests::WalkingCloses(200, 2));
+    evaluation.Origins[1].Forecasts[1].Prices = {}; // a fault
+    auto const count = evaluation.Origins.size() - 1;
+    EXPECT_EQ(DescribePlot(evaluation, {1, ForecastKind::Scaled}),
+              "None of the 3 models forecasts better than the last close. Above, the errors of all models "
+              "with their intervals; below, the closes from 01/02/03 to 01/02/03 with " +
+                  std::to_string(count) + " forecasts: Quick search of 3 cycles, scaled.");
+}
+
 TEST(EvaluationPlot, DrawsEveryForecastOfTheChoiceAndTheCloses) {
     Evaluation evaluation = SomeEvaluation(tests::WalkingCloses(200, 2));
     evaluation.Origins[1].Forecasts[1].Prices = {}; // a fault
@@ -160,6 +198,8 @@ TEST(EvaluationPlot, ChoosesWhatIsBetterThanTheLastClose) {
     improve(2, ForecastKind::Window, 0.01);
     EXPECT_EQ(ChooseFan(evaluation).Model, 2U);
     EXPECT_EQ(ChooseFan(evaluation).Kind, ForecastKind::Window);
+    EXPECT_EQ(ChooseKind(evaluation.Models[0]), ForecastKind::Scaled);
+    EXPECT_EQ(ChooseKind(evaluation.Models[1]), ForecastKind::Composite);
 }
 
 TEST(EvaluationPlot, WithoutThatChoosesTheSearchOfThreeCyclesOrTheLastModel) {
@@ -203,10 +243,8 @@ TEST(EvaluationPlot, SaysThatFixedCyclesMayHaveBeenChosenLater) {
                 << texts[index].Text << " on " << texts[other].Text;
         }
     }
-    EXPECT_TRUE(words.contains("Closes, and the forecasts of 25 days by cycles that may have been chosen "
-                               "later: Parameter file (fixed cycles), composite"));
-    EXPECT_TRUE(words.contains("better than the last close beyond chance; fixed cycles only if chosen before "
-                               "01/02/03"));
+    EXPECT_TRUE(words.contains("Closes and forecasts: Parameters (fixed cycles), composite"));
+    EXPECT_TRUE(words.contains("better beyond chance; fixed cycles only if chosen before 01/02/03"));
 }
 
 } // namespace

@@ -82,5 +82,10 @@ TEST(Pieces, AFaultEndsTheOthersAndComesThrough) {
     EXPECT_LT(done, 1000);
 }
 
+TEST(DoPieces, UsesTheMachineUsually) {
+    EXPECT_GE(UsualJobs(), 1);
+    EXPECT_LE(UsualJobs(), MostJobs);
+}
+
 } // namespace
 } // namespace quorvex::evaluation

@@ -43,7 +43,7 @@ TEST(Verdicts, NameTheModels) {
     EXPECT_EQ(ModelName({Method::Automate, 1}), "Fit of 1 cycle");
     EXPECT_EQ(ModelName({Method::Automate, 3}), "Fit of 3 cycles");
     EXPECT_EQ(ModelName({Method::Search, 5}), "Quick search of 5 cycles");
-    EXPECT_EQ(ModelName({Method::Parameters, 0}), "Parameter file (fixed cycles)");
+    EXPECT_EQ(ModelName({Method::Parameters, 0}), "Parameters (fixed cycles)");
     EXPECT_EQ(StandardModels(false).size(), 7U);
     EXPECT_EQ(StandardModels(true).back(), (Model{Method::Parameters, 0}));
 }
@@ -117,6 +117,42 @@ TEST(Verdicts, SayWhyAModelWasNotTested) {
     EXPECT_EQ(VerdictOf(model, evaluation), "not tested: 9 forecasts are too few");
 }
 
+TEST(Verdicts, SayFirstWhichModelsAreBetter) {
+    ModelReport untested;
+    untested.Faults = {{"Overflow", 3}};
+    Evaluation evaluation = SmallEvaluation();
+    evaluation.Models = {Tested({}), Tested({})};
+    EXPECT_EQ(VerdictOf(evaluation), "None of the 2 models forecasts better than the last close.");
+    evaluation.Models.push_back(untested);
+    EXPECT_EQ(VerdictOf(evaluation),
+              "None of the 2 models that could be tested forecasts better than the last close.");
+    evaluation.Models[0] = Tested({2});
+    EXPECT_EQ(VerdictOf(evaluation),
+              "1 of 3 models forecasts better than the last close: Quick search of 3 cycles.");
+    evaluation.Models[1] = Tested({}, {0});
+    evaluation.Models[1].Model = {Method::Automate, 1};
+    EXPECT_EQ(
+        VerdictOf(evaluation),
+        "2 of 3 models forecast better than the last close: Quick search of 3 cycles and Fit of 1 cycle.");
+    evaluation.Models = {untested};
+    EXPECT_EQ(VerdictOf(evaluation),
+              "There are too few forecasts to tell whether any model is better than the last close.");
+    EXPECT_FALSE(HasSkill(Tested({})));
+    EXPECT_TRUE(HasSkill(Tested({}, {3})));
+}
+
+TEST(Verdicts, SayApartThatFixedCyclesLookBetter) {
+    Evaluation evaluation = SmallEvaluation();
+    evaluation.Models = {Tested({}), Tested({})};
+    evaluation.Models[1].Model = {Method::Parameters, 0};
+    EXPECT_EQ(VerdictOf(evaluation), "None of the 2 models forecasts better than the last close.");
+    evaluation.Models[1] = Tested({}, {3});
+    evaluation.Models[1].Model = {Method::Parameters, 0};
+    EXPECT_EQ(VerdictOf(evaluation),
+              "The model forecasts no better than the last close. The fixed cycles look better, which counts "
+              "only if they were chosen before 01/02/03.");
+}
+
 TEST(Verdicts, DescribeTheTest) {
     Evaluation evaluation = SmallEvaluation();
     EXPECT_EQ(
@@ -174,6 +210,8 @@ TEST(Verdicts, SpellTheTable) {
     EXPECT_EQ(row.Correlation, "-0.30");
     EXPECT_EQ(row.Chance, "0.012 *");
     EXPECT_EQ(rows[4 + 4 + 3].Chance, "<0.001");
+    EXPECT_TRUE(row.IsBetter);
+    EXPECT_FALSE(rows[4 + 4 + 3].IsBetter);
     EXPECT_EQ(TableHead().Right, "Right direction");
 }
 

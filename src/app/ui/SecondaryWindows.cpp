@@ -3,6 +3,7 @@
 
 #include "app/ui/SecondaryWindows.h"
 
+#include "app/MenuTable.h"
 #include "auxiliary/basSystemInfo.h"
 #include "auxiliary/ui/frmAbout.h"
 #include "auxiliary/ui/frmHelp.h"
@@ -13,6 +14,9 @@
 #include "convert/ui/frmConvertCSI.h"
 #include "convert/ui/frmConvertCustom.h"
 #include "editor/ui/frmEdit.h"
+#include "evaluation/ui/frmTestForecast.h"
+#include "platform/pictures/QtTexts.h"
+#include "platform/qt/QtDialogs.h"
 #include "prefs/ui/frmPreferences.h"
 #include "search/ui/frmFindCycles.h"
 
@@ -59,7 +63,13 @@ void SecondaryWindows::RunModal(SecondaryWindow window) {
         }).RunModal();
         break;
     case SecondaryWindow::Forecast:
-        Need(forecast_, parent, program_.Quotes, program_.Cycles, program_.Settings, host_.Files, dialogs_)
+        Need(forecast_, parent, program_.Quotes, program_.Cycles, program_.Settings, host_.Files, dialogs_,
+             ForecastCommands())
+            .RunModal();
+        break;
+    case SecondaryWindow::TestForecast:
+        Need(testForecast_, parent, program_.Quotes, program_.Cycles, program_.Settings, host_.Files,
+             dialogs_, host_.Printing, host_.Pointer)
             .RunModal();
         break;
     case SecondaryWindow::FindCycles:
@@ -86,6 +96,15 @@ void SecondaryWindows::RunModal(SecondaryWindow window) {
         }).RunModal();
         break;
     }
+}
+
+std::vector<platform::qt::PictureCommand> SecondaryWindows::ForecastCommands() {
+    using platform::pictures::ToQt;
+    MenuRow const& row = ChartMenuRowNamed("mnuChartTestForecast");
+    return {{ToQt(row.Name), ToQt(row.Caption), [this] {
+                 platform::qt::CloseMenus();
+                 platform::qt::RunGuarded(mainWindow_, [this] { RunModal(SecondaryWindow::TestForecast); });
+             }}};
 }
 
 void SecondaryWindows::ShowConverterHelp() {

@@ -6,9 +6,11 @@
 #include "app/MainWindow.h"
 #include "app/Program.h"
 #include "platform/Dialogs.h"
+#include "platform/qt/PictureBox.h"
 
 #include <QPointer>
 #include <QWidget>
+#include <vector>
 
 namespace quorvex::auxiliary::ui {
 class frmAbout;
@@ -29,6 +31,10 @@ class frmConvertCustom;
 
 namespace quorvex::editor::ui {
 class frmEdit;
+}
+
+namespace quorvex::evaluation::ui {
+class frmTestForecast;
 }
 
 namespace quorvex::prefs::ui {
@@ -54,6 +60,9 @@ private:
     // One document serves the converters.
     void ShowConverterHelp();
 
+    // What the context menu of the forecast window's chart has as that of the composite has it.
+    [[nodiscard]] std::vector<platform::qt::PictureCommand> ForecastCommands();
+
     QWidget& mainWindow_;
     Program& program_;
     platform::Dialogs& dialogs_;
@@ -69,6 +78,7 @@ private:
     QPointer<chart::ui::frmLegend> legend_;
     QPointer<prefs::ui::frmPreferences> preferences_;
     QPointer<auxiliary::ui::frmProperties> properties_;
+    QPointer<evaluation::ui::frmTestForecast> testForecast_;
 };
 
 } // namespace quorvex::app::ui

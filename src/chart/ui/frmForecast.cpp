@@ -42,7 +42,8 @@ void UseColumnFont(QListWidget& list) {
 
 frmForecast::frmForecast(QWidget* parent, quotes::QuoteSeries const& series,
                          cycles::CycleParameterSet const& set, settings::Settings const& settings,
-                         platform::Files& files, platform::Dialogs& dialogs)
+                         platform::Files& files, platform::Dialogs& dialogs,
+                         std::vector<platform::qt::PictureCommand> commands)
     : QDialog(parent),
       series_(series),
       set_(set),
@@ -55,6 +56,7 @@ frmForecast::frmForecast(QWidget* parent, quotes::QuoteSeries const& series,
     UseColumnFont(*ui_->List2);
     ui_->Pic1->SetReadings(this);
     ui_->Pic1->OfferSaving(files, dialogs, ui_->Pic1->accessibleName());
+    ui_->Pic1->OfferCommands(std::move(commands));
     ui_->Pic1->installEventFilter(this);
 }
 

@@ -8,11 +8,13 @@
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/PictureReadings.h"
+#include "platform/qt/PictureBox.h"
 #include "quotes/QuoteSeries.h"
 #include "settings/Settings.h"
 
 #include <QDialog>
 #include <memory>
+#include <vector>
 
 namespace Ui {
 class frmForecast;
@@ -26,9 +28,10 @@ class frmForecast final : public QDialog, private platform::PictureReadings {
     Q_OBJECT
 
 public:
-    // All must outlive the window.
+    // All must outlive the window. The commands stand in the context menu of its chart.
     frmForecast(QWidget* parent, quotes::QuoteSeries const& series, cycles::CycleParameterSet const& set,
-                settings::Settings const& settings, platform::Files& files, platform::Dialogs& dialogs);
+                settings::Settings const& settings, platform::Files& files, platform::Dialogs& dialogs,
+                std::vector<platform::qt::PictureCommand> commands);
     ~frmForecast() override;
 
     // Shows the window and waits until it is closed.

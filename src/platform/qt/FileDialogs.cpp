@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QRegularExpression>
 #include <algorithm>
 
 namespace quorvex::platform::qt {
@@ -37,6 +38,12 @@ QStringList NameFiltersOf(std::string_view filter) {
     return filters;
 }
 
+// The ending that files of the filter have, without the point; empty when that is no single one.
+QString EndingOf(QString const& filter) {
+    static QRegularExpression const pattern(QStringLiteral("\\(\\*\\.([A-Za-z0-9]+)\\)$"));
+    return pattern.match(filter).captured(1);
+}
+
 void StartAt(QFileDialog& dialog, std::string_view folder, std::string_view filter, std::string_view name) {
     dialog.setDirectory(StartFolder(folder));
     dialog.setOption(QFileDialog::HideNameFilterDetails);
@@ -54,6 +61,15 @@ std::string RunFileDialog(QFileDialog& dialog) {
 
 } // namespace
 
+void CompleteByFilter(QFileDialog& dialog, QString const& otherwise) {
+    auto const complete = [&dialog, otherwise] {
+        QString const ending = EndingOf(dialog.selectedNameFilter());
+        dialog.setDefaultSuffix(ending.isEmpty() ? otherwise : ending);
+    };
+    complete();
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, complete);
+}
+
 std::string AskForFile(QWidget& window, FileQuestion const& question) {
     QFileDialog dialog(TopmostOf(window));
     dialog.setObjectName(QStringLiteral("OpenFileDialog"));
@@ -68,9 +84,9 @@ std::string AskWhereToSave(QWidget& window, SaveQuestion const& question) {
     dialog.setObjectName(QStringLiteral("SaveFileDialog"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setDefaultSuffix(pictures::ToQt(question.Ending));
     dialog.setOption(QFileDialog::DontConfirmOverwrite); // Qt's own question takes markup in a name as such
     StartAt(dialog, question.Folder, question.Filter, question.Name);
+    CompleteByFilter(dialog, pictures::ToQt(question.Ending));
     return RunFileDialog(dialog);
 }
 

@@ -5,6 +5,8 @@
 
 #include "platform/Dialogs.h"
 
+#include <QFileDialog>
+#include <QString>
 #include <QWidget>
 #include <string>
 
@@ -17,5 +19,9 @@ namespace quorvex::platform::qt {
 
 // Lets the user name a file to write, likewise. An existing one is not asked about.
 [[nodiscard]] std::string AskWhereToSave(QWidget& window, SaveQuestion const& question);
+
+// Lets the dialog itself complete names by the ending of the chosen filter, or by this one where the filter
+// has none: what is asked and told then is about the file that will be written.
+void CompleteByFilter(QFileDialog& dialog, QString const& otherwise);
 
 } // namespace quorvex::platform::qt

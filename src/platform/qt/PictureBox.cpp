@@ -7,6 +7,7 @@
 #include "platform/pictures/Painting.h"
 #include "platform/pictures/QtPictureEncoder.h"
 #include "platform/pictures/QtTexts.h"
+#include "platform/qt/FileDialogs.h"
 
 #include <QAccessibleWidget>
 #include <QClipboard>
@@ -34,11 +35,6 @@ constexpr Colour CursorColour = 0x0066CC;
 QAccessibleInterface* MakeAccessibleBox(QString const&, QObject* object) {
     auto* box = qobject_cast<PictureBox*>(object);
     return box == nullptr ? nullptr : new QAccessibleWidget(box, QAccessible::Chart);
-}
-
-// The ending that files of the filter have, without the point.
-QString EndingOf(QString const& filter) {
-    return filter.mid(filter.indexOf(u'.') + 1).remove(u')');
 }
 
 } // namespace
@@ -252,10 +248,7 @@ void PictureBox::SaveImageAs() {
     dialog.setNameFilters({QStringLiteral("PNG image (*.png)"), QStringLiteral("SVG drawing (*.svg)"),
                            QStringLiteral("PDF document (*.pdf)")});
     dialog.setOption(QFileDialog::DontConfirmOverwrite); // Qt's own question takes markup in a name as such
-    // The dialog itself completes the name, so that the question is about the file that will be written.
-    auto const complete = [&dialog](QString const& filter) { dialog.setDefaultSuffix(EndingOf(filter)); };
-    complete(dialog.selectedNameFilter());
-    connect(&dialog, &QFileDialog::filterSelected, &dialog, complete);
+    CompleteByFilter(dialog, {});
     dialog.selectFile(suggestedName_);
     do {
         if (dialog.exec() != QDialog::Accepted) {

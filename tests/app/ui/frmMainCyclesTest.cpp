@@ -15,6 +15,7 @@
 #include <QProgressBar>
 #include <QRegularExpression>
 #include <QSpinBox>
+#include <QTableWidget>
 #include <utility>
 
 namespace quorvex::tests {
@@ -48,6 +49,20 @@ void ChooseInChart(RunningWindow& main, int chart, Qt::Key letter, ModalAnswers:
 void WaitForSearch(QWidget& window) {
     auto const* bar = window.findChild<QProgressBar*>(u"prgSearch"_s);
     QTRY_VERIFY_WITH_TIMEOUT(!bar->isVisible(), 30'000);
+}
+
+// Notes the models that the window has tested, and closes it.
+ModalAnswers::Deed NoteTestedModels(QStringList& models) {
+    return [&models](QWidget& window) {
+        auto const* bar = window.findChild<QProgressBar*>(u"prgTest"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(!bar->isVisible(), 60'000);
+        auto const* table = window.findChild<QTableWidget*>(u"tblVerdicts"_s);
+        models.clear();
+        for (int row = 0; row < table->rowCount(); ++row) {
+            models.append(table->item(row, 0)->text());
+        }
+        QTest::keyClick(&window, Qt::Key_Escape);
+    };
 }
 
 // Takes what the search window finds, and the sentence that tells it.
@@ -95,7 +110,7 @@ class frmMainCyclesTest final : public WindowTest {
 
 private Q_SLOTS:
 
-    void TheChartsOfTheCyclesOfferBothItems() {
+    void TheChartsOfTheCyclesOfferTheirItems() {
         RunningWindow main;
         for (int chart = 1; chart <= 4; ++chart) {
             QStringList items;
@@ -109,9 +124,11 @@ private Q_SLOTS:
                                     main.Box(chart).mapToGlobal(QPoint(20, 20)));
             QCoreApplication::sendEvent(&main.Box(chart), &event);
             QString const own = u"&Copy Image|Save Image &As..."_s;
-            QCOMPARE(items.join(u'|'), chart == 2 || chart == 3
-                                           ? u"&Find Best Cycles...|&Write Parameter File...|-|"_s + own
-                                           : own);
+            QString const find = u"&Find Best Cycles...|"_s;
+            QString const write = u"&Write Parameter File...|-|"_s;
+            QStringList const offered = {own, find + write + own,
+                                         find + u"&Test Forecast...|"_s + write + own, own};
+            QCOMPARE(items.join(u'|'), offered.at(chart - 1));
         }
     }
 
@@ -122,6 +139,64 @@ private Q_SLOTS:
                  QStringList({u"mnuPicture"_s,
                               OkMessage(u"Quorvex"_s, u"information"_s,
                                         u"Please use File Open option to load a quote data file"_s)}));
+    }
+
+    void WithoutQuotesTestForecastAsksForThem() {
+        RunningWindow main;
+        ChooseInChart(main, 3, Qt::Key_T);
+        QCOMPARE(main.Answers.Shown(),
+                 QStringList({u"mnuPicture"_s,
+                              OkMessage(u"Quorvex"_s, u"information"_s,
+                                        u"Please use File Open option to load a quote data file"_s)}));
+    }
+
+    void TheCompositeInUseIsTested() {
+        RunningWindow main;
+        main.OpenQuotes("q250.txt");
+        QStringList models;
+        ChooseInChart(main, 3, Qt::Key_T, NoteTestedModels(models));
+        QCOMPARE(models.size(), 7);
+        main.TypeInto(1, 1, u"57"_s);
+        main.TypeInto(2, 1, u"20"_s);
+        main.Choose("mnuRefresh");
+        QString const grid = main.RowTexts(1);
+        ChooseInChart(main, 3, Qt::Key_T, NoteTestedModels(models));
+        QCOMPARE(models.size(), 8);
+        QCOMPARE(models.constLast(), u"Parameters (fixed cycles)"_s);
+        QCOMPARE(main.RowTexts(1), grid);
+        QCOMPARE(main.Answers.TakeShown().last(2), QStringList({u"mnuPicture"_s, u"frmTestForecast"_s}));
+    }
+
+    // From its own context menu, by mouse, by the menu key and by Shift+F10.
+    void TheForecastChartIsTestedToo() {
+        RunningWindow main;
+        main.OpenQuotes("q250.txt");
+        main.TypeInto(1, 1, u"100"_s);
+        main.TypeInto(2, 1, u"20"_s);
+        main.Choose("mnuRefresh");
+        static_cast<void>(main.Answers.TakeShown());
+        QStringList models;
+        QList<qsizetype> counts;
+        main.Answers.Next([&](QWidget& forecast) {
+            auto* chart = forecast.findChild<platform::qt::PictureBox*>(u"Pic1"_s);
+            for (int way = 0; way < 3; ++way) {
+                main.Answers.Next([](QWidget& menu) { QTest::keyClick(&menu, Qt::Key_T); });
+                main.Answers.Next(NoteTestedModels(models));
+                if (way == 2) {
+                    QTest::keyClick(chart, Qt::Key_F10, Qt::ShiftModifier);
+                } else {
+                    QContextMenuEvent event(way == 0 ? QContextMenuEvent::Mouse : QContextMenuEvent::Keyboard,
+                                            {20, 20}, chart->mapToGlobal(QPoint(20, 20)));
+                    QCoreApplication::sendEvent(chart, &event);
+                }
+                counts.append(models.size());
+            }
+            QTest::keyClick(&forecast, Qt::Key_Escape);
+        });
+        main.Choose("mnuForecast");
+        QCOMPARE(counts, QList<qsizetype>({8, 8, 8}));
+        QCOMPARE(main.Answers.Shown().count(u"frmTestForecast"_s), 3);
+        QCOMPARE(main.Answers.Shown().count(u"mnuPicture"_s), 3);
     }
 
     void WhatIsFoundStandsInTheGridAndIsDrawn_data() {

@@ -27,7 +27,8 @@ ShownForecast::ShownForecast(std::string_view quotes, std::string_view fileName)
     : Series(SeriesOf(quotes, "####0.00", fileName)) {
     Cycles->Cycles[1].Weight = 100;
     Cycles->Cycles[1].Period = 20;
-    Window = std::make_unique<chart::ui::frmForecast>(nullptr, *Series, *Cycles, Settings, Files, Dialogs);
+    Window = std::make_unique<chart::ui::frmForecast>(nullptr, *Series, *Cycles, Settings, Files, Dialogs,
+                                                      std::vector<platform::qt::PictureCommand>());
 }
 
 void ShownForecast::Show() const {

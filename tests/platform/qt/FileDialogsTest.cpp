@@ -161,6 +161,28 @@ private Q_SLOTS:
         }
     }
 
+    void TheSaveDialogCompletesANameByTheChosenFilter() {
+        TemporaryFolder const folder;
+        SaveQuestion question = SaveQuestionIn(folder.Text());
+        question.Filter = "Texts (*.txt)|*.txt|Pictures (*.svg)|*.svg|All Files (*.*)|*.*";
+        question.Ending = "txt";
+        for (auto const& [filter, path] : {std::pair(0, "new.txt"), {1, "new.svg"}, {2, "new.txt"}}) {
+            ModalAnswers answers;
+            QWidget window;
+            answers.Next([file = folder.File("new"), filter = filter](QWidget& dialog) {
+                auto* kinds = dialog.findChild<QComboBox*>(u"fileTypeCombo"_s);
+                kinds->setFocus();
+                for (int step = 0; step < filter; ++step) {
+                    QTest::keyClick(kinds, Qt::Key_Down);
+                }
+                auto* name = dialog.findChild<QLineEdit*>(u"fileNameEdit"_s);
+                name->setText(platform::pictures::ToQt(file));
+                QTest::keyClick(name, Qt::Key_Return);
+            });
+            QCOMPARE(AskWhereToSave(window, question), folder.File(path));
+        }
+    }
+
     void OpensOverTheWindowThatTheUserIsIn() {
         TemporaryFolder const folder;
         folder.Write("in.txt", "x");
