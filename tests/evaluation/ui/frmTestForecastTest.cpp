@@ -280,7 +280,8 @@ private Q_SLOTS:
     }
 
     void EverythingHasRoom() {
-        ShownTest shown("q250.txt");
+        StagedTest test;
+        ShownTest shown("q250.txt", test.Routine());
         shown.Run([&] {
             QVERIFY(shown.WaitForEnd());
             auto const& verdicts = shown.Find<QTableWidget>("tblVerdicts");
