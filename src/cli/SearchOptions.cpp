@@ -28,7 +28,7 @@ public:
         return command_
             .add_option_function<int>(
                 name,
-                [this_ = *this, change = std::move(change)](int value) { change(this_.Request(), value); },
+                [adder = *this, change = std::move(change)](int value) { change(adder.Request(), value); },
                 help)
             ->type_name(type)
             ->transform(WholeNumberBetween(least, most));
@@ -36,7 +36,7 @@ public:
 
     CLI::Option* AddFlag(std::string const& name, std::string const& help, Change change) {
         return command_.add_flag_callback(
-            name, [this_ = *this, change = std::move(change)] { change(this_.Request(), 1); }, help);
+            name, [adder = *this, change = std::move(change)] { change(adder.Request(), 1); }, help);
     }
 
 private:

@@ -121,22 +121,23 @@ double PursueTwoCycles(Series const& series, int minPeriod, int maxPeriod) {
 }
 
 double CorrelationWithAnyWeights(search::CycleModel const& model, Series const& series) {
-    auto const days = static_cast<int>(series.size());
-    Series weights(model.Cycles.size(), 1);
-    Series composite = CompositeOf(model, days);
+    std::vector<Series> curves;
+    for (search::FoundCycle const& cycle : model.Cycles) {
+        curves.push_back(CurveOf(cycle.Period, cycle.Shift, static_cast<int>(series.size())));
+    }
+    Series weights(curves.size(), 1);
+    Series composite;
     // Coordinate ascent: the problem has one maximum.
     for (int round = 0; round < 3000; ++round) {
         composite.assign(series.size(), 0);
-        for (std::size_t i = 0; i < weights.size(); ++i) {
-            composite =
-                Sum(composite, 1, CurveOf(model.Cycles[i].Period, model.Cycles[i].Shift, days), weights[i]);
+        for (std::size_t i = 0; i < curves.size(); ++i) {
+            composite = Sum(composite, 1, curves[i], weights[i]);
         }
-        for (std::size_t i = 0; i < weights.size(); ++i) {
-            Series const curve = CurveOf(model.Cycles[i].Period, model.Cycles[i].Shift, days);
-            double const step =
-                (Covariance(curve, series) - Covariance(curve, composite)) / Covariance(curve, curve);
+        for (std::size_t i = 0; i < curves.size(); ++i) {
+            double const step = (Covariance(curves[i], series) - Covariance(curves[i], composite)) /
+                                Covariance(curves[i], curves[i]);
             double const moved = std::max(0.0, weights[i] + step);
-            composite = Sum(composite, 1, curve, moved - weights[i]);
+            composite = Sum(composite, 1, curves[i], moved - weights[i]);
             weights[i] = moved;
         }
     }
