@@ -53,11 +53,14 @@ bool NarrowDates(Program& program, platform::Dialogs& dialogs, AnalysisRequest c
     return narrowed && refusal.empty();
 }
 
-void ReadParameters(Program& program, AnalysisServices const& services, std::string const& path) {
+// Returns whether there was no fault; after one the grid has what was read before it.
+bool ReadParameters(Program& program, AnalysisServices const& services, std::string const& path) {
     program.Cycles.ParameterFileName = path;
-    cycles::ReadParameterFile(path, program.Cycles, services.Files, services.ParameterDialogs);
-    platform::RunReported(services.ParameterDialogs,
-                          [&] { cycles::WriteGrid(program.Cycles, services.Grid); });
+    bool const isRead =
+        cycles::ReadParameterFile(path, program.Cycles, services.Files, services.ParameterDialogs);
+    bool const isWritten = platform::RunReported(services.ParameterDialogs,
+                                                 [&] { cycles::WriteGrid(program.Cycles, services.Grid); });
+    return isRead && isWritten;
 }
 
 // Returns whether all cycles were fitted.
@@ -148,7 +151,9 @@ bool OpenQuotes(Program& program, AnalysisServices const& services, AnalysisRequ
 }
 
 bool TakeParameters(Program& program, AnalysisServices const& services, std::string const& path) {
-    ReadParameters(program, services, path);
+    if (!ReadParameters(program, services, path)) {
+        return false;
+    }
     platform::NoPendingMessages pending;
     if (cycles::ReadGrid(services.Grid, program.Cycles, pending) && cycles::HasActiveCycle(program.Cycles)) {
         return true;

@@ -8,6 +8,7 @@
 #include "cli/ProgressBar.h"
 #include "cli/StandardStreams.h"
 #include "cli/SubCommands.h"
+#include "cli/WholeNumber.h"
 #include "cycles/basCurves.h"
 #include "evaluation/basEvaluation.h"
 #include "evaluation/basEvaluationPlot.h"
@@ -31,16 +32,6 @@ struct EvaluateOptions {
     bool Json = false;
     std::string PlotPath;
 };
-
-// Without a description of its own: the help names the type of the option.
-CLI::Validator IsCountUpTo(int most) {
-    return {[most](std::string const& text) {
-                int value = 0;
-                bool const good = CLI::detail::lexical_cast(text, value) && value >= 1 && value <= most;
-                return good ? std::string() : text + " is not between 1 and " + std::to_string(most);
-            },
-            ""};
-}
 
 CLI::Validator IsPictureFile(bool hasPictures) {
     return {[hasPictures](std::string const& text) -> std::string {
@@ -112,24 +103,30 @@ void AddEvaluate(CLI::App& app, platform::Console const& console, platform::Pict
                  ExitStatus& status) {
     constexpr int LargestEvery = 400;
     auto const options = std::make_shared<EvaluateOptions>();
-    CLI::App* command = app.add_subcommand("evaluate", "Test whether cycles forecast one contract");
+    CLI::App* command =
+        app.add_subcommand("evaluate", "Test whether cycles forecast one contract of " +
+                                           std::to_string(evaluation::FewestDays) + " days or more");
     AddQuoteOptions(*command, options->Analysis);
     command
         ->add_option("--parameters", options->Analysis.Request.ParameterPath,
-                     "Test the cycles of a parameter file, too")
+                     "Test the cycles of a parameter file, too; made of the days tested, they know them")
         ->type_name("FILE.dat");
     command
         ->add_option("--every", options->Every,
-                     "Days from one forecast to the next [" + std::to_string(evaluation::DefaultEvery) + "]")
+                     "Days from one forecast to the next [" + std::to_string(evaluation::DefaultEvery) +
+                         "], all at one phase of a cycle of so many days: compare with 4 or 6")
         ->type_name("N")
-        ->check(IsCountUpTo(LargestEvery));
+        ->transform(WholeNumberBetween(1, LargestEvery));
     command
         ->add_option("--jobs", options->Jobs,
-                     "Threads to work with, whatever the result [as many as the machine has]")
+                     "Threads to work with; the result is the same with any number [as many as the machine "
+                     "has]")
         ->type_name("N")
-        ->check(IsCountUpTo(evaluation::MostJobs));
+        ->transform(WholeNumberBetween(1, evaluation::MostJobs));
     command->add_flag("--json", options->Json, "Print one JSON object instead of a report");
-    command->add_option("--plot", options->PlotPath, "Draw errors and forecasts into a file")
+    command
+        ->add_option("--plot", options->PlotPath,
+                     "Draw errors and forecasts into a file, in the place of one that is there")
         ->type_name("FILE.png|.svg|.pdf")
         ->check(IsPictureFile(encoder != nullptr));
     command->callback(

@@ -4,6 +4,7 @@
 #include "cli/EvaluationJson.h"
 
 #include "cli/JsonText.h"
+#include "text/basNumbers.h"
 
 namespace quorvex::cli {
 
@@ -11,10 +12,16 @@ namespace {
 
 using evaluation::ForecastKind;
 
+// What was computed, without the last bits, in which the sines of two machines may differ.
+Json Computed(std::optional<double> const& value) {
+    constexpr int Digits = 12;
+    return value ? Json(text::RoundedToDigits(*value, Digits)) : Json();
+}
+
 Json FigureJson(std::optional<double> const& value, std::optional<evaluation::Interval> const& interval) {
-    return {{"Value", value ? Json(*value) : Json()},
-            {"Low", interval ? Json(interval->Low) : Json()},
-            {"High", interval ? Json(interval->High) : Json()}};
+    return {{"Value", Computed(value)},
+            {"Low", interval ? Computed(interval->Low) : Json()},
+            {"High", interval ? Computed(interval->High) : Json()}};
 }
 
 Json HorizonsJson(evaluation::HorizonReports const& reports, bool isTested) {
@@ -27,7 +34,7 @@ Json HorizonsJson(evaluation::HorizonReports const& reports, bool isTested) {
             {"RightDirections", FigureJson(report.Figures.RightDirections, report.Intervals.RightDirections)},
             {"Correlation", FigureJson(report.Figures.Correlation, report.Intervals.Correlation)}};
         if (isTested) {
-            one["p"] = report.Chance ? Json(*report.Chance) : Json();
+            one["p"] = Computed(report.Chance);
             one["IsBetter"] = report.IsBetter;
         }
         array.push_back(std::move(one));
@@ -41,7 +48,7 @@ Json ValuesJson(evaluation::Evaluation const& evaluation, std::size_t model, For
         auto const& forecast = origin.Forecasts[model].Of(kind);
         Json row = forecast ? Json::array() : Json();
         for (int day = 1; forecast && day <= cycles::ForecastDays; ++day) {
-            row.push_back((*forecast)[day]);
+            row.push_back(Computed((*forecast)[day]));
         }
         rows.push_back(std::move(row));
     }
@@ -91,7 +98,7 @@ Json SurrogatesJson(evaluation::Evaluation const& evaluation) {
     Json searches = Json::array();
     for (evaluation::SurrogateReport const& report : evaluation.Surrogates) {
         searches.push_back({{"CycleCount", report.CycleCount},
-                            {"Correlation", report.Correlation},
+                            {"Correlation", Computed(report.Correlation)},
                             {"AsWell", report.AsWell},
                             {"p", static_cast<double>(report.AsWell) / evaluation.SurrogateCount}});
     }
@@ -110,7 +117,11 @@ std::string EvaluationJson(evaluation::Evaluation const& evaluation) {
     json["Dates"] = evaluation.Dates;
     json["Closes"] = evaluation.Closes;
     json["Origins"] = OriginsJson(evaluation);
-    json["LastClose"] = {{"MeanAbsoluteError", evaluation.LastCloseError}};
+    Json errors = Json::array();
+    for (double const error : evaluation.LastCloseError) {
+        errors.push_back(Computed(error));
+    }
+    json["LastClose"] = {{"MeanAbsoluteError", std::move(errors)}};
     json["Drift"] = {{"Horizons", HorizonsJson(evaluation.Drift, false)}};
     Json models = Json::array();
     for (std::size_t position = 0; position < evaluation.Models.size(); ++position) {

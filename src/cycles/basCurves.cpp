@@ -69,6 +69,10 @@ std::int16_t MovingAverageLength(std::string_view movingAverageIndex) {
     return text::WholeNumber(text::LeadingNumber(movingAverageIndex));
 }
 
+int MovingAverageReach(std::int16_t length) {
+    return text::WholeNumber((length - 0.5) / 2);
+}
+
 void ComputeMovingAverage(quotes::QuoteSeries const& series, std::int16_t length,
                           QuoteCurve& movingAverageCurve) {
     int const last = series.WorkingCount;
@@ -79,7 +83,7 @@ void ComputeMovingAverage(quotes::QuoteSeries const& series, std::int16_t length
         }
         return;
     }
-    int const half = text::WholeNumber((length - 0.5) / 2);
+    int const half = MovingAverageReach(length);
     for (int day = 1; day <= half; ++day) {
         movingAverageCurve[day] = MeanOfCloses(records, 1, 2 * day - 1);
     }

@@ -34,6 +34,10 @@ void ComputeComposite(CycleParameterSet const& set, std::int16_t workingCount, C
 // The moving average's length: its text's leading number, rounded to a whole number.
 [[nodiscard]] std::int16_t MovingAverageLength(std::string_view movingAverageIndex);
 
+// How many days at each end of the series have a shrinking window, of which the largest has one day less than
+// twice as many. REQUIRES: length 2 or more.
+[[nodiscard]] int MovingAverageReach(std::int16_t length);
+
 // Computes the centred moving average of the working closes for days 1..n: the closes themselves below a
 // length of 2, shrinking windows at both ends. The sum in the middle is divided by the length, although an
 // even length sums one day more. Raises "Subscript out of range" when the windows at the ends reach beyond

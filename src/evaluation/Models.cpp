@@ -3,6 +3,8 @@
 
 #include "evaluation/Models.h"
 
+#include "text/basFormats.h"
+
 namespace quorvex::evaluation {
 
 std::vector<Model> StandardModels(bool withParameters) {
@@ -16,8 +18,7 @@ std::vector<Model> StandardModels(bool withParameters) {
 }
 
 std::string ModelName(Model const& model) {
-    std::string const cycles =
-        std::to_string(model.CycleCount) + (model.CycleCount == 1 ? " cycle" : " cycles");
+    std::string const cycles = text::Counted(model.CycleCount, "cycle");
     switch (model.Method) {
     case Method::Automate:
         return "Fit of " + cycles;

@@ -3,6 +3,7 @@
 
 #include "evaluation/basEvaluation.h"
 
+#include "cycles/basCurves.h"
 #include "evaluation/SurrogateTest.h"
 #include "evaluation/basSignificance.h"
 #include "evaluation/basVerdicts.h"
@@ -27,8 +28,8 @@ std::string RefusalOf(quotes::QuoteSeries const& series, EvaluationRequest const
                       std::vector<int> const& origins) {
     int const days = series.WorkingCount;
     if (origins.empty()) {
-        return "Forecasts are tested on " + std::to_string(FewestPastDays + LongestHorizon) +
-               " days at least; there are " + std::to_string(days);
+        return "Forecasts are tested on " + std::to_string(FewestDays) + " days at least; there are " +
+               std::to_string(days);
     }
     bool changes = false;
     for (int day = 1; day <= days; ++day) {
@@ -42,7 +43,7 @@ std::string RefusalOf(quotes::QuoteSeries const& series, EvaluationRequest const
         return "The closes do not change: there is nothing to forecast";
     }
     // The longest window at the ends of the moving average must lie within the days before the first origin.
-    int const half = text::WholeNumber((request.MovingAverageLength - 0.5) / 2);
+    int const half = cycles::MovingAverageReach(request.MovingAverageLength);
     if (2 * half - 1 > origins.front()) {
         return "A moving average of " + std::to_string(request.MovingAverageLength) +
                " days does not fit into the " + std::to_string(origins.front()) +

@@ -23,6 +23,9 @@ namespace quorvex::evaluation {
 inline constexpr int LongestHorizon = cycles::ForecastDays;
 inline constexpr int FewestPastDays = 100;
 
+// The fewest days of a series that can be tested.
+inline constexpr int FewestDays = FewestPastDays + LongestHorizon;
+
 // The days after which forecasts are made: every so many from the middle of the series or day 100, whichever
 // is later, to 25 days before the end. None for a series of less than 125 days. REQUIRES: every 1 or more.
 [[nodiscard]] std::vector<int> OriginsOf(int days, int every);

@@ -25,10 +25,6 @@ std::string Listed(std::vector<std::string> const& items) {
     return text;
 }
 
-std::string Counted(int count, std::string_view noun) {
-    return std::to_string(count) + ' ' + std::string(noun) + (count == 1 ? "" : "s");
-}
-
 // "window at 1 day and composite at 10 and 25 days": where the predicate of report and horizon's position is
 // true; empty when it is nowhere.
 template <class Predicate>
@@ -84,14 +80,14 @@ std::string WhyNotTested(ModelReport const& model) {
                     [](HorizonReport const& report) { return report.Figures.ErrorRatio.has_value(); })) {
         return "the close did not move on the days tested";
     }
-    return Counted(count, "forecast") + (count == 1 ? " is" : " are") + " too few" +
+    return text::Counted(count, "forecast") + (count == 1 ? " is" : " are") + " too few" +
            (count < static_cast<int>(FewestForecasts) ? "" : " where they overlap");
 }
 
 std::string FaultsOf(ModelReport const& model) {
     std::vector<std::string> faults;
     for (auto const& [fault, count] : model.Faults) {
-        faults.push_back(fault + " at " + Counted(count, "origin"));
+        faults.push_back(fault + " at " + text::Counted(count, "origin"));
     }
     return Listed(faults);
 }
@@ -178,7 +174,7 @@ std::string VerdictOf(Evaluation const& evaluation) {
         }
     }
     if (!better.empty()) {
-        return std::to_string(better.size()) + " of " + Counted(count, "model") +
+        return std::to_string(better.size()) + " of " + text::Counted(count, "model") +
                (better.size() == 1 ? " forecasts" : " forecast") + std::string(Better) + ": " +
                Listed(better) + '.' + ofFixed;
     }
@@ -188,7 +184,7 @@ std::string VerdictOf(Evaluation const& evaluation) {
     }
     std::string const those = tested < count ? " that could be tested" : "";
     return (tested == 1 ? "The model" + those + " forecasts no"
-                        : "None of the " + Counted(tested, "model") + those + " forecasts") +
+                        : "None of the " + text::Counted(tested, "model") + those + " forecasts") +
            std::string(Better) + '.' + ofFixed;
 }
 
@@ -244,7 +240,7 @@ std::vector<std::string> SurrogateLines(Evaluation const& evaluation) {
                         text::FormatNumber(report.Correlation, "0.0%") + ", p " +
                         ShareText(report.AsWell, evaluation.SurrogateCount) + " (" +
                         std::to_string(report.AsWell) + " of " +
-                        Counted(evaluation.SurrogateCount, "surrogate") +
+                        text::Counted(evaluation.SurrogateCount, "surrogate") +
                         (report.AsWell == 1 ? " correlates" : " correlate") + " at least as well)");
     }
     if (!lines.empty()) {

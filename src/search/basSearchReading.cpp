@@ -11,8 +11,8 @@ namespace quorvex::search {
 
 namespace {
 
-std::string Counted(std::size_t cycles) {
-    return std::to_string(cycles) + (cycles == 1 ? " cycle" : " cycles");
+std::string CountedCycles(std::size_t count) {
+    return text::Counted(static_cast<int>(count), "cycle");
 }
 
 } // namespace
@@ -40,7 +40,7 @@ std::string DescribeModel(CycleModel const& model, int chosen, bool isDetrended,
     bool const isOne = model.Cycles.size() == 1;
     auto const& correlation = inGrid.Correlation;
     std::string words =
-        Counted(model.Cycles.size()) + (isOne ? " follows" : " follow") + " the moving average";
+        CountedCycles(model.Cycles.size()) + (isOne ? " follows" : " follow") + " the moving average";
     if (isDetrended) {
         words += " less its trend with a correlation of " + ShareText(model.Correlation);
         words += correlation ? ", with its trend of " + ShareText(*correlation) : std::string();
@@ -48,7 +48,7 @@ std::string DescribeModel(CycleModel const& model, int chosen, bool isDetrended,
         words += " with a correlation of " + ShareText(correlation.value_or(model.Correlation));
     }
     if (static_cast<int>(model.Cycles.size()) < chosen) {
-        words += "; no better model of " + Counted(static_cast<std::size_t>(chosen)) + " was found";
+        words += "; no better model of " + CountedCycles(static_cast<std::size_t>(chosen)) + " was found";
     }
     return words + ". " + DescribeSwing(inGrid.Swing);
 }
@@ -59,9 +59,9 @@ std::string DescribeCount(std::span<CycleModel const> models, int cycleCount) {
         return {};
     }
     double const correlation = models[count - 1].Correlation;
-    std::string lines = Counted(count) + "\nCorrelation: " + ShareText(correlation);
+    std::string lines = CountedCycles(count) + "\nCorrelation: " + ShareText(correlation);
     if (count > 1) {
-        lines += "\nMore than with " + Counted(count - 1) + ": " +
+        lines += "\nMore than with " + CountedCycles(count - 1) + ": " +
                  ShareText(correlation - models[count - 2].Correlation);
     }
     return lines;
@@ -77,7 +77,7 @@ std::string DescribeSearch(std::span<CycleModel const> models, int chosen) {
         words += separator + std::to_string(index + 1) + " " + ShareText(models[index].Correlation);
         separator = ", ";
     }
-    return words + ". Chosen: " + Counted(static_cast<std::size_t>(chosen)) + ".";
+    return words + ". Chosen: " + CountedCycles(static_cast<std::size_t>(chosen)) + ".";
 }
 
 } // namespace quorvex::search

@@ -230,6 +230,10 @@ double NumberFormat::Round(double value) const {
     return number.Digits == 0 ? 0 : ToDouble(number);
 }
 
+std::string Counted(int count, std::string_view noun) {
+    return std::to_string(count) + ' ' + std::string(noun) + (count == 1 ? "" : "s");
+}
+
 std::string FormatNumber(double value, std::string_view format) {
     return NumberFormat(format).Format(value);
 }

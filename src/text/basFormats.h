@@ -73,6 +73,9 @@ private:
     std::optional<int> plainDecimals_;
 };
 
+// How many of what is named by an English noun: "1 cycle", "3 cycles".
+[[nodiscard]] std::string Counted(int count, std::string_view noun);
+
 // The text of the number in the format, for single numbers.
 [[nodiscard]] std::string FormatNumber(double value, std::string_view format);
 

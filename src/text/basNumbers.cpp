@@ -198,6 +198,16 @@ std::int16_t WholeNumber(double value) {
     return static_cast<std::int16_t>(below);
 }
 
+double RoundedToDigits(double value, int digits) {
+    std::array<char, 64> text{};
+    auto const end = std::to_chars(text.data(), text.data() + text.size(), value,
+                                   std::chars_format::scientific, digits - 1)
+                         .ptr;
+    double rounded = value; // which stays where rounding up would leave the range
+    std::from_chars(text.data(), end, rounded);
+    return rounded;
+}
+
 std::string PlainNumber(double value) {
     // Between these magnitudes a price or a volume is written out; beyond them an exponent is shorter to
     // read.

@@ -24,6 +24,9 @@ namespace quorvex::text {
 // The nearest whole number, a half to the even neighbour. Raises "Overflow" outside -32768..32767.
 [[nodiscard]] std::int16_t WholeNumber(double value);
 
+// The nearest number of so many significant decimal digits. REQUIRES: a finite value, 1 to 17 digits.
+[[nodiscard]] double RoundedToDigits(double value, int digits);
+
 // The shortest text that reads back as the same double: "245.5", "0.662", "100000", "1e+20".
 [[nodiscard]] std::string PlainNumber(double value);
 

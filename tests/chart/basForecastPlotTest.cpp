@@ -5,6 +5,7 @@
 
 #include "chart/ChartColours.h"
 #include "platform/RecordingCanvas.h"
+#include "support/Operations.h"
 #include "support/QuoteTexts.h"
 
 #include <gtest/gtest.h>
@@ -74,16 +75,6 @@ public:
             }
         }
         return place;
-    }
-
-    [[nodiscard]] std::vector<std::string> Texts() const {
-        std::vector<std::string> texts;
-        for (auto const& operation : Box.Operations()) {
-            if (operation.What == Kind::Print) {
-                texts.push_back(operation.Text);
-            }
-        }
-        return texts;
     }
 
     [[nodiscard]] bool IsFinite() const {
@@ -207,7 +198,7 @@ TEST(ForecastChart, NamesItsHalvesInTheirColours) {
 TEST(ForecastChart, LabelsPricesFromTheLowestToTheHighest) {
     ForecastChart chart;
     EXPECT_FALSE(chart.Draw());
-    auto texts = chart.Texts();
+    auto texts = tests::PrintedTexts(chart.Box);
     texts.resize(10);
     EXPECT_EQ(texts, (std::vector<std::string>{" 105.", " 110.", " 115.", " 120.", " 125.", " 130.", " 135.",
                                                " 140.", " 145.", " 149."}));

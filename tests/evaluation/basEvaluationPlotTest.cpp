@@ -6,6 +6,7 @@
 #include "MadeSeries.h"
 #include "evaluation/basEvaluation.h"
 #include "platform/RecordingCanvas.h"
+#include "support/Operations.h"
 
 #include <gtest/gtest.h>
 
@@ -16,6 +17,8 @@ namespace {
 
 using platform::DrawingOperation;
 using platform::RecordingCanvas;
+using tests::PlacedText;
+using tests::PlacedTexts;
 
 Evaluation SomeEvaluation(std::vector<double> const& closes) {
     EvaluationRequest request;
@@ -26,28 +29,7 @@ Evaluation SomeEvaluation(std::vector<double> const& closes) {
     return Evaluate(*tests::SeriesOfCloses(closes), request, [](double) { return true; }).Result.value();
 }
 
-struct PrintedText {
-    double X = 0;
-    double Y = 0;
-    std::string Text;
-};
-
-std::vector<PrintedText> TextsOf(RecordingCanvas const& canvas) {
-    std::vector<PrintedText> texts;
-    double x = 0;
-    double y = 0;
-    for (DrawingOperation const& operation : canvas.Operations()) {
-        if (operation.What == DrawingOperation::Kind::TextPosition) {
-            x = operation.Coordinates[0];
-            y = operation.Coordinates[1];
-        } else if (operation.What == DrawingOperation::Kind::Print) {
-            texts.push_back({x, y, operation.Text});
-        }
-    }
-    return texts;
-}
-
-bool Overlap(RecordingCanvas const& canvas, PrintedText const& a, PrintedText const& b) {
+bool Overlap(RecordingCanvas const& canvas, PlacedText const& a, PlacedText const& b) {
     double const height = canvas.TextHeight();
     return a.X < b.X + canvas.TextWidth(b.Text) && b.X < a.X + canvas.TextWidth(a.Text) &&
            a.Y < b.Y + height && b.Y < a.Y + height;
@@ -66,7 +48,7 @@ TEST(EvaluationPlot, HasAllItsTextsInsideAndApart) {
     Evaluation const evaluation = SomeEvaluation(tests::CyclicCloses(250, 1));
     RecordingCanvas canvas(PlotWidth, PlotHeight);
     DrawEvaluation(canvas, evaluation, {1, ForecastKind::Composite});
-    auto const texts = TextsOf(canvas);
+    auto const texts = PlacedTexts(canvas);
     std::set<std::string> words;
     for (std::size_t index = 0; index < texts.size(); ++index) {
         words.insert(texts[index].Text);
@@ -102,7 +84,7 @@ TEST(EvaluationPlot, HasItsTextsApartInASmallBox) {
     evaluation.Models.back().Model = {Method::Parameters, 0};
     RecordingCanvas canvas(600 * platform::TwipsPerPixel, 480 * platform::TwipsPerPixel);
     DrawEvaluation(canvas, evaluation, {6, ForecastKind::Composite});
-    auto const texts = TextsOf(canvas);
+    auto const texts = PlacedTexts(canvas);
     EXPECT_GT(texts.size(), 40U);
     for (std::size_t index = 0; index < texts.size(); ++index) {
         EXPECT_LE(texts[index].X + canvas.TextWidth(texts[index].Text), canvas.Width()) << texts[index].Text;
@@ -144,7 +126,7 @@ TEST(EvaluationPlot, StaysEmptyWithoutRoom) {
     for (auto const& [width, height] : {std::pair{100.0, 100.0}, {PlotWidth, 3000.0}, {2000.0, PlotHeight}}) {
         RecordingCanvas canvas(width, height);
         DrawEvaluation(canvas, evaluation, {0, ForecastKind::Window});
-        EXPECT_TRUE(TextsOf(canvas).empty());
+        EXPECT_TRUE(PlacedTexts(canvas).empty());
     }
 }
 
@@ -166,10 +148,10 @@ TEST(EvaluationPlot, LabelsSmallAndLargePrices) {
         auto const outcome = Evaluate(*series, request, [](double) { return true; });
         RecordingCanvas canvas(PlotWidth, PlotHeight);
         DrawEvaluation(canvas, *outcome.Result, {0, ForecastKind::Scaled});
-        auto const texts = TextsOf(canvas);
+        auto const texts = PlacedTexts(canvas);
         EXPECT_GT(texts.size(), 30U);
         std::set<std::string> prices;
-        for (PrintedText const& text : texts) {
+        for (PlacedText const& text : texts) {
             prices.insert(text.Text);
         }
         EXPECT_TRUE(prices.contains(factor < 1 ? "0.0100" : "1000000000000"))
@@ -234,7 +216,7 @@ TEST(EvaluationPlot, SaysThatFixedCyclesMayHaveBeenChosenLater) {
     RecordingCanvas canvas(PlotWidth, PlotHeight);
     DrawEvaluation(canvas, evaluation, {2, ForecastKind::Composite});
     std::set<std::string> words;
-    auto const texts = TextsOf(canvas);
+    auto const texts = PlacedTexts(canvas);
     for (std::size_t index = 0; index < texts.size(); ++index) {
         words.insert(texts[index].Text);
         EXPECT_LE(texts[index].X + canvas.TextWidth(texts[index].Text), PlotWidth) << texts[index].Text;

@@ -72,42 +72,82 @@ std::string TextOf(Evaluation const& evaluation) {
     return text;
 }
 
-TEST(Evaluate, NoLaterDayChangesAnEarlierForecast) {
-    auto const parameters = std::make_unique<cycles::CycleParameterSet>();
-    parameters->Cycles[1].Weight = 100;
-    parameters->Cycles[1].Period = 33;
-    EvaluationRequest request = SmallRequest();
-    request.Models = {
-        {Method::Automate, 1}, {Method::Automate, 2}, {Method::Search, 1}, {Method::Parameters, 0}};
-    request.Parameters = parameters.get();
-    request.SampleCount = 1;
-    std::mt19937 random(1);
-    int compared = 0;
-    for (int round = 0; round < 1000; ++round) {
-        SCOPED_TRACE(round);
-        request.Every = 1 + static_cast<int>(random() % 7);
-        auto const seed = static_cast<std::uint32_t>(random());
-        auto closes = WalkingCloses(127 + static_cast<int>(random() % 12), seed);
-        auto const before = SeriesOfCloses(closes);
-        // From some day on everything is another, and there are more days or fewer.
-        std::size_t const known = 100 + random() % 20;
-        closes.resize(std::max<std::size_t>(known, 127 + random() % 12), 1);
-        for (std::size_t day = known; day < closes.size(); ++day) {
-            closes[day] = 1 + static_cast<double>(random() % 5000);
-        }
-        auto const after = SeriesOfCloses(closes);
-        Evaluation const first = EvaluationOf(*before, request);
-        Evaluation const second = EvaluationOf(*after, request);
+// The closes with others from the first unknown day on, so many days in all.
+std::vector<double> WithAnotherFuture(std::vector<double> closes, std::size_t known, std::size_t days,
+                                      std::mt19937& random) {
+    closes.resize(days);
+    for (std::size_t day = known; day < days; ++day) {
+        closes[day] = 1 + static_cast<double>(random() % 5000);
+    }
+    return closes;
+}
+
+class Prefixes : public testing::Test {
+protected:
+    Prefixes() {
+        Parameters->Cycles[1].Weight = 100;
+        Parameters->Cycles[1].Period = 33;
+        Request.Parameters = Parameters.get();
+        Request.SampleCount = 1;
+    }
+
+    // Expects the same forecasts from all origins of both series that lie within the known days.
+    void ExpectSame(std::vector<double> const& closes, std::vector<double> const& others, std::size_t known) {
+        Evaluation const first = EvaluationOf(*SeriesOfCloses(closes), Request);
+        Evaluation const second = EvaluationOf(*SeriesOfCloses(others), Request);
         for (Origin const& a : first.Origins) {
             for (Origin const& b : second.Origins) {
                 if (a.Day == b.Day && static_cast<std::size_t>(a.Day) <= known) {
                     EXPECT_TRUE(AreSame(a.Forecasts, b.Forecasts)) << a.Day;
-                    ++compared;
+                    ++Compared;
+                    LatestCompared = std::max(LatestCompared, a.Day);
                 }
             }
         }
     }
-    EXPECT_GE(compared, 1000);
+
+    std::unique_ptr<cycles::CycleParameterSet> Parameters = std::make_unique<cycles::CycleParameterSet>();
+    EvaluationRequest Request = SmallRequest();
+    int Compared = 0;
+    int LatestCompared = 0;
+};
+
+std::vector<Model> const PrefixModels = {
+    {Method::Automate, 1},   {Method::Automate, 2}, {Method::Automate, 3}, {Method::Search, 1},
+    {Method::Parameters, 0}, {Method::Search, 3},   {Method::Search, 5}};
+
+TEST_F(Prefixes, NoLaterDayChangesAnEarlierForecast) {
+    std::mt19937 random(1);
+    for (int round = 0; round < 999; ++round) {
+        SCOPED_TRACE(round);
+        // The searches of several cycles take longest and come less often.
+        std::size_t const pick = random() % 20;
+        Request.Models = {PrefixModels.at(pick < PrefixModels.size() ? pick : pick % 5)};
+        // One in twenty is so long that the middle lies behind day 100.
+        bool const isLong = round % 20 == 0;
+        std::size_t const days = isLong ? 210 + random() % 60 : 127 + random() % 12;
+        std::size_t const otherDays = isLong ? days : 127 + random() % 12;
+        Request.Every = static_cast<int>(isLong ? 40 + random() % 40 : 7 + random() % 30);
+        std::size_t const first = std::max<std::size_t>(100, days / 2);
+        std::size_t const known = first + random() % (days - 25 - first + 1);
+        auto const seed = static_cast<std::uint32_t>(random());
+        auto const closes = WalkingCloses(static_cast<int>(days), seed);
+        std::size_t const last = std::max(known, otherDays);
+        int const before = Compared;
+        ExpectSame(closes, WithAnotherFuture(closes, known, last, random), known);
+        EXPECT_GT(Compared, before);
+    }
+    EXPECT_GT(LatestCompared, 200);
+}
+
+TEST_F(Prefixes, NoLaterDayChangesAForecastOfTheLongestSeries) {
+    std::mt19937 random(2);
+    Request.Models = PrefixModels;
+    Request.Every = 45; // days 250, 295 .. 475
+    auto const closes = WalkingCloses(500, 3);
+    ExpectSame(closes, WithAnotherFuture(closes, 431, 500, random), 431);
+    EXPECT_EQ(Compared, 5);
+    EXPECT_EQ(LatestCompared, 430);
 }
 
 TEST(Evaluate, GivesTheSameWithAnyNumberOfThreads) {

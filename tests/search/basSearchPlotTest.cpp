@@ -5,6 +5,7 @@
 
 #include "platform/RecordingCanvas.h"
 #include "search/basSearch.h"
+#include "support/Operations.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -45,16 +46,6 @@ protected:
         return found;
     }
 
-    [[nodiscard]] std::vector<std::string> Texts() const {
-        std::vector<std::string> texts;
-        for (auto const& operation : Box.Operations()) {
-            if (operation.What == Kind::Print) {
-                texts.push_back(operation.Text);
-            }
-        }
-        return texts;
-    }
-
     // The middle of a mark.
     [[nodiscard]] static std::pair<double, double> Middle(DrawingOperation const& mark) {
         auto const& at = mark.Coordinates;
@@ -67,7 +58,8 @@ protected:
 TEST_F(SearchPlot, WithoutModelsThereAreAxesAlone) {
     Draw({}, 3);
     EXPECT_TRUE(Drawn(Kind::Rectangle, CurveBlue).empty());
-    EXPECT_THAT(Texts(), testing::IsSupersetOf({"0%", "100%", "1", "10", "Number of cycles"}));
+    EXPECT_THAT(tests::PrintedTexts(Box),
+                testing::IsSupersetOf({"0%", "100%", "1", "10", "Number of cycles"}));
 }
 
 TEST_F(SearchPlot, EachModelStandsAboveItsNumberAndHigherWithItsCorrelation) {
@@ -94,14 +86,14 @@ TEST_F(SearchPlot, TheChosenModelHasALargerMarkWithItsCorrelation) {
     };
     EXPECT_GT(width(1), width(0));
     EXPECT_EQ(width(0), width(2));
-    EXPECT_THAT(Texts(), testing::Contains("72.00%"));
-    EXPECT_THAT(Texts(), testing::Not(testing::Contains("61.00%")));
+    EXPECT_THAT(tests::PrintedTexts(Box), testing::Contains("72.00%"));
+    EXPECT_THAT(tests::PrintedTexts(Box), testing::Not(testing::Contains("61.00%")));
 }
 
 TEST_F(SearchPlot, TheSharesBeginBelowTheFirstModel) {
     Draw({0.67, 0.9}, 1);
-    EXPECT_THAT(Texts(), testing::IsSupersetOf({"60%", "100%"}));
-    EXPECT_THAT(Texts(), testing::Not(testing::Contains("50%")));
+    EXPECT_THAT(tests::PrintedTexts(Box), testing::IsSupersetOf({"60%", "100%"}));
+    EXPECT_THAT(tests::PrintedTexts(Box), testing::Not(testing::Contains("50%")));
 }
 
 TEST_F(SearchPlot, APerfectModelStandsOnTheTopLine) {

@@ -30,6 +30,29 @@ std::vector<json> WithoutEdgeDashes(json const& operations, double width) {
 
 } // namespace
 
+std::vector<PlacedText> PlacedTexts(platform::RecordingCanvas const& canvas) {
+    std::vector<PlacedText> texts;
+    PlacedText next;
+    for (DrawingOperation const& operation : canvas.Operations()) {
+        if (operation.What == DrawingOperation::Kind::TextPosition) {
+            next.X = operation.Coordinates[0];
+            next.Y = operation.Coordinates[1];
+        } else if (operation.What == DrawingOperation::Kind::Print) {
+            next.Text = operation.Text;
+            texts.push_back(next);
+        }
+    }
+    return texts;
+}
+
+std::vector<std::string> PrintedTexts(platform::RecordingCanvas const& canvas) {
+    std::vector<std::string> texts;
+    for (PlacedText& placed : PlacedTexts(canvas)) {
+        texts.push_back(std::move(placed.Text));
+    }
+    return texts;
+}
+
 json OperationJson(DrawingOperation const& operation) {
     auto const& at = operation.Coordinates;
     switch (operation.What) {

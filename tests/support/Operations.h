@@ -8,9 +8,21 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <string>
 #include <vector>
 
 namespace quorvex::tests {
+
+// A text and where its left upper corner stands, in twips.
+struct PlacedText {
+    double X = 0;
+    double Y = 0;
+    std::string Text;
+};
+
+// What was printed, in the order of drawing.
+[[nodiscard]] std::vector<PlacedText> PlacedTexts(platform::RecordingCanvas const& canvas);
+[[nodiscard]] std::vector<std::string> PrintedTexts(platform::RecordingCanvas const& canvas);
 
 // A drawing operation in the notation of the reference vectors.
 [[nodiscard]] nlohmann::json OperationJson(platform::DrawingOperation const& operation);

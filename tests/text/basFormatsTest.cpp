@@ -284,6 +284,12 @@ TEST(NumberFormat, PutsTheTextBehindWhatIsThere) {
     EXPECT_EQ(text, "03/05/02, 245.267");
 }
 
+TEST(Counted, PutsTheNounIntoThePluralUnlessItIsOne) {
+    EXPECT_EQ(Counted(0, "cycle"), "0 cycles");
+    EXPECT_EQ(Counted(1, "cycle"), "1 cycle");
+    EXPECT_EQ(Counted(12, "day"), "12 days");
+}
+
 } // namespace
 
 } // namespace quorvex::text

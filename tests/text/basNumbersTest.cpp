@@ -256,6 +256,16 @@ TEST(WholeNumber, OverflowsOutsideSixteenBits) {
     }
 }
 
+TEST(RoundedToDigits, KeepsSoManySignificantDigits) {
+    EXPECT_EQ(RoundedToDigits(1234.5678, 6), 1234.57);
+    EXPECT_EQ(RoundedToDigits(-0.00012345678, 3), -0.000123);
+    EXPECT_EQ(RoundedToDigits(99.96, 3), 100);
+    EXPECT_EQ(RoundedToDigits(0.1 + 0.2, 12), 0.3);
+    EXPECT_EQ(RoundedToDigits(0, 12), 0);
+    EXPECT_EQ(RoundedToDigits(5e-324, 12), 5e-324);
+    EXPECT_EQ(RoundedToDigits(1.7e308, 1), 1.7e308); // 2e308 is beyond the range
+}
+
 TEST(PlainNumber, IsTheShortestText) {
     EXPECT_EQ(PlainNumber(245.5), "245.5");
     EXPECT_EQ(PlainNumber(0.662), "0.662");
