@@ -32,6 +32,7 @@ int RunCommandLine(int argc, char** argv, Outputs (*makeOutputs)()) {
         AddCheck(app, status);
         AddConvert(app, status);
         AddEvaluate(app, console, outputs.Pictures.get(), status);
+        AddImport(app, status);
         AddList(app, outputs.Printing.get(), status);
         AddPrint(app, outputs.Printing.get(), status);
         AddSearch(app, status);

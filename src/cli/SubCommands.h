@@ -33,6 +33,9 @@ void AddFormat(CLI::App& app, ExitStatus& status);
 void AddEvaluate(CLI::App& app, platform::Console const& console, platform::PictureEncoder* encoder,
                  ExitStatus& status);
 
+// "import".
+void AddImport(CLI::App& app, ExitStatus& status);
+
 // "search".
 void AddSearch(CLI::App& app, ExitStatus& status);
 

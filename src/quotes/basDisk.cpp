@@ -5,14 +5,11 @@
 
 #include "platform/basMessages.h"
 #include "text/RunTimeError.h"
-#include "text/basDates.h"
 #include "text/basNumbers.h"
 
-#include <array>
-#include <cstddef>
 #include <memory>
-#include <optional>
 #include <string_view>
+#include <tuple>
 #include <utility>
 
 namespace quorvex::quotes {
@@ -27,25 +24,7 @@ constexpr std::array<double QuoteRecord::*, 6> NumberFields = {
     &QuoteRecord::Open,  &QuoteRecord::High,   &QuoteRecord::Low,
     &QuoteRecord::Close, &QuoteRecord::Volume, &QuoteRecord::OpenInterest};
 constexpr std::size_t NumberCount = NumberFields.size();
-
-// A line as it stands in the file, its numbers not yet rounded. A number beyond a double is empty: it matters
-// only when the line comes to need it.
-struct QuoteLine {
-    std::optional<text::CalendarDay> Date;
-    std::array<std::optional<double>, NumberCount> Numbers{};
-
-    [[nodiscard]] double Number(std::size_t index) const {
-        if (!Numbers[index]) {
-            throw RunTimeError(Fault::Overflow);
-        }
-        return *Numbers[index];
-    }
-
-    // Whether the date is one and the product of the four prices is above zero.
-    [[nodiscard]] bool IsQuote() const {
-        return Date && text::RequireFinite(Number(0) * Number(1) * Number(2) * Number(3)) > 0;
-    }
-};
+static_assert(NumberCount == std::tuple_size_v<decltype(QuoteLine::Numbers)>);
 
 // A file that ends inside a line leaves its last fields empty.
 std::string_view TakeOrEmpty(text::FieldReader& fields) {
@@ -56,15 +35,6 @@ std::optional<double> NumberWithinRange(std::string_view field) {
     std::optional<double> number;
     static_cast<void>(text::Trap([&] { number = text::LeadingNumber(field); }));
     return number;
-}
-
-QuoteLine ReadLine(text::FieldReader& fields) {
-    QuoteLine line;
-    line.Date = text::ParseDate(TakeOrEmpty(fields));
-    for (auto& number : line.Numbers) {
-        number = NumberWithinRange(TakeOrEmpty(fields));
-    }
-    return line;
 }
 
 void StoreRounded(QuoteLine const& line, text::NumberFormat const& format, QuoteRecord& record) {
@@ -85,7 +55,7 @@ std::int16_t ReadRecords(text::ByteSource& source, text::NumberFormat const& for
     text::FieldReader fields(source);
     std::int16_t count = 0;
     while (!fields.AtEnd()) {
-        QuoteLine const line = ReadLine(fields);
+        QuoteLine const line = ReadQuoteLine(fields);
         if (!line.IsQuote()) {
             continue;
         }
@@ -99,6 +69,27 @@ std::int16_t ReadRecords(text::ByteSource& source, text::NumberFormat const& for
 }
 
 } // namespace
+
+// It matters only when the line comes to need the number.
+double QuoteLine::Number(std::size_t index) const {
+    if (!Numbers.at(index)) {
+        throw RunTimeError(Fault::Overflow);
+    }
+    return *Numbers.at(index);
+}
+
+bool QuoteLine::IsQuote() const {
+    return Date && text::RequireFinite(Number(0) * Number(1) * Number(2) * Number(3)) > 0;
+}
+
+QuoteLine ReadQuoteLine(text::FieldReader& fields) {
+    QuoteLine line;
+    line.Date = text::ParseDate(TakeOrEmpty(fields));
+    for (auto& number : line.Numbers) {
+        number = NumberWithinRange(TakeOrEmpty(fields));
+    }
+    return line;
+}
 
 std::int16_t ReadQuotes(text::ByteSource& source, text::NumberFormat const& format, QuoteSeries& series) {
     // Read aside: a file that breaks off must not cost the contract that is open.

@@ -8,13 +8,33 @@
 #include "platform/Files.h"
 #include "quotes/QuoteSeries.h"
 #include "settings/Settings.h"
+#include "text/basDates.h"
 #include "text/basFields.h"
 #include "text/basFormats.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace quorvex::quotes {
+
+// A line as it stands in a quote file, its numbers not rounded: four prices, volume, open interest. A number
+// beyond a double is empty.
+struct QuoteLine {
+    std::optional<text::CalendarDay> Date;
+    std::array<std::optional<double>, 6> Numbers{};
+
+    // Raises "Overflow" for one beyond a double.
+    [[nodiscard]] double Number(std::size_t index) const;
+
+    // Whether the date is one and the product of the four prices is above zero. Raises "Overflow".
+    [[nodiscard]] bool IsQuote() const;
+};
+
+// The next seven fields, wherever the lines break; those missing at the end of the file are empty.
+[[nodiscard]] QuoteLine ReadQuoteLine(text::FieldReader& fields);
 
 // Reads quotes, oldest first, into both copies from day 1 on and returns how many days were stored, 0..500. A
 // line whose date is none, or whose four prices have a product that is not above zero, is skipped; reading

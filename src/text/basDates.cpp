@@ -20,6 +20,7 @@ constexpr std::array<std::string_view, 12> MonthNames = {"january",   "february"
 
 constexpr std::size_t ShortNameLength = 3;
 constexpr int FirstYear = 100;
+constexpr int LastYear = 9999;
 constexpr int FirstYearOfLastCentury = 50;
 
 // Takes the pieces of a date from the front of a text. Each call answers whether the piece was there.
@@ -53,7 +54,7 @@ public:
             return false;
         }
         if (length_ == 2) {
-            year += year < FirstYearOfLastCentury ? 2000 : 1900;
+            year = FullYear(year);
         }
         return true;
     }
@@ -166,13 +167,21 @@ char Units(unsigned number) {
 
 std::optional<CalendarDay> ParseDate(std::string_view text) {
     DateParts parts;
-    if (!ScanDate(TrimBlanksAndTabs(text), parts) || parts.Year < FirstYear) {
+    if (!ScanDate(TrimBlanksAndTabs(text), parts)) {
         return std::nullopt;
     }
-    std::chrono::year_month_day const date{std::chrono::year{parts.Year},
-                                           std::chrono::month{static_cast<unsigned>(parts.Month)},
-                                           std::chrono::day{static_cast<unsigned>(parts.Day)}};
-    if (!date.ok()) {
+    return DayOf(parts.Year, parts.Month, parts.Day);
+}
+
+int FullYear(int twoDigits) {
+    return twoDigits + (twoDigits < FirstYearOfLastCentury ? 2000 : 1900);
+}
+
+std::optional<CalendarDay> DayOf(int year, int month, int day) {
+    std::chrono::year_month_day const date{std::chrono::year{year},
+                                           std::chrono::month{static_cast<unsigned>(month)},
+                                           std::chrono::day{static_cast<unsigned>(day)}};
+    if (year < FirstYear || year > LastYear || !date.ok()) {
         return std::nullopt;
     }
     return CalendarDay{date};

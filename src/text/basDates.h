@@ -23,6 +23,12 @@ using CalendarDay = std::chrono::sys_days;
 // As ParseDate; raises "Type mismatch" when the text is no date.
 [[nodiscard]] CalendarDay RequireDate(std::string_view text);
 
+// The year that two digits mean, 0..99: 00..49 are 2000..2049, 50..99 are 1950..1999.
+[[nodiscard]] int FullYear(int twoDigits);
+
+// The day of the calendar; nothing when there is no such day or the year is not 100..9999.
+[[nodiscard]] std::optional<CalendarDay> DayOf(int year, int month, int day);
+
 // The day as "mm/dd/yy".
 [[nodiscard]] std::string FormatDate(CalendarDay day);
 

@@ -12,7 +12,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
-#include <optional>
 #include <system_error>
 
 namespace quorvex::text {
@@ -124,8 +123,25 @@ double ValueOf(std::string_view text, ScannedNumber const& number) {
     return number.Negative ? -magnitude : magnitude;
 }
 
-// The quick way for the numbers of most files: nothing but digits and perhaps a point, few enough for a
-// double to hold exactly.
+// The text without the commas that stand between two digits in front of the point.
+std::string WithoutThousandsMarks(std::string_view text) {
+    std::string kept;
+    kept.reserve(text.size());
+    bool whole = true;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        char const c = text[at];
+        bool const between = at > 0 && at + 1 < text.size() && IsDigit(text[at - 1]) && IsDigit(text[at + 1]);
+        if (c == ',' && whole && between) {
+            continue;
+        }
+        whole = whole && (IsDigit(c) || c == '-' || c == '+');
+        kept += c;
+    }
+    return kept;
+}
+
+} // namespace
+
 std::optional<double> PlainDecimal(std::string_view text) {
     if (text.size() > MostExactDigits) {
         return std::nullopt;
@@ -151,25 +167,6 @@ std::optional<double> PlainDecimal(std::string_view text) {
     }
     return static_cast<double>(digits) / scale;
 }
-
-// The text without the commas that stand between two digits in front of the point.
-std::string WithoutThousandsMarks(std::string_view text) {
-    std::string kept;
-    kept.reserve(text.size());
-    bool whole = true;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        char const c = text[at];
-        bool const between = at > 0 && at + 1 < text.size() && IsDigit(text[at - 1]) && IsDigit(text[at + 1]);
-        if (c == ',' && whole && between) {
-            continue;
-        }
-        whole = whole && (IsDigit(c) || c == '-' || c == '+');
-        kept += c;
-    }
-    return kept;
-}
-
-} // namespace
 
 double LeadingNumber(std::string_view text) {
     auto const plain = PlainDecimal(text);

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,6 +17,11 @@ namespace quorvex::text {
 // one digit at least): "12abc" is 12, ".5" is 0.5, "1e" is 1, "1,234" is 1, "-" is 0. Raises "Overflow"
 // beyond the range of a double.
 [[nodiscard]] double LeadingNumber(std::string_view text);
+
+// The number of a text of nothing but digits and at most one point, 15 characters at the most, which a double
+// holds as nearly as it can; of an empty text 0. Nothing for any other text, which may be a number all the
+// same: this is the quick way for those of most files.
+[[nodiscard]] std::optional<double> PlainDecimal(std::string_view text);
 
 // The number that the whole text is, blanks around it aside; commas between the digits in front of the point
 // are thousands marks. Raises "Type mismatch" for anything else and "Overflow" beyond the range of a double.

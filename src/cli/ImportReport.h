@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "import/basImport.h"
+
+#include <string>
+
+namespace quorvex::cli {
+
+// What an import has come to.
+struct ImportResult {
+    std::string Source; // as it was named
+    std::string Target; // likewise; empty when none was
+    imports::Conversion Read;
+    imports::QuoteFile File;
+    bool IsReplacing = false;
+    bool IsWritten = false;
+};
+
+// The result in words.
+[[nodiscard]] std::string ImportReport(ImportResult const& result);
+
+// What is to be said of a line: "Line 3: text", or the text alone.
+[[nodiscard]] std::string FindingText(imports::Finding const& finding);
+
+} // namespace quorvex::cli

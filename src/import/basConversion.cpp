@@ -1,0 +1,545 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "import/basConversion.h"
+
+#include "import/Reading.h"
+#include "import/RecordReader.h"
+#include "import/basTableDates.h"
+#include "text/basNumbers.h"
+#include "text/basTexts.h"
+
+#include <algorithm>
+#include <chrono>
+#include <list>
+#include <span>
+#include <utility>
+
+namespace quorvex::imports {
+
+namespace {
+
+constexpr std::size_t MostNames = 12;
+constexpr std::string_view AllMonths = "DVL"; // the volume of all contracts together
+
+// A cell as it is told, quoted and not too long.
+std::string Quoted(std::string_view cell) {
+    constexpr std::size_t MostShown = 40;
+    std::string text = "\"";
+    text.append(cell.substr(0, MostShown));
+    return text.append(cell.size() > MostShown ? "...\"" : "\"");
+}
+
+std::string The(Role role) {
+    return "the " + std::string(NameOf(role));
+}
+
+std::string_view CellOf(RowCells const& cells, Role role) {
+    if (role == Role::Date) {
+        return cells.Date;
+    }
+    auto const found = std::ranges::find(FigureRoles, role);
+    return found == FigureRoles.end()
+               ? std::string_view()
+               : cells.Figures.at(static_cast<std::size_t>(found - FigureRoles.begin()));
+}
+
+// Why the row is left out.
+std::string WhyLeftOut(RowResult const& result, RowCells const& cells) {
+    std::string const cell = Quoted(CellOf(cells, result.Of));
+    switch (result.Kind) {
+    case RowKind::NoDay:
+        return cell + " is no date";
+    case RowKind::NoYear:
+        return cell + " is no day of 1950 to 2049";
+    case RowKind::NoFigure:
+        return The(result.Of) + " " + cell + " is no number";
+    case RowKind::NoPrice:
+        return The(result.Of) + " is missing";
+    case RowKind::NotPositive:
+        return The(result.Of) + " " + cell + " is not above zero";
+    case RowKind::Negative:
+        return The(result.Of) + " " + cell + " is below zero";
+    case RowKind::OutOfRange:
+        return result.Of == Role::High ? "the high is below the low"
+                                       : The(result.Of) + " " + cell + " lies outside of high and low";
+    default:
+        return {};
+    }
+}
+
+bool IsUnreadable(RowResult const& result) {
+    return result.Kind == RowKind::NoDay || result.Kind == RowKind::NoFigure;
+}
+
+// One reading with what it has to tell.
+struct Candidate {
+    Candidate(DateOrder order, DecimalMark mark, std::optional<int> fraction, Limits const& limits)
+        : Read(order, mark, fraction, limits) {}
+
+    Reading Read;
+    Conversion Told;
+    std::optional<text::CalendarDay> LastDay;
+    bool Rises = true;
+    bool Falls = true;
+};
+
+// Which cells of a row are what.
+struct CellPlaces {
+    explicit CellPlaces(Plan const& plan) : Date(plan.Find(Role::Date)), Time(plan.Find(Role::Time)) {
+        for (std::size_t index = 0; index < FigureCount; ++index) {
+            Figures.at(index) = plan.Find(FigureRoles.at(index));
+        }
+        for (std::size_t column = 0; column < plan.Columns.size(); ++column) {
+            if (plan.Columns[column].Is == Role::Symbol) {
+                Symbols.push_back(column);
+            }
+        }
+    }
+
+    std::optional<std::size_t> Date;
+    std::optional<std::size_t> Time;
+    std::array<std::optional<std::size_t>, FigureCount> Figures;
+    std::vector<std::size_t> Symbols;
+};
+
+std::string_view TextAt(std::span<Field const> fields, std::optional<std::size_t> column) {
+    return column && *column < fields.size() ? fields[*column].Text : std::string_view();
+}
+
+// Tells the contracts of a table apart.
+class SymbolFilter {
+public:
+    SymbolFilter(std::vector<std::size_t> const& columns, std::string wanted)
+        : columns_(columns),
+          cells_(columns.size()),
+          wanted_(std::move(wanted)) {}
+
+    // Whether the row is of a contract that is taken.
+    bool Takes(std::span<Field const> fields) {
+        if (!isFirst_ && IsSameAsBefore(fields)) {
+            return taken_;
+        }
+        isFirst_ = false;
+        std::string name;
+        bool isWanted = wanted_.empty();
+        for (std::size_t index = 0; index < columns_.size(); ++index) {
+            cells_[index] = TextAt(fields, columns_[index]);
+            std::string const part = text::UpperCase(cells_[index]);
+            isWanted = isWanted || part == wanted_;
+            name.append(name.empty() || part.empty() ? "" : " ").append(part);
+        }
+        taken_ = isWanted || name == wanted_;
+        auto& names = taken_ ? names_ : others_;
+        if (std::ranges::find(names, name) == names.end() && names.size() <= MostNames) {
+            names.push_back(name);
+        }
+        return taken_;
+    }
+
+    // The contracts that were taken, and those that were not; the first of them.
+    [[nodiscard]] std::vector<std::string> const& Names() const { return names_; }
+
+    [[nodiscard]] std::vector<std::string> const& Others() const { return others_; }
+
+private:
+    [[nodiscard]] bool IsSameAsBefore(std::span<Field const> fields) const {
+        for (std::size_t index = 0; index < columns_.size(); ++index) {
+            if (TextAt(fields, columns_[index]) != cells_[index]) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    std::vector<std::size_t> const& columns_;
+    std::vector<std::string> cells_; // of the row before
+    std::string wanted_;
+    std::vector<std::string> names_;
+    std::vector<std::string> others_;
+    bool isFirst_ = true;
+    bool taken_ = false;
+};
+
+std::string Listed(std::vector<std::string> const& names) {
+    std::string list;
+    for (std::size_t index = 0; index < std::min(names.size(), MostNames); ++index) {
+        list.append(index == 0 ? "" : ", ").append(names[index]);
+    }
+    return list.append(names.size() > MostNames ? ", ..." : "");
+}
+
+bool IsFilled(Field const& field) {
+    return !field.Text.empty();
+}
+
+class Converter {
+public:
+    Converter(text::ByteSource& table, Plan const& plan, Limits const& limits)
+        : plan_(plan),
+          limits_(limits),
+          reader_(table, plan.SeparatedBy),
+          places_(plan),
+          symbols_(places_.Symbols, plan.Symbol) {
+        for (DateOrder const order : plan.DateOrders) {
+            for (DecimalMark const mark : plan.Decimals) {
+                candidates_.emplace_back(order, mark, plan.Fraction, limits_);
+            }
+        }
+        common_.Used = plan;
+        for (Finding const& note : plan.Notes) {
+            common_.Notes.Add(note.Line, note.Text);
+        }
+    }
+
+    Conversion Run() {
+        while (!common_.Refused && !IsHopeless() && reader_.Next()) {
+            if (reader_.Line() >= plan_.FirstLine) {
+                TakeRecord(reader_.Fields());
+            }
+        }
+        if (!common_.Refused && !reader_.Trouble().empty()) {
+            Refuse(reader_.Line(), std::string(reader_.Trouble()), Choice::Separator);
+        }
+        if (!common_.Refused) {
+            Finish();
+        }
+        return std::move(common_);
+    }
+
+private:
+    void Refuse(std::uint64_t line, std::string text, Choice choice) {
+        common_.Refused = Refusal{{line, std::move(text)}, choice};
+    }
+
+    // Whether the only reading left is refused already.
+    [[nodiscard]] bool IsHopeless() const {
+        return candidates_.size() == 1 && candidates_.front().Told.Refused;
+    }
+
+    void TakeRecord(std::span<Field const> fields);
+    void TakeRow(RowCells const& cells, bool isVolumeLine);
+    void TakeRowInDoubt(RowCells const& cells, bool isVolumeLine);
+    void Note(Candidate& candidate, RowResult const& result, RowCells const& cells);
+    void NoteOrder(Candidate& candidate, RowCells const& cells);
+    void NoteRefusal(Candidate& candidate, RowResult const& result, RowCells const& cells);
+    void LeaveOut(Conversion& told, std::uint64_t line, std::string text) const;
+    void RefuseContradiction(RowResult const& result, RowCells const& cells);
+    [[nodiscard]] RowCells CellsOf(std::span<Field const> fields);
+    [[nodiscard]] bool IsVolumeLine(std::span<Field const> fields) const;
+    [[nodiscard]] bool IsOfAllMonths(std::span<Field const> fields) const;
+    void Finish();
+    void DropImpossibleCommas();
+    void RefuseDoubt(Candidate const& left, Candidate const& right);
+    void TakeOver(Candidate& candidate);
+
+    Plan const& plan_;
+    Limits const& limits_;
+    RecordReader reader_;
+    CellPlaces places_;
+    SymbolFilter symbols_;
+    std::list<Candidate> candidates_;
+    Conversion common_; // what does not depend on the reading, and at last everything
+    std::pair<std::string, std::uint64_t> firstDate_; // with its line, for an example
+    bool arePricesQuoted_ = false;
+};
+
+void Converter::TakeRecord(std::span<Field const> fields) {
+    auto const first = std::ranges::find_if(fields, IsFilled);
+    if (first == fields.end()) {
+        return;
+    }
+    bool const isAlone = std::none_of(first + 1, fields.end(), IsFilled);
+    if (isAlone || IsOfAllMonths(fields)) {
+        common_.Notes.Add(reader_.Line(), std::string(first->Text));
+        return;
+    }
+    ++common_.RowCount;
+    if (!places_.Symbols.empty() && !symbols_.Takes(fields)) {
+        ++common_.OtherSymbolCount;
+        return;
+    }
+    if (symbols_.Names().size() > 1) {
+        return; // refused at the end, when all names are known
+    }
+    auto const extra = fields.subspan(std::min(fields.size(), plan_.Columns.size()));
+    if (std::ranges::any_of(extra, IsFilled)) {
+        for (Candidate& candidate : candidates_) {
+            LeaveOut(candidate.Told, reader_.Line(),
+                     "the row has " + std::to_string(fields.size()) + " cells, the table " +
+                         std::to_string(plan_.Columns.size()) + " columns");
+        }
+        return;
+    }
+    RowCells const cells = CellsOf(fields);
+    if (!common_.Refused) {
+        TakeRow(cells, plan_.HasVolumeLines && IsVolumeLine(fields));
+    }
+}
+
+RowCells Converter::CellsOf(std::span<Field const> fields) {
+    RowCells cells;
+    cells.Line = reader_.Line();
+    cells.Date = TextAt(fields, places_.Date);
+    cells.Time = TextAt(fields, places_.Time);
+    for (std::size_t index = 0; index < FigureCount; ++index) {
+        std::string_view const cell = TextAt(fields, places_.Figures[index]);
+        cells.Figures[index] = cell;
+        bool const isQuoted = !cell.empty() && fields[*places_.Figures[index]].WasQuoted;
+        arePricesQuoted_ = arePricesQuoted_ || (isQuoted && index < VolumeIndex);
+        // Without a head to count by, 25,086 that is not quoted would be two cells.
+        bool const isHalf = plan_.HeadLines.empty() && index >= VolumeIndex && !isQuoted &&
+                            cell.size() == 3 && cell.front() == '0';
+        if (isHalf && plan_.SeparatedBy == Separator::Comma) {
+            Refuse(reader_.Line(), Quoted(cell) + " looks like the end of a number with a thousands comma",
+                   Choice::None);
+        }
+    }
+    return cells;
+}
+
+bool Converter::IsVolumeLine(std::span<Field const> fields) const {
+    return std::ranges::any_of(places_.Symbols, [&](std::size_t column) {
+        std::string_view const cell = TextAt(fields, column);
+        return cell.size() == 5 && cell.front() >= 'f' && cell.front() <= 'z' && cell[1] >= '0' &&
+               cell[1] <= '9';
+    });
+}
+
+bool Converter::IsOfAllMonths(std::span<Field const> fields) const {
+    return plan_.HasVolumeLines && std::ranges::any_of(places_.Symbols, [&](std::size_t column) {
+               return text::UpperCase(TextAt(fields, column)) == AllMonths;
+           });
+}
+
+void Converter::TakeRow(RowCells const& cells, bool isVolumeLine) {
+    if (candidates_.size() > 1) {
+        TakeRowInDoubt(cells, isVolumeLine);
+        return;
+    }
+    Candidate& only = candidates_.front();
+    RowResult const result = only.Read.Take(cells, isVolumeLine);
+    if (IsUnreadable(result)) {
+        RefuseContradiction(result, cells);
+    }
+    Note(only, result, cells);
+}
+
+// A row that some readings can read and others cannot ends these.
+void Converter::TakeRowInDoubt(RowCells const& cells, bool isVolumeLine) {
+    if (firstDate_.second == 0) {
+        firstDate_ = {std::string(cells.Date), cells.Line};
+    }
+    std::vector<RowResult> results;
+    for (Candidate& candidate : candidates_) {
+        results.push_back(candidate.Read.Take(cells, isVolumeLine));
+    }
+    bool const isReadable = !std::ranges::all_of(results, IsUnreadable);
+    if (!isReadable) {
+        RefuseContradiction(results.front(), cells);
+    }
+    auto result = results.begin();
+    for (auto candidate = candidates_.begin(); candidate != candidates_.end(); ++result) {
+        if (isReadable && IsUnreadable(*result)) {
+            candidate = candidates_.erase(candidate);
+        } else {
+            Note(*candidate, *result, cells);
+            ++candidate;
+        }
+    }
+}
+
+// A row that no reading left can read, and that another one could: then not all rows can be right.
+void Converter::RefuseContradiction(RowResult const& result, RowCells const& cells) {
+    std::string_view const cell = CellOf(cells, result.Of);
+    Candidate const& one = candidates_.front();
+    if (result.Kind == RowKind::NoDay && !plan_.IsDateChosen && IsTableDay(cell)) {
+        Refuse(cells.Line,
+               Quoted(cell) +
+                   " does not have the order of the other dates: " + std::string(NameOf(one.Read.Order())),
+               Choice::DateOrder);
+    }
+    if (result.Kind == RowKind::NoFigure && !plan_.IsDecimalChosen) {
+        FigureForm other;
+        other.Decimal = one.Read.Mark() == DecimalMark::Point ? DecimalMark::Comma : DecimalMark::Point;
+        if (ReadFigure(cell, other).State == FigureState::Number) {
+            Refuse(cells.Line,
+                   Quoted(cell) + " does not have the decimal mark of the other numbers: " +
+                       std::string(NameOf(one.Read.Mark())),
+                   Choice::Decimal);
+        }
+    }
+}
+
+void Converter::LeaveOut(Conversion& told, std::uint64_t line, std::string text) const {
+    if (limits_.IsStrict && !told.Refused) {
+        told.Refused = Refusal{{line, text}, Choice::None};
+    }
+    told.LeftOut.Add(line, std::move(text));
+}
+
+void Converter::NoteOrder(Candidate& candidate, RowCells const& cells) {
+    // Nobody has such a gap in his quotes: two digits of the year went from 49 to 50.
+    constexpr std::chrono::days Turn{90 * 365};
+    text::CalendarDay const day = ReadTableDay(cells.Date, candidate.Read.Order())->Day;
+    if (candidate.LastDay) {
+        candidate.Rises = candidate.Rises && day >= *candidate.LastDay;
+        candidate.Falls = candidate.Falls && day <= *candidate.LastDay;
+        if (std::chrono::abs(day - *candidate.LastDay) > Turn && !candidate.Told.Refused) {
+            candidate.Told.Refused =
+                Refusal{{cells.Line, Quoted(cells.Date) +
+                                         " is a century away from the day before: years of two digits "
+                                         "are 1950 to 2049. Take the days of one side alone"},
+                        Choice::None};
+        }
+    }
+    candidate.LastDay = day;
+}
+
+void Converter::NoteRefusal(Candidate& candidate, RowResult const& result, RowCells const& cells) {
+    if (candidate.Told.Refused) {
+        return;
+    }
+    if (result.NeedsFraction) {
+        candidate.Told.Refused = Refusal{
+            {cells.Line, Quoted(CellOf(cells, result.Of)) + " is a fraction of a kind that is not told"},
+            Choice::Fraction};
+    } else if (result.Kind == RowKind::Intraday) {
+        candidate.Told.Refused = Refusal{{cells.Line, "The day of line " + std::to_string(result.OtherLine) +
+                                                          " again at another time: rows of less than a day"},
+                                         Choice::None};
+    } else if (result.Kind == RowKind::Conflict) {
+        candidate.Told.Refused = Refusal{
+            {cells.Line, "The day of line " + std::to_string(result.OtherLine) + " again with other figures"},
+            Choice::None};
+    }
+}
+
+void Converter::Note(Candidate& candidate, RowResult const& result, RowCells const& cells) {
+    NoteRefusal(candidate, result, cells);
+    Conversion& told = candidate.Told;
+    switch (result.Kind) {
+    case RowKind::Quote:
+        NoteOrder(candidate, cells);
+        break;
+    case RowKind::Repeat:
+        ++told.RepeatCount;
+        break;
+    case RowKind::Outside:
+        ++told.OutsideCount;
+        break;
+    case RowKind::Volume:
+    case RowKind::Conflict:
+    case RowKind::Intraday:
+        break;
+    default:
+        LeaveOut(told, cells.Line, WhyLeftOut(result, cells));
+    }
+}
+
+// Where commas separate, a number that is not quoted has none in it.
+void Converter::DropImpossibleCommas() {
+    if (plan_.SeparatedBy != Separator::Comma || arePricesQuoted_) {
+        return;
+    }
+    bool const hasPoint = std::ranges::any_of(
+        candidates_, [](Candidate const& one) { return one.Read.Mark() == DecimalMark::Point; });
+    if (hasPoint) {
+        candidates_.remove_if([](Candidate const& one) {
+            return one.Read.Mark() == DecimalMark::Comma && !one.Read.HasGroupedCounts();
+        });
+    }
+}
+
+void Converter::RefuseDoubt(Candidate const& left, Candidate const& right) {
+    if (left.Read.Order() != right.Read.Order()) {
+        Refuse(firstDate_.second,
+               Quoted(firstDate_.first) + " and all other dates can be " +
+                   std::string(NameOf(left.Read.Order())) + " or " + std::string(NameOf(right.Read.Order())),
+               Choice::DateOrder);
+        return;
+    }
+    auto const days = left.Read.Days();
+    auto const others = right.Read.Days();
+    for (std::size_t day = 0; day < std::min(days.size(), others.size()); ++day) {
+        for (std::size_t index = 0; index < FigureCount; ++index) {
+            double const one = days[day].Figures.at(index);
+            double const other = others[day].Figures.at(index);
+            if (one != other) {
+                Refuse(days[day].Line,
+                       The(FigureRoles.at(index)) + " can be " + text::PlainNumber(one) + " or " +
+                           text::PlainNumber(other),
+                       Choice::Decimal);
+                return;
+            }
+        }
+    }
+    Refuse(0, "The decimal mark can be a point or a comma", Choice::Decimal);
+}
+
+void Converter::TakeOver(Candidate& candidate) {
+    Conversion& told = candidate.Told;
+    common_.Used.DateOrders = {candidate.Read.Order()};
+    common_.Used.Decimals = {candidate.Read.Mark()};
+    common_.Days = candidate.Read.Days();
+    common_.RepeatCount = told.RepeatCount;
+    common_.OutsideCount = told.OutsideCount;
+    common_.LeftOut = std::move(told.LeftOut);
+    common_.Refused = told.Refused;
+    common_.Order = candidate.Rises   ? RowOrder::OldestFirst
+                    : candidate.Falls ? RowOrder::NewestFirst
+                                      : RowOrder::Mixed;
+    for (DayQuote const& quote : common_.Days) {
+        common_.WeekendCount += std::chrono::weekday(quote.Day).iso_encoding() > 5 ? 1U : 0U;
+        common_.WithoutVolume += quote.LacksVolume ? 1U : 0U;
+        common_.WithoutOpenInterest += quote.LacksOpenInterest ? 1U : 0U;
+    }
+    if (std::uint64_t const line = candidate.Read.OpenTicksLine();
+        line > 0 && !plan_.Fraction && !common_.Refused) {
+        Refuse(line, "The price can have a thousands mark or a fraction", Choice::Fraction);
+    }
+}
+
+void Converter::Finish() {
+    if (symbols_.Names().size() > 1) {
+        Refuse(0, "There are several contracts: " + Listed(symbols_.Names()), Choice::Symbol);
+        return;
+    }
+    if (!plan_.Symbol.empty() && symbols_.Names().empty()) {
+        Refuse(0, "There is no contract " + plan_.Symbol + ", but " + Listed(symbols_.Others()),
+               Choice::Symbol);
+        return;
+    }
+    DropImpossibleCommas();
+    for (Candidate const& other : candidates_) {
+        Candidate const& first = candidates_.front();
+        bool const isSame = first.Told.Refused.has_value() == other.Told.Refused.has_value() &&
+                            std::ranges::equal(first.Read.Days(), other.Read.Days(), &DayQuote::IsSameAs);
+        if (!isSame) {
+            RefuseDoubt(first, other);
+            return;
+        }
+    }
+    TakeOver(candidates_.front());
+}
+
+} // namespace
+
+void Findings::Add(std::uint64_t line, std::string text) {
+    ++Count;
+    if (Kept.size() < MostFindings) {
+        Kept.push_back({line, std::move(text)});
+    }
+}
+
+Conversion ConvertTable(text::ByteSource& table, Plan const& plan, Limits const& limits) {
+    if (plan.Refused) {
+        Conversion conversion;
+        conversion.Used = plan;
+        conversion.Refused = plan.Refused;
+        return conversion;
+    }
+    return Converter(table, plan, limits).Run();
+}
+
+} // namespace quorvex::imports

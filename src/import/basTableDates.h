@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// Dates as vendors write them.
+#pragma once
+
+#include "import/Choices.h"
+#include "text/basDates.h"
+
+#include <optional>
+#include <string_view>
+
+namespace quorvex::imports {
+
+struct TableDay {
+    text::CalendarDay Day;
+    std::string_view Time; // what the cell says behind the day, as it stands
+};
+
+// The day that the cell names when its numbers stand in this order; nothing when it names none:
+//
+//   three numbers with "/", "-" or "." between them, or 6 or 8 digits without; a year of four digits in front
+//   has its month next in every order
+//   a number, the name of a month and a number, or the name in front, in four languages, whole or shortened;
+//   a name of a weekday in front of it all: the order does not matter then
+//   9 or 10 digits: seconds since 1970, of which the day in UTC counts
+//
+// A time with or without a zone may follow, which does not move the day. Years of two digits are put into
+// their century as everywhere in the program.
+[[nodiscard]] std::optional<TableDay> ReadTableDay(std::string_view cell, DateOrder order);
+
+// Whether the cell names a day in any order.
+[[nodiscard]] bool IsTableDay(std::string_view cell);
+
+// Whether the text is a time of day: 13:20, 13:20:00.5 PM, with a zone or without.
+[[nodiscard]] bool IsTimeOfDay(std::string_view text);
+
+} // namespace quorvex::imports

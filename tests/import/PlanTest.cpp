@@ -1,0 +1,188 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "import/Plan.h"
+
+#include "import/Sample.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvex::tests {
+namespace {
+
+using imports::Choice;
+using imports::Choices;
+using imports::DateOrder;
+using imports::DecimalMark;
+using imports::Plan;
+using imports::Role;
+using imports::Separator;
+
+Plan PlanOf(std::string_view table, Choices const& choices = {}) {
+    return imports::MakePlan(imports::ReadSample(table, true, choices.Separator), imports::Encoding::Utf8,
+                             choices);
+}
+
+std::string RefusalText(Plan const& plan) {
+    return plan.Refused ? plan.Refused->Told.Text : std::string();
+}
+
+// The roles of the columns by their first letters, "-" for one that is not used.
+std::string RolesOf(Plan const& plan) {
+    std::string roles;
+    for (imports::ColumnPlan const& column : plan.Columns) {
+        roles += column.Is == Role::Unused         ? '-'
+                 : column.Is == Role::OpenInterest ? 'I'
+                 : column.Is == Role::Time         ? 't'
+                                           : static_cast<char>(std::toupper(imports::NameOf(column.Is)[0]));
+    }
+    return roles;
+}
+
+constexpr std::string_view Rows = "2019-10-29,401.5,404.25,399.75,403,22540,120500\n"
+                                  "2019-10-30,403.25,405,401.25,401.5,19870,121940\n"
+                                  "2019-10-31,401.25,402.75,398.5,399.25,31310,119780\n";
+
+std::string Under(std::string_view head) {
+    return std::string(head).append("\n").append(Rows);
+}
+
+TEST(Plan, FindsTheSeparator) {
+    EXPECT_EQ(PlanOf(Rows).SeparatedBy, Separator::Comma);
+    EXPECT_EQ(PlanOf("29.10.2019;401,5;404,25;399,75;403\n").SeparatedBy, Separator::Semicolon);
+    EXPECT_EQ(PlanOf("2019-10-29\t401.5\t404.25\t399.75\t403\n").SeparatedBy, Separator::Tab);
+    EXPECT_EQ(PlanOf("2019-10-29|401.5|404.25|399.75|403\n").SeparatedBy, Separator::Bar);
+    EXPECT_EQ(PlanOf("2019-10-29  401.5 404.25\t399.75 403\n").SeparatedBy, Separator::Blanks);
+    EXPECT_EQ(PlanOf("10/29/19, 401.50, 404.25, 399.75, 403.00\n").SeparatedBy, Separator::Comma);
+}
+
+TEST(Plan, RefusesWhatIsNoTable) {
+    for (auto const* text : {"", "\n\n", "no table at all", "PK\x03\x04 a workbook", "a,b,c,d,e\n1,2,3,4,5\n",
+                             "2019-10-29,401.5,404.25\n"}) {
+        auto const plan = PlanOf(text);
+        EXPECT_EQ(RefusalText(plan), "No row with a date and four prices was found") << text;
+    }
+    EXPECT_EQ(RefusalText(PlanOf(Rows, Chosen(&imports::Choices::Separator, Separator::Tab))),
+              "No row with a date and four prices was found");
+}
+
+TEST(Plan, TellsColumnsByHeadingsInFourLanguages) {
+    for (auto const* head :
+         {"Date,Open,High,Low,Close,Volume,Open Interest", "trade date,o,h,l,c,v,oi",
+          "Datum,Er\xC3\xB6"
+          "ffnung,Hoch,Tief,Schlusskurs,Volumen,Offene Positionen",
+          "Date,Ouverture,Plus haut,Plus bas,Dernier,Vol.,Positions ouvertes",
+          "Fecha,Apertura,M\xC3\xA1x,M\xC3\xADnimo,\xC3\x9Altimo,Volumen,Inter\xC3\xA9s abierto",
+          "DATE,OPEN,HIGH,LOW,PRICE,VOL,OP. INT.", "Time,Open,High,Low,Last,Volume,OpenInt"}) {
+        EXPECT_EQ(RolesOf(PlanOf(Under(head))), "DOHLCVI") << head;
+    }
+    EXPECT_EQ(RolesOf(PlanOf(Under(",Open,High,Low,Close,Volume,Trades"))), "DOHLCV-")
+        << "a day without heading";
+}
+
+TEST(Plan, PrefersTheSmallerRank) {
+    EXPECT_EQ(RolesOf(PlanOf(Under("Date,Open,High,Low,Settle,Volume,Total Volume"))), "DOHLCV-");
+    EXPECT_EQ(RolesOf(PlanOf(Under("Date,Open,High,Low,Last,Close,Settlement"))), "DOHL--C");
+    EXPECT_EQ(RolesOf(PlanOf(Under("Date,Open,High,Low,Adj Close,Close,Price"))), "DOHL-C-");
+}
+
+TEST(Plan, RefusesTwoCandidates) {
+    auto const plan = PlanOf(Under("Date,Open,High,Low,Close,Close,Volume"));
+    EXPECT_EQ(RefusalText(plan), "Column 5 (Close) and column 6 (Close) can both be the close");
+    EXPECT_EQ(plan.Refused->SettledBy, Choice::Columns);
+    Choices choices;
+    choices.Columns = {{"6", Role::Close}};
+    EXPECT_EQ(RolesOf(PlanOf(Under("Date,Open,High,Low,Close,Close,Volume"), choices)), "DOHL-CV");
+    EXPECT_EQ(RefusalText(PlanOf("2019-10-29,2019-10-29,401.5,404.25,399.75,403\n")),
+              "Column 1 and column 2 can both be the date");
+}
+
+TEST(Plan, TellsColumnsByContent) {
+    EXPECT_EQ(RolesOf(PlanOf(Rows)), "DOHLCVI");
+    EXPECT_EQ(RolesOf(PlanOf("ZW,1,2019-10-29,13:20,401.5,404.25,399.75,403,22540\n")), "S-DtOHLCV");
+    EXPECT_EQ(RolesOf(PlanOf("20191029,401.5,404.25,399.75,403\n")), "DOHLC");
+    EXPECT_EQ(RefusalText(PlanOf("2019-10-29,401.5,399.75,404.25,403\n")), "No column is the open");
+    EXPECT_EQ(RefusalText(PlanOf("2019-10-29,401.5,404.25,399.75,403,401.7,22540\n")),
+              "The columns behind the close are not just volume and open interest");
+}
+
+// Open and close are alike, but a day opens near the close before.
+TEST(Plan, DoesNotTakeCloseForOpen) {
+    std::string closeFirst;
+    std::string newestFirst;
+    for (int day = 10; day < 28; ++day) {
+        int const close = 400 + (day % 5) * 7;
+        int const open = 400 + ((day + 4) % 5) * 7;
+        auto const row = [&](int first, int fourth) {
+            return "2019-10-" + std::to_string(day) + "," + std::to_string(first) + ",440,390," +
+                   std::to_string(fourth) + "\n";
+        };
+        closeFirst += row(close, open);
+        newestFirst.insert(0, row(open, close));
+    }
+    EXPECT_EQ(RefusalText(PlanOf(closeFirst)), "Column 2 and column 5 can both be the open");
+    EXPECT_EQ(RolesOf(PlanOf(newestFirst)), "DOHLC");
+}
+
+TEST(Plan, TakesWhatTheUserChose) {
+    Choices choices;
+    choices.Columns = {{"Last", Role::Close}, {"volume", Role::Unused}};
+    EXPECT_EQ(RolesOf(PlanOf(Under("Date,Open,High,Low,Last,Volume,Settle"), choices)), "DOHLC--");
+    EXPECT_EQ(RefusalText(PlanOf(Rows, ChosenColumns({{"8", Role::Open}}))), "There is no column 8");
+    EXPECT_EQ(RefusalText(PlanOf(Rows, ChosenColumns({{"2", Role::Open}, {"3", Role::Open}}))),
+              "Column 2 and column 3 can both be the open");
+    Choices all;
+    all.Columns = {
+        {"1", Role::Date}, {"5", Role::Open}, {"3", Role::High}, {"4", Role::Low}, {"2", Role::Close}};
+    all.OnlyChosenColumns = true;
+    EXPECT_EQ(RolesOf(PlanOf(Rows, all)), "DCHLO--");
+}
+
+TEST(Plan, SkipsNotesAboveTheHead) {
+    auto const plan =
+        PlanOf(Under("Wheat\n\nExported by somebody, 2019\nDate,Open,High,Low,Close,Volume,OI"));
+    EXPECT_EQ(RolesOf(plan), "DOHLCVI");
+    ASSERT_EQ(plan.Notes.size(), 2U);
+    EXPECT_EQ(plan.Notes[1].Line, 3U);
+    EXPECT_EQ(plan.HeadLines, std::vector<std::uint64_t>{4});
+    EXPECT_EQ(plan.FirstLine, 5U);
+}
+
+TEST(Plan, RefusesRowsWiderThanTheHead) {
+    EXPECT_EQ(RefusalText(PlanOf(Under("Open,High,Low,Close,Volume,OI"))),
+              "The row has 7 cells under 6 headings");
+}
+
+TEST(Plan, TellsTheOrderOfDatesByTheWholeColumn) {
+    auto const orders = [](std::string const& dates) {
+        std::string table;
+        for (std::size_t at = 0; at < dates.size(); at += 11) {
+            table += dates.substr(at, 10) + ",401.5,404.25,399.75,403\n";
+        }
+        return PlanOf(table).DateOrders;
+    };
+    using OrderList = std::vector<DateOrder>;
+    EXPECT_EQ(orders("01/02/2019 01/13/2019"), OrderList{DateOrder::MonthDayYear});
+    EXPECT_EQ(orders("01/02/2019 13/02/2019"), OrderList{DateOrder::DayMonthYear});
+    EXPECT_EQ(orders("01/02/2019 03/02/2019"), (OrderList{DateOrder::MonthDayYear, DateOrder::DayMonthYear}));
+    EXPECT_EQ(orders("2019-02-01 2019-02-03"), OrderList{DateOrder::YearMonthDay});
+    EXPECT_EQ(orders("02/02/2019 03/03/2019"), OrderList{DateOrder::MonthDayYear}) << "both mean the same";
+    EXPECT_EQ(RefusalText(PlanOf("13/01/2019,401.5,404.25,399.75,403\n01/13/2019,401.5,404.25,399.75,403\n")),
+              "The dates have no common order: 01/13/2019 and 13/01/2019");
+}
+
+TEST(Plan, TellsTheDecimalMarkByAllNumbers) {
+    using Marks = std::vector<DecimalMark>;
+    auto const marks = [](std::string_view row) { return PlanOf(row).Decimals; };
+    EXPECT_EQ(marks("2019-10-29;401,5;404,25;399,75;403\n"), Marks{DecimalMark::Comma});
+    EXPECT_EQ(marks("2019-10-29;401.5;404.25;399.75;403\n"), Marks{DecimalMark::Point});
+    EXPECT_EQ(marks("2019-10-29;1.401;1.404;1.399;1.403\n"), (Marks{DecimalMark::Point, DecimalMark::Comma}));
+    EXPECT_EQ(marks("Date;Open;High;Low;Close;Change\n2019-10-29;1.401;1.404;1.399;1.403;+0.054\n"),
+              Marks{DecimalMark::Point})
+        << "a column that is not used testifies, too";
+    EXPECT_EQ(RefusalText(PlanOf("2019-10-29;401.5;404.25;399.75;403\n2019-10-30;401,5;404,25;399,75;403\n")),
+              "The decimal mark is a point in 401.5 at line 1 and a comma in 401,5 at line 2");
+}
+
+} // namespace
+} // namespace quorvex::tests

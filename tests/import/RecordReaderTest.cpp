@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "import/RecordReader.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace quorvex::tests {
+namespace {
+
+using imports::Separator;
+
+// One byte after the other, so that every pause is tried.
+class DrippingSource final : public text::ByteSource {
+public:
+    explicit DrippingSource(std::string_view text) : rest_(text) {}
+
+    [[nodiscard]] std::size_t Read(std::span<char> buffer) override {
+        std::size_t const count = rest_.copy(buffer.data(), 1);
+        rest_.remove_prefix(count);
+        return count;
+    }
+
+private:
+    std::string_view rest_;
+};
+
+std::string AllOf(text::ByteSource& source, Separator separator) {
+    imports::RecordReader reader(source, separator);
+    std::string all;
+    while (reader.Next()) {
+        all += std::to_string(reader.Line()) + ":";
+        for (imports::Field const& field : reader.Fields()) {
+            all += (field.WasQuoted ? "'" : "[") + std::string(field.Text) + "]";
+        }
+        all += " ";
+    }
+    return all + (reader.Trouble().empty() ? "" : std::to_string(reader.Line()) + "!");
+}
+
+// The records as they come from a fast source, after a look whether a slow one gives the same.
+std::string Records(std::string_view text, Separator separator = Separator::Comma) {
+    text::TextSource source(text);
+    std::string const all = AllOf(source, separator);
+    DrippingSource slow(text);
+    EXPECT_EQ(AllOf(slow, separator), all);
+    return all;
+}
+
+TEST(RecordReader, SplitsAtEachSeparator) {
+    EXPECT_EQ(Records("a, b ,c\n"), "1:[a][b][c] ");
+    EXPECT_EQ(Records("a;b,c;", Separator::Semicolon), "1:[a][b,c][] ");
+    EXPECT_EQ(Records("a\t b c\t\td\n", Separator::Tab), "1:[a][b c][][d] ");
+    EXPECT_EQ(Records("a|b\n", Separator::Bar), "1:[a][b] ");
+    EXPECT_EQ(Records("  a \t b\tc  \n", Separator::Blanks), "1:[a][b][c] ");
+}
+
+TEST(RecordReader, EndsLinesInAnyWay) {
+    EXPECT_EQ(Records("a\nb\r\nc\rd"), "1:[a] 2:[b] 3:[c] 4:[d] ");
+    EXPECT_EQ(Records("a\r"), "1:[a] ");
+    EXPECT_EQ(Records(""), "");
+    EXPECT_EQ(Records("\n\r\n \t\na\n\n"), "4:[a] ") << "empty lines are passed over and counted";
+}
+
+TEST(RecordReader, EndsAtCtrlZInPlaceOfALine) {
+    EXPECT_EQ(Records("a\n\x1a"
+                      "b\n"),
+              "1:[a] ");
+    EXPECT_EQ(Records("a\x1a\n"), "1:[a\x1a] ");
+}
+
+TEST(RecordReader, UnquotesAsTheStandardSays) {
+    EXPECT_EQ(Records("\"a,b\", \"c \" ,\"\"\n"), "1:'a,b]'c ]'] ");
+    EXPECT_EQ(Records("\"say \"\"no\"\"\"\n"), "1:'say \"no\"] ");
+    EXPECT_EQ(Records("\"a\r\nb\nc\",d\ne"), "1:'a\r\nb\nc][d] 4:[e] ");
+    EXPECT_EQ(Records("\"a b\" c", Separator::Blanks), "1:'a b][c] ");
+    EXPECT_EQ(Records("\"a b\"", Separator::Blanks), "1:'a b] ");
+}
+
+TEST(RecordReader, TakesOtherQuotationMarksAsTheyAre) {
+    EXPECT_EQ(Records("5\" disk,a\n"), "1:[5\" disk][a] ");
+    EXPECT_EQ(Records("\"a\"b,c\n"), "1:[\"a\"b][c] ");
+}
+
+TEST(RecordReader, RefusesAQuotationMarkThatIsNotClosed) {
+    EXPECT_EQ(Records("a\n\"b,c\nd"), "1:[a] 2!");
+}
+
+TEST(RecordReader, RefusesALineWithoutEnd) {
+    EXPECT_EQ(Records("a\n" + std::string(200'000, 'x')), "1:[a] 2!");
+}
+
+TEST(RecordReader, ReadsLongTablesThroughOneBuffer) {
+    std::string text;
+    std::string expected;
+    for (int line = 1; line <= 20'000; ++line) {
+        text += "a,\"b\"\"\",c\r\n";
+        expected += std::to_string(line) + ":[a]'b\"][c] ";
+    }
+    text::TextSource source(text);
+    EXPECT_EQ(AllOf(source, Separator::Comma), expected);
+}
+
+} // namespace
+} // namespace quorvex::tests

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "import/basImport.h"
+
+#include "Tables.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvex::tests {
+namespace {
+
+imports::Conversion ConversionOf(std::vector<imports::DayQuote> days) {
+    imports::Conversion conversion;
+    conversion.Days = std::move(days);
+    return conversion;
+}
+
+std::vector<imports::DayQuote> Series(std::size_t count) {
+    std::mt19937 random(5);
+    return RandomSeries(random, count, 500);
+}
+
+TEST(QuoteFile, HasTheLatestDays) {
+    auto const series = Series(700);
+    auto const file = imports::MakeQuoteFile(ConversionOf(series), 500);
+    EXPECT_FALSE(file.Refused);
+    EXPECT_TRUE(file.HasNews());
+    EXPECT_TRUE(AreSameDays(file.Days, {series.begin() + 200, series.end()}));
+}
+
+TEST(QuoteFile, HasTwentyFiveDaysAtLeast) {
+    EXPECT_FALSE(imports::MakeQuoteFile(ConversionOf(Series(25)), 500).Refused);
+    auto const file = imports::MakeQuoteFile(ConversionOf(Series(24)), 500);
+    EXPECT_EQ(file.Refused->Told.Text, "A quote file has 25 days at least, and there are 24");
+    EXPECT_FALSE(file.HasNews());
+}
+
+TEST(QuoteFile, IsNotMadeOfARefusedTable) {
+    auto conversion = ConversionOf(Series(30));
+    conversion.Refused = imports::Refusal{{3, "bad"}, imports::Choice::None};
+    EXPECT_EQ(imports::MakeQuoteFile(conversion, 500).Refused->Told.Text, "bad");
+}
+
+TEST(QuoteFile, IsBroughtUpToDate) {
+    auto const series = Series(40);
+    std::string const old = imports::QuoteText({series.data(), 30});
+    text::TextSource source(old);
+    auto const file =
+        imports::UpdateQuoteFile(source, ConversionOf({series.begin() + 25, series.end()}), false, 500);
+    EXPECT_TRUE(file.HasNews());
+    EXPECT_TRUE(AreSameDays(file.Days, series));
+    EXPECT_EQ(file.Merged->Appended.size(), 10U);
+}
+
+TEST(QuoteFile, HasNoNewsWhenAllDaysAreThere) {
+    auto const series = Series(40);
+    std::string const old = imports::QuoteText(series);
+    text::TextSource source(old);
+    auto const file =
+        imports::UpdateQuoteFile(source, ConversionOf({series.begin() + 25, series.end()}), false, 500);
+    EXPECT_FALSE(file.Refused);
+    EXPECT_FALSE(file.HasNews());
+}
+
+} // namespace
+} // namespace quorvex::tests

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "import/basWords.h"
+
+#include <gtest/gtest.h>
+
+namespace quorvex::tests {
+namespace {
+
+TEST(Words, FoldCaseAccentsAndSigns) {
+    EXPECT_EQ(imports::FoldWords("<OPENINT>"), "openint");
+    EXPECT_EQ(imports::FoldWords("  Prev. Day  Open_Interest "), "prev day open interest");
+    EXPECT_EQ(imports::FoldWords("Schlu\xC3\x9Fkurs (EUR)"), "schlusskurs");
+    EXPECT_EQ(imports::FoldWords("Er\xC3\xB6"
+                                 "ffnung"),
+              "eroffnung");
+    EXPECT_EQ(imports::FoldWords("CL\xC3\x94TURE [x]"), "cloture");
+    EXPECT_EQ(imports::FoldWords("Zamkni\xC4\x99"
+                                 "cie"),
+              "zamkniecie");
+    EXPECT_EQ(imports::FoldWords("\xE6\x97\xA5 x \xF0\x9F\x98\x80"), "x");
+    EXPECT_EQ(imports::FoldWords("%Chg"), "chg");
+    EXPECT_EQ(imports::FoldWords("\xC3"), "") << "half a character";
+}
+
+TEST(Words, TellDigits) {
+    EXPECT_TRUE(imports::AreDigits("0123456789"));
+    EXPECT_TRUE(imports::AreDigits(""));
+    EXPECT_FALSE(imports::AreDigits("12a"));
+    EXPECT_FALSE(imports::AreDigits("-1"));
+}
+
+} // namespace
+} // namespace quorvex::tests
