@@ -7,6 +7,7 @@
 #include "cli/PipeFiles.h"
 #include "cli/StandardStreams.h"
 #include "cli/SubCommands.h"
+#include "cli/WholeNumber.h"
 #include "platform/basMessages.h"
 #include "quotes/QuoteSeries.h"
 #include "text/basDates.h"
@@ -249,7 +250,7 @@ void AddChoices(CLI::App& command, ImportOptions& options) {
     command.add_option("--to", options.To, "Last day to take")->type_name("mm/dd/yy")->check(IsDay());
     command.add_option("--days", options.Days, "Most days of the quote file, the latest of them [500]")
         ->type_name("N")
-        ->check(CLI::Range(quotes::MinQuotes, quotes::MaxQuotes));
+        ->transform(WholeNumberBetween(quotes::MinQuotes, quotes::MaxQuotes));
     command.add_flag("--strict", options.IsStrict, "Refuse a table of which a row would be left out");
 }
 

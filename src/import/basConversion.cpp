@@ -221,8 +221,8 @@ private:
     void TakeRow(RowCells const& cells, bool isVolumeLine);
     void TakeRowInDoubt(RowCells const& cells, bool isVolumeLine);
     void Note(Candidate& candidate, RowResult const& result, RowCells const& cells);
-    void NoteOrder(Candidate& candidate, RowCells const& cells);
-    void NoteRefusal(Candidate& candidate, RowResult const& result, RowCells const& cells);
+    static void NoteOrder(Candidate& candidate, RowCells const& cells);
+    static void NoteRefusal(Candidate& candidate, RowResult const& result, RowCells const& cells);
     void LeaveOut(Conversion& told, std::uint64_t line, std::string text) const;
     void RefuseContradiction(RowResult const& result, RowCells const& cells);
     [[nodiscard]] RowCells CellsOf(std::span<Field const> fields);

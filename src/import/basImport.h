@@ -33,7 +33,7 @@ struct QuoteFile {
 [[nodiscard]] QuoteFile MakeQuoteFile(Conversion const& conversion, std::size_t most);
 
 // The days of a quote file with those of the table. Raises the faults of ReadQuoteFileDays.
-[[nodiscard]] QuoteFile UpdateQuoteFile(text::ByteSource& file, Conversion const& conversion, bool replaces,
+[[nodiscard]] QuoteFile UpdateQuoteFile(text::ByteSource& source, Conversion const& conversion, bool replaces,
                                         std::size_t most);
 
 } // namespace quorvex::imports
