@@ -59,8 +59,9 @@ struct AnalysisResult {
 [[nodiscard]] bool OpenQuotes(Program& program, AnalysisServices const& services,
                               AnalysisRequest const& request);
 
-// Takes the cycles of the parameter file up through the grid. Returns whether the whole file could be read and
-// one cycle at least is active; what is in the way goes to the dialogs of the parameters, the first of it.
+// Takes the cycles of the parameter file up through the grid. Returns whether the whole file could be read
+// and one cycle at least is active; what is in the way goes to the dialogs of the parameters, the first of
+// it.
 [[nodiscard]] bool TakeParameters(Program& program, AnalysisServices const& services,
                                   std::string const& path);
 
