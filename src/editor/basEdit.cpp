@@ -78,13 +78,10 @@ void RebuildGrid(Editor& editor, settings::Settings const& settings) {
     Sheet& sheet = editor.Cells;
     ShownNumbers const shown(settings);
     HiddenSpread const hidden(editor.Grid);
-    std::int16_t const rows = sheet.RowCount();
-    sheet.SetCellKind({1, DateColumn, rows, DateColumn}, CellKind::Date);
-    sheet.SetCellKind({1, FirstNumberColumn, rows, Sheet::Columns}, CellKind::Number);
     for (std::int16_t row = 1; row <= editor.EditCount; ++row) {
         FillRow(sheet, row, editor.EditQuotes[row], shown);
     }
-    StripeRows(sheet);
+    DressRows(sheet);
 }
 
 void AppendRow(Editor& editor, settings::Settings const& settings, platform::Dialogs& dialogs) {

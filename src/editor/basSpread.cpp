@@ -27,4 +27,11 @@ void StripeRows(Sheet& sheet) {
     }
 }
 
+void DressRows(Sheet& sheet) {
+    std::int16_t const rows = sheet.RowCount();
+    sheet.SetCellKind({1, DateColumn, rows, DateColumn}, CellKind::Date);
+    sheet.SetCellKind({1, FirstNumberColumn, rows, Sheet::Columns}, CellKind::Number);
+    StripeRows(sheet);
+}
+
 } // namespace quorvex::editor

@@ -62,4 +62,7 @@ struct ShownNumbers {
 // Paints every second row pale yellow.
 void StripeRows(Sheet& sheet);
 
+// Gives all rows the kinds of their columns and the stripes.
+void DressRows(Sheet& sheet);
+
 } // namespace quorvex::editor

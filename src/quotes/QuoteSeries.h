@@ -24,6 +24,8 @@ struct QuoteRecord {
     double Close = 0;
     double Volume = 0;
     double OpenInterest = 0;
+
+    friend bool operator==(QuoteRecord const&, QuoteRecord const&) = default;
 };
 
 // Days are counted from 1, oldest first; slot 0 is never filled.

@@ -16,6 +16,17 @@ int RowsToMove(QKeyEvent const& event) {
     return event.modifiers().testFlag(Qt::ShiftModifier) ? -1 : 1;
 }
 
+HistoryKey HistoryKeyOf(QKeyEvent const& event) {
+    if (event.matches(QKeySequence::Undo)) {
+        return HistoryKey::Undo;
+    }
+    bool const isControlY = event.key() == Qt::Key_Y && event.modifiers() == Qt::ControlModifier;
+    bool const isControlShiftZ =
+        event.key() == Qt::Key_Z && event.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
+    return event.matches(QKeySequence::Redo) || isControlY || isControlShiftZ ? HistoryKey::Redo
+                                                                              : HistoryKey::None;
+}
+
 QWidget* CellDelegate::createEditor(QWidget* parent, QStyleOptionViewItem const&,
                                     QModelIndex const& index) const {
     auto* edit = new QLineEdit(parent);
@@ -36,11 +47,17 @@ bool CellDelegate::eventFilter(QObject* watched, QEvent* event) {
         static_cast<QFocusEvent*>(event)->reason() == Qt::MenuBarFocusReason) {
         return false; // else a menu bar worked by keys could not give the focus back
     }
-    auto* cellEditor = qobject_cast<QWidget*>(watched);
+    auto* cellEditor = qobject_cast<QLineEdit*>(watched);
     if (cellEditor != nullptr && event->type() == QEvent::KeyPress) {
-        if (int const rows = RowsToMove(*static_cast<QKeyEvent*>(event)); rows != 0) {
+        auto const& key = *static_cast<QKeyEvent*>(event);
+        if (int const rows = RowsToMove(key); rows != 0) {
             Finish(*cellEditor);
             Q_EMIT MoveWanted(rows);
+            return true;
+        }
+        // What the line edit does not know of would go to the grid.
+        if (auto const wanted = HistoryKeyOf(key); wanted != HistoryKey::None) {
+            wanted == HistoryKey::Undo ? cellEditor->undo() : cellEditor->redo();
             return true;
         }
     }

@@ -9,6 +9,7 @@
 #include "platform/qt/QtDialogs.h"
 
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -102,45 +103,80 @@ void SpreadGrid::keyPressEvent(QKeyEvent* event) {
     platform::qt::RunGuarded(*this, [&] {
         if (int const rows = RowsToMove(*event); rows != 0) {
             MoveDown(rows);
-        } else if (!WorkOnBlock(*event)) {
+        } else if (!AskWindow(*event) && !WorkOnBlock(*event)) {
             QTableView::keyPressEvent(event);
         }
     });
 }
 
-bool SpreadGrid::WorkOnBlock(QKeyEvent const& event) {
-    auto const block = SelectedBlock();
-    if (!block) {
-        return false;
-    }
-    if (event.matches(QKeySequence::Copy)) {
-        Copy(*block);
-    } else if (event.matches(QKeySequence::Cut)) {
-        Copy(*block);
-        Clear(*block);
-    } else if (event.matches(QKeySequence::Paste)) {
-        Paste(*block);
-    } else if (event.key() == Qt::Key_Delete && event.modifiers() == Qt::NoModifier) {
-        Clear(*block);
+bool SpreadGrid::AskWindow(QKeyEvent const& event) {
+    auto const wanted = HistoryKeyOf(event);
+    if (wanted == HistoryKey::Undo) {
+        Q_EMIT UndoWanted();
+    } else if (wanted == HistoryKey::Redo) {
+        Q_EMIT RedoWanted();
+    } else if (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier) {
+        Q_EMIT MenuWanted(CursorPlace());
     } else {
         return false;
     }
     return true;
 }
 
-void SpreadGrid::Copy(Block const& block) {
-    QGuiApplication::clipboard()->setText(platform::pictures::ToQt(BlockText(sheet_, block)));
+bool SpreadGrid::WorkOnBlock(QKeyEvent const& event) {
+    if (!SelectedBlock()) {
+        return false;
+    }
+    if (event.matches(QKeySequence::Copy)) {
+        Copy();
+    } else if (event.matches(QKeySequence::Cut)) {
+        Cut();
+    } else if (event.matches(QKeySequence::Paste)) {
+        Paste();
+    } else if (event.key() == Qt::Key_Delete && event.modifiers() == Qt::NoModifier) {
+        Clear();
+    } else {
+        return false;
+    }
+    return true;
 }
 
-void SpreadGrid::Clear(Block const& block) {
-    ClearBlock(sheet_, block);
-    model_.ShowSheet();
-    Q_EMIT Edited();
+void SpreadGrid::contextMenuEvent(QContextMenuEvent* event) {
+    bool const byMouse = event->reason() == QContextMenuEvent::Mouse;
+    Q_EMIT MenuWanted(byMouse ? event->globalPos() : CursorPlace());
 }
 
-void SpreadGrid::Paste(Block const& block) {
+QPoint SpreadGrid::CursorPlace() const {
+    QRect const cell = visualRect(currentIndex()).intersected(viewport()->rect());
+    return viewport()->mapToGlobal(cell.isEmpty() ? viewport()->rect().center() : cell.center());
+}
+
+void SpreadGrid::Cut() {
+    Copy();
+    Clear();
+}
+
+void SpreadGrid::Copy() {
+    if (auto const block = SelectedBlock()) {
+        QGuiApplication::clipboard()->setText(platform::pictures::ToQt(BlockText(sheet_, *block)));
+    }
+}
+
+void SpreadGrid::Clear() {
+    if (auto const block = SelectedBlock()) {
+        ClearBlock(sheet_, *block);
+        model_.ShowSheet();
+        Q_EMIT Edited();
+    }
+}
+
+void SpreadGrid::Paste() {
+    auto const block = SelectedBlock();
+    if (!block) {
+        return;
+    }
     bool const hasAll =
-        PasteText(sheet_, block, platform::pictures::FromQt(QGuiApplication::clipboard()->text()));
+        PasteText(sheet_, *block, platform::pictures::FromQt(QGuiApplication::clipboard()->text()));
     model_.ShowSheet();
     Q_EMIT Edited();
     if (!hasAll) {

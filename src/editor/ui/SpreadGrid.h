@@ -14,7 +14,7 @@ namespace quorvex::editor::ui {
 
 // The grid of the quote editor on the screen, worked as in a spreadsheet program: typing replaces a cell, F2
 // edits it, Enter, Tab and the arrows move, Delete empties, and blocks go to and from other programs as
-// tab-separated text.
+// tab-separated text. What undoes steps, and the context menu, is up to the window.
 class SpreadGrid final : public QTableView, public Spread {
     Q_OBJECT
 
@@ -35,7 +35,19 @@ public:
     [[nodiscard]] double Width() const override;
     void SetSize(double width, double height) override;
 
+    // Work on the cells that are selected; without a cursor they do nothing.
+    void Cut();
+    void Copy();
+    void Paste();
+    void Clear();
+
 Q_SIGNALS:
+    void UndoWanted();
+    void RedoWanted();
+
+    // The context menu, at this place of the screen.
+    void MenuWanted(QPoint place);
+
     // The user changed the text of a cell.
     void Edited();
 
@@ -44,15 +56,18 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     // The cells that are selected, or else the one with the cursor; nothing without a cursor.
     [[nodiscard]] std::optional<Block> SelectedBlock() const;
 
+    // Whether the key was one for the window.
+    bool AskWindow(QKeyEvent const& event);
+
+    // Whether the key was one that works on the selected cells.
     bool WorkOnBlock(QKeyEvent const& event);
-    void Copy(Block const& block);
-    void Clear(Block const& block);
-    void Paste(Block const& block);
+    [[nodiscard]] QPoint CursorPlace() const; // on the screen
     void MoveDown(int rows);
 
     Sheet sheet_;

@@ -6,6 +6,7 @@
 #include "editor/basEdit.h"
 #include "editor/basListing.h"
 #include "editor/basSave.h"
+#include "editor/ui/CellMenu.h"
 #include "platform/pictures/QtTexts.h"
 #include "platform/qt/NominalFrame.h"
 #include "platform/qt/QtDialogs.h"
@@ -56,6 +57,10 @@ frmEdit::frmEdit(QWidget* parent, quotes::QuoteSeries& series, settings::Setting
         });
     });
     connect(spread_, &SpreadGrid::Edited, this, &frmEdit::ForgetStatus);
+    connect(spread_, &SpreadGrid::Edited, this, &frmEdit::Record);
+    connect(spread_, &SpreadGrid::UndoWanted, this, Runs([this] { Undo(); }));
+    connect(spread_, &SpreadGrid::RedoWanted, this, Runs([this] { Redo(); }));
+    connect(spread_, &SpreadGrid::MenuWanted, this, &frmEdit::ShowMenu);
     connect(spread_->model(), &QAbstractItemModel::rowsInserted, this, &frmEdit::ForgetStatus);
     connect(spread_->model(), &QAbstractItemModel::rowsRemoved, this, &frmEdit::ForgetStatus);
     resize(InitialSize.boundedTo(screen()->availableSize()));
@@ -91,17 +96,52 @@ frmEdit::Command frmEdit::Runs(Command command) {
 
 void frmEdit::Run(Command const& command) {
     {
-        isBusy_ = true;
-        auto const free = qScopeGuard([this] { isBusy_ = false; });
+        auto const restore = qScopeGuard([this, before = std::exchange(isBusy_, true)] { isBusy_ = before; });
         platform::qt::RunGuarded(*this, [&] {
             spread_->FinishTyping();
             command();
         });
+        platform::qt::RunGuarded(*this, [this] { Record(); });
     }
     // Not the menu that the command was chosen from.
     spread_->setFocus();
     // Some desktops tell only now, and some more than once, that a box has closed.
     isUntouched_ = true;
+}
+
+void frmEdit::Record() {
+    history_.Record(*editor_);
+}
+
+void frmEdit::Undo() {
+    if (history_.Undo(*editor_).IsShown()) {
+        ForgetStatus();
+    }
+}
+
+void frmEdit::Redo() {
+    if (history_.Redo(*editor_).IsShown()) {
+        ForgetStatus();
+    }
+}
+
+void frmEdit::ShowMenu(QPoint place) {
+    bool const hasCursor = spread_->currentIndex().isValid();
+    ShowCellMenu(*this, place,
+                 {{QStringLiteral("mnuCellsUndo"), QStringLiteral("&Undo"), QKeySequence::Undo,
+                   history_.CanUndo(), Runs([this] { Undo(); })},
+                  {QStringLiteral("mnuCellsRedo"), QStringLiteral("&Redo"), Qt::CTRL | Qt::Key_Y,
+                   history_.CanRedo(), Runs([this] { Redo(); })},
+                  {},
+                  {QStringLiteral("mnuCellsCut"), QStringLiteral("Cu&t"), QKeySequence::Cut, hasCursor,
+                   Runs([this] { spread_->Cut(); })},
+                  {QStringLiteral("mnuCellsCopy"), QStringLiteral("&Copy"), QKeySequence::Copy, hasCursor,
+                   Runs([this] { spread_->Copy(); })},
+                  {QStringLiteral("mnuCellsPaste"), QStringLiteral("&Paste"), QKeySequence::Paste, hasCursor,
+                   Runs([this] { spread_->Paste(); })},
+                  {QStringLiteral("mnuCellsClear"), QStringLiteral("C&lear"), Qt::Key_Delete, hasCursor,
+                   Runs([this] { spread_->Clear(); })}});
+    isUntouched_ = true; // a menu that closes late must not drop what was typed either
 }
 
 void frmEdit::Tell(SaveResult const& result) {
@@ -130,7 +170,8 @@ void frmEdit::LoadQuotes() {
     ForgetStatus();
     platform::qt::SetCaption(*this, EditorCaption(series_));
     spread_->GotoCell(editor_->EditCount > 0 ? 1 : 0, 1);
-    Activate();
+    RebuildGrid(*editor_, settings_);
+    history_.Start(*editor_);
 }
 
 void frmEdit::PlaceGrid() {
@@ -142,6 +183,7 @@ void frmEdit::PlaceGrid() {
 void frmEdit::Activate() {
     PlaceGrid();
     RebuildGrid(*editor_, settings_);
+    Record();
 }
 
 bool frmEdit::event(QEvent* event) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "editor/Editor.h"
+#include "editor/History.h"
 #include "editor/basSave.h"
 #include "editor/ui/SpreadGrid.h"
 #include "editor/ui/StatusLine.h"
@@ -22,7 +23,7 @@ namespace quorvex::editor::ui {
 
 // Edits a copy of the quotes that were read from the open file, and writes it to a file. What is typed stands
 // in the grid alone until it is saved or printed: whatever fills the grid anew, the size of the window and
-// coming back from another program included, drops it.
+// coming back from another program included, drops it. Whatever changes the grid can be undone.
 class frmEdit final : public QDialog {
     Q_OBJECT
 
@@ -53,6 +54,12 @@ private:
     // Runs the command so when it is chosen.
     [[nodiscard]] Command Runs(Command command);
 
+    // Makes a step to undo of what has changed.
+    void Record();
+    void Undo();
+    void Redo();
+    void ShowMenu(QPoint place);
+
     void Tell(SaveResult const& result);
 
     // What the status line says no longer holds once the grid changes.
@@ -76,6 +83,7 @@ private:
     SpreadGrid* spread_;
     StatusLine* status_;
     std::unique_ptr<Editor> editor_;
+    History history_;
     bool isBusy_ = false;      // a command is running
     bool isUntouched_ = false; // no key and no button since the last command
 };
