@@ -45,6 +45,14 @@ void PipeFiles::Overwrite(std::string const& path, std::string_view content) {
     }
 }
 
+void PipeFiles::Append(std::string const& path, std::string_view bytes) {
+    if (path == PipeName) {
+        WriteStandardOutput(bytes);
+    } else {
+        disk_.Append(path, bytes);
+    }
+}
+
 void PipeFiles::Keep(std::string const& path) {
     if (path != PipeName) {
         disk_.Keep(path);

@@ -201,4 +201,8 @@ void Undo(Change const& change, Editor& editor) {
     });
 }
 
+void GotoPlace(Editor& editor, CellPlace const& place) {
+    editor.Grid.GotoCell(std::min(place.Row, editor.Cells.RowCount()), place.Column);
+}
+
 } // namespace quorvex::editor

@@ -66,4 +66,7 @@ void Apply(Change const& change, EditRows& rows);
 void Redo(Change const& change, Editor& editor);
 void Undo(Change const& change, Editor& editor);
 
+// Puts the cursor there, or into the last row when the row is gone.
+void GotoPlace(Editor& editor, CellPlace const& place);
+
 } // namespace quorvex::editor

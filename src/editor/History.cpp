@@ -3,18 +3,7 @@
 
 #include "editor/History.h"
 
-#include <algorithm>
-
 namespace quorvex::editor {
-
-namespace {
-
-// Rows that went are no place for a cursor.
-void GoTo(Editor& editor, CellPlace const& place) {
-    editor.Grid.GotoCell(std::min(place.Row, editor.Cells.RowCount()), place.Column);
-}
-
-} // namespace
 
 void History::Start(Editor const& editor) {
     rows_ = RowsOf(editor);
@@ -47,7 +36,7 @@ Change History::Undo(Editor& editor) {
     }
     Change const& step = steps_[--done_];
     editor::Undo(step, editor);
-    GoTo(editor, step.FirstCell());
+    GotoPlace(editor, step.FirstCell());
     return Note(editor);
 }
 
@@ -57,7 +46,7 @@ Change History::Redo(Editor& editor) {
     }
     Change const& step = steps_[done_++];
     editor::Redo(step, editor);
-    GoTo(editor, step.FirstCell());
+    GotoPlace(editor, step.FirstCell());
     return Note(editor);
 }
 

@@ -55,6 +55,10 @@ public:
     // The same for what can be made again, such as a picture: what the file held before is not kept.
     virtual void Overwrite(std::string const& path, std::string_view content) = 0;
 
+    // Puts the bytes behind what the file holds, which must be there, and waits until the disk has them. A
+    // fault may leave the first of them.
+    virtual void Append(std::string const& path, std::string_view bytes) = 0;
+
     // Puts a copy of the file, with its rights, under its name with BackupMark behind it, in place of an
     // older one. A link is followed: the copy lies beside the file that it names. A file that is missing or
     // empty needs none. On a fault, and also when the program stops half-way, the older copy is whole.

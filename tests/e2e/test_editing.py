@@ -162,5 +162,47 @@ class Editing(Session):
         self.require_end(program)
 
 
+    def test_what_was_typed_survives_a_kill(self):
+        press = self.desktop.press
+        executable = self.install()
+        program = self.start(executable)
+        program.open_quotes("Wheat.txt")
+        before = self.lines("Wheat.txt")
+        self.edit("Wheat.txt")
+        self.type_last_close("513")
+        press("Up", "Left")
+        for price in ("530", "777"):
+            self.desktop.type(price)
+            press("Return")
+        press("ctrl+z")
+        kept = os.path.join(self.folder, "Wheat.txt.edits")
+
+        def has_undone():
+            with open(kept, encoding="utf-8") as file:
+                return file.read().count("\nedit\n") == 4
+        wait_for(lambda: os.path.exists(kept) and has_undone(), "the kept edits")
+        self.desktop.type("12")  # is still being typed when the program dies
+        program.process.kill()
+        program.process.wait()
+        program = self.start(executable)
+        program.open_quotes("Wheat.txt")
+        self.assertEqual(self.lines("Wheat.txt"), before)
+        window = self.edit("Wheat.txt")
+        self.wait_for_status(window, "Edits of these quotes were not saved. Restore Unsaved Edits in the context menu "
+                                     "of the cells brings them back.")
+        press("shift+F10", "s")
+        self.wait_for_status(window, "Unsaved edits restored")
+        program.choose("File", "Save", window=window)
+        self.wait_for_status(window, f"{DAYS} rows saved to Wheat.txt")
+        after = self.lines("Wheat.txt")
+        self.assertEqual(after[:DAYS - 2], before[:DAYS - 2])
+        self.assertEqual(after[DAYS - 2].split(", ")[3], "530.00")
+        self.assertEqual(after[DAYS - 1], before[DAYS - 1].replace("520.25", "513.00"))
+        self.assertFalse(os.path.exists(kept))
+        self.leave(window)
+        program.choose("File", "Exit")
+        self.require_end(program)
+
+
 if __name__ == "__main__":
     unittest.main()

@@ -133,6 +133,30 @@ TEST(DiskFiles, ReplaceKeepsAnOlderCopyWhenNothingIsLost) {
     EXPECT_EQ(folder.Read("a.txt~"), large);
 }
 
+TEST(DiskFiles, AppendWritesBehindTheEnd) {
+    tests::TemporaryFolder const folder;
+    DiskFiles files;
+    folder.Write("a.txt", "one");
+    files.Append(folder.File("a.txt"), " two");
+    files.Append(folder.File("a.txt"), "");
+    files.Append(folder.File("a.txt"), "\r\n");
+    EXPECT_EQ(folder.Read("a.txt"), "one two\r\n");
+    EXPECT_EQ(folder.EntryCount(), 1);
+}
+
+TEST(DiskFiles, AppendMakesNoFile) {
+    tests::TemporaryFolder const folder;
+    DiskFiles files;
+    auto const faultOf = [&](std::string const& path) {
+        return text::Trap([&] { files.Append(path, "x"); })->Kind();
+    };
+    EXPECT_EQ(faultOf(folder.File("a.txt")), text::Fault::FileNotFound);
+    EXPECT_EQ(faultOf(folder.File("none/a.txt")), text::Fault::PathNotFound);
+    EXPECT_EQ(faultOf(folder.File("")), text::Fault::PermissionDenied);
+    EXPECT_EQ(faultOf(""), text::Fault::BadFileName);
+    EXPECT_EQ(folder.EntryCount(), 0);
+}
+
 TEST(DiskFiles, OverwriteKeepsNothing) {
     tests::TemporaryFolder const folder;
     DiskFiles files;

@@ -39,7 +39,8 @@ frmEdit::frmEdit(QWidget* parent, quotes::QuoteSeries& series, settings::Setting
       client_(new QWidget(this)),
       spread_(new SpreadGrid(*client_)),
       status_(new StatusLine(*client_)),
-      editor_(std::make_unique<Editor>(Editor{spread_->Cells(), *spread_, {}, 0})) {
+      editor_(std::make_unique<Editor>(Editor{spread_->Cells(), *spread_, {}, 0})),
+      unsaved_(files) {
     setObjectName(QStringLiteral("frmEdit"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     platform::qt::WindowMenu menu(*this);
@@ -57,7 +58,7 @@ frmEdit::frmEdit(QWidget* parent, quotes::QuoteSeries& series, settings::Setting
         });
     });
     connect(spread_, &SpreadGrid::Edited, this, &frmEdit::ForgetStatus);
-    connect(spread_, &SpreadGrid::Edited, this, &frmEdit::Record);
+    connect(spread_, &SpreadGrid::Edited, this, [this] { Record(); });
     connect(spread_, &SpreadGrid::UndoWanted, this, Runs([this] { Undo(); }));
     connect(spread_, &SpreadGrid::RedoWanted, this, Runs([this] { Redo(); }));
     connect(spread_, &SpreadGrid::MenuWanted, this, &frmEdit::ShowMenu);
@@ -71,9 +72,9 @@ frmEdit::~frmEdit() = default;
 void frmEdit::AddFileMenu(platform::qt::WindowMenu& menu) {
     menu.Menu("mnuFile", "&File")
         .Item("mnuFileSave", "&Save",
-              Runs([this] { Tell(SaveEdits(*editor_, series_, settings_, files_, dialogs_)); }))
+              Runs([this] { Finish(SaveEdits(*editor_, series_, settings_, files_, dialogs_)); }))
         .Item("mnuFileSaveAs", "Save &As...",
-              Runs([this] { Tell(SaveEditsAs(*editor_, series_, settings_, files_, dialogs_)); }))
+              Runs([this] { Finish(SaveEditsAs(*editor_, series_, settings_, files_, dialogs_)); }))
         .Separator()
         .Item("mnuFilePrint", "&Print",
               Runs([this] { PrintQuotes(*editor_, series_.QuoteFileName, settings_, printer_, pointer_); }))
@@ -109,20 +110,54 @@ void frmEdit::Run(Command const& command) {
     isUntouched_ = true;
 }
 
-void frmEdit::Record() {
-    history_.Record(*editor_);
+void frmEdit::Record(ChangeKind kind) {
+    Keep(history_.Record(*editor_), kind);
 }
 
 void frmEdit::Undo() {
-    if (history_.Undo(*editor_).IsShown()) {
-        ForgetStatus();
-    }
+    ShowUndone(history_.Undo(*editor_));
 }
 
 void frmEdit::Redo() {
-    if (history_.Redo(*editor_).IsShown()) {
+    ShowUndone(history_.Redo(*editor_));
+}
+
+void frmEdit::ShowUndone(Change const& change) {
+    if (change.IsShown()) {
         ForgetStatus();
     }
+    Keep(change, ChangeKind::Edit);
+}
+
+void frmEdit::RestoreUnsaved() {
+    std::string const told = unsaved_.Restore(*editor_, dialogs_);
+    if (told.empty()) {
+        return;
+    }
+    Change const change = history_.Record(*editor_);
+    GotoPlace(*editor_, change.FirstCell());
+    status_->Tell(platform::pictures::ToQt(told));
+    Keep(change, ChangeKind::Edit);
+}
+
+void frmEdit::Keep(Change const& change, ChangeKind kind) {
+    TellNotKept(text::Trap([&] { unsaved_.Keep(change, kind, *editor_); }));
+}
+
+void frmEdit::TellNotKept(std::optional<text::RunTimeError> const& error) {
+    if (!error || std::exchange(isNotKeptTold_, true)) {
+        return;
+    }
+    QMetaObject::invokeMethod(
+        this,
+        [this, cause = std::string(error->Description())] {
+            Run([&] {
+                dialogs_.Show({"Unsaved edits cannot be kept: " + cause +
+                                   "\nWhat is not saved is lost when the editor is closed.",
+                               "Edit", platform::Icon::Exclamation});
+            });
+        },
+        Qt::QueuedConnection);
 }
 
 void frmEdit::ShowMenu(QPoint place) {
@@ -140,13 +175,23 @@ void frmEdit::ShowMenu(QPoint place) {
                   {QStringLiteral("mnuCellsPaste"), QStringLiteral("&Paste"), QKeySequence::Paste, hasCursor,
                    Runs([this] { spread_->Paste(); })},
                   {QStringLiteral("mnuCellsClear"), QStringLiteral("C&lear"), Qt::Key_Delete, hasCursor,
-                   Runs([this] { spread_->Clear(); })}});
+                   Runs([this] { spread_->Clear(); })},
+                  {},
+                  {QStringLiteral("mnuCellsRestore"),
+                   QStringLiteral("Restore Un&saved Edits"),
+                   {},
+                   unsaved_.HasKept(),
+                   Runs([this] { RestoreUnsaved(); })}});
     isUntouched_ = true; // a menu that closes late must not drop what was typed either
 }
 
-void frmEdit::Tell(SaveResult const& result) {
+void frmEdit::Finish(SaveResult const& result) {
     if (!result.Status.empty()) {
         status_->Tell(platform::pictures::ToQt(result.Status));
+    }
+    if (result.IsSaved) {
+        history_.Record(*editor_); // the sorting, which was saved as well
+        TellNotKept(text::Trap([this] { unsaved_.Saved(*editor_, series_, settings_); }));
     }
 }
 
@@ -156,6 +201,7 @@ void frmEdit::ForgetStatus() {
 
 void frmEdit::RunModal() {
     platform::qt::CentreForm(*this);
+    isNotKeptTold_ = false;
     platform::qt::RunGuarded(*this, [this] { LoadQuotes(); });
     isUntouched_ = false;
     spread_->setFocus();
@@ -172,6 +218,12 @@ void frmEdit::LoadQuotes() {
     spread_->GotoCell(editor_->EditCount > 0 ? 1 : 0, 1);
     RebuildGrid(*editor_, settings_);
     history_.Start(*editor_);
+    TellNotKept(text::Trap([this] { unsaved_.Open(*editor_, series_, settings_); }));
+    if (unsaved_.HasKept()) {
+        status_->Tell(
+            QStringLiteral("Edits of these quotes were not saved. Restore Unsaved Edits in the context "
+                           "menu of the cells brings them back."));
+    }
 }
 
 void frmEdit::PlaceGrid() {
@@ -183,7 +235,7 @@ void frmEdit::PlaceGrid() {
 void frmEdit::Activate() {
     PlaceGrid();
     RebuildGrid(*editor_, settings_);
-    Record();
+    Record(ChangeKind::Refill);
 }
 
 bool frmEdit::event(QEvent* event) {

@@ -5,6 +5,7 @@
 
 #include "editor/Editor.h"
 #include "editor/History.h"
+#include "editor/UnsavedEdits.h"
 #include "editor/basSave.h"
 #include "editor/ui/SpreadGrid.h"
 #include "editor/ui/StatusLine.h"
@@ -15,15 +16,18 @@
 #include "platform/qt/WindowMenu.h"
 #include "quotes/QuoteSeries.h"
 #include "settings/Settings.h"
+#include "text/RunTimeError.h"
 
 #include <QDialog>
 #include <memory>
+#include <optional>
 
 namespace quorvex::editor::ui {
 
 // Edits a copy of the quotes that were read from the open file, and writes it to a file. What is typed stands
 // in the grid alone until it is saved or printed: whatever fills the grid anew, the size of the window and
-// coming back from another program included, drops it. Whatever changes the grid can be undone.
+// coming back from another program included, drops it. Whatever changes the grid can be undone, and is kept
+// in a file until it is saved.
 class frmEdit final : public QDialog {
     Q_OBJECT
 
@@ -54,13 +58,19 @@ private:
     // Runs the command so when it is chosen.
     [[nodiscard]] Command Runs(Command command);
 
-    // Makes a step to undo of what has changed.
-    void Record();
+    // Makes a step to undo of what has changed, and keeps it.
+    void Record(ChangeKind kind = ChangeKind::Edit);
     void Undo();
     void Redo();
+    void ShowUndone(Change const& change);
+    void RestoreUnsaved();
+    void Keep(Change const& change, ChangeKind kind);
+
+    // That edits are not kept is told once, when the event that brought it about is over.
+    void TellNotKept(std::optional<text::RunTimeError> const& error);
     void ShowMenu(QPoint place);
 
-    void Tell(SaveResult const& result);
+    void Finish(SaveResult const& result);
 
     // What the status line says no longer holds once the grid changes.
     void ForgetStatus();
@@ -84,7 +94,9 @@ private:
     StatusLine* status_;
     std::unique_ptr<Editor> editor_;
     History history_;
-    bool isBusy_ = false;      // a command is running
+    UnsavedEdits unsaved_;
+    bool isBusy_ = false; // a command is running
+    bool isNotKeptTold_ = false;
     bool isUntouched_ = false; // no key and no button since the last command
 };
 

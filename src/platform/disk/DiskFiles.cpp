@@ -156,6 +156,12 @@ void DiskFiles::Overwrite(std::string const& path, std::string_view content) {
     Written(target, content).MoveTo(target);
 }
 
+void DiskFiles::Append(std::string const& path, std::string_view bytes) {
+    auto const sink = OpenHostFileToAppend(WritableTarget(path));
+    sink->Write(bytes);
+    sink->Close();
+}
+
 void DiskFiles::Keep(std::string const& path) {
     KeepContent(WritableTarget(path));
 }

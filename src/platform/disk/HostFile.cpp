@@ -34,6 +34,7 @@ using text::RunTimeError;
 
 constexpr int ReadFlags = _O_RDONLY | _O_BINARY | _O_NOINHERIT;
 constexpr int CreateFlags = _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT;
+constexpr int AppendFlags = _O_WRONLY | _O_APPEND | _O_BINARY | _O_NOINHERIT;
 constexpr int EmptyFlags = _O_WRONLY | _O_CREAT | _O_TRUNC | _O_BINARY | _O_NOINHERIT;
 
 int OpenDescriptor(std::filesystem::path const& path, int flags, bool) {
@@ -70,6 +71,7 @@ bool IsFolder(int) {
 
 constexpr int ReadFlags = O_RDONLY | O_CLOEXEC;
 constexpr int CreateFlags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
+constexpr int AppendFlags = O_WRONLY | O_APPEND | O_CLOEXEC;
 constexpr int EmptyFlags = O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC;
 
 int OpenDescriptor(std::filesystem::path const& path, int flags, bool onlyForOwner) {
@@ -273,6 +275,10 @@ std::unique_ptr<ByteSink> CreateNewHostFile(std::filesystem::path const& path, b
         return nullptr;
     }
     return std::make_unique<LastingHostFileSink>(path, descriptor);
+}
+
+std::unique_ptr<ByteSink> OpenHostFileToAppend(std::filesystem::path const& path) {
+    return std::make_unique<LastingHostFileSink>(path, OpenDescriptor(path, AppendFlags, false));
 }
 
 std::unique_ptr<text::ByteSource> OpenStandardInput() {

@@ -26,6 +26,10 @@ namespace quorvex::platform::disk {
 // The file, made empty or created, opened for writing.
 [[nodiscard]] std::unique_ptr<ByteSink> CreateHostFile(std::filesystem::path const& path);
 
+// The file, which must be there, opened for writing behind its end. What was written is on the disk once it
+// is closed.
+[[nodiscard]] std::unique_ptr<ByteSink> OpenHostFileToAppend(std::filesystem::path const& path);
+
 void RemoveHostFile(std::filesystem::path const& path);
 
 // In bytes.

@@ -110,6 +110,17 @@ void MemoryFiles::Overwrite(std::string const& path, std::string_view content) {
     Contents[path] = content;
 }
 
+void MemoryFiles::Append(std::string const& path, std::string_view bytes) {
+    if (BreakWriting) {
+        throw text::RunTimeError(*BreakWriting);
+    }
+    auto const file = Contents.find(path);
+    if (file == Contents.end()) {
+        throw text::RunTimeError(text::Fault::FileNotFound);
+    }
+    file->second += bytes;
+}
+
 void MemoryFiles::Keep(std::string const& path) {
     auto const file = Contents.find(path);
     if (file == Contents.end() || file->second.empty()) {

@@ -23,6 +23,7 @@ public:
     [[nodiscard]] std::unique_ptr<text::ByteSource> OpenForInput(std::string const& path) const override;
     void Replace(std::string const& path, std::string_view content) override;
     void Overwrite(std::string const& path, std::string_view content) override;
+    void Append(std::string const& path, std::string_view bytes) override;
     void Keep(std::string const& path) override;
     [[nodiscard]] std::unique_ptr<ByteSink> OpenForOutput(std::string const& path) override;
     void Remove(std::string const& path) override;
@@ -41,7 +42,7 @@ public:
     // When set, reading breaks with this fault behind so many bytes.
     std::optional<std::pair<std::size_t, text::Fault>> BreakReading;
 
-    // When set, every Replace, Overwrite and OpenForOutput raises this fault and changes nothing.
+    // When set, every Replace, Overwrite, Append and OpenForOutput raises this fault and changes nothing.
     std::optional<text::Fault> BreakWriting;
 
     // When set, keeping what a file holds raises this fault and changes nothing.

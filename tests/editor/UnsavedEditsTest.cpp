@@ -1,0 +1,348 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "editor/UnsavedEdits.h"
+
+#include "EditorTest.h"
+#include "editor/History.h"
+#include "editor/basEdit.h"
+#include "editor/basUnsaved.h"
+#include "support/QuoteTexts.h"
+#include "text/RunTimeError.h"
+
+namespace quorvex::tests {
+namespace {
+
+constexpr char const* KeptPath = "C:\\Quotes\\test.txt.edits";
+constexpr char const* KeptPathBefore = "C:\\Quotes\\test.txt.edits~";
+constexpr char const* QuotePath = "C:\\Quotes\\test.txt";
+
+class UnsavedEditsTest : public EditorTest {
+protected:
+    UnsavedEditsTest() { files.Contents[QuotePath] = QuoteLines(30); }
+
+    // As the window does when it comes up.
+    void OpenEdited() {
+        OpenDays(30);
+        history.Start(*edited);
+        unsaved.Open(*edited, *series, settings);
+    }
+
+    void Record(editor::ChangeKind kind = editor::ChangeKind::Edit) {
+        unsaved.Keep(history.Record(*edited), kind, *edited);
+    }
+
+    void TypeKept(std::int16_t row, std::int16_t column, std::string const& text) {
+        Type(row, column, text);
+        Record();
+    }
+
+    // Another editor, after this one was closed or killed.
+    void OpenAgain() { OpenEdited(); }
+
+    [[nodiscard]] std::string Restore() {
+        std::string const told = unsaved.Restore(*edited, dialogs);
+        Record();
+        return told;
+    }
+
+    [[nodiscard]] bool IsKept() const { return files.Contents.contains(KeptPath); }
+
+    editor::History history;
+    editor::UnsavedEdits unsaved{files};
+};
+
+TEST_F(UnsavedEditsTest, OfAnEditorThatWasLeftAreThereAgain) {
+    OpenEdited();
+    auto const before = GridTexts();
+    EXPECT_FALSE(unsaved.HasKept());
+    EXPECT_FALSE(IsKept());
+    TypeKept(2, 5, "555");
+    TypeKept(30, 7, "tab\there\nand \\ end");
+    spread.GotoCell(10, 1);
+    editor::InsertRow(*edited, settings, dialogs);
+    Record();
+    TypeKept(10, 1, "end 12");
+    auto const texts = GridTexts();
+    OpenAgain();
+    ASSERT_TRUE(unsaved.HasKept());
+    EXPECT_FALSE(unsaved.HasFileChanged());
+    EXPECT_EQ(GridTexts(), before); // nothing comes back by itself
+    EXPECT_EQ(Restore(), "Unsaved edits restored");
+    EXPECT_EQ(GridTexts(), texts);
+    EXPECT_EQ(edited->EditCount, 31);
+    EXPECT_TRUE(dialogs.Messages.empty());
+}
+
+TEST_F(UnsavedEditsTest, TheCopyOfTheRowsComesBackToo) {
+    OpenEdited();
+    editor::AppendRow(*edited, settings, dialogs);
+    Record();
+    OpenAgain();
+    static_cast<void>(Restore());
+    editor::RebuildGrid(*edited, settings);
+    EXPECT_EQ(RowTexts(31), Texts({"", "0.00", "0.00", "0.00", "0.00", "0", "0"}));
+}
+
+TEST_F(UnsavedEditsTest, RestoringIsOneStepThatCanBeUndone) {
+    OpenEdited();
+    auto const before = GridTexts();
+    TypeKept(2, 5, "555");
+    TypeKept(3, 5, "556");
+    OpenAgain();
+    static_cast<void>(Restore());
+    unsaved.Keep(history.Undo(*edited), editor::ChangeKind::Edit, *edited);
+    EXPECT_EQ(GridTexts(), before);
+    OpenAgain();
+    EXPECT_TRUE(unsaved.HasKept()); // which undoing has not lost
+    EXPECT_EQ(Restore(), "Unsaved edits restored");
+    EXPECT_EQ(sheet.Text(3, 5), "556");
+}
+
+TEST_F(UnsavedEditsTest, WhatFollowsARestorationIsKeptWithIt) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    OpenAgain();
+    static_cast<void>(Restore());
+    TypeKept(3, 5, "556");
+    OpenAgain();
+    static_cast<void>(Restore());
+    EXPECT_EQ(sheet.Text(2, 5), "555");
+    EXPECT_EQ(sheet.Text(3, 5), "556");
+    EXPECT_FALSE(files.Contents.contains(KeptPathBefore)); // all of it went over
+}
+
+TEST_F(UnsavedEditsTest, OfAnEarlierEditorStayWhenAnotherOneGoesOn) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    std::string const first = files.Contents.at(KeptPath);
+    OpenAgain();
+    TypeKept(3, 5, "556");
+    EXPECT_EQ(files.Contents.at(KeptPathBefore), first);
+    EXPECT_TRUE(unsaved.HasKept()); // as long as this editor is open
+    unsaved.Keep(history.Undo(*edited), editor::ChangeKind::Edit, *edited);
+    EXPECT_EQ(files.Contents.at(KeptPath), first);
+}
+
+TEST_F(UnsavedEditsTest, ASaveDropsThem) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    EXPECT_TRUE(IsKept());
+    unsaved.Saved(*edited, *series, settings);
+    EXPECT_FALSE(IsKept());
+    OpenAgain();
+    EXPECT_FALSE(unsaved.HasKept());
+}
+
+TEST_F(UnsavedEditsTest, ASaveKeepsThoseThatWereNotRestored) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    std::string const first = files.Contents.at(KeptPath);
+    OpenAgain();
+    unsaved.Saved(*edited, *series, settings);
+    EXPECT_FALSE(unsaved.HasKept());
+    EXPECT_FALSE(IsKept());
+    EXPECT_EQ(files.Contents.at(KeptPathBefore), first);
+}
+
+TEST_F(UnsavedEditsTest, BehindASaveAreKeptOnTopOfIt) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    files.Contents[QuotePath] += "\r\n"; // as the save would
+    unsaved.Saved(*edited, *series, settings);
+    TypeKept(3, 5, "556");
+    OpenAgain();
+    ASSERT_TRUE(unsaved.HasKept());
+    EXPECT_FALSE(unsaved.HasFileChanged());
+    static_cast<void>(Restore());
+    EXPECT_EQ(sheet.Text(2, 5), "555");
+    EXPECT_EQ(sheet.Text(3, 5), "556");
+}
+
+TEST_F(UnsavedEditsTest, FollowTheNameThatASaveGave) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    series->QuoteFileName = "D:\\Other\\new.txt";
+    unsaved.Saved(*edited, *series, settings);
+    EXPECT_FALSE(IsKept());
+    TypeKept(3, 5, "556");
+    EXPECT_TRUE(files.Contents.contains("D:\\Other\\new.txt.edits"));
+}
+
+TEST_F(UnsavedEditsTest, ThatWereAllUndoneAreNone) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    unsaved.Keep(history.Undo(*edited), editor::ChangeKind::Edit, *edited);
+    EXPECT_FALSE(IsKept());
+    unsaved.Keep(history.Redo(*edited), editor::ChangeKind::Edit, *edited);
+    EXPECT_TRUE(IsKept());
+}
+
+TEST_F(UnsavedEditsTest, ThatTheLoadedFileHasAreNone) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    Open(SeriesOf(QuoteLines(30), settings.CurrencyFormat));
+    Type(2, 5, "555"); // as if it were loaded so
+    unsaved.Open(*edited, *series, settings);
+    EXPECT_FALSE(unsaved.HasKept());
+    EXPECT_FALSE(IsKept());
+}
+
+// What a refill dropped at last is what somebody wants back; what came after it knew of it.
+TEST_F(UnsavedEditsTest, ThatARefillDroppedAtTheEndComeBack) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    editor::RebuildGrid(*edited, settings);
+    Record(editor::ChangeKind::Refill);
+    OpenAgain();
+    ASSERT_TRUE(unsaved.HasKept());
+    static_cast<void>(Restore());
+    EXPECT_EQ(sheet.Text(2, 5), "555");
+    editor::RebuildGrid(*edited, settings);
+    Record(editor::ChangeKind::Refill);
+    TypeKept(3, 5, "556");
+    OpenAgain();
+    static_cast<void>(Restore());
+    EXPECT_EQ(sheet.Text(2, 5), "102.00");
+    EXPECT_EQ(sheet.Text(3, 5), "556");
+}
+
+TEST_F(UnsavedEditsTest, OfAnotherContractAreNotOffered) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    std::string const text = files.Contents.at(KeptPath);
+    series->QuoteFileName = "corn.txt";
+    unsaved.Open(*edited, *series, settings);
+    EXPECT_FALSE(unsaved.HasKept());
+    files.Contents["C:\\Quotes\\corn.txt.edits"] = text; // under a name that somebody gave it
+    unsaved.Open(*edited, *series, settings);
+    EXPECT_FALSE(unsaved.HasKept());
+    TypeKept(3, 5, "556");
+    EXPECT_EQ(files.Contents.at("C:\\Quotes\\corn.txt.edits~"), text);
+}
+
+TEST_F(UnsavedEditsTest, WithoutAnOpenFileHaveANameOfTheirOwn) {
+    Open(std::make_unique<quotes::QuoteSeries>());
+    history.Start(*edited);
+    unsaved.Open(*edited, *series, settings);
+    editor::AppendRow(*edited, settings, dialogs);
+    Record();
+    EXPECT_TRUE(files.Contents.contains("C:\\Quotes\\untitled.edits"));
+    Open(std::make_unique<quotes::QuoteSeries>());
+    history.Start(*edited);
+    unsaved.Open(*edited, *series, settings);
+    ASSERT_TRUE(unsaved.HasKept());
+    static_cast<void>(Restore());
+    EXPECT_EQ(sheet.RowCount(), 1);
+}
+
+TEST_F(UnsavedEditsTest, OfAFileThatHasChangedSinceAreAskedFor) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    files.Contents[QuotePath] += "02/01/01, 1, 1, 1, 1, 0, 0\r\n";
+    OpenAgain();
+    ASSERT_TRUE(unsaved.HasKept());
+    EXPECT_TRUE(unsaved.HasFileChanged());
+    dialogs.Answers = {platform::Answer::No, platform::Answer::Yes};
+    EXPECT_EQ(Restore(), "");
+    EXPECT_EQ(sheet.Text(2, 5), "102.00");
+    EXPECT_EQ(Restore(), "Unsaved edits restored");
+    EXPECT_EQ(sheet.Text(2, 5), "555");
+    ASSERT_EQ(dialogs.Messages.size(), 2U);
+    EXPECT_EQ(dialogs.Messages[0].Text, "The quote file has changed since these edits were made.\n"
+                                        "All rows become what they were in the editor then.\n"
+                                        "Restore them?");
+    EXPECT_EQ(dialogs.Messages[0].Title, "Restore Unsaved Edits");
+    EXPECT_EQ(dialogs.Messages[0].Shown, platform::Icon::Question);
+    EXPECT_EQ(dialogs.Messages[0].Offered, platform::Buttons::YesNo);
+}
+
+TEST_F(UnsavedEditsTest, AppendOnlyWhatChanged) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    auto const length = files.Contents.at(KeptPath).size();
+    TypeKept(3, 5, "556");
+    auto const grown = files.Contents.at(KeptPath).size() - length;
+    EXPECT_GT(grown, 0U);
+    EXPECT_LT(grown, 200U);
+}
+
+TEST_F(UnsavedEditsTest, DoNotGrowWithoutEnd) {
+    constexpr std::size_t Mebibyte = 1'048'576;
+    OpenEdited();
+    std::string const large(20'000, 'x');
+    for (int turn = 0; turn < 300; ++turn) {
+        TypeKept(1, 2, large + std::to_string(turn));
+    }
+    EXPECT_LT(files.Contents.at(KeptPath).size(), 2 * Mebibyte);
+    OpenAgain();
+    static_cast<void>(Restore());
+    EXPECT_EQ(sheet.Text(1, 2), large + "299");
+}
+
+TEST_F(UnsavedEditsTest, ThatCannotBeKeptAreKeptByTheNextThatCan) {
+    OpenEdited();
+    files.BreakWriting = text::Fault::DiskFull;
+    Type(2, 5, "555");
+    EXPECT_THROW(Record(), text::RunTimeError);
+    files.BreakWriting.reset();
+    TypeKept(3, 5, "556");
+    files.BreakWriting = text::Fault::DiskFull;
+    Type(4, 5, "557");
+    EXPECT_THROW(Record(), text::RunTimeError);
+    files.BreakWriting.reset();
+    files.Contents.at(KeptPath) += "edit\nrows 4 1"; // as far as the disk took it
+    TypeKept(5, 5, "558");
+    OpenAgain();
+    EXPECT_EQ(Restore(), "Unsaved edits restored");
+    EXPECT_EQ(sheet.Text(2, 5), "555");
+    EXPECT_EQ(sheet.Text(4, 5), "557");
+    EXPECT_EQ(sheet.Text(5, 5), "558");
+}
+
+TEST_F(UnsavedEditsTest, OfTwoProgramsAreNotMixed) {
+    OpenEdited();
+    editor::UnsavedEdits other{files};
+    other.Open(*edited, *series, settings);
+    editor::History otherHistory;
+    otherHistory.Start(*edited);
+    TypeKept(2, 5, "555");
+    std::string const first = files.Contents.at(KeptPath);
+    Type(2, 5, "102.00"); // which the other program does not see
+    Type(3, 5, "556");    // as long as the first one
+    other.Keep(otherHistory.Record(*edited), editor::ChangeKind::Edit, *edited);
+    std::string const second = files.Contents.at(KeptPath);
+    EXPECT_EQ(files.Contents.at(KeptPathBefore), first);
+    EXPECT_EQ(second.size(), first.size());
+    Type(2, 5, "557");
+    Record();
+    EXPECT_EQ(files.Contents.at(KeptPathBefore), second);
+    EXPECT_TRUE(editor::ReadKeptEdits(files.Contents.at(KeptPath))->IsWhole);
+}
+
+TEST_F(UnsavedEditsTest, AFileThatCannotBeReadIsAFault) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    files.BreakReading = {0, text::Fault::PermissionDenied};
+    EXPECT_THROW(OpenAgain(), text::RunTimeError);
+    EXPECT_FALSE(unsaved.HasKept());
+    files.BreakReading.reset();
+    std::string const first = files.Contents.at(KeptPath);
+    TypeKept(3, 5, "556");
+    EXPECT_EQ(files.Contents.at(KeptPathBefore), first);
+}
+
+TEST_F(UnsavedEditsTest, ThatCannotBeDroppedAreAFaultAndTheNextOnesAreKept) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    files.BreakRemoving = text::Fault::PermissionDenied;
+    EXPECT_THROW(unsaved.Saved(*edited, *series, settings), text::RunTimeError);
+    files.BreakRemoving.reset();
+    TypeKept(3, 5, "556");
+    OpenAgain();
+    static_cast<void>(Restore());
+    EXPECT_EQ(sheet.Text(3, 5), "556");
+}
+
+} // namespace
+} // namespace quorvex::tests

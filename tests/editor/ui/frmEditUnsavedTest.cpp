@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "editor/ui/ShownEditor.h"
+#include "support/QuoteTexts.h"
+#include "windows/WindowTest.h"
+
+#include <QLabel>
+#include <QMenu>
+#include <filesystem>
+
+namespace quorvex::tests {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr char const* KeptName = "corn.txt.edits";
+
+// Opens the context menu of the cells by keys; returns whether it offers to restore.
+bool OffersToRestore(ShownEditor& shown) {
+    bool isOffered = false;
+    shown.Answers.Next([&](QWidget& menu) {
+        isOffered = menu.findChild<QAction*>(u"mnuCellsRestore"_s)->isEnabled();
+        QTest::keyClick(&menu, Qt::Key_Escape);
+    });
+    shown.Press(Qt::Key_F10, Qt::ShiftModifier);
+    return shown.Answers.IsDone() && isOffered;
+}
+
+void ChooseRestore(ShownEditor& shown) {
+    shown.Answers.Next([](QWidget& menu) { QTest::keyClick(&menu, Qt::Key_S); });
+    shown.Press(Qt::Key_F10, Qt::ShiftModifier);
+    QTRY_VERIFY(shown.Answers.IsDone());
+}
+
+QString StatusText(ShownEditor const& shown) {
+    return shown.Window->findChild<QLabel*>(u"StatusLine"_s)->text();
+}
+
+bool HasKept(ShownEditor const& shown) {
+    return std::filesystem::exists(shown.Folder.File(KeptName));
+}
+
+} // namespace
+
+class frmEditUnsavedTest final : public WindowTest {
+    Q_OBJECT
+
+private Q_SLOTS:
+
+    void WhatWasLeftUnsavedIsRestoredWhenTheUserWants() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            QVERIFY(!OffersToRestore(shown));
+            QCOMPARE(StatusText(shown), u""_s);
+            shown.Choose("mnuEditAppend");
+            shown.Type(2, 5, u"555"_s);
+            shown.Choose("mnuFileExit");
+        });
+        shown.Run([&] {
+            QCOMPARE(StatusText(shown),
+                     u"Edits of these quotes were not saved. Restore Unsaved Edits in the context "
+                     "menu of the cells brings them back."_s);
+            QCOMPARE(shown.Text(2, 5), u"102.00"_s);
+            QVERIFY(OffersToRestore(shown));
+            ChooseRestore(shown);
+            QCOMPARE(shown.Text(2, 5), u"555"_s);
+            QCOMPARE(shown.Grid().model()->rowCount(), 31);
+            QCOMPARE(StatusText(shown), u"Unsaved edits restored"_s);
+            QCOMPARE(shown.Cursor(), u"2,1"_s);
+            shown.Press(Qt::Key_Z, Qt::ControlModifier);
+            QCOMPARE(shown.Grid().model()->rowCount(), 30);
+            QCOMPARE(shown.Text(2, 5), u"102.00"_s);
+            shown.Press(Qt::Key_Y, Qt::ControlModifier);
+            QCOMPARE(shown.Text(2, 5), u"555"_s);
+        });
+        shown.Run([&] { QVERIFY(OffersToRestore(shown)); });
+    }
+
+    void ASaveLeavesNothingToRestore() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            shown.Type(2, 5, u"55"_s);
+            QVERIFY(HasKept(shown));
+            shown.Choose("mnuFileSave");
+            QVERIFY(!HasKept(shown));
+        });
+        shown.Run([&] {
+            QVERIFY(!OffersToRestore(shown));
+            QCOMPARE(StatusText(shown), u""_s);
+        });
+    }
+
+    void ARefusedSaveKeepsThem() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            shown.Type(2, 6, u"abc"_s);
+            shown.Choose("mnuFileSave");
+            QVERIFY(HasKept(shown));
+        });
+        shown.Run([&] { QVERIFY(OffersToRestore(shown)); });
+    }
+
+    void WhatComingBackDroppedIsRestored() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            shown.Type(2, 5, u"555"_s);
+            shown.ComeBack();
+            QCOMPARE(shown.Text(2, 5), u"102.00"_s);
+        });
+        shown.Run([&] {
+            ChooseRestore(shown);
+            QCOMPARE(shown.Text(2, 5), u"555"_s);
+        });
+    }
+
+    void AChangedFileIsAskedFor() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] { shown.Type(2, 5, u"555"_s); });
+        shown.Folder.Write("corn.txt", QuoteLines(31));
+        shown.Run([&] {
+            shown.Answers.Next([](QWidget& menu) { QTest::keyClick(&menu, Qt::Key_S); });
+            shown.Answers.Click(QMessageBox::No);
+            shown.Press(Qt::Key_F10, Qt::ShiftModifier);
+            QTRY_VERIFY(shown.Answers.IsDone());
+            QCOMPARE(shown.Text(2, 5), u"102.00"_s);
+            shown.Answers.Next([](QWidget& menu) { QTest::keyClick(&menu, Qt::Key_S); });
+            shown.Answers.Click(QMessageBox::Yes);
+            shown.Press(Qt::Key_F10, Qt::ShiftModifier);
+            QTRY_VERIFY(shown.Answers.IsDone());
+            QCOMPARE(shown.Text(2, 5), u"555"_s);
+        });
+        QString const question = u"Restore Unsaved Edits|question|Yes No|"
+                                 "The quote file has changed since these edits were made.\n"
+                                 "All rows become what they were in the editor then.\n"
+                                 "Restore them?"_s;
+        QCOMPARE(shown.Answers.Shown().count(question), 2);
+    }
+
+    void ThatNothingCanBeKeptIsToldOnce() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            std::filesystem::create_directory(shown.Folder.File(KeptName));
+            shown.Type(2, 5, u"555"_s);
+            QTRY_COMPARE(shown.Answers.Shown().size(), 2);
+            shown.Type(3, 5, u"556"_s);
+            shown.Type(4, 5, u"557"_s);
+            QCoreApplication::processEvents();
+            QCOMPARE(shown.Text(2, 5) + shown.Text(3, 5), u"555556"_s);
+            std::filesystem::remove(shown.Folder.File(KeptName));
+            shown.Type(5, 5, u"558"_s);
+            QVERIFY(HasKept(shown));
+        });
+        QCOMPARE(shown.Answers.Shown().mid(1),
+                 QStringList(OkMessage(u"Edit"_s, u"exclamation"_s,
+                                       u"Unsaved edits cannot be kept: Permission denied\n"
+                                       "What is not saved is lost when the editor is closed."_s)));
+        shown.Run([&] {
+            ChooseRestore(shown);
+            QCOMPARE(shown.Text(2, 5), u"555"_s);
+            QCOMPARE(shown.Text(5, 5), u"558"_s);
+        });
+    }
+};
+
+template struct ListedWindowTest<frmEditUnsavedTest>;
+
+} // namespace quorvex::tests
+
+#include "frmEditUnsavedTest.moc"
