@@ -3,13 +3,17 @@
 
 #include "editor/basBlocks.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace quorvex::editor {
 
 namespace {
 
-using CellTexts = std::vector<std::string_view>;
+using CellTexts = std::vector<std::string>;
 
 template <class Visit>
 void VisitCells(Block const& block, Visit const& visit) {
@@ -20,35 +24,98 @@ void VisitCells(Block const& block, Visit const& visit) {
     }
 }
 
-// The part in front of the separator; the rest of the text loses both.
-std::string_view TakeUpTo(std::string_view& text, char separator) {
-    auto const end = text.find(separator);
-    auto const part = text.substr(0, end);
-    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    return part;
-}
+// A cell as spreadsheet programs quote it, and what stands behind it.
+struct QuotedCell {
+    std::string Text;
+    std::string_view Rest;
+    bool HasBreak = false; // a tab or a line end inside
+};
 
-CellTexts SplitLine(std::string_view line) {
-    CellTexts cells;
-    bool hasMore = true;
-    while (hasMore) {
-        hasMore = line.find('\t') != std::string_view::npos;
-        cells.push_back(TakeUpTo(line, '\t'));
+// The quoted cell that the text starts with; nothing when it starts with another one. A cell of the grid has
+// one line: a line end becomes a blank.
+std::optional<QuotedCell> QuotedAtStart(std::string_view text) {
+    if (!text.starts_with('"')) {
+        return std::nullopt;
     }
-    return cells;
-}
-
-// A line end behind the last row starts no other one.
-std::vector<CellTexts> SplitRows(std::string_view text) {
-    std::vector<CellTexts> rows;
-    while (!text.empty()) {
-        std::string_view line = TakeUpTo(text, '\n');
-        if (line.ends_with('\r')) {
-            line.remove_suffix(1);
+    QuotedCell cell;
+    for (std::size_t at = 1; at < text.size(); ++at) {
+        char const c = text[at];
+        bool const isMark = c == '"';
+        if (isMark && !text.substr(at + 1).starts_with('"')) {
+            cell.Rest = text.substr(at + 1);
+            bool const isEnd = cell.Rest.empty() || cell.Rest.find_first_of("\t\r\n") == 0;
+            return isEnd ? std::optional(cell) : std::nullopt;
         }
-        rows.push_back(SplitLine(line));
+        at += isMark ? 1 : 0; // two of them stand for one
+        bool const isLineEnd = c == '\n' || c == '\r';
+        cell.HasBreak = cell.HasBreak || isLineEnd || c == '\t';
+        if (c != '\r' || !text.substr(at + 1).starts_with('\n')) {
+            cell.Text += isLineEnd ? ' ' : c;
+        }
     }
-    return rows;
+    return std::nullopt;
+}
+
+// Takes the rows of a text one cell after the other. A line end behind the last row starts no other one.
+class RowSplitter {
+public:
+    RowSplitter(std::string_view text, bool isQuoted) : rest_(text), isQuoted_(isQuoted) {}
+
+    [[nodiscard]] std::vector<CellTexts> Split() {
+        std::vector<CellTexts> rows;
+        while (!rest_.empty()) {
+            CellTexts cells;
+            do {
+                cells.push_back(TakeCell());
+            } while (TakeTab());
+            TakeLineEnd();
+            rows.push_back(std::move(cells));
+        }
+        return rows;
+    }
+
+    // Whether a quoted cell has a tab or a line end inside.
+    [[nodiscard]] bool HasBreaks() const { return hasBreaks_; }
+
+private:
+    std::string TakeCell() {
+        if (auto cell = isQuoted_ ? QuotedAtStart(rest_) : std::nullopt) {
+            hasBreaks_ = hasBreaks_ || cell->HasBreak;
+            rest_ = cell->Rest;
+            return std::move(cell->Text);
+        }
+        std::size_t end = std::min(rest_.find_first_of("\t\n"), rest_.size());
+        bool const isRowEnd = end == rest_.size() || rest_[end] == '\n';
+        if (isRowEnd && rest_.substr(0, end).ends_with('\r')) {
+            --end;
+        }
+        std::string cell(rest_.substr(0, end));
+        rest_.remove_prefix(end);
+        return cell;
+    }
+
+    bool TakeTab() {
+        bool const isTab = rest_.starts_with('\t');
+        rest_.remove_prefix(isTab ? 1 : 0);
+        return isTab;
+    }
+
+    void TakeLineEnd() {
+        rest_.remove_prefix(rest_.starts_with('\r') ? 1 : 0);
+        rest_.remove_prefix(rest_.starts_with('\n') ? 1 : 0);
+    }
+
+    std::string_view rest_;
+    bool isQuoted_;
+    bool hasBreaks_ = false;
+};
+
+// Quotation marks are a part of the cells, as in what the grid itself copies, unless a quoted cell holds what
+// separates cells: then the text quotes them as spreadsheet programs do.
+std::vector<CellTexts> SplitRows(std::string_view text) {
+    RowSplitter quoted(text, true);
+    auto rows = quoted.Split();
+    return quoted.HasBreaks() ? rows : RowSplitter(text, false).Split();
 }
 
 } // namespace
@@ -78,7 +145,7 @@ bool PasteText(Sheet& sheet, Block const& block, std::string_view text) {
     int row = block.Row;
     for (CellTexts const& cells : rows) {
         int column = block.Column;
-        for (std::string_view const cell : cells) {
+        for (std::string const& cell : cells) {
             bool const isInside = row <= sheet.RowCount() && column <= Sheet::Columns;
             if (isInside) {
                 sheet.SetText(static_cast<std::int16_t>(row), static_cast<std::int16_t>(column), cell);

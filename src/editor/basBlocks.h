@@ -19,8 +19,9 @@ namespace quorvex::editor {
 void ClearBlock(Sheet& sheet, Block const& block);
 
 // Puts such a text into the grid, with its first cell in the block's first; a single cell goes into every
-// cell of the block. Rows are not added: cells that would lie beyond the grid are left out. Returns whether
-// all found their place.
+// cell of the block. When a cell is quoted because it holds a tab or a line end, all that are quoted lose
+// their marks, and line ends inside become blanks. Rows are not added: cells that would lie beyond the grid
+// are left out. Returns whether all found their place.
 [[nodiscard]] bool PasteText(Sheet& sheet, Block const& block, std::string_view text);
 
 } // namespace quorvex::editor

@@ -71,6 +71,26 @@ TEST_F(Blocks, AreFilledByASingleCell) {
     }
 }
 
+TEST_F(Blocks, TakeQuotedCellsOfSeveralLinesAsOne) {
+    EXPECT_TRUE(PasteText(sheet, {1, 2, 1, 2}, "\"a\r\nb\"\t\"2\"\n3\t\"say \"\"x\"\"\ty\"\r\n"));
+    EXPECT_THAT(RowTexts(1), ElementsAre("01/01/01", "a b", "2", "101.00", "101.00", "1200", "3400"));
+    EXPECT_THAT(RowTexts(2),
+                ElementsAre("01/02/01", "3", "say \"x\"\ty", "102.00", "102.00", "1200", "3400"));
+    EXPECT_EQ(RowTexts(3)[1], "103.25");
+}
+
+TEST_F(Blocks, KeepQuotationMarksThatSeparateNothing) {
+    EXPECT_TRUE(PasteText(sheet, {1, 2, 1, 2}, "\"a\"\t\"b\nc\t\"d\n"));
+    EXPECT_THAT(RowTexts(1), ElementsAre("01/01/01", "\"a\"", "\"b", "101.00", "101.00", "1200", "3400"));
+    EXPECT_THAT(RowTexts(2), ElementsAre("01/02/01", "c", "\"d", "102.00", "102.00", "1200", "3400"));
+}
+
+TEST_F(Blocks, LoseOneCarriageReturnAtTheEndOfARow) {
+    EXPECT_TRUE(PasteText(sheet, {1, 2, 1, 2}, "1\r\t2\r\r\n3\r"));
+    EXPECT_THAT(RowTexts(1), ElementsAre("01/01/01", "1\r", "2\r", "101.00", "101.00", "1200", "3400"));
+    EXPECT_EQ(RowTexts(2)[1], "3");
+}
+
 TEST_F(Blocks, OfNothingChangeNothing) {
     auto const before = GridTexts();
     EXPECT_TRUE(PasteText(sheet, {1, 1, 3, 7}, ""));

@@ -124,9 +124,6 @@ bool SpreadGrid::AskWindow(QKeyEvent const& event) {
 }
 
 bool SpreadGrid::WorkOnBlock(QKeyEvent const& event) {
-    if (!SelectedBlock()) {
-        return false;
-    }
     if (event.matches(QKeySequence::Copy)) {
         Copy();
     } else if (event.matches(QKeySequence::Cut)) {
@@ -172,11 +169,13 @@ void SpreadGrid::Clear() {
 
 void SpreadGrid::Paste() {
     auto const block = SelectedBlock();
-    if (!block) {
+    std::string const text = platform::pictures::FromQt(QGuiApplication::clipboard()->text());
+    auto const behindLast = static_cast<std::int16_t>(sheet_.RowCount() + 1);
+    bool const isDone = pasteTable_ && pasteTable_(block ? block->Row : behindLast, text);
+    if (isDone || !block) {
         return;
     }
-    bool const hasAll =
-        PasteText(sheet_, *block, platform::pictures::FromQt(QGuiApplication::clipboard()->text()));
+    bool const hasAll = PasteText(sheet_, *block, text);
     model_.ShowSheet();
     Q_EMIT Edited();
     if (!hasAll) {

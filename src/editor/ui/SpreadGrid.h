@@ -9,6 +9,10 @@
 #include "editor/ui/SpreadModel.h"
 
 #include <QTableView>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <utility>
 
 namespace quorvex::editor::ui {
 
@@ -35,11 +39,18 @@ public:
     [[nodiscard]] double Width() const override;
     void SetSize(double width, double height) override;
 
-    // Work on the cells that are selected; without a cursor they do nothing.
+    // Work on the cells that are selected. Without a cursor they do nothing; but a table can be pasted into a
+    // grid without rows.
     void Cut();
     void Copy();
     void Paste();
     void Clear();
+
+    // Lets this have a text that is to be pasted, together with the row to paste it into, first. It returns
+    // whether it has done so, or told why not.
+    using TablePaste = std::function<bool(std::int16_t row, std::string const& text)>;
+
+    void OfferTables(TablePaste paste) { pasteTable_ = std::move(paste); }
 
 Q_SIGNALS:
     void UndoWanted();
@@ -73,6 +84,7 @@ private:
     Sheet sheet_;
     SpreadModel model_{sheet_};
     CellDelegate delegate_;
+    TablePaste pasteTable_;
 };
 
 } // namespace quorvex::editor::ui

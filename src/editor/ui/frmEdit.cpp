@@ -6,6 +6,7 @@
 #include "editor/basEdit.h"
 #include "editor/basListing.h"
 #include "editor/basSave.h"
+#include "editor/tables/basTables.h"
 #include "editor/ui/CellMenu.h"
 #include "platform/pictures/QtTexts.h"
 #include "platform/qt/NominalFrame.h"
@@ -59,6 +60,7 @@ frmEdit::frmEdit(QWidget* parent, quotes::QuoteSeries& series, settings::Setting
     });
     connect(spread_, &SpreadGrid::Edited, this, &frmEdit::ForgetStatus);
     connect(spread_, &SpreadGrid::Edited, this, [this] { Record(); });
+    spread_->OfferTables([this](std::int16_t row, std::string const& text) { return PasteTable(row, text); });
     connect(spread_, &SpreadGrid::UndoWanted, this, Runs([this] { Undo(); }));
     connect(spread_, &SpreadGrid::RedoWanted, this, Runs([this] { Redo(); }));
     connect(spread_, &SpreadGrid::MenuWanted, this, &frmEdit::ShowMenu);
@@ -160,6 +162,18 @@ void frmEdit::TellNotKept(std::optional<text::RunTimeError> const& error) {
         Qt::QueuedConnection);
 }
 
+bool frmEdit::PasteTable(std::int16_t row, std::string const& text) {
+    bool const isTable = tables::IsTable(text);
+    if (isTable) {
+        Run([&] {
+            if (tables::PasteTable(*editor_, row, text, settings_, dialogs_)) {
+                ForgetStatus();
+            }
+        });
+    }
+    return isTable;
+}
+
 void frmEdit::ShowMenu(QPoint place) {
     bool const hasCursor = spread_->currentIndex().isValid();
     ShowCellMenu(*this, place,
@@ -172,7 +186,7 @@ void frmEdit::ShowMenu(QPoint place) {
                    Runs([this] { spread_->Cut(); })},
                   {QStringLiteral("mnuCellsCopy"), QStringLiteral("&Copy"), QKeySequence::Copy, hasCursor,
                    Runs([this] { spread_->Copy(); })},
-                  {QStringLiteral("mnuCellsPaste"), QStringLiteral("&Paste"), QKeySequence::Paste, hasCursor,
+                  {QStringLiteral("mnuCellsPaste"), QStringLiteral("&Paste"), QKeySequence::Paste, true,
                    Runs([this] { spread_->Paste(); })},
                   {QStringLiteral("mnuCellsClear"), QStringLiteral("C&lear"), Qt::Key_Delete, hasCursor,
                    Runs([this] { spread_->Clear(); })},

@@ -64,6 +64,9 @@ private:
     void Redo();
     void ShowUndone(Change const& change);
     void RestoreUnsaved();
+
+    // Pastes the text when it is a table. Returns whether it is one.
+    bool PasteTable(std::int16_t row, std::string const& text);
     void Keep(Change const& change, ChangeKind kind);
 
     // That edits are not kept is told once, when the event that brought it about is over.

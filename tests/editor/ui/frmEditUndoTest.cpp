@@ -301,7 +301,7 @@ private Q_SLOTS:
                 items = ItemsOf(menu);
                 QTest::keyClick(&menu, Qt::Key_R);
             });
-            QCOMPARE(items.filter(u"grey"_s).size(), 6);
+            QCOMPARE(items.filter(u"grey"_s).size(), 5);
             QCOMPARE(shown.Grid().model()->rowCount(), 1);
             QCOMPARE(shown.Text(1, 2), u"0.00"_s);
         });
