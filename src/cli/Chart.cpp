@@ -5,6 +5,7 @@
 #include "cli/ChartJson.h"
 #include "cli/ChartSheet.h"
 #include "cli/ConsoleDialogs.h"
+#include "cli/PictureFiles.h"
 #include "cli/PipeFiles.h"
 #include "cli/SubCommands.h"
 #include "platform/basMessages.h"
@@ -55,24 +56,25 @@ CLI::Validator IsSize() {
             ""};
 }
 
-CLI::Validator IsChartFile(bool hasPictures) {
-    return {[hasPictures](std::string const& text) -> std::string {
+CLI::Validator IsChartFile(platform::PictureEncoder const& encoder) {
+    return {[&encoder](std::string const& text) -> std::string {
                 if (text == PipeName || text::UpperCase(text).ends_with(".JSON")) {
                     return {};
                 }
-                if (!platform::PictureKindOf(text)) {
+                auto const kind = platform::PictureKindOf(text);
+                if (!kind) {
                     return text + " does not end with .png, .svg, .pdf or .json";
                 }
-                return hasPictures ? "" : text + " is a picture, and this program was built without Qt";
+                return encoder.Makes(*kind) ? "" : text + NeedsQt;
             },
             ""};
 }
 
-bool WriteChart(std::string const& path, ChartSheet const& sheet, platform::PictureEncoder* encoder) {
+bool WriteChart(std::string const& path, ChartSheet const& sheet, platform::PictureEncoder& encoder) {
     ConsoleDialogs dialogs(OutputName(path));
     return platform::RunReported(dialogs, [&] {
         auto const kind = platform::PictureKindOf(path);
-        PipeFiles().Overwrite(path, kind ? sheet.Encode(*encoder, *kind) : ChartJson(sheet.Drawings()));
+        PipeFiles().Overwrite(path, kind ? sheet.Encode(encoder, *kind) : ChartJson(sheet.Drawings()));
     });
 }
 
@@ -85,7 +87,7 @@ void RequirePicture(ChartSheet const& sheet, ChartOptions const& options) {
     }
 }
 
-ExitStatus Chart(ChartOptions const& options, platform::PictureEncoder* encoder) {
+ExitStatus Chart(ChartOptions const& options, platform::PictureEncoder& encoder) {
     WindowSize size;
     if (!options.Size.empty()) {
         ReadSize(options.Size, size);
@@ -102,10 +104,9 @@ ExitStatus Chart(ChartOptions const& options, platform::PictureEncoder* encoder)
 
 } // namespace
 
-void AddChart(CLI::App& app, platform::PictureEncoder* encoder, ExitStatus& status) {
+void AddChart(CLI::App& app, platform::PictureEncoder& encoder, ExitStatus& status) {
     auto const options = std::make_shared<ChartOptions>();
     CLI::App* command = app.add_subcommand("chart", "Draw the four charts into a file");
-    bool const hasPictures = encoder != nullptr;
     AddAnalysisOptions(*command, options->Analysis);
     command
         ->add_option("--size", options->Size,
@@ -113,10 +114,10 @@ void AddChart(CLI::App& app, platform::PictureEncoder* encoder, ExitStatus& stat
         ->type_name("WxH")
         ->check(IsSize());
     command->add_option("-o", options->OutputPath, "File to write, - for JSON on standard output")
-        ->type_name(hasPictures ? "FILE.png|.svg|.pdf|.json" : "FILE.json")
+        ->type_name(FileKinds(encoder) + "|.json")
         ->required()
-        ->check(IsChartFile(hasPictures));
-    command->callback([options, encoder, &status] { status = Chart(*options, encoder); });
+        ->check(IsChartFile(encoder));
+    command->callback([options, &encoder, &status] { status = Chart(*options, encoder); });
 }
 
 } // namespace quorvex::cli

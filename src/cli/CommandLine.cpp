@@ -28,10 +28,10 @@ int RunCommandLine(int argc, char** argv, Outputs (*makeOutputs)()) {
         platform::disk::HostConsole const console;
         Outputs const outputs = makeOutputs();
         AddAnalyse(app, console, status);
-        AddChart(app, outputs.Pictures.get(), status);
+        AddChart(app, *outputs.Pictures, status);
         AddCheck(app, status);
         AddConvert(app, status);
-        AddEvaluate(app, console, outputs.Pictures.get(), status);
+        AddEvaluate(app, console, *outputs.Pictures, status);
         AddImport(app, status);
         AddList(app, outputs.Printing.get(), status);
         AddPrint(app, outputs.Printing.get(), status);

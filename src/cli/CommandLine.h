@@ -11,10 +11,10 @@
 
 namespace quorvex::cli {
 
-// What draws and prints without a display; nothing in a build without Qt.
+// What draws and prints without a display.
 struct Outputs {
     std::unique_ptr<platform::PictureEncoder> Pictures;
-    std::unique_ptr<platform::PdfPrintQueue> Printing;
+    std::unique_ptr<platform::PdfPrintQueue> Printing; // none in a build without Qt
 };
 
 // Runs the sub-command that the arguments of main() name. Faults are told on standard error, those of making

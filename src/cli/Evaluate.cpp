@@ -4,6 +4,7 @@
 #include "cli/AnalysisSession.h"
 #include "cli/ConsoleDialogs.h"
 #include "cli/EvaluationJson.h"
+#include "cli/PictureFiles.h"
 #include "cli/PipeFiles.h"
 #include "cli/ProgressBar.h"
 #include "cli/StandardStreams.h"
@@ -33,12 +34,13 @@ struct EvaluateOptions {
     std::string PlotPath;
 };
 
-CLI::Validator IsPictureFile(bool hasPictures) {
-    return {[hasPictures](std::string const& text) -> std::string {
-                if (!hasPictures) {
-                    return "this program was built without Qt and draws no pictures";
+CLI::Validator IsPictureFile(platform::PictureEncoder const& encoder) {
+    return {[&encoder](std::string const& text) -> std::string {
+                auto const kind = platform::PictureKindOf(text);
+                if (!kind) {
+                    return text + " does not end with .png, .svg or .pdf";
                 }
-                return platform::PictureKindOf(text) ? "" : text + " does not end with .png, .svg or .pdf";
+                return encoder.Makes(*kind) ? "" : text + NeedsQt;
             },
             ""};
 }
@@ -85,13 +87,13 @@ bool WritePlot(std::string const& path, evaluation::Evaluation const& evaluation
 }
 
 ExitStatus Evaluate(EvaluateOptions const& options, platform::Console const& console,
-                    platform::PictureEncoder* encoder) {
+                    platform::PictureEncoder& encoder) {
     AnalysisSession session(options.Analysis);
     auto const result = Test(options, session, console);
     if (!result) {
         return ExitStatus::Refused;
     }
-    bool const isDrawn = options.PlotPath.empty() || WritePlot(options.PlotPath, *result, *encoder);
+    bool const isDrawn = options.PlotPath.empty() || WritePlot(options.PlotPath, *result, encoder);
     bool const isPrinted =
         Print(options.Json ? EvaluationJson(*result) : evaluation::EvaluationReport(*result));
     return session.Status(isDrawn && isPrinted);
@@ -99,7 +101,7 @@ ExitStatus Evaluate(EvaluateOptions const& options, platform::Console const& con
 
 } // namespace
 
-void AddEvaluate(CLI::App& app, platform::Console const& console, platform::PictureEncoder* encoder,
+void AddEvaluate(CLI::App& app, platform::Console const& console, platform::PictureEncoder& encoder,
                  ExitStatus& status) {
     constexpr int LargestEvery = 400;
     auto const options = std::make_shared<EvaluateOptions>();
@@ -127,10 +129,10 @@ void AddEvaluate(CLI::App& app, platform::Console const& console, platform::Pict
     command
         ->add_option("--plot", options->PlotPath,
                      "Draw errors and forecasts into a file, in the place of one that is there")
-        ->type_name("FILE.png|.svg|.pdf")
-        ->check(IsPictureFile(encoder != nullptr));
+        ->type_name(FileKinds(encoder))
+        ->check(IsPictureFile(encoder));
     command->callback(
-        [options, &console, encoder, &status] { status = Evaluate(*options, console, encoder); });
+        [options, &console, &encoder, &status] { status = Evaluate(*options, console, encoder); });
 }
 
 } // namespace quorvex::cli

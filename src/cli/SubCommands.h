@@ -18,7 +18,7 @@ namespace quorvex::cli {
 void AddAnalyse(CLI::App& app, platform::Console const& console, ExitStatus& status);
 
 // "chart". Without an encoder it writes no pictures, JSON alone.
-void AddChart(CLI::App& app, platform::PictureEncoder* encoder, ExitStatus& status);
+void AddChart(CLI::App& app, platform::PictureEncoder& encoder, ExitStatus& status);
 
 // "check".
 void AddCheck(CLI::App& app, ExitStatus& status);
@@ -30,7 +30,7 @@ void AddConvert(CLI::App& app, ExitStatus& status);
 void AddFormat(CLI::App& app, ExitStatus& status);
 
 // "evaluate". Without an encoder it draws no plot.
-void AddEvaluate(CLI::App& app, platform::Console const& console, platform::PictureEncoder* encoder,
+void AddEvaluate(CLI::App& app, platform::Console const& console, platform::PictureEncoder& encoder,
                  ExitStatus& status);
 
 // "import".

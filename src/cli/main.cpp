@@ -7,6 +7,8 @@
 #ifdef QUORVEX_PICTURES
 #include "platform/pictures/QtPdfPrintQueue.h"
 #include "platform/pictures/QtPictureEncoder.h"
+#else
+#include "platform/basSvg.h"
 #endif
 
 #include <memory>
@@ -18,7 +20,7 @@ quorvex::cli::Outputs MakeOutputs() {
     namespace pictures = quorvex::platform::pictures;
     return {std::make_unique<pictures::QtPictureEncoder>(), std::make_unique<pictures::QtPdfPrintQueue>()};
 #else
-    return {};
+    return {std::make_unique<quorvex::platform::SvgEncoder>(), nullptr};
 #endif
 }
 

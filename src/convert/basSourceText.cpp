@@ -4,74 +4,28 @@
 #include "convert/basSourceText.h"
 
 #include "richtext/basCodePages.h"
+#include "text/basUtf8.h"
 
-#include <algorithm>
-#include <array>
 #include <cstddef>
 
 namespace quorvex::convert {
 
-namespace {
-
-// First bytes of characters of UTF-8, how many bytes follow, and between which the second one lies: what is
-// outside spells no character, or one in more bytes than it needs.
-struct LeadRow {
-    unsigned char First;
-    unsigned char Last;
-    std::size_t Following;
-    unsigned char SecondFrom;
-    unsigned char SecondTo;
-};
-
-constexpr std::array<LeadRow, 9> LeadTable = {{
-    {0x00, 0x7F, 0, 0x00, 0x00},
-    {0xC2, 0xDF, 1, 0x80, 0xBF},
-    {0xE0, 0xE0, 2, 0xA0, 0xBF},
-    {0xE1, 0xEC, 2, 0x80, 0xBF},
-    {0xED, 0xED, 2, 0x80, 0x9F},
-    {0xEE, 0xEF, 2, 0x80, 0xBF},
-    {0xF0, 0xF0, 3, 0x90, 0xBF},
-    {0xF1, 0xF3, 3, 0x80, 0xBF},
-    {0xF4, 0xF4, 3, 0x80, 0x8F},
-}};
-
-bool LiesBetween(char byte, unsigned char from, unsigned char to) {
-    auto const value = static_cast<unsigned char>(byte);
-    return value >= from && value <= to;
-}
-
-// How many bytes the character of UTF-8 has that the text begins with; 0 when it begins with none.
-std::size_t LengthOfCharacter(std::string_view text) {
-    auto const lead = std::ranges::find_if(
-        LeadTable, [&](LeadRow const& row) { return LiesBetween(text.front(), row.First, row.Last); });
-    if (lead == LeadTable.end() || text.size() <= lead->Following) {
-        return 0;
-    }
-    std::string_view const following = text.substr(1, lead->Following);
-    bool const isWhole =
-        following.empty() ||
-        (LiesBetween(following.front(), lead->SecondFrom, lead->SecondTo) &&
-         std::ranges::all_of(following.substr(1), [](char byte) { return LiesBetween(byte, 0x80, 0xBF); }));
-    return isWhole ? following.size() + 1 : 0;
-}
-
-} // namespace
-
 std::string ReadableText(std::string_view bytes) {
     constexpr int Western = 1252;
     static richtext::CodePage const page = richtext::FindCodePage(Western);
-    std::string text;
+    std::string readable;
     while (!bytes.empty()) {
-        std::size_t length = LengthOfCharacter(bytes);
+        std::size_t length = text::LengthOfCharacter(bytes);
         if (length > 0) {
-            text += bytes.substr(0, length);
+            readable += bytes.substr(0, length);
         } else {
-            richtext::AppendUtf8(text, richtext::DecodeByte(page, static_cast<unsigned char>(bytes.front())));
+            richtext::AppendUtf8(readable,
+                                 richtext::DecodeByte(page, static_cast<unsigned char>(bytes.front())));
             length = 1;
         }
         bytes.remove_prefix(length);
     }
-    return text;
+    return readable;
 }
 
 } // namespace quorvex::convert

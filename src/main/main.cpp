@@ -9,6 +9,7 @@
 #include "platform/Registry.h"
 #include "platform/basMessages.h"
 #include "platform/disk/DiskFiles.h"
+#include "platform/qt/CarriedImage.h"
 #include "platform/qt/ProgramPlace.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtLauncher.h"
@@ -40,7 +41,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     quorvex::app::ui::LoadResources();
     QApplication::setApplicationName(QStringLiteral("Quorvex"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/Quorvex.svg")));
+    QApplication::setWindowIcon(qt::CarriedImage(QStringLiteral("Quorvex")));
     qt::SetProgramFont();
 
     quorvex::platform::disk::DiskFiles files;

@@ -39,6 +39,9 @@ public:
     PictureEncoder& operator=(PictureEncoder const&) = delete;
     virtual ~PictureEncoder() = default;
 
+    // Whether it can make files of this kind.
+    [[nodiscard]] virtual bool Makes(PictureKind kind) const = 0;
+
     // The bytes of the image file. Every drawing gets a thin border. Raises "Invalid procedure call or
     // argument" for a sheet without an extent and when the picture cannot be made, as of one too large.
     [[nodiscard]] virtual std::string Encode(PictureSheet const& sheet, PictureKind kind) = 0;

@@ -129,6 +129,25 @@ TEST(Chart, OfARefusedFileIsNotWritten) {
     EXPECT_EQ(folder.EntryCount(), 0);
 }
 
+std::string Picture(std::string const& name, std::string const& size = "16500x12000") {
+    TemporaryFolder const folder;
+    auto const run = RunCompanion(
+        {"chart", GoldenPath("quotes/q060.txt"), "--automate", "2", "--size", size, "-o", folder.File(name)});
+    EXPECT_EQ(run.ExitStatus, 0) << run.Errors;
+    EXPECT_EQ(run.Errors, "");
+    EXPECT_EQ(run.Output, "");
+    return folder.Read(name);
+}
+
+TEST(Chart, IsAnSvgWithItsTexts) {
+    auto const svg = Picture("charts.svg");
+    EXPECT_TRUE(svg.starts_with("<?xml"));
+    EXPECT_NE(svg.find("viewBox=\"0 0 1087"), std::string::npos);
+    EXPECT_NE(svg.find("#ff00ff"), std::string::npos);              // the moving average
+    EXPECT_NE(svg.find("font-weight=\"bold\""), std::string::npos); // the price labels
+    EXPECT_TRUE(svg.ends_with("</svg>\n"));
+}
+
 #ifdef QUORVEX_PICTURES
 
 // A whole number of four bytes, the highest first, as PNG has them.
@@ -140,16 +159,6 @@ int NumberAt(std::string const& bytes, std::size_t place) {
     return number;
 }
 
-std::string Picture(std::string const& name, std::string const& size = "16500x12000") {
-    TemporaryFolder const folder;
-    auto const run = RunCompanion(
-        {"chart", GoldenPath("quotes/q060.txt"), "--automate", "2", "--size", size, "-o", folder.File(name)});
-    EXPECT_EQ(run.ExitStatus, 0) << run.Errors;
-    EXPECT_EQ(run.Errors, "");
-    EXPECT_EQ(run.Output, "");
-    return folder.Read(name);
-}
-
 TEST(Chart, IsAPngOfTheChartsWithAMargin) {
     auto const png = Picture("charts.PNG");
     ASSERT_GT(png.size(), 24U);
@@ -158,14 +167,6 @@ TEST(Chart, IsAPngOfTheChartsWithAMargin) {
     EXPECT_EQ(NumberAt(png, 16), 1087);
     EXPECT_EQ(NumberAt(Picture("charts.png", "33000x24000"), 16), 2154);
     EXPECT_GT(NumberAt(png, 20), 600);
-}
-
-TEST(Chart, IsAnSvgWithItsTexts) {
-    auto const svg = Picture("charts.svg");
-    EXPECT_TRUE(svg.starts_with("<?xml"));
-    EXPECT_NE(svg.find("viewBox=\"0 0 1087"), std::string::npos);
-    EXPECT_NE(svg.find("#ff00ff"), std::string::npos); // the moving average
-    EXPECT_TRUE(svg.ends_with("</svg>\n"));
 }
 
 TEST(Chart, IsAPdfOfOnePage) {

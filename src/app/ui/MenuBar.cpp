@@ -4,6 +4,7 @@
 #include "app/ui/MenuBar.h"
 
 #include "platform/pictures/QtTexts.h"
+#include "platform/qt/CarriedImage.h"
 
 #include <QHBoxLayout>
 #include <QMenu>
@@ -54,7 +55,7 @@ QToolButton* MakeTool(QWidget& strip, ToolRow const& tool, RunCommand const& run
     MenuRow const& row = MenuRowNamed(tool.MenuName);
     auto* button = new QToolButton(&strip);
     button->setObjectName(ToQt(tool.Name));
-    button->setIcon(QIcon(QStringLiteral(":/images/%1.svg").arg(ToQt(tool.Name))));
+    button->setIcon(platform::qt::CarriedImage(ToQt(tool.Name)));
     button->setIconSize(ImageSize);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);

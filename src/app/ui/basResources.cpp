@@ -10,6 +10,7 @@
 
 // Outside of every namespace, as the resource compiler wants it.
 static void InitialiseResources() {
+    Q_INIT_RESOURCE(Images);
     Q_INIT_RESOURCE(Quorvex);
 }
 

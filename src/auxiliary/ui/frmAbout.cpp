@@ -4,6 +4,7 @@
 #include "auxiliary/ui/frmAbout.h"
 
 #include "platform/pictures/QtTexts.h"
+#include "platform/qt/CarriedImage.h"
 #include "platform/qt/QtDialogs.h"
 #include "ui_frmAbout.h"
 
@@ -17,8 +18,8 @@ frmAbout::frmAbout(QWidget* parent, std::string_view version, std::function<void
       ui_(std::make_unique<Ui::frmAbout>()) {
     constexpr int IconSize = 64;
     ui_->setupUi(this);
-    ui_->picIcon->setPixmap(
-        QIcon(QStringLiteral(":/images/Quorvex.svg")).pixmap(QSize(IconSize, IconSize), devicePixelRatioF()));
+    ui_->picIcon->setPixmap(platform::qt::CarriedImage(QStringLiteral("Quorvex"))
+                                .pixmap(QSize(IconSize, IconSize), devicePixelRatioF()));
     ui_->lblTitle->setText(QStringLiteral("Quorvex"));
     ui_->lblVersion->setText(QStringLiteral("Version ") + platform::pictures::ToQt(version));
     ui_->lblDisclaimer->setText(QStringLiteral(

@@ -5,18 +5,17 @@
 #pragma once
 
 #include "platform/RecordingCanvas.h"
+#include "platform/basInking.h"
 
 #include <QColor>
 #include <QFont>
 #include <QPainter>
+#include <string_view>
 
 namespace quorvex::platform::pictures {
 
-// To the logical pixel.
+using platform::BorderColour;
 using platform::TwipsPerPixel;
-
-// Of boxes and pictures.
-inline constexpr Colour BorderColour = 0x808080;
 
 enum class Medium {
     Pixels,  // upright and level lines fill whole ones, so that they are sharp; only curves are antialiased
@@ -32,8 +31,8 @@ struct PaintScale {
 
 [[nodiscard]] QColor ToQt(Colour colour);
 
-// The font that the operation sets, for a device where twips are so many units.
-[[nodiscard]] QFont FontOf(DrawingOperation const& operation, double unitsPerTwip);
+// The font of this size in points, for a device where twips are so many units.
+[[nodiscard]] QFont FontOf(std::string_view name, double size, bool isBold, double unitsPerTwip);
 
 // Paints the drawing with its top left corner at the painter's origin; on white, unless it is paper.
 void PaintDrawing(QPainter& painter, RecordingCanvas const& drawing, PaintScale scale);

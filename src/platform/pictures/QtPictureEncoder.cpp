@@ -3,6 +3,7 @@
 
 #include "platform/pictures/QtPictureEncoder.h"
 
+#include "platform/basSvg.h"
 #include "platform/pictures/HeadlessApplication.h"
 #include "platform/pictures/Painting.h"
 #include "text/RunTimeError.h"
@@ -11,7 +12,6 @@
 #include <QImage>
 #include <QPageSize>
 #include <QPdfWriter>
-#include <QSvgGenerator>
 #include <cmath>
 
 namespace quorvex::platform::pictures {
@@ -77,16 +77,6 @@ void WritePng(PictureSheet const& sheet, QBuffer& output) {
     Require(image.save(&output, "PNG"));
 }
 
-void WriteSvg(PictureSheet const& sheet, QBuffer& output) {
-    QSvgGenerator generator;
-    generator.setOutputDevice(&output);
-    generator.setResolution(PixelsPerInch);
-    generator.setSize(PixelSize(sheet));
-    generator.setViewBox(QRectF(0, 0, sheet.Width / TwipsPerPixel, sheet.Height / TwipsPerPixel));
-    generator.setTitle(QStringLiteral("Quorvex"));
-    PaintSheetOn(generator, sheet, Medium::Vectors);
-}
-
 void WritePdf(PictureSheet const& sheet, QBuffer& output) {
     QPdfWriter writer(&output);
     writer.setTitle(QStringLiteral("Quorvex"));
@@ -101,19 +91,16 @@ void WritePdf(PictureSheet const& sheet, QBuffer& output) {
 } // namespace
 
 std::string QtPictureEncoder::Encode(PictureSheet const& sheet, PictureKind kind) {
+    if (kind == PictureKind::Svg) {
+        return SvgOf(sheet);
+    }
     auto const application = StartApplicationWithoutDisplay();
     QBuffer output;
     Require(!PixelSize(sheet).isEmpty() && output.open(QIODevice::WriteOnly));
-    switch (kind) {
-    case PictureKind::Png:
+    if (kind == PictureKind::Png) {
         WritePng(sheet, output);
-        break;
-    case PictureKind::Svg:
-        WriteSvg(sheet, output);
-        break;
-    case PictureKind::Pdf:
+    } else {
         WritePdf(sheet, output);
-        break;
     }
     return output.data().toStdString();
 }

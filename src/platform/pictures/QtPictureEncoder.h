@@ -7,9 +7,12 @@
 
 namespace quorvex::platform::pictures {
 
-// Image files by Qt. Works without a display: where no application runs yet, it starts one that has none.
+// Image files of every kind, those of pixels and pages by Qt. Works without a display: where no application
+// runs yet, it starts one that has none.
 class QtPictureEncoder final : public PictureEncoder {
 public:
+    [[nodiscard]] bool Makes(PictureKind /*kind*/) const override { return true; }
+
     // PNG at 96 pixels to the inch; SVG and PDF in the size of the sheet.
     [[nodiscard]] std::string Encode(PictureSheet const& sheet, PictureKind kind) override;
 };

@@ -68,7 +68,7 @@ void QtPrinter::SetFont(std::string_view name, int size, bool bold) {
     fontSize_ = size;
     isBold_ = bold;
     Page().SetFont(name, size, bold);
-    font_ = FontOf(Page().Operations().back(), UnitsPerTwip());
+    font_ = FontOf(name, size, bold, UnitsPerTwip());
 }
 
 void QtPrinter::Print(std::string_view text) {
