@@ -103,7 +103,7 @@ std::string HowToSettle(Choice choice) {
     case Choice::Fraction:
         return ". Give --fraction " + Listed(FractionWords);
     case Choice::Symbol:
-        return ". Give --symbol";
+        return ". Give --symbol, or --columns not-used=N for a column that does not name the contract";
     }
     return {};
 }
@@ -204,7 +204,7 @@ ExitStatus Tell(ImportOptions const& options, ImportResult const& result) {
         ComplainOfLeftOut(result);
     } else if (options.Json) {
         isTold = Print(ImportJson(result));
-    } else if (!refused) {
+    } else {
         isTold = Print(ImportReport(result));
     }
     return isTold && !refused ? ExitStatus::Success : ExitStatus::Refused;
@@ -218,6 +218,20 @@ ExitStatus Import(ImportOptions const& options) {
     bool const isDone =
         ReadSource(options, result) && MakeFile(options, result) && WriteQuotes(options, result);
     return isDone ? Tell(options, result) : ExitStatus::Refused;
+}
+
+// Throws what each option alone cannot tell.
+void RequireSense(ImportOptions const& options) {
+    if (options.SourcePath == options.Target() && options.Target() != PipeName) {
+        throw CLI::ValidationError("The table and the quote file are the same file");
+    }
+    auto const limits = LimitsOf(options);
+    if (limits.From && limits.To && *limits.From > *limits.To) {
+        throw CLI::ValidationError("--from " + options.From + " lies behind --to " + options.To);
+    }
+    if (options.Json && options.OutputPath == PipeName && !options.IsDryRun) {
+        throw CLI::ValidationError("-o - and --json cannot both have standard output");
+    }
 }
 
 // An option whose words stand for values.
@@ -278,6 +292,7 @@ void AddImport(CLI::App& app, ExitStatus& status) {
     command->add_flag("--json", options->Json, "Print one JSON object instead of a report");
     AddChoices(*command, *options);
     command->callback([options, &status] {
+        RequireSense(*options);
         if (!options->Columns.empty()) {
             static_cast<void>(ReadColumns(options->Columns, options->Chosen)); // was checked
         }

@@ -61,14 +61,24 @@ std::string_view NameOf(imports::RowOrder order) {
     return {};
 }
 
+// What is not settled has several names.
+template <class Value>
+std::string NamesOf(std::vector<Value> const& values) {
+    std::string names;
+    for (Value const value : values) {
+        names.append(names.empty() ? "" : " or ").append(imports::NameOf(value));
+    }
+    return names;
+}
+
 void AddTable(std::string& report, ImportResult const& result) {
     imports::Plan const& plan = result.Read.Used;
     ReportPart section(report, "Table");
     section.Add("Source", result.Source);
     section.Add("Encoding", NameOf(plan.EncodedIn));
     section.Add("Separated by", NameOf(plan.SeparatedBy));
-    section.Add("Dates", WithReason(NameOf(plan.DateOrders.front()), plan.DateReason));
-    section.Add("Decimal mark", WithReason(NameOf(plan.Decimals.front()), plan.DecimalReason));
+    section.Add("Dates", WithReason(NamesOf(plan.DateOrders), plan.DateReason));
+    section.Add("Decimal mark", WithReason(NamesOf(plan.Decimals), plan.DecimalReason));
     if (plan.HasVolumeLines) {
         section.Add("Volume", "in lines of their own, with a small month letter");
     }
@@ -151,8 +161,11 @@ void AddMerge(std::string& report, ImportResult const& result) {
 void AddQuoteFile(std::string& report, ImportResult const& result) {
     auto const& days = result.File.Days;
     ReportPart section(report, "Quote file");
+    std::string const latest = !result.File.Merged && days.size() < result.Read.Days.size()
+                                   ? ", the latest of " + std::to_string(result.Read.Days.size())
+                                   : "";
     section.Add("Days", std::to_string(days.size()) + ", " + text::FormatDate(days.front().Day) + " to " +
-                            text::FormatDate(days.back().Day));
+                            text::FormatDate(days.back().Day) + latest);
     if (result.IsWritten) {
         section.Add("Written", result.Target);
     } else {
@@ -169,15 +182,22 @@ std::string FindingText(imports::Finding const& finding) {
 
 std::string ImportReport(ImportResult const& result) {
     std::string report;
+    if (result.Read.Used.Columns.empty()) {
+        return report;
+    }
     AddTable(report, result);
     AddColumns(report, result.Read.Used);
-    AddRows(report, result);
-    AddFindings(report, "Rows left out", result.Read.LeftOut);
-    AddFindings(report, "Other lines", result.Read.Notes);
-    if (result.File.Merged) {
-        AddMerge(report, result);
+    if (!result.Read.Refused) {
+        AddRows(report, result);
+        AddFindings(report, "Rows left out", result.Read.LeftOut);
+        AddFindings(report, "Other lines", result.Read.Notes);
+        if (result.File.Merged) {
+            AddMerge(report, result);
+        }
     }
-    AddQuoteFile(report, result);
+    if (!result.File.Refused) {
+        AddQuoteFile(report, result);
+    }
     return report;
 }
 

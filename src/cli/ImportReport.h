@@ -19,7 +19,7 @@ struct ImportResult {
     bool IsWritten = false;
 };
 
-// The result in words.
+// The result in words; of a refused one what was found out of the table, which may be nothing.
 [[nodiscard]] std::string ImportReport(ImportResult const& result);
 
 // What is to be said of a line: "Line 3: text", or the text alone.

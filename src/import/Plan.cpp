@@ -6,6 +6,7 @@
 #include "import/basColumns.h"
 #include "import/basTableDates.h"
 #include "import/basTableNumbers.h"
+#include "import/basWords.h"
 #include "text/Characters.h"
 #include "text/basTexts.h"
 
@@ -21,6 +22,7 @@ using Rows = std::span<SampleRow const>;
 
 constexpr std::array<DateOrder, 3> AllOrders = {DateOrder::YearMonthDay, DateOrder::MonthDayYear,
                                                 DateOrder::DayMonthYear};
+constexpr std::size_t MostOfHeading = 200; // bytes that are told
 constexpr std::array<DecimalMark, 2> AllMarks = {DecimalMark::Point, DecimalMark::Comma};
 
 // The parts that a sample has from top to bottom, each possibly empty.
@@ -34,8 +36,12 @@ bool HasDay(SampleRow const& row) {
     return std::ranges::any_of(row.Cells, [](std::string const& cell) { return IsTableDay(cell); });
 }
 
+// Single letters count where there are enough of them for open, high, low and close.
 std::ptrdiff_t CountKnownHeadings(SampleRow const& row) {
-    return std::ranges::count_if(row.Cells, IsKnownHeading);
+    auto const known = std::ranges::count_if(row.Cells, IsKnownHeading);
+    auto const letters = std::ranges::count_if(
+        row.Cells, [](std::string const& cell) { return cell.size() == 1 && IsKnownHeading(cell); });
+    return letters >= 4 ? known : known - letters;
 }
 
 // The first line of two headings above the first quotes begins the head.
@@ -70,7 +76,7 @@ std::string HeadingOf(Rows head, std::size_t column) {
     std::string heading;
     for (SampleRow const& row : head) {
         if (column < row.Cells.size() && !row.Cells[column].empty()) {
-            heading.append(heading.empty() ? "" : " ").append(row.Cells[column]);
+            heading.append(heading.empty() ? "" : " ").append(Shown(row.Cells[column], MostOfHeading));
         }
     }
     return heading;
@@ -97,7 +103,7 @@ std::optional<Refusal> TakeColumns(Plan& plan, Parts const& parts) {
 }
 
 std::string At(std::string_view cell, std::uint64_t line) {
-    return std::string(cell) + " at line " + std::to_string(line);
+    return Shown(cell, MostOfHeading) + " at line " + std::to_string(line);
 }
 
 // A cell that only one of two readings allows.
@@ -148,7 +154,7 @@ std::optional<Refusal> FindDecimalMark(Plan& plan, Rows rows, Choices const& cho
     plan.Decimals.assign(AllMarks.begin(), AllMarks.end());
     if (choices.Decimal) {
         plan.Decimals = {*choices.Decimal};
-        plan.DecimalReason = "chosen";
+        plan.DecimalReason = ReasonChosen;
         plan.IsDecimalChosen = true;
         return std::nullopt;
     }
@@ -293,7 +299,7 @@ void TakeOrders(Plan& plan, Choices const& choices) {
     plan.DateOrders.assign(AllOrders.begin(), AllOrders.end());
     if (choices.DateOrder) {
         plan.DateOrders = {*choices.DateOrder};
-        plan.DateReason = "chosen";
+        plan.DateReason = ReasonChosen;
         plan.IsDateChosen = true;
     }
 }

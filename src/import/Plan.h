@@ -12,9 +12,13 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quorvex::imports {
+
+// The reason for what the user chose.
+inline constexpr std::string_view ReasonChosen = "chosen";
 
 struct ColumnPlan {
     std::string Heading; // of all levels; empty without a head

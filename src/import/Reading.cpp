@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <chrono>
 #include <functional>
+#include <limits>
 #include <string>
 
 namespace quorvex::imports {
@@ -58,7 +59,9 @@ RowResult CheckPrices(std::array<double, FigureCount> const& figures) {
     if (volume < 0 || openInterest < 0) {
         return Bad(RowKind::Negative, volume < 0 ? Role::Volume : Role::OpenInterest);
     }
-    return {};
+    double const product = open * high * low * close;
+    bool const isSuited = product > 0 && product <= std::numeric_limits<double>::max();
+    return isSuited ? RowResult() : Bad(RowKind::Unsuited, Role::High);
 }
 
 } // namespace
@@ -91,7 +94,10 @@ RowResult Reading::Take(RowCells const& cells, bool isVolumeLine) {
         return result;
     }
     RowResult const checked = CheckPrices(quote.Figures);
-    return IsBad(checked) ? checked : Store(quote, cells.Time.empty() ? day->Time : cells.Time);
+    RowResult const stored =
+        IsBad(checked) ? checked : Store(quote, cells.Time.empty() ? day->Time : cells.Time);
+    timedCount_ += !IsBad(stored) && !IsMidnight(day->Time) ? 1U : 0U;
+    return stored;
 }
 
 RowResult Reading::TakeFigures(RowCells const& cells, DayQuote& quote) {

@@ -30,6 +30,7 @@ enum class RowKind : std::uint8_t {
     NotPositive,
     OutOfRange, // open or close lies outside of high and low, or these the wrong way round
     Negative,   // volume or open interest
+    Unsuited,   // prices whose product no double holds: the program would pass over such a quote
 };
 
 struct RowResult {
@@ -68,6 +69,9 @@ public:
 
     [[nodiscard]] bool HasGroupedCounts() const { return hasGroupedCounts_; }
 
+    // Whether the date of each row told a time that is not midnight.
+    [[nodiscard]] bool AreAllTimed() const { return timedCount_ == stored_.size(); }
+
     // A price that can be thousands as well as 32nds, when no price told which.
     [[nodiscard]] std::uint64_t OpenTicksLine() const { return hasSureTicks_ ? 0 : ticksLine_; }
 
@@ -88,6 +92,7 @@ private:
     std::vector<Stored> stored_;
     std::vector<std::uint32_t> volumeSlots_;
     std::vector<DayQuote> volumes_;
+    std::size_t timedCount_ = 0;
     bool hasGroupedPrices_ = false;
     bool hasGroupedCounts_ = false;
     bool hasSureTicks_ = false;

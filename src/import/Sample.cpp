@@ -6,6 +6,7 @@
 #include "import/RecordReader.h"
 #include "import/basTableDates.h"
 #include "import/basTableNumbers.h"
+#include "text/basTexts.h"
 
 #include <algorithm>
 #include <array>
@@ -56,7 +57,32 @@ std::size_t ScoreOf(Sample const& sample) {
     return score;
 }
 
-Refusal NoTable() {
+bool IsWebPage(std::string_view text) {
+    std::size_t const first = std::min(text.find_first_not_of(" \t\r\n"), text.size());
+    std::string const start = text::UpperCase(text.substr(first, 10));
+    return start.starts_with("<!") || start.starts_with("<?XML") || start.starts_with("<HTML") ||
+           start.starts_with("<TABLE");
+}
+
+// Text has no zero bytes, and a workbook is a packed archive.
+bool IsText(std::string_view text) {
+    return text.find('\0') == std::string_view::npos && !text.starts_with("PK\x03\x04");
+}
+
+// Why no separator makes rows of quotes.
+Refusal NoTable(std::string_view text, Sample const& sample) {
+    if (!IsText(text)) {
+        return {{0, "The file is no text. Save the table as text with separators (CSV)"}, Choice::None};
+    }
+    if (IsWebPage(text)) {
+        return {{0, "The file is a web page. Save its table as text with separators (CSV)"}, Choice::None};
+    }
+    if (sample.Refused) {
+        return *sample.Refused;
+    }
+    if (sample.Rows.empty()) {
+        return {{0, "The table is empty"}, Choice::None};
+    }
     return {{0, "No row with a date and four prices was found"}, Choice::Separator};
 }
 
@@ -112,8 +138,8 @@ Sample ReadSample(std::string_view firstPart, bool isWhole, std::optional<Separa
     }
     Separator const separator = best.empty() ? chosen.value_or(Separator::Comma) : best.front();
     Sample sample = SplitRows(firstPart, isWhole, separator, SampleRows);
-    if (!sample.Refused && best.empty()) {
-        sample.Refused = NoTable();
+    if (best.empty()) {
+        sample.Refused = NoTable(firstPart, sample);
     } else if (!sample.Refused && best.size() > 1) {
         sample.Refused = Refusal{{0, "The columns can be separated by " + std::string(NameOf(best[0])) +
                                          " or " + std::string(NameOf(best[1]))},

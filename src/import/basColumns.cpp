@@ -13,6 +13,7 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -28,11 +29,18 @@ struct ColumnFacts {
     std::size_t Days = 0;      // that are not digits alone
     std::size_t DigitDays = 0; // that are
     std::size_t Times = 0;
+    std::size_t DigitTimes = 0;
+    std::size_t Weekdays = 0;
     std::size_t Numbers = 0;
+    std::size_t Digits = 0;   // numbers of digits alone
+    std::size_t Distinct = 0; // different texts
 
     [[nodiscard]] bool AreMost(std::size_t count) const { return Filled > 0 && count * 5 >= Filled * 4; }
 
     [[nodiscard]] bool HoldsNumbers() const { return AreMost(Numbers); }
+
+    // Whether each text stands in several rows, as the name of a contract does.
+    [[nodiscard]] bool AreRepeated() const { return Distinct == 1 || Distinct * 4 <= Filled; }
 };
 
 bool IsMissingCell(std::string_view cell) {
@@ -41,6 +49,7 @@ bool IsMissingCell(std::string_view cell) {
 
 ColumnFacts FactsOf(std::span<SampleRow const> rows, std::size_t column) {
     ColumnFacts facts;
+    std::set<std::string_view> texts;
     for (SampleRow const& row : rows) {
         if (column >= row.Cells.size() || IsMissingCell(row.Cells[column])) {
             continue;
@@ -51,8 +60,13 @@ ColumnFacts FactsOf(std::span<SampleRow const> rows, std::size_t column) {
             ++(AreDigits(cell) ? facts.DigitDays : facts.Days);
         }
         facts.Times += IsTimeOfDay(cell) ? 1U : 0U;
+        facts.DigitTimes += IsTimeInDigits(cell) ? 1U : 0U;
+        facts.Weekdays += IsWeekday(cell) ? 1U : 0U;
         facts.Numbers += LooksLikeNumber(cell) ? 1U : 0U;
+        facts.Digits += AreDigits(cell) ? 1U : 0U;
+        texts.insert(cell);
     }
+    facts.Distinct = texts.size();
     return facts;
 }
 
@@ -83,6 +97,7 @@ public:
     std::optional<Refusal> FindDay();
     std::optional<Refusal> FindByHeadings();
     std::optional<Refusal> FindByContent();
+    void FindNames(bool hasHead);
     [[nodiscard]] std::optional<Refusal> RequireAll() const;
 
 private:
@@ -116,8 +131,15 @@ private:
     std::optional<Refusal> FindPricesByContent(std::size_t day);
     std::optional<Refusal> FindCountsByContent(std::size_t close);
     [[nodiscard]] bool ArePrices(std::size_t first, DecimalMark mark) const;
+
+    struct DayPrices {
+        text::CalendarDay Day;
+        double First = 0;
+        double Fourth = 0;
+    };
+
     [[nodiscard]] bool ClosesLookLikeOpens(std::size_t first) const;
-    [[nodiscard]] bool IsNewestFirst() const;
+    [[nodiscard]] std::vector<DayPrices> PricesByDay(std::size_t first) const;
     [[nodiscard]] bool AreCounts(std::size_t column, DecimalMark mark) const;
     [[nodiscard]] bool AreTotals(std::size_t whole, std::size_t part) const;
     [[nodiscard]] std::optional<double> NumberAt(SampleRow const& row, std::size_t column,
@@ -169,7 +191,7 @@ std::optional<Refusal> RoleFinder::TakeChosen(Choices const& choices) {
         if (holder && *holder != found.front()) {
             return TwoCandidates(choice.Is, NumberedColumn(*holder), NumberedColumn(found.front()));
         }
-        Give(found.front(), choice.Is, "chosen");
+        Give(found.front(), choice.Is, std::string(ReasonChosen));
     }
     for (std::size_t column = 0; choices.OnlyChosenColumns && column < plan_.Columns.size(); ++column) {
         if (IsFree(column)) {
@@ -318,44 +340,35 @@ bool RoleFinder::ArePrices(std::size_t first, DecimalMark mark) const {
 }
 
 // A day opens near the close of the day before. Where the fourth column opens and the first one closes, that
-// holds the other way round, in whichever direction the rows go.
+// holds the other way round. While the order of the dates is open the days may stand in disorder.
 bool RoleFinder::ClosesLookLikeOpens(std::size_t first) const {
-    constexpr std::size_t FewestPairs = 10;
+    constexpr std::size_t FewestDays = 11;
+    auto const days = PricesByDay(first);
     double asNamed = 0;
     double exchanged = 0;
-    std::size_t pairs = 0;
-    std::optional<double> openBefore;
-    std::optional<double> closeBefore;
-    for (SampleRow const& row : rows_) {
-        auto const open = NumberAt(row, first, plan_.Decimals.front());
-        auto const close = NumberAt(row, first + 3, plan_.Decimals.front());
-        if (!open || !close) {
-            continue;
-        }
-        if (openBefore && closeBefore) {
-            asNamed += std::fabs(*open - *closeBefore);
-            exchanged += std::fabs(*close - *openBefore);
-            ++pairs;
-        }
-        openBefore = open;
-        closeBefore = close;
+    for (std::size_t day = 1; day < days.size(); ++day) {
+        asNamed += std::fabs(days[day].First - days[day - 1].Fourth);
+        exchanged += std::fabs(days[day].Fourth - days[day - 1].First);
     }
-    return pairs >= FewestPairs && (IsNewestFirst() ? asNamed < exchanged / 2 : exchanged < asNamed / 2);
+    double const margin = plan_.DateOrders.size() == 1 ? 1 : 2;
+    return days.size() >= FewestDays && exchanged * margin < asNamed;
 }
 
-bool RoleFinder::IsNewestFirst() const {
+// The first and the fourth of these columns, oldest day first.
+std::vector<RoleFinder::DayPrices> RoleFinder::PricesByDay(std::size_t first) const {
     auto const column = *plan_.Find(Role::Date);
-    std::optional<text::CalendarDay> first;
-    std::optional<text::CalendarDay> last;
+    std::vector<DayPrices> days;
     for (SampleRow const& row : rows_) {
         auto const day = column < row.Cells.size() ? ReadTableDay(row.Cells[column], plan_.DateOrders.front())
                                                    : std::nullopt;
-        if (day) {
-            first = first ? first : day->Day;
-            last = day->Day;
+        auto const open = NumberAt(row, first, plan_.Decimals.front());
+        auto const close = NumberAt(row, first + 3, plan_.Decimals.front());
+        if (day && open && close) {
+            days.push_back({day->Day, *open, *close});
         }
     }
-    return first && last && *first > *last;
+    std::ranges::stable_sort(days, {}, &DayPrices::Day);
+    return days;
 }
 
 std::optional<Refusal> RoleFinder::FindPricesByContent(std::size_t day) {
@@ -440,6 +453,8 @@ std::optional<Refusal> RoleFinder::FindByContent() {
         ColumnFacts const& facts = facts_[column];
         if (IsFree(column) && facts.AreMost(facts.Times)) {
             Give(column, Role::Time, "times of day");
+        } else if (IsFree(column) && facts.AreMost(facts.Weekdays)) {
+            Give(column, Role::Unused, "names of weekdays");
         } else if (IsFree(column) && column < *day && facts.Filled > 0 && !facts.HoldsNumbers()) {
             Give(column, Role::Symbol, "texts in front of the date");
         }
@@ -454,6 +469,23 @@ std::optional<Refusal> RoleFinder::FindByContent() {
     auto const close = plan_.Find(Role::Close);
     bool const needCounts = close && !plan_.Find(Role::Volume) && !plan_.Find(Role::OpenInterest);
     return needCounts ? FindCountsByContent(*close) : std::nullopt;
+}
+
+// What is left over: texts that repeat can name contracts, and without a head so can digits.
+void RoleFinder::FindNames(bool hasHead) {
+    for (std::size_t column = 0; column < plan_.Columns.size(); ++column) {
+        ColumnFacts const& facts = facts_[column];
+        bool const isFilled = facts.Filled > 0 && facts.Filled * 5 >= rows_.size() * 4;
+        if (!IsFree(column) || !isFilled || facts.AreMost(facts.Times) || facts.AreMost(facts.Weekdays)) {
+            continue;
+        }
+        bool const isText = !facts.HoldsNumbers() && !facts.AreMost(facts.Days);
+        if (facts.AreRepeated() && (isText || (!hasHead && facts.AreMost(facts.Digits)))) {
+            Give(column, Role::Symbol, isText ? "texts that repeat" : "numbers that repeat");
+        } else if (!hasHead && facts.AreMost(facts.DigitTimes) && !plan_.Find(Role::Time)) {
+            Give(column, Role::Time, "times of day");
+        }
+    }
 }
 
 std::optional<Refusal> RoleFinder::RequireAll() const {
@@ -485,6 +517,7 @@ std::optional<Refusal> AssignRoles(Plan& plan, std::span<SampleRow const> head,
     if (auto refusal = head.empty() ? finder.FindByContent() : finder.FindByHeadings()) {
         return refusal;
     }
+    finder.FindNames(!head.empty());
     return finder.RequireAll();
 }
 

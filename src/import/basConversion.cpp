@@ -5,7 +5,9 @@
 
 #include "import/Reading.h"
 #include "import/RecordReader.h"
+#include "import/basColumns.h"
 #include "import/basTableDates.h"
+#include "import/basWords.h"
 #include "text/basNumbers.h"
 #include "text/basTexts.h"
 
@@ -20,14 +22,13 @@ namespace quorvex::imports {
 namespace {
 
 constexpr std::size_t MostNames = 12;
+constexpr std::size_t MostOfNote = 200; // bytes of a note that are told
 constexpr std::string_view AllMonths = "DVL"; // the volume of all contracts together
 
 // A cell as it is told, quoted and not too long.
 std::string Quoted(std::string_view cell) {
     constexpr std::size_t MostShown = 40;
-    std::string text = "\"";
-    text.append(cell.substr(0, MostShown));
-    return text.append(cell.size() > MostShown ? "...\"" : "\"");
+    return "\"" + Shown(cell, MostShown) + "\"";
 }
 
 std::string The(Role role) {
@@ -63,6 +64,8 @@ std::string WhyLeftOut(RowResult const& result, RowCells const& cells) {
     case RowKind::OutOfRange:
         return result.Of == Role::High ? "the high is below the low"
                                        : The(result.Of) + " " + cell + " lies outside of high and low";
+    case RowKind::Unsuited:
+        return "the prices are beyond what a quote file can hold";
     default:
         return {};
     }
@@ -164,7 +167,8 @@ private:
 std::string Listed(std::vector<std::string> const& names) {
     std::string list;
     for (std::size_t index = 0; index < std::min(names.size(), MostNames); ++index) {
-        list.append(index == 0 ? "" : ", ").append(names[index]);
+        list.append(index == 0 ? "" : ", ");
+        list.append(names[index].empty() ? "one without a name" : Shown(names[index], MostOfNote));
     }
     return list.append(names.size() > MostNames ? ", ..." : "");
 }
@@ -188,7 +192,7 @@ public:
         }
         common_.Used = plan;
         for (Finding const& note : plan.Notes) {
-            common_.Notes.Add(note.Line, note.Text);
+            common_.Notes.Add(note.Line, Shown(note.Text, MostOfNote));
         }
     }
 
@@ -220,6 +224,9 @@ private:
     void TakeRecord(std::span<Field const> fields);
     void TakeRow(RowCells const& cells, bool isVolumeLine);
     void TakeRowInDoubt(RowCells const& cells, bool isVolumeLine);
+    [[nodiscard]] bool IsChosen(std::optional<std::size_t> column) const;
+    [[nodiscard]] bool TakeNote(RowCells const& cells);
+    [[nodiscard]] bool RepeatsTheHead(std::span<Field const> fields) const;
     void Note(Candidate& candidate, RowResult const& result, RowCells const& cells);
     static void NoteOrder(Candidate& candidate, RowCells const& cells);
     static void NoteRefusal(Candidate& candidate, RowResult const& result, RowCells const& cells);
@@ -249,9 +256,10 @@ void Converter::TakeRecord(std::span<Field const> fields) {
     if (first == fields.end()) {
         return;
     }
-    bool const isAlone = std::none_of(first + 1, fields.end(), IsFilled);
+    bool const isAlone =
+        std::none_of(first + 1, fields.end(), IsFilled) && !IsTableDay(TextAt(fields, places_.Date));
     if (isAlone || IsOfAllMonths(fields)) {
-        common_.Notes.Add(reader_.Line(), std::string(first->Text));
+        common_.Notes.Add(reader_.Line(), Shown(first->Text, MostOfNote));
         return;
     }
     ++common_.RowCount;
@@ -287,15 +295,19 @@ RowCells Converter::CellsOf(std::span<Field const> fields) {
         cells.Figures[index] = cell;
         bool const isQuoted = !cell.empty() && fields[*places_.Figures[index]].WasQuoted;
         arePricesQuoted_ = arePricesQuoted_ || (isQuoted && index < VolumeIndex);
-        // Without a head to count by, 25,086 that is not quoted would be two cells.
-        bool const isHalf = plan_.HeadLines.empty() && index >= VolumeIndex && !isQuoted &&
-                            cell.size() == 3 && cell.front() == '0';
-        if (isHalf && plan_.SeparatedBy == Separator::Comma) {
+        // A volume of 25,086 that is not quoted would be two cells.
+        bool const isHalf = index >= VolumeIndex && !isQuoted && cell.size() == 3 &&
+                            cell.front() == '0' && AreDigits(cell);
+        if (isHalf && plan_.SeparatedBy == Separator::Comma && !IsChosen(places_.Figures[index])) {
             Refuse(reader_.Line(), Quoted(cell) + " looks like the end of a number with a thousands comma",
-                   Choice::None);
+                   Choice::Columns);
         }
     }
     return cells;
+}
+
+bool Converter::IsChosen(std::optional<std::size_t> column) const {
+    return column && plan_.Columns[*column].Reason == ReasonChosen;
 }
 
 bool Converter::IsVolumeLine(std::span<Field const> fields) const {
@@ -319,10 +331,49 @@ void Converter::TakeRow(RowCells const& cells, bool isVolumeLine) {
     }
     Candidate& only = candidates_.front();
     RowResult const result = only.Read.Take(cells, isVolumeLine);
+    if (result.Kind == RowKind::NoDay && TakeNote(cells)) {
+        return;
+    }
     if (IsUnreadable(result)) {
         RefuseContradiction(result, cells);
     }
     Note(only, result, cells);
+}
+
+// A line without a day may be a note with commas in it, or a head once more: under another one the rows would
+// be read wrongly.
+bool Converter::TakeNote(RowCells const& cells) {
+    constexpr std::ptrdiff_t FewestHeadings = 3;
+    auto const fields = reader_.Fields();
+    bool const isHead = std::ranges::count_if(fields, [](Field const& field) {
+                            return IsKnownHeading(field.Text);
+                        }) >= FewestHeadings;
+    if (isHead && !RepeatsTheHead(fields)) {
+        Refuse(cells.Line, "Another head stands here: the table is several ones", Choice::None);
+        return true;
+    }
+    bool const hasFigures = std::ranges::any_of(cells.Figures, [](std::string_view cell) {
+        return std::ranges::any_of(cell, text::IsDigit);
+    });
+    if (!isHead && hasFigures) {
+        return false;
+    }
+    --common_.RowCount;
+    common_.Notes.Add(cells.Line, Shown(std::ranges::find_if(fields, IsFilled)->Text, MostOfNote));
+    return true;
+}
+
+bool Converter::RepeatsTheHead(std::span<Field const> fields) const {
+    for (std::size_t column = 0; column < fields.size(); ++column) {
+        std::string const words = FoldWords(fields[column].Text);
+        bool const isSame = column < plan_.Columns.size()
+                                ? FoldWords(plan_.Columns[column].Heading).find(words) != std::string::npos
+                                : words.empty();
+        if (!isSame) {
+            return false;
+        }
+    }
+    return true;
 }
 
 // A row that some readings can read and others cannot ends these.
@@ -335,6 +386,11 @@ void Converter::TakeRowInDoubt(RowCells const& cells, bool isVolumeLine) {
         results.push_back(candidate.Read.Take(cells, isVolumeLine));
     }
     bool const isReadable = !std::ranges::all_of(results, IsUnreadable);
+    bool const isWithoutDay = std::ranges::all_of(
+        results, [](RowResult const& result) { return result.Kind == RowKind::NoDay; });
+    if (isWithoutDay && TakeNote(cells)) {
+        return;
+    }
     if (!isReadable) {
         RefuseContradiction(results.front(), cells);
     }
@@ -357,6 +413,10 @@ void Converter::RefuseContradiction(RowResult const& result, RowCells const& cel
         Refuse(cells.Line,
                Quoted(cell) +
                    " does not have the order of the other dates: " + std::string(NameOf(one.Read.Order())),
+               Choice::DateOrder);
+    }
+    if (result.Kind == RowKind::NoDay && !plan_.IsDateChosen && HasDayBeforeMonth(cell)) {
+        Refuse(cells.Line, Quoted(cell) + " has the day in front of the month, behind the year",
                Choice::DateOrder);
     }
     if (result.Kind == RowKind::NoFigure && !plan_.IsDecimalChosen) {
@@ -489,10 +549,19 @@ void Converter::TakeOver(Candidate& candidate) {
     common_.Order = candidate.Rises   ? RowOrder::OldestFirst
                     : candidate.Falls ? RowOrder::NewestFirst
                                       : RowOrder::Mixed;
+    std::array<std::uint64_t, 8> weekdays{}; // from Monday, 1, on
     for (DayQuote const& quote : common_.Days) {
-        common_.WeekendCount += std::chrono::weekday(quote.Day).iso_encoding() > 5 ? 1U : 0U;
+        ++weekdays.at(std::chrono::weekday(quote.Day).iso_encoding());
         common_.WithoutVolume += quote.LacksVolume ? 1U : 0U;
         common_.WithoutOpenInterest += quote.LacksOpenInterest ? 1U : 0U;
+    }
+    common_.WeekendCount = weekdays[6] + weekdays[7];
+    bool const isShifted = weekdays[5] == 0 && weekdays[6] == 0 && weekdays[7] > 0 && weekdays[1] > 0;
+    if (isShifted && candidate.Read.AreAllTimed() && !common_.Refused) {
+        Refuse(common_.Days.front().Line,
+               "The dates with their times are Sundays to Thursdays: in the zone of the market each of them "
+               "is the day behind",
+               Choice::None);
     }
     if (std::uint64_t const line = candidate.Read.OpenTicksLine();
         line > 0 && !plan_.Fraction && !common_.Refused) {

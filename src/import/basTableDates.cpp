@@ -149,7 +149,7 @@ Number PartOf(std::string_view digits, std::size_t from, std::size_t length) {
     return CellScanner(digits.substr(from, length)).TakeNumber();
 }
 
-// yyyymmdd, yymmdd and so on, or seconds.
+// yyyymmdd, yymmdd and so on.
 std::optional<text::CalendarDay> DayOfDigits(std::string_view digits, Number const& number, DateOrder order) {
     constexpr std::size_t LongDate = 8;
     constexpr std::size_t ShortDate = 6;
@@ -160,11 +160,13 @@ std::optional<text::CalendarDay> DayOfDigits(std::string_view digits, Number con
         }
         return DayInOrder(PartOf(digits, 0, 2), PartOf(digits, 2, 2), PartOf(digits, 4, year), order);
     }
-    if (number.Length == MostDigits - 1 || number.Length == MostDigits) {
-        return std::chrono::floor<std::chrono::days>(
-            std::chrono::sys_seconds(std::chrono::seconds(number.Value)));
-    }
     return std::nullopt;
+}
+
+TableDay DayOfSeconds(std::string_view digits, Number const& number) {
+    std::chrono::sys_seconds const seconds{std::chrono::seconds(number.Value)};
+    auto const day = std::chrono::floor<std::chrono::days>(seconds);
+    return {day, day == seconds ? std::string_view() : digits};
 }
 
 // The time that stands behind a day; nothing when something else does.
@@ -204,7 +206,8 @@ std::optional<TableDay> ReadNumbers(CellScanner scan, DateOrder order) {
     Number const first = scan.TakeNumber();
     char const sign = scan.Next();
     if (sign == '\0') {
-        return WithTime(DayOfDigits(digits, first, order), {});
+        bool const areSeconds = first.Length == MostDigits - 1 || first.Length == MostDigits;
+        return areSeconds ? DayOfSeconds(digits, first) : WithTime(DayOfDigits(digits, first, order), {});
     }
     CellScanner behind = scan;
     if (IsSign(sign) && behind.TakeSign(sign) && text::IsDigit(behind.Next())) {
@@ -258,6 +261,39 @@ std::optional<TableDay> ReadTableDay(std::string_view cell, DateOrder order) {
 bool IsTableDay(std::string_view cell) {
     return ReadTableDay(cell, DateOrder::YearMonthDay) || ReadTableDay(cell, DateOrder::MonthDayYear) ||
            ReadTableDay(cell, DateOrder::DayMonthYear);
+}
+
+bool HasDayBeforeMonth(std::string_view cell) {
+    CellScanner scan(cell);
+    Number const year = scan.TakeNumber();
+    char const sign = scan.Next();
+    if (year.Length != DigitsOfYear || !IsSign(sign)) {
+        return false;
+    }
+    scan.TakeSign(sign);
+    Number const second = scan.TakeNumber();
+    bool const hasThird = scan.TakeSign(sign);
+    Number const third = scan.TakeNumber();
+    return hasThird && !DayOfParts(year, second, third) && DayOfParts(year, third, second);
+}
+
+bool IsWeekday(std::string_view cell) {
+    CellScanner scan(cell);
+    bool const isName = std::ranges::find(WeekdayTable, scan.TakeName()) != WeekdayTable.end();
+    return isName && (scan.Rest().empty() || scan.Rest() == ".");
+}
+
+bool IsTimeInDigits(std::string_view cell) {
+    bool const areDigits = (cell.size() == 4 || cell.size() == 6) && AreDigits(cell);
+    return areDigits && PartOf(cell, 0, 2).Value < 24 && PartOf(cell, 2, 2).Value < 60 &&
+           PartOf(cell, 4, 2).Value < 60;
+}
+
+bool IsMidnight(std::string_view time) {
+    constexpr auto Spellings = std::to_array<std::string_view>({"00:00", "0:00", "12:00 AM", "12:00:00 AM"});
+    return time.empty() || std::ranges::any_of(Spellings, [&](std::string_view midnight) {
+               return time.starts_with(midnight);
+           });
 }
 
 bool IsTimeOfDay(std::string_view text) {

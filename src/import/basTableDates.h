@@ -25,12 +25,25 @@ struct TableDay {
 //   a name of a weekday in front of it all: the order does not matter then
 //   9 or 10 digits: seconds since 1970, of which the day in UTC counts
 //
-// A time with or without a zone may follow, which does not move the day. Years of two digits are put into
-// their century as everywhere in the program.
+// A time with or without a zone may follow, which does not move the day; the time of seconds is the number
+// itself unless it is midnight. Years of two digits are put into their century as everywhere in the program.
 [[nodiscard]] std::optional<TableDay> ReadTableDay(std::string_view cell, DateOrder order);
 
 // Whether the cell names a day in any order.
 [[nodiscard]] bool IsTableDay(std::string_view cell);
+
+// Whether the cell is no day because its day stands in front of the month behind a year of four digits, which
+// is an order that is not read: 2019-31-12.
+[[nodiscard]] bool HasDayBeforeMonth(std::string_view cell);
+
+// Whether the cell is the name of a weekday alone, in four languages, whole or shortened.
+[[nodiscard]] bool IsWeekday(std::string_view cell);
+
+// Whether the cell is a time of day in digits alone: 0930, 093000.
+[[nodiscard]] bool IsTimeInDigits(std::string_view cell);
+
+// Whether the time that stands with a day is midnight, or there is none.
+[[nodiscard]] bool IsMidnight(std::string_view time);
 
 // Whether the text is a time of day: 13:20, 13:20:00.5 PM, with a zone or without.
 [[nodiscard]] bool IsTimeOfDay(std::string_view text);

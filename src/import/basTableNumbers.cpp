@@ -224,18 +224,18 @@ Figure ReadFraction(FractionParts const& parts, int denominator) {
 Figure ReadDigits(std::string_view text, FigureForm const& form, bool isNegative, std::string_view exponent) {
     Figure figure;
     char const mark = form.Decimal == DecimalMark::Point ? '.' : ',';
-    std::size_t const wholeLength = std::min(text.find(mark), text.size());
-    std::string_view decimals = text.substr(std::min(wholeLength + 1, text.size()));
     std::string ownExponent(exponent);
-    if (auto const at = decimals.find_first_of("eE"); at != std::string_view::npos && exponent.empty()) {
-        ownExponent = decimals.substr(at);
-        decimals = decimals.substr(0, at);
+    if (auto const at = text.find_first_of("eE"); at != std::string_view::npos && exponent.empty()) {
+        ownExponent = text.substr(at);
+        text = text.substr(0, at);
         std::string_view power = std::string_view(ownExponent).substr(1);
         power.remove_prefix(power.starts_with('+') || power.starts_with('-') ? 1 : 0);
         if (power.empty() || !AreDigits(power)) {
             return figure;
         }
     }
+    std::size_t const wholeLength = std::min(text.find(mark), text.size());
+    std::string_view const decimals = text.substr(std::min(wholeLength + 1, text.size()));
     WholePart const whole = ReadWholePart(text.substr(0, wholeLength), mark);
     bool const endsWithMark = wholeLength < text.size() && decimals.empty();
     if (!whole.IsGood || !AreDigits(decimals) || endsWithMark) {

@@ -77,6 +77,17 @@ bool AreDigits(std::string_view text) {
     return text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
+std::string Shown(std::string_view text, std::size_t most) {
+    std::size_t length = std::min(text.size(), most);
+    while (length > 0 && length < text.size() && (static_cast<unsigned char>(text[length]) & 0xC0U) == 0x80) {
+        --length;
+    }
+    std::string shown(text.substr(0, length));
+    std::ranges::replace_if(
+        shown, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }, ' ');
+    return shown.append(length < text.size() ? "..." : "");
+}
+
 std::string FoldWords(std::string_view text) {
     std::string words;
     int depth = 0;

@@ -67,6 +67,7 @@ TEST(Import, KeepsWhatItReplaces) {
 }
 
 TEST(Import, ReadsAPipeAndWritesOne) {
+    EXPECT_EQ(RunCompanion({"import", "-", "-o", "-"}, Head + Rows(1, 2)).Output, "") << "refused";
     auto const run = RunCompanion({"import", "-", "-o", "-"}, Head + Rows(1, 30) + "x,1,2,3,4,5,6\n");
     EXPECT_EQ(run.ExitStatus, 0);
     EXPECT_EQ(run.Output, ImportedLines(1, 30));
@@ -98,7 +99,9 @@ TEST(Import, RefusesAndTellsHowToSettle) {
     }
     auto const run = RunCompanion({"import", "-", "-o", out}, doubtful);
     EXPECT_EQ(run.ExitStatus, 1);
-    EXPECT_EQ(run.Output, "");
+    EXPECT_TRUE(Has(run.Output, "Dates           month, day, year or day, month, year\n")) << run.Output;
+    EXPECT_TRUE(Has(run.Output, "5    Close          close          heading"));
+    EXPECT_FALSE(Has(run.Output, "Quote file"));
     EXPECT_EQ(run.Errors,
               "quorvex-cli: standard input: Line 2: \"1/2/2019\" and all other dates can be month, day, "
               "year or day, month, year. Give --date-order dmy|mdy|ymd\n");
@@ -185,6 +188,11 @@ TEST(Import, LeavesTheQuoteFileWhenAnythingIsRefused) {
               "quorvex-cli: " + folder.File("gone.csv") + ": File not found\n");
 }
 
+TEST(Import, TellsOfHowManyDaysTheLatestAre) {
+    auto const run = RunCompanion({"import", "-", "--days", "25"}, Head + Rows(1, 30));
+    EXPECT_TRUE(Has(run.Output, "Days            25, 10/06/19 to 10/30/19, the latest of 30")) << run.Output;
+}
+
 TEST(Import, PrintsEverythingAsJson) {
     TemporaryFolder const folder;
     folder.Write("quotes.txt", ImportedLines(1, 30));
@@ -221,6 +229,10 @@ TEST(Import, EndsWithTwoOnWrongUsage) {
                                                       {"import", "a", "--decimal", "."},
                                                       {"import", "a", "--fraction", "7"},
                                                       {"import", "a", "--from", "13/45/02"},
+                                                      {"import", "a", "-o", "a"},
+                                                      {"import", "a", "--into", "a"},
+                                                      {"import", "a", "--from", "1/2/19", "--to", "1/1/19"},
+                                                      {"import", "a", "-o", "-", "--json"},
                                                       {"import", "a", "--days", "501"},
                                                       {"import", "a", "--days", "24"}}) {
         SCOPED_TRACE(testing::PrintToString(arguments));

@@ -57,13 +57,24 @@ TEST(Plan, FindsTheSeparator) {
 }
 
 TEST(Plan, RefusesWhatIsNoTable) {
-    for (auto const* text : {"", "\n\n", "no table at all", "PK\x03\x04 a workbook", "a,b,c,d,e\n1,2,3,4,5\n",
-                             "2019-10-29,401.5,404.25\n"}) {
+    for (auto const* text : {"no table at all", "a,b,c,d,e\n1,2,3,4,5\n", "2019-10-29,401.5,404.25\n"}) {
         auto const plan = PlanOf(text);
         EXPECT_EQ(RefusalText(plan), "No row with a date and four prices was found") << text;
     }
     EXPECT_EQ(RefusalText(PlanOf(Rows, Chosen(&imports::Choices::Separator, Separator::Tab))),
               "No row with a date and four prices was found");
+}
+
+TEST(Plan, TellsWhatKindOfFileHasNoTable) {
+    EXPECT_EQ(RefusalText(PlanOf("")), "The table is empty");
+    EXPECT_EQ(RefusalText(PlanOf("\n \n")), "The table is empty");
+    std::string const noText = "The file is no text. Save the table as text with separators (CSV)";
+    EXPECT_EQ(RefusalText(PlanOf("PK\x03\x04 a workbook")), noText);
+    EXPECT_EQ(RefusalText(PlanOf(std::string(200'000, '\0'))), noText);
+    for (auto const* page : {"\n<!DOCTYPE html>\n", "<html><body>", "<table>", "<?xml version='1.0'?>"}) {
+        EXPECT_EQ(RefusalText(PlanOf(page)),
+                  "The file is a web page. Save its table as text with separators (CSV)");
+    }
 }
 
 TEST(Plan, TellsColumnsByHeadingsInFourLanguages) {
@@ -99,11 +110,38 @@ TEST(Plan, RefusesTwoCandidates) {
 
 TEST(Plan, TellsColumnsByContent) {
     EXPECT_EQ(RolesOf(PlanOf(Rows)), "DOHLCVI");
-    EXPECT_EQ(RolesOf(PlanOf("ZW,1,2019-10-29,13:20,401.5,404.25,399.75,403,22540\n")), "S-DtOHLCV");
+    EXPECT_EQ(RolesOf(PlanOf("ZW,1,2019-10-29,13:20,401.5,404.25,399.75,403,22540\n")), "SSDtOHLCV");
+    EXPECT_EQ(
+        RolesOf(PlanOf("2019-10-29,0930,401.5,404.25,399.75,403\n2019-10-29,0935,401.5,404.25,399.75,403\n"
+                       "2019-10-29,0940,401.5,404.25,399.75,403\n")),
+        "DtOHLC");
+    EXPECT_EQ(RolesOf(PlanOf("Tue,2019-10-29,401.5,404.25,399.75,403\n"
+                             "Wed,2019-10-30,401.5,404.25,399.75,403\n")),
+              "-DOHLC");
     EXPECT_EQ(RolesOf(PlanOf("20191029,401.5,404.25,399.75,403\n")), "DOHLC");
     EXPECT_EQ(RefusalText(PlanOf("2019-10-29,401.5,399.75,404.25,403\n")), "No column is the open");
     EXPECT_EQ(RefusalText(PlanOf("2019-10-29,401.5,404.25,399.75,403,401.7,22540\n")),
               "The columns behind the close are not just volume and open interest");
+}
+
+// A column that names contracts may stand anywhere and have any heading, or none.
+TEST(Plan, TakesWhatRepeatsForNamesOfContracts) {
+    std::string behind;
+    std::string numbers;
+    std::string headed = "Date,Open,High,Low,Close,Series\n";
+    std::string counted = ",Date,Open,High,Low,Close,Remark\n";
+    for (int day = 10; day < 20; ++day) {
+        std::string const date = "2019-10-" + std::to_string(day);
+        std::string const prices = ",401.5,404.25,399.75,403";
+        behind += date + (day < 15 ? ",ZWZ19" : ",ZWH20") + prices + "\n";
+        numbers += (day < 15 ? "201912," : "202003,") + date + prices + "\n";
+        headed += date + prices + (day < 15 ? ",ZWZ19\n" : ",ZWH20\n");
+        counted += std::to_string(day) + "," + date + prices + (day == 12 ? ",holiday\n" : ",\n");
+    }
+    EXPECT_EQ(RolesOf(PlanOf(behind)), "DSOHLC");
+    EXPECT_EQ(RolesOf(PlanOf(numbers)), "SDOHLC");
+    EXPECT_EQ(RolesOf(PlanOf(headed)), "DOHLCS");
+    EXPECT_EQ(RolesOf(PlanOf(counted)), "-DOHLC-");
 }
 
 // Open and close are alike, but a day opens near the close before.
@@ -136,6 +174,11 @@ TEST(Plan, TakesWhatTheUserChose) {
         {"1", Role::Date}, {"5", Role::Open}, {"3", Role::High}, {"4", Role::Low}, {"2", Role::Close}};
     all.OnlyChosenColumns = true;
     EXPECT_EQ(RolesOf(PlanOf(Rows, all)), "DCHLO--");
+}
+
+TEST(Plan, TakesLettersForAHeadWhenThereAreEnough) {
+    EXPECT_EQ(PlanOf(Under("d,o,h,l,c,v,i")).HeadLines, std::vector<std::uint64_t>{1});
+    EXPECT_EQ(PlanOf(Under("a,b,c,d,e,f,g")).HeadLines, std::vector<std::uint64_t>{});
 }
 
 TEST(Plan, SkipsNotesAboveTheHead) {

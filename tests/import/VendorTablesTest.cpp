@@ -222,6 +222,13 @@ TEST(VendorTables, RefusesRowsOfLessThanADay) {
     EXPECT_EQ(RefusalOf(ImportText("2019-10-29 09:30,401.5,404.25,399.75,403\n"
                                    "2019-10-29 09:35,403.25,405,401.25,401.5\n")),
               "2: The day of line 1 again at another time: rows of less than a day");
+    EXPECT_EQ(RefusalOf(ImportText("1572307200,401.5,404.25,399.75,403\n"
+                                   "1572310800,401.5,404.25,399.75,403\n")),
+              "2: The day of line 1 again at another time: rows of less than a day");
+    EXPECT_EQ(RefusalOf(ImportText("2019-10-29,0930,401.5,404.25,399.75,403\n"
+                                   "2019-10-29,0935,401.5,404.25,399.75,403\n"
+                                   "2019-10-29,0940,401.5,404.25,399.75,403\n")),
+              "2: The day of line 1 again at another time: rows of less than a day");
 }
 
 } // namespace

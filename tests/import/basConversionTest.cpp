@@ -39,6 +39,11 @@ TEST(Conversion, LeavesOutWhatIsNoQuoteAndTellsWhy) {
     EXPECT_EQ(LeftOut("2050-01-03,5,6,4,5.5,1\n"), "3: \"2050-01-03\" is no day of 1950 to 2049");
     EXPECT_EQ(LeftOut("2019-10-29,5,6,4,abc,1\n"), "3: the close \"abc\" is no number");
     EXPECT_EQ(LeftOut("2019-10-29,5,6,,5.5,1\n"), "3: the low is missing");
+    EXPECT_EQ(LeftOut("2019-10-29,,,,,\n"), "3: the open is missing");
+    EXPECT_EQ(LeftOut("2019-10-29,5e100,6e100,4e100,5.5e100,1\n"),
+              "3: the prices are beyond what a quote file can hold");
+    EXPECT_EQ(LeftOut("2019-10-29,5e-100,6e-100,4e-100,5.5e-100,1\n"),
+              "3: the prices are beyond what a quote file can hold");
     EXPECT_EQ(LeftOut("2019-10-29,5,6,4\n"), "3: the close is missing");
     EXPECT_EQ(LeftOut("2019-10-29,0,6,4,5.5,1\n"), "3: the open \"0\" is not above zero");
     EXPECT_EQ(LeftOut("2019-10-29,5,6,-37.63,5.5,1\n"), "3: the low \"-37.63\" is not above zero");
@@ -59,12 +64,22 @@ TEST(Conversion, RefusesSuchRowsWhenAskedTo) {
 
 TEST(Conversion, ListsLinesThatAreNoRows) {
     auto const conversion =
-        ImportText("Wheat\n" + Table("2019-10-28,5,6,4,5.5,1\n,,,\nDownloaded on a Monday\n"));
-    ASSERT_EQ(conversion.Notes.Count, 2U);
+        ImportText("Wheat\n" + Table("2019-10-28,5,6,4,5.5,1\n,,,\nDownloaded on a Monday\n\"a\nb\"\n") +
+                   Head + "All rights, reserved,\n");
+    ASSERT_EQ(conversion.Notes.Count, 5U);
+    EXPECT_EQ(conversion.Notes.Kept[2].Text, "a b") << "on one line";
+    EXPECT_EQ(conversion.Notes.Kept[3].Text, "Date") << "the head once more";
+    EXPECT_EQ(conversion.Notes.Kept[4].Text, "All rights");
     EXPECT_EQ(conversion.Notes.Kept[0].Text, "Wheat");
     EXPECT_EQ(conversion.Notes.Kept[1].Line, 5U);
     EXPECT_EQ(conversion.LeftOut.Count, 0U);
     EXPECT_EQ(conversion.RowCount, 1U);
+}
+
+TEST(Conversion, RefusesASecondTableUnderAnotherHead) {
+    EXPECT_EQ(RefusalOf(ImportText(Table("2019-10-28,5,6,4,5.5,1\nDate,Close,High,Low,Open,Volume\n"
+                                         "2019-10-29,5,6,4,5.5,1\n"))),
+              "3: Another head stands here: the table is several ones");
 }
 
 TEST(Conversion, SortsAnyOrderAndTellsIt) {
@@ -109,6 +124,33 @@ TEST(Conversion, RefusesDatesThatAllowTwoOrders) {
     EXPECT_EQ(conversion.Refused->SettledBy, Choice::DateOrder);
     EXPECT_EQ(ImportText(table, Chosen(&imports::Choices::DateOrder, DateOrder::DayMonthYear)).Days[1].Day,
               text::CalendarDay{std::chrono::year{2019} / 2 / 3});
+}
+
+TEST(Conversion, RefusesTheDayInFrontOfTheMonthBehindTheYear) {
+    std::string const table = Table("2019-02-10,5,6,4,5.5,1\n2019-31-10,5,6,4,5,1\n");
+    auto const conversion = ImportText(table);
+    EXPECT_EQ(RefusalOf(conversion), "3: \"2019-31-10\" has the day in front of the month, behind the year");
+    EXPECT_EQ(conversion.Refused->SettledBy, Choice::DateOrder);
+    EXPECT_EQ(ImportText(table, Chosen(&imports::Choices::DateOrder, DateOrder::YearMonthDay)).LeftOut.Count,
+              1U);
+}
+
+// At ten in the evening in UTC it is the day behind in the zone of the market.
+TEST(Conversion, RefusesTimesThatShiftTheDays) {
+    std::string evenings = Head;
+    std::string seconds = Head;
+    std::string midnights = Head;
+    for (int day = 1; day <= 5; ++day) { // Sunday to Thursday
+        std::string const date = "2019-09-0" + std::to_string(day);
+        evenings += date + "T22:00:00Z,5,6,4,5.5,1\n";
+        seconds += std::to_string(1'567'375'200 + 86'400 * (day - 1)) + ",5,6,4,5.5,1\n";
+        midnights += date + " 00:00:00,5,6,4,5.5,1\n";
+    }
+    std::string const refusal = "2: The dates with their times are Sundays to Thursdays: in the zone of the "
+                                "market each of them is the day behind";
+    EXPECT_EQ(RefusalOf(ImportText(evenings)), refusal);
+    EXPECT_EQ(RefusalOf(ImportText(seconds)), refusal);
+    EXPECT_EQ(RefusalOf(ImportText(midnights)), "") << "a market that trades on Sundays";
 }
 
 // The rows of the sample leave it open; the one that tells comes later.
@@ -181,6 +223,10 @@ TEST(Conversion, AsksForTheKindOfFraction) {
 TEST(Conversion, RefusesHalvesOfNumbersThatAreNotQuoted) {
     EXPECT_EQ(RefusalOf(ImportText("2019-10-28,5,6,4,5.5,25,286\n2019-10-29,5,6,4,5.5,25,086\n")),
               "2: \"086\" looks like the end of a number with a thousands comma");
+    std::string const headed = "Date,Open,High,Low,Close,Volume,OI\n2019-10-28,5,6,4,5.5,25,086\n";
+    EXPECT_EQ(ImportText(headed).Refused->SettledBy, Choice::Columns);
+    EXPECT_EQ(RefusalOf(ImportText(headed, ChosenColumns({{"OI", imports::Role::OpenInterest}}))), "");
+    EXPECT_EQ(RefusalOf(ImportText("2019-10-28,5,6,4,5.5,0.0,100\n")), "");
 }
 
 TEST(Conversion, RefusesTheTurnOfTwoDigitYears) {

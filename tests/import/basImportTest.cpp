@@ -36,6 +36,31 @@ TEST(QuoteFile, HasTwentyFiveDaysAtLeast) {
     EXPECT_FALSE(file.HasNews());
 }
 
+TEST(QuoteFile, TellsOfRowsLeftOutWhereDaysAreTooFew) {
+    auto conversion = ConversionOf(Series(24));
+    conversion.LeftOut.Add(7, "the low is missing");
+    conversion.LeftOut.Add(9, "the high is missing");
+    EXPECT_EQ(
+        imports::MakeQuoteFile(conversion, 500).Refused->Told.Text,
+        "A quote file has 25 days at least, and there are 24. Rows left out: 2, the first at line 7: the "
+        "low is missing");
+}
+
+TEST(QuoteFile, IsNotMadeOfWhatIsNone) {
+    auto const refusal = [](std::string_view old) {
+        text::TextSource source(old);
+        auto const file = imports::UpdateQuoteFile(source, ConversionOf(Series(30)), false, 500);
+        return file.Refused ? file.Refused->Told.Text : "";
+    };
+    EXPECT_EQ(refusal("bread, milk\n"),
+              "What shall be brought up to date is no quote file: quotes in it 0, other lines 1");
+    std::string const quotes = imports::QuoteText(Series(2));
+    EXPECT_EQ(refusal(quotes + "Date,Open,High,Low,Close,Volume,OI\n"), "");
+    EXPECT_EQ(refusal(quotes + "a,b,c,d,e,f,g\na,b,c,d,e,f,g\n"),
+              "What shall be brought up to date is no quote file: quotes in it 2, other lines 2");
+    EXPECT_EQ(refusal(""), "");
+}
+
 TEST(QuoteFile, IsNotMadeOfARefusedTable) {
     auto conversion = ConversionOf(Series(30));
     conversion.Refused = imports::Refusal{{3, "bad"}, imports::Choice::None};

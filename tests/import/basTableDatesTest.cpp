@@ -108,5 +108,31 @@ TEST(TableDates, TellTheTimeBehindTheDay) {
     EXPECT_FALSE(imports::IsTimeOfDay("1320"));
 }
 
+TEST(TableDates, KnowSecondsThatAreNotMidnight) {
+    EXPECT_EQ(imports::ReadTableDay("1572912000", DateOrder::YearMonthDay)->Time, "");
+    EXPECT_EQ(imports::ReadTableDay("1572962400", DateOrder::YearMonthDay)->Time, "1572962400");
+    for (auto const* midnight : {"", "00:00", "0:00", "00:00:00+0000", "12:00 AM"}) {
+        EXPECT_TRUE(imports::IsMidnight(midnight)) << midnight;
+    }
+    EXPECT_FALSE(imports::IsMidnight("22:00"));
+    EXPECT_FALSE(imports::IsMidnight("1572962400"));
+}
+
+TEST(TableDates, KnowWhatStandsWithThem) {
+    EXPECT_TRUE(imports::HasDayBeforeMonth("2019-31-12"));
+    for (auto const* other : {"2019-12-31", "2014-31-14", "31-12-2019", "2019", "", "2019-31", "12:30"}) {
+        EXPECT_FALSE(imports::HasDayBeforeMonth(other)) << other;
+    }
+    EXPECT_TRUE(imports::IsWeekday("Tue"));
+    EXPECT_TRUE(imports::IsWeekday("mi."));
+    EXPECT_FALSE(imports::IsWeekday("Tue 5"));
+    EXPECT_FALSE(imports::IsWeekday("ZW"));
+    EXPECT_TRUE(imports::IsTimeInDigits("0930"));
+    EXPECT_TRUE(imports::IsTimeInDigits("235959"));
+    for (auto const* other : {"", "2400", "1260", "093", "093061", "09:30"}) {
+        EXPECT_FALSE(imports::IsTimeInDigits(other)) << other;
+    }
+}
+
 } // namespace
 } // namespace quorvex::tests

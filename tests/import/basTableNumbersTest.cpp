@@ -37,6 +37,8 @@ TEST(TableNumbers, ReadEitherDecimalMark) {
     EXPECT_EQ(ByPoint(".5"), 0.5);
     EXPECT_EQ(ByPoint("53.77000045776367"), 53.77000045776367);
     EXPECT_EQ(ByPoint("1.5E+06"), 1'500'000.0);
+    EXPECT_EQ(ByPoint("2E+06"), 2'000'000.0);
+    EXPECT_EQ(ByComma("1,5e3"), 1500.0);
     EXPECT_EQ(ByComma("517,25"), 517.25);
     EXPECT_EQ(ByComma("517"), 517.0);
     EXPECT_EQ(ByComma("0,875"), 0.875);
@@ -62,8 +64,9 @@ TEST(TableNumbers, ReadThousandsInAnyStyle) {
 }
 
 TEST(TableNumbers, RefuseMarksInTheWrongPlaces) {
-    for (auto const* cell : {"1,23", "1,2345", "0,875", "12,345,67", "1,234'567", ",234", "1234,567", "1.2.3",
-                             "1.234,5", "5 17", "abc", "12abc", "1e", "517,", "--5", "1..2"}) {
+    for (auto const* cell : {"1,23",  "1,2345",  "0,875", "12,345,67", "1,234'567", ",234", "1234,567",
+                             "1.2.3", "1.234,5", "5 17",  "abc",       "12abc",     "1e",   "1e+",
+                             "e5",    "1e5.5",   "1.e5",  "517,",      "--5",       "1..2"}) {
         EXPECT_EQ(ByPoint(cell), std::nullopt) << cell;
     }
     for (auto const* cell : {"517.25", "0.875", "1234.567", "1,234,567", "1,5,5", "517,"}) {

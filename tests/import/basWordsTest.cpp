@@ -31,5 +31,12 @@ TEST(Words, TellDigits) {
     EXPECT_FALSE(imports::AreDigits("-1"));
 }
 
+TEST(Words, AreShownOnOneLineAndWholeCharacters) {
+    EXPECT_EQ(imports::Shown("a\nb\x1B[1m", 40), "a b [1m");
+    EXPECT_EQ(imports::Shown("abcdef", 6), "abcdef");
+    EXPECT_EQ(imports::Shown("abcdef", 5), "abcde...");
+    EXPECT_EQ(imports::Shown("ab\xC3\xA9", 3), "ab...");
+}
+
 } // namespace
 } // namespace quorvex::tests
