@@ -5,6 +5,7 @@
 
 #include "ConvertWork.h"
 #include "CycleWork.h"
+#include "ImportWork.h"
 #include "QuoteWork.h"
 #include "Ratio.h"
 #include "SearchWork.h"
@@ -15,9 +16,12 @@ void AddCoreRatios(RatioTable& table) {
     constexpr double ReadingTarget = 2;
     constexpr double FitTarget = 1.5;
     constexpr double ConvertTarget = 2;
+    constexpr double ImportTarget = 4;
+    constexpr double UpdateTarget = 10;
     QuoteWork quotes;
     CycleWork cycles;
     ConvertWork converter;
+    ImportWork importer;
     SearchWork search;
     auto const pass = [&] { quotes.ParseNumbers(); };
     table.Add("reading a 500-day quote file / one std::from_chars pass",
@@ -33,6 +37,10 @@ void AddCoreRatios(RatioTable& table) {
     table.Add("search for ten cycles / the same", MeasureRatio([&] { search.Find(10); }, scan));
     table.Add("converting 32,000 lines / copying them with std::getline",
               MeasureRatio([&] { converter.Convert(); }, [&] { converter.CopyLines(); }), ConvertTarget);
+    table.Add("importing 200,000 rows / counting lines with std::getline",
+              MeasureRatio([&] { importer.Import(); }, [&] { importer.CountLines(); }), ImportTarget);
+    table.Add("daily update of a 500-day quote file, milliseconds",
+              MeasureMilliseconds([&] { importer.Update(); }), UpdateTarget);
 }
 
 } // namespace quorvex::bench

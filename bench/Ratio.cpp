@@ -65,4 +65,13 @@ double MeasureRatio(Work const& work, Work const& baseline) {
     return Median(std::move(ratios));
 }
 
+double MeasureMilliseconds(Work const& work) {
+    std::vector<double> times;
+    auto const end = Clock::now() + LongestMeasurement;
+    while (times.size() < FewestRounds || (times.size() < MostRounds && Clock::now() < end)) {
+        times.push_back(std::chrono::duration<double, std::milli>(TimeOf(work, 1)).count());
+    }
+    return Median(std::move(times));
+}
+
 } // namespace quorvex::bench

@@ -17,4 +17,8 @@ using Work = std::function<void()>;
 // median of the rounds' ratios counts: what else the machine does disturbs both alike or a few rounds only.
 [[nodiscard]] double MeasureRatio(Work const& work, Work const& baseline);
 
+// How many milliseconds the work takes, the median of many runs: for work that waits for the disk rather than
+// computes.
+[[nodiscard]] double MeasureMilliseconds(Work const& work);
+
 } // namespace quorvex::bench

@@ -100,6 +100,17 @@ RowResult Reading::Take(RowCells const& cells, bool isVolumeLine) {
     return stored;
 }
 
+RowResult Reading::TakePlain(DayQuote const& quote) {
+    if (!CanBeWritten(quote.Day)) {
+        return Bad(RowKind::NoYear, Role::Date);
+    }
+    if ((limits_.From && quote.Day < *limits_.From) || (limits_.To && quote.Day > *limits_.To)) {
+        return Bad(RowKind::Outside, Role::Date);
+    }
+    RowResult const checked = CheckPrices(quote.Figures);
+    return IsBad(checked) ? checked : Store(quote, {});
+}
+
 RowResult Reading::TakeFigures(RowCells const& cells, DayQuote& quote) {
     for (std::size_t index = 0; index < FigureCount; ++index) {
         form_.IsPrice = index < PriceCount;
@@ -156,7 +167,9 @@ RowResult Reading::Store(DayQuote const& quote, std::string_view time) {
     if (slot == 0) {
         stored_.push_back({quote, timeMark});
         slot = static_cast<std::uint32_t>(stored_.size());
-        return {};
+        RowResult taken;
+        taken.Day = quote.Day;
+        return taken;
     }
     Stored const& there = stored_[slot - 1];
     RowResult result = Bad(RowKind::Conflict, Role::Date);

@@ -35,6 +35,7 @@ enum class RowKind : std::uint8_t {
 
 struct RowResult {
     RowKind Kind = RowKind::Quote;
+    text::CalendarDay Day;       // of a quote
     Role Of = Role::Unused;      // the cell that is to blame
     std::uint64_t OtherLine = 0; // of a conflict
     bool NeedsFraction = false;
@@ -60,6 +61,10 @@ public:
 
     // Takes the row when it is a quote or a volume line.
     RowResult Take(RowCells const& cells, bool isVolumeLine);
+
+    // Takes a row of plain figures without a time. Does nothing but tell what the row is unless that is a
+    // quote or a repeat.
+    RowResult TakePlain(DayQuote const& quote);
 
     // The days so far, oldest first, with the figures of the volume lines.
     [[nodiscard]] std::vector<DayQuote> Days() const;

@@ -16,6 +16,8 @@ constexpr std::size_t MostOfRecord = 65'536;
 constexpr std::size_t Capacity = 2 * MostOfRecord;
 constexpr std::size_t ByteCount = 256;
 
+} // namespace
+
 char MarkOf(Separator separator) {
     switch (separator) {
     case Separator::Comma:
@@ -31,8 +33,6 @@ char MarkOf(Separator separator) {
     }
     return ',';
 }
-
-} // namespace
 
 RecordReader::RecordReader(text::ByteSource& source, Separator separator)
     : source_(source),
@@ -52,6 +52,11 @@ RecordReader::RecordReader(text::ByteSource& source, Separator separator)
 
 bool RecordReader::IsSeparator(char c) const {
     return c == mark_ || (byBlanks_ && c == '\t');
+}
+
+void RecordReader::Pass(std::size_t length) {
+    begin_ += length;
+    line_ = nextLine_++;
 }
 
 // Moves what is left to the front of the buffer and reads behind it. Returns whether anything changed.
@@ -116,15 +121,15 @@ RecordReader::Outcome RecordReader::Scan() {
     }
     char* at = begin_;
     for (;;) {
-        Field field;
+        Field& field = fields_.emplace_back();
         at = ScanField(SkipBlanks(at), field);
         if (at == nullptr || (at >= end_ && !hasEnded_)) {
             return Outcome::NeedsMore;
         }
         bool const isSeparator = IsSeparator(*at);
         // The run of blanks at the end of a line separates nothing.
-        if (!byBlanks_ || field.WasQuoted || !field.Text.empty()) {
-            fields_.push_back(field);
+        if (byBlanks_ && !field.WasQuoted && field.Text.empty()) {
+            fields_.pop_back();
         }
         if (!isSeparator) {
             break;

@@ -16,6 +16,9 @@
 
 namespace quorvex::imports {
 
+// What separates the fields; of runs of blanks the blank.
+[[nodiscard]] char MarkOf(Separator separator);
+
 struct Field {
     std::string_view Text; // without the blanks around it and without its quotation marks
     bool WasQuoted = false;
@@ -35,6 +38,16 @@ public:
 
     // The fields of the record, one at least; good until the next call.
     [[nodiscard]] std::span<Field const> Fields() const { return fields_; }
+
+    // What is in memory of the text behind that record, for who can read a line of it faster. A line whose
+    // end is not in it may go on; a LF stands behind it all.
+    [[nodiscard]] std::string_view Ahead() const { return {begin_, static_cast<std::size_t>(end_ - begin_)}; }
+
+    // Passes over the next line, of so many bytes with its end. There are no fields of it.
+    void Pass(std::size_t length);
+
+    // The line, counted from 1, that comes next.
+    [[nodiscard]] std::uint64_t NextLine() const { return nextLine_; }
 
     // The line, counted from 1, on which the record starts, also of one that cannot be read.
     [[nodiscard]] std::uint64_t Line() const { return line_; }

@@ -3,6 +3,7 @@
 
 #include "import/basConversion.h"
 
+#include "import/PlainRows.h"
 #include "import/Reading.h"
 #include "import/RecordReader.h"
 #include "import/basColumns.h"
@@ -22,7 +23,7 @@ namespace quorvex::imports {
 namespace {
 
 constexpr std::size_t MostNames = 12;
-constexpr std::size_t MostOfNote = 200; // bytes of a note that are told
+constexpr std::size_t MostOfNote = 200;       // bytes of a note that are told
 constexpr std::string_view AllMonths = "DVL"; // the volume of all contracts together
 
 // A cell as it is told, quoted and not too long.
@@ -197,10 +198,7 @@ public:
     }
 
     Conversion Run() {
-        while (!common_.Refused && !IsHopeless() && reader_.Next()) {
-            if (reader_.Line() >= plan_.FirstLine) {
-                TakeRecord(reader_.Fields());
-            }
+        while (!common_.Refused && !IsHopeless() && (TakePlainRow() || TakeNext())) {
         }
         if (!common_.Refused && !reader_.Trouble().empty()) {
             Refuse(reader_.Line(), std::string(reader_.Trouble()), Choice::Separator);
@@ -221,6 +219,8 @@ private:
         return candidates_.size() == 1 && candidates_.front().Told.Refused;
     }
 
+    [[nodiscard]] bool TakePlainRow();
+    [[nodiscard]] bool TakeNext();
     void TakeRecord(std::span<Field const> fields);
     void TakeRow(RowCells const& cells, bool isVolumeLine);
     void TakeRowInDoubt(RowCells const& cells, bool isVolumeLine);
@@ -228,11 +228,11 @@ private:
     [[nodiscard]] bool TakeNote(RowCells const& cells);
     [[nodiscard]] bool RepeatsTheHead(std::span<Field const> fields) const;
     void Note(Candidate& candidate, RowResult const& result, RowCells const& cells);
-    static void NoteOrder(Candidate& candidate, RowCells const& cells);
+    static void NoteOrder(Candidate& candidate, text::CalendarDay day, RowCells const& cells);
     static void NoteRefusal(Candidate& candidate, RowResult const& result, RowCells const& cells);
     void LeaveOut(Conversion& told, std::uint64_t line, std::string text) const;
     void RefuseContradiction(RowResult const& result, RowCells const& cells);
-    [[nodiscard]] RowCells CellsOf(std::span<Field const> fields);
+    void TakeCells(std::span<Field const> fields);
     [[nodiscard]] bool IsVolumeLine(std::span<Field const> fields) const;
     [[nodiscard]] bool IsOfAllMonths(std::span<Field const> fields) const;
     void Finish();
@@ -245,11 +245,51 @@ private:
     RecordReader reader_;
     CellPlaces places_;
     SymbolFilter symbols_;
+    RowCells cells_; // of the row that is being taken
     std::list<Candidate> candidates_;
+    std::optional<PlainRowReader> plainRows_; // of the only candidate
+    PlainRow plainRow_;
     Conversion common_; // what does not depend on the reading, and at last everything
     std::pair<std::string, std::uint64_t> firstDate_; // with its line, for an example
     bool arePricesQuoted_ = false;
 };
+
+// Takes the next line when it is an ordinary row, which then need not be made a record and understood cell by
+// cell. Returns false when it is anything else, with nothing changed.
+bool Converter::TakePlainRow() {
+    if (candidates_.size() > 1 || reader_.NextLine() < plan_.FirstLine) {
+        return false;
+    }
+    Candidate& only = candidates_.front();
+    if (!plainRows_) {
+        plainRows_.emplace(plan_, only.Read.Order(), only.Read.Mark());
+    }
+    if (!plainRows_->Read(reader_.Ahead(), plainRow_)) {
+        return false;
+    }
+    plainRow_.Quote.Line = reader_.NextLine();
+    auto const result = only.Read.TakePlain(plainRow_.Quote);
+    if (result.Kind != RowKind::Quote && result.Kind != RowKind::Repeat) {
+        return false;
+    }
+    reader_.Pass(plainRow_.Length);
+    ++common_.RowCount;
+    cells_.Line = reader_.Line();
+    cells_.Date = plainRow_.Date;
+    Note(only, result, cells_);
+    return true;
+}
+
+// Takes the next record. Returns whether there was one.
+bool Converter::TakeNext() {
+    if (!reader_.Next()) {
+        return false;
+    }
+    if (reader_.Line() >= plan_.FirstLine) {
+        TakeRecord(reader_.Fields());
+    }
+    return true;
+}
 
 void Converter::TakeRecord(std::span<Field const> fields) {
     auto const first = std::ranges::find_if(fields, IsFilled);
@@ -279,31 +319,29 @@ void Converter::TakeRecord(std::span<Field const> fields) {
         }
         return;
     }
-    RowCells const cells = CellsOf(fields);
+    TakeCells(fields);
     if (!common_.Refused) {
-        TakeRow(cells, plan_.HasVolumeLines && IsVolumeLine(fields));
+        TakeRow(cells_, plan_.HasVolumeLines && IsVolumeLine(fields));
     }
 }
 
-RowCells Converter::CellsOf(std::span<Field const> fields) {
-    RowCells cells;
-    cells.Line = reader_.Line();
-    cells.Date = TextAt(fields, places_.Date);
-    cells.Time = TextAt(fields, places_.Time);
+void Converter::TakeCells(std::span<Field const> fields) {
+    cells_.Line = reader_.Line();
+    cells_.Date = TextAt(fields, places_.Date);
+    cells_.Time = TextAt(fields, places_.Time);
     for (std::size_t index = 0; index < FigureCount; ++index) {
         std::string_view const cell = TextAt(fields, places_.Figures[index]);
-        cells.Figures[index] = cell;
+        cells_.Figures[index] = cell;
         bool const isQuoted = !cell.empty() && fields[*places_.Figures[index]].WasQuoted;
         arePricesQuoted_ = arePricesQuoted_ || (isQuoted && index < VolumeIndex);
         // A volume of 25,086 that is not quoted would be two cells.
-        bool const isHalf = index >= VolumeIndex && !isQuoted && cell.size() == 3 &&
-                            cell.front() == '0' && AreDigits(cell);
+        bool const isHalf =
+            index >= VolumeIndex && !isQuoted && cell.size() == 3 && cell.front() == '0' && AreDigits(cell);
         if (isHalf && plan_.SeparatedBy == Separator::Comma && !IsChosen(places_.Figures[index])) {
             Refuse(reader_.Line(), Quoted(cell) + " looks like the end of a number with a thousands comma",
                    Choice::Columns);
         }
     }
-    return cells;
 }
 
 bool Converter::IsChosen(std::optional<std::size_t> column) const {
@@ -352,9 +390,8 @@ bool Converter::TakeNote(RowCells const& cells) {
         Refuse(cells.Line, "Another head stands here: the table is several ones", Choice::None);
         return true;
     }
-    bool const hasFigures = std::ranges::any_of(cells.Figures, [](std::string_view cell) {
-        return std::ranges::any_of(cell, text::IsDigit);
-    });
+    bool const hasFigures = std::ranges::any_of(
+        cells.Figures, [](std::string_view cell) { return std::ranges::any_of(cell, text::IsDigit); });
     if (!isHead && hasFigures) {
         return false;
     }
@@ -386,8 +423,8 @@ void Converter::TakeRowInDoubt(RowCells const& cells, bool isVolumeLine) {
         results.push_back(candidate.Read.Take(cells, isVolumeLine));
     }
     bool const isReadable = !std::ranges::all_of(results, IsUnreadable);
-    bool const isWithoutDay = std::ranges::all_of(
-        results, [](RowResult const& result) { return result.Kind == RowKind::NoDay; });
+    bool const isWithoutDay =
+        std::ranges::all_of(results, [](RowResult const& result) { return result.Kind == RowKind::NoDay; });
     if (isWithoutDay && TakeNote(cells)) {
         return;
     }
@@ -438,10 +475,9 @@ void Converter::LeaveOut(Conversion& told, std::uint64_t line, std::string text)
     told.LeftOut.Add(line, std::move(text));
 }
 
-void Converter::NoteOrder(Candidate& candidate, RowCells const& cells) {
+void Converter::NoteOrder(Candidate& candidate, text::CalendarDay day, RowCells const& cells) {
     // Nobody has such a gap in his quotes: two digits of the year went from 49 to 50.
     constexpr std::chrono::days Turn{90 * 365};
-    text::CalendarDay const day = ReadTableDay(cells.Date, candidate.Read.Order())->Day;
     if (candidate.LastDay) {
         candidate.Rises = candidate.Rises && day >= *candidate.LastDay;
         candidate.Falls = candidate.Falls && day <= *candidate.LastDay;
@@ -480,7 +516,7 @@ void Converter::Note(Candidate& candidate, RowResult const& result, RowCells con
     Conversion& told = candidate.Told;
     switch (result.Kind) {
     case RowKind::Quote:
-        NoteOrder(candidate, cells);
+        NoteOrder(candidate, result.Day, cells);
         break;
     case RowKind::Repeat:
         ++told.RepeatCount;

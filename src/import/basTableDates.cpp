@@ -250,7 +250,27 @@ std::optional<TableDay> ReadNames(CellScanner const& scan, DateOrder order) {
 
 } // namespace
 
+std::optional<text::CalendarDay> ReadIsoDay(std::string_view cell) {
+    constexpr std::size_t Length = 10;
+    if (cell.size() != Length || cell[4] != cell[7] || !IsSign(cell[4])) {
+        return std::nullopt;
+    }
+    unsigned notDigits = 0;
+    auto const digit = [&](std::size_t at) {
+        auto const value = static_cast<unsigned>(static_cast<unsigned char>(cell[at])) - '0';
+        notDigits |= value > 9 ? 1U : 0U;
+        return static_cast<int>(value);
+    };
+    int const year = digit(0) * 1000 + digit(1) * 100 + digit(2) * 10 + digit(3);
+    int const month = digit(5) * 10 + digit(6);
+    int const day = digit(8) * 10 + digit(9);
+    return notDigits == 0 ? text::DayOf(year, month, day) : std::nullopt;
+}
+
 std::optional<TableDay> ReadTableDay(std::string_view cell, DateOrder order) {
+    if (auto const day = ReadIsoDay(cell)) {
+        return TableDay{*day, {}};
+    }
     CellScanner const scan(cell);
     if (text::IsDigit(scan.Next())) {
         return ReadNumbers(scan, order);

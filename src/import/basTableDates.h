@@ -29,6 +29,10 @@ struct TableDay {
 // itself unless it is midnight. Years of two digits are put into their century as everywhere in the program.
 [[nodiscard]] std::optional<TableDay> ReadTableDay(std::string_view cell, DateOrder order);
 
+// The same of yyyy-mm-dd, yyyy/mm/dd or yyyy.mm.dd with nothing behind, as most tables have; nothing for any
+// other cell.
+[[nodiscard]] std::optional<text::CalendarDay> ReadIsoDay(std::string_view cell);
+
 // Whether the cell names a day in any order.
 [[nodiscard]] bool IsTableDay(std::string_view cell);
 

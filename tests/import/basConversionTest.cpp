@@ -4,8 +4,12 @@
 #include "import/basConversion.h"
 
 #include "Tables.h"
+#include "text/basTexts.h"
 
 #include <gtest/gtest.h>
+
+#include <array>
+#include <random>
 
 namespace quorvex::tests {
 namespace {
@@ -114,6 +118,68 @@ TEST(Conversion, TakesTheDaysThatAreAskedFor) {
     EXPECT_EQ(conversion.Days.size(), 2U);
     EXPECT_EQ(conversion.OutsideCount, 2U);
     EXPECT_EQ(conversion.LeftOut.Count, 0U) << "nobody asked for the bad row";
+}
+
+// A row of plain numbers is read in one pass. Quotation marks around its first cell end that, and nothing
+// else.
+TEST(Conversion, GivesTheSameForPlainRowsAndOthers) {
+    std::mt19937 random(7);
+    constexpr auto Cells = std::to_array<std::string_view>({"5",
+                                                            "5.25",
+                                                            "6.5",
+                                                            "4",
+                                                            "05.00",
+                                                            "0",
+                                                            "1",
+                                                            "086",
+                                                            "86",
+                                                            "5.",
+                                                            ".5",
+                                                            "",
+                                                            " 5",
+                                                            "5 ",
+                                                            "-",
+                                                            "5e1",
+                                                            "1,5",
+                                                            "'5",
+                                                            "99999999999999",
+                                                            "123456789012345.6",
+                                                            "5.000000000001",
+                                                            "0.1",
+                                                            "x",
+                                                            "\"5\"",
+                                                            "5\r"});
+    constexpr auto Dates = std::to_array<std::string_view>(
+        {"2019-10-28", "2019-10-29", "2019-10-30", "10/28/2019", "2019-10-28 16:00", "28-Oct-19",
+         "1949-12-31", "2019-13-13", "20191028", "\x1a", " 2019-10-28"});
+    for (int turn = 0; turn < 3000; ++turn) {
+        std::string plain = Head;
+        std::string quoted = Head;
+        for (int row = 0; row < 6; ++row) {
+            bool const isUsual = Below(random, 2) == 0;
+            std::string const date(isUsual ? Dates[Below(random, 3)] : Dates[Below(random, Dates.size())]);
+            std::string cells;
+            for (std::size_t cell = 0; cell < 5 + Below(random, 20) / 19; ++cell) {
+                constexpr std::array<std::string_view, 5> Usual = {"5", "6.5", "4", "5.25", "100"};
+                bool const isOther = Below(random, 12) == 0 || cell >= Usual.size();
+                cells.append(",").append(isOther ? Cells[Below(random, Cells.size())] : Usual[cell]);
+            }
+            std::string const lineEnd = Below(random, 3) == 0 ? "\r\n" : "\n";
+            plain += date + cells + lineEnd;
+            quoted += (date == "\x1a" ? date : '"' + std::string(text::TrimBlanksAndTabs(date)) + '"') +
+                      cells + lineEnd;
+        }
+        auto const one = ImportText(plain);
+        auto const other = ImportText(quoted);
+        ASSERT_EQ(RefusalOf(one), RefusalOf(other)) << plain;
+        ASSERT_TRUE(AreSameDays(one.Days, other.Days)) << plain;
+        ASSERT_EQ(one.RowCount, other.RowCount) << plain;
+        ASSERT_EQ(one.RepeatCount, other.RepeatCount) << plain;
+        ASSERT_EQ(one.LeftOut.Count, other.LeftOut.Count) << plain;
+        ASSERT_EQ(one.WithoutVolume, other.WithoutVolume) << plain;
+        ASSERT_EQ(one.WithoutOpenInterest, other.WithoutOpenInterest) << plain;
+        ASSERT_EQ(one.Order, other.Order) << plain;
+    }
 }
 
 TEST(Conversion, RefusesDatesThatAllowTwoOrders) {
