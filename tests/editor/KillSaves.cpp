@@ -13,6 +13,7 @@
 #include "editor/basEdit.h"
 #include "editor/basSave.h"
 #include "editor/basSpread.h"
+#include "import/basImport.h"
 #include "platform/disk/DiskFiles.h"
 #include "platform/disk/DiskProfile.h"
 #include "platform/fake/ScriptedDialogs.h"
@@ -24,6 +25,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -149,6 +151,49 @@ public:
         settings.DataSource = isLong ? std::string(200, 'x') : "";
         return !text::Trap([&] { settings::WriteProfile(settings, profile); });
     }
+};
+
+// Brings the file up to date, over and over with other figures.
+class ImportSaver final : public Saver {
+public:
+    explicit ImportSaver(TemporaryFolder const& folder) : Saver(folder) {
+        for (bool const isLong : {false, true}) {
+            std::string& table = isLong ? long_ : short_;
+            table = "Date,Open,High,Low,Close,Volume\n";
+            for (int day = 0; day < Days; ++day) {
+                text::CalendarDay const date =
+                    text::CalendarDay{std::chrono::year{2018} / 1 / 1} + std::chrono::days(day);
+                table += text::FormatDate(date) + ",401.5,404.25,399.75,403," + (isLong ? "12345675" : "15") +
+                         "\n";
+            }
+        }
+    }
+
+    [[nodiscard]] bool Save(bool isLong) override {
+        bool isNews = false;
+        auto const fault = text::Trap([&] {
+            text::TextSource table(isLong ? long_ : short_);
+            auto const read = imports::ImportTable(table, {}, {});
+            auto const file = Merged(read);
+            isNews = file.HasNews();
+            if (isNews) {
+                Files().Replace(Path(), imports::QuoteText(file.Days));
+            }
+        });
+        return !fault && isNews;
+    }
+
+private:
+    [[nodiscard]] imports::QuoteFile Merged(imports::Conversion const& read) {
+        if (!std::filesystem::exists(Path())) {
+            return imports::MakeQuoteFile(read, Days);
+        }
+        auto const old = Files().OpenForInput(Path());
+        return imports::UpdateQuoteFile(*old, read, true, Days);
+    }
+
+    std::string short_;
+    std::string long_;
 };
 
 // Ends when a save fails, or when it is killed.
@@ -278,10 +323,10 @@ bool KillSaves(std::string_view kind, unsigned count, std::mt19937& random) {
 int Run(unsigned count, unsigned seed) {
     std::printf("Seed %u\n", seed);
     std::mt19937 random(seed);
-    std::array<bool, 4> const good = {KillSaves<QuoteFileSaver>("Save As", count, random),
-                                      KillSaves<EditorSaver>("Editor", count, random),
-                                      KillSaves<ConverterSaver>("Converter", count, random),
-                                      KillSaves<ProfileSaver>("INI file", count, random)};
+    std::array<bool, 5> const good = {
+        KillSaves<QuoteFileSaver>("Save As", count, random), KillSaves<EditorSaver>("Editor", count, random),
+        KillSaves<ConverterSaver>("Converter", count, random),
+        KillSaves<ImportSaver>("Update", count, random), KillSaves<ProfileSaver>("INI file", count, random)};
     return std::ranges::find(good, false) == good.end() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 

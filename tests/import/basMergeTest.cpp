@@ -4,9 +4,11 @@
 #include "import/basMerge.h"
 
 #include "Tables.h"
+#include "import/basImport.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 
 namespace quorvex::tests {
@@ -75,60 +77,135 @@ TEST(Merge, TakesAllIntoAFileWithoutDays) {
     EXPECT_FALSE(merge.HasGap);
 }
 
-// A file that is brought up to date over and over, against a map of what has to be in it.
+// What has to come of an update, said as plainly as possible.
+struct ModelMerge {
+    std::map<text::CalendarDay, DayQuote> Days;
+    std::vector<DayQuote> Appended;
+    std::vector<DayQuote> Inserted;
+    std::vector<DayQuote> Before; // of those changed
+    std::vector<DayQuote> After;
+    std::uint64_t Equal = 0;
+    std::uint64_t Older = 0;
+    std::uint64_t Leaving = 0;
+    bool HasGap = false;
+};
+
+ModelMerge ModelOf(std::vector<DayQuote> const& file, std::vector<DayQuote> const& days, bool replaces,
+                   std::size_t most) {
+    ModelMerge model;
+    for (DayQuote const& quote : file) {
+        model.Days[quote.Day] = quote;
+    }
+    for (DayQuote const& quote : days) {
+        bool const isOlder = !file.empty() && quote.Day < file.front().Day;
+        bool const isNewer = file.empty() || quote.Day > file.back().Day;
+        bool const isThere = model.Days.contains(quote.Day);
+        if (isOlder) {
+            ++model.Older;
+        } else if (!isThere) {
+            (isNewer ? model.Appended : model.Inserted).push_back(quote);
+            model.Days[quote.Day] = quote;
+        } else if (model.Days[quote.Day].IsSameAs(quote)) {
+            ++model.Equal;
+        } else {
+            model.Before.push_back(model.Days[quote.Day]);
+            model.After.push_back(quote);
+            model.Days[quote.Day] = replaces ? quote : model.Days[quote.Day];
+        }
+    }
+    if (!file.empty() && !model.Appended.empty()) {
+        model.HasGap = model.Appended.front().Day > file.back().Day + std::chrono::days(7);
+    }
+    for (; model.Days.size() > most; ++model.Leaving) {
+        model.Days.erase(model.Days.begin());
+    }
+    return model;
+}
+
+std::vector<DayQuote> ValuesOf(std::map<text::CalendarDay, DayQuote> const& days) {
+    std::vector<DayQuote> values;
+    for (auto const& one : days) {
+        values.push_back(one.second);
+    }
+    return values;
+}
+
+std::vector<DayQuote> Side(std::vector<imports::DayChange> const& changes,
+                           DayQuote imports::DayChange::*side) {
+    std::vector<DayQuote> quotes;
+    for (imports::DayChange const& change : changes) {
+        quotes.push_back(change.*side);
+    }
+    return quotes;
+}
+
+// Some days in a row of the series, with days missing and figures changed.
+std::vector<DayQuote> SomeDays(std::vector<DayQuote> const& truth, std::size_t most, std::mt19937& random) {
+    std::vector<DayQuote> days;
+    std::size_t const first = Below(random, truth.size());
+    for (std::size_t at = first; at < std::min(first + Below(random, most), truth.size()); ++at) {
+        if (Below(random, 8) != 0) {
+            days.push_back(truth[at]);
+            days.back().Figures[4] += Below(random, 10) == 0 ? 1.0 : 0.0;
+            days.back().Figures[1] += Below(random, 10) == 0 ? 0.25 : 0.0;
+        }
+    }
+    return days;
+}
+
+// A file that is brought up to date over and over.
 TEST(Merge, AgreesWithAModelOverManyUpdates) {
     std::mt19937 random(11);
     constexpr std::size_t Room = 60;
     auto const truth = RandomSeries(random, 400, 500);
     std::vector<DayQuote> file(truth.begin() + 20, truth.begin() + 60);
-    std::map<text::CalendarDay, DayQuote> model;
-    for (DayQuote const& quote : file) {
-        model.emplace(quote.Day, quote);
-    }
+    std::array<int, 6> seen{};
     for (int update = 0; update < 2000; ++update) {
-        std::size_t const first = Below(random, truth.size());
-        std::vector<DayQuote> days;
-        for (std::size_t at = first; at < std::min(first + Below(random, 30), truth.size()); ++at) {
-            if (Below(random, 8) != 0) {
-                days.push_back(truth[at]);
-                days.back().Figures[4] += Below(random, 10) == 0 ? 1.0 : 0.0;
-            }
-        }
+        auto const days = SomeDays(truth, 30, random);
         bool const replaces = Below(random, 2) == 0;
-        auto const before = model;
-        std::uint64_t changed = 0;
-        std::uint64_t older = 0;
-        for (DayQuote const& quote : days) {
-            bool const isThere = before.contains(quote.Day);
-            bool const isOlder = quote.Day < before.begin()->first;
-            bool const isChanged = isThere && !before.at(quote.Day).IsSameAs(quote);
-            changed += isChanged ? 1 : 0;
-            older += isOlder ? 1 : 0;
-            if (!isOlder && (!isThere || (isChanged && replaces))) {
-                model.insert_or_assign(quote.Day, quote);
-            }
-        }
-        while (model.size() > Room) {
-            model.erase(model.begin());
-        }
+        auto const model = ModelOf(file, days, replaces, Room);
         auto const merge = MergeDays(file, days, replaces, Room);
-        std::vector<DayQuote> expected;
-        for (auto const& one : model) {
-            expected.push_back(one.second);
-        }
-        ASSERT_TRUE(AreSameDays(merge.Days, expected)) << update;
-        ASSERT_EQ(merge.Changed.size(), changed) << update;
-        ASSERT_EQ(merge.OlderCount, older) << update;
-        ASSERT_EQ(merge.EqualCount + merge.Changed.size() + merge.Appended.size() + merge.Inserted.size() +
-                      merge.OlderCount,
-                  days.size())
-            << update;
-        file = Below(random, 40) == 0 ? std::vector<DayQuote>(truth.begin(), truth.begin() + 30) : merge.Days;
-        model.clear();
-        for (DayQuote const& quote : file) {
-            model.emplace(quote.Day, quote);
-        }
+        ASSERT_TRUE(AreSameDays(merge.Days, ValuesOf(model.Days))) << update;
+        ASSERT_TRUE(AreSameDays(merge.Appended, model.Appended)) << update;
+        ASSERT_TRUE(AreSameDays(merge.Inserted, model.Inserted)) << update;
+        ASSERT_TRUE(AreSameDays(Side(merge.Changed, &imports::DayChange::Before), model.Before)) << update;
+        ASSERT_TRUE(AreSameDays(Side(merge.Changed, &imports::DayChange::After), model.After)) << update;
+        ASSERT_EQ(merge.EqualCount, model.Equal) << update;
+        ASSERT_EQ(merge.OlderCount, model.Older) << update;
+        ASSERT_EQ(merge.LeavingCount, model.Leaving) << update;
+        ASSERT_EQ(merge.HasGap, model.HasGap) << update;
+        seen[0] += model.Appended.empty() ? 0 : 1;
+        seen[1] += model.Inserted.empty() ? 0 : 1;
+        seen[2] += model.After.empty() ? 0 : 1;
+        seen[3] += model.Older > 0 ? 1 : 0;
+        seen[4] += model.Leaving > 0 ? 1 : 0;
+        seen[5] += model.HasGap ? 1 : 0;
+        bool const startsAnew = Below(random, 40) == 0;
+        file = startsAnew ? std::vector<DayQuote>(truth.begin(), truth.begin() + 30) : merge.Days;
     }
+    EXPECT_GT(*std::ranges::min_element(seen), 20) << "everything that can happen has happened";
+}
+
+// The same through the text of the file, as every evening.
+TEST(Merge, AgreesWithAModelThroughTheQuoteFile) {
+    std::mt19937 random(12);
+    auto const truth = RandomSeries(random, 900, 500);
+    std::vector<DayQuote> expected(truth.begin(), truth.begin() + 480);
+    std::string text = imports::QuoteText(expected);
+    for (int update = 0; update < 200; ++update) {
+        imports::Conversion conversion;
+        conversion.Days = SomeDays(truth, 60, random);
+        bool const replaces = Below(random, 2) == 0;
+        expected = ValuesOf(ModelOf(expected, conversion.Days, replaces, Most).Days);
+        text::TextSource old(text);
+        auto const file = imports::UpdateQuoteFile(old, conversion, replaces, Most);
+        ASSERT_FALSE(file.Refused) << update;
+        std::string const updated = imports::QuoteText(file.Days);
+        ASSERT_EQ(updated, imports::QuoteText(expected)) << update;
+        ASSERT_EQ(file.HasNews(), updated != text) << update;
+        text = updated;
+    }
+    EXPECT_EQ(expected.size(), Most);
 }
 
 TEST(QuoteText, WritesAsManyDecimalsAsThereAre) {
