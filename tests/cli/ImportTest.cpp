@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "RunCompanion.h"
+#include "support/HelpDocuments.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -186,6 +187,21 @@ TEST(Import, LeavesTheQuoteFileWhenAnythingIsRefused) {
               "quorvex-cli: " + folder.File("gone.txt") + ": File not found\n");
     EXPECT_EQ(RunCompanion({"import", folder.File("gone.csv"), "--into", quotes}).Errors,
               "quorvex-cli: " + folder.File("gone.csv") + ": File not found\n");
+}
+
+TEST(Import, HasEveryOptionOfTheReadMe) {
+    std::string const text = TextOf(ReadHelp("Quorvex-ReadMe.rtf"));
+    std::string const help = RunCompanion({"import", "--help"}).Output;
+    int named = 0;
+    std::size_t const chapter = text.find("Getting quotes in");
+    ASSERT_NE(chapter, std::string::npos);
+    std::size_t const end = text.find("The companion quorvex-cli", chapter);
+    for (std::size_t at = text.find("--", chapter); at < end; at = text.find("--", at + 2)) {
+        std::string const option = text.substr(at, text.find_first_of(" .,:;\n", at) - at);
+        EXPECT_TRUE(Has(help, option)) << option;
+        ++named;
+    }
+    EXPECT_GE(named, 8);
 }
 
 TEST(Import, TellsOfHowManyDaysTheLatestAre) {
