@@ -8,6 +8,7 @@
 #include "cli/StandardStreams.h"
 #include "cli/SubCommands.h"
 #include "cli/WholeNumber.h"
+#include "import/basTelling.h"
 #include "platform/basMessages.h"
 #include "quotes/QuoteSeries.h"
 #include "text/basDates.h"
@@ -187,7 +188,7 @@ bool WriteQuotes(ImportOptions const& options, ImportResult& result) {
 // Where the quotes themselves go to standard output, what was left out goes to standard error.
 void ComplainOfLeftOut(ImportResult const& result) {
     for (imports::Finding const& finding : result.Read.LeftOut.Kept) {
-        Complain(result.Source, FindingText(finding) + ", left out");
+        Complain(result.Source, imports::FindingText(finding) + ", left out");
     }
     if (result.Read.LeftOut.Count > result.Read.LeftOut.Kept.size()) {
         Complain(result.Source, std::to_string(result.Read.LeftOut.Count) + " rows are left out in all");
@@ -197,7 +198,7 @@ void ComplainOfLeftOut(ImportResult const& result) {
 ExitStatus Tell(ImportOptions const& options, ImportResult const& result) {
     auto const& refused = result.File.Refused;
     if (refused) {
-        Complain(result.Source, FindingText(refused->Told) + HowToSettle(refused->SettledBy));
+        Complain(result.Source, imports::FindingText(refused->Told) + HowToSettle(refused->SettledBy));
     }
     bool isTold = true;
     if (options.Target() == PipeName && !options.IsDryRun) {

@@ -3,8 +3,8 @@
 
 #include "cli/ImportReport.h"
 
+#include "import/basTelling.h"
 #include "text/basDates.h"
-#include "text/basNumbers.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -47,18 +47,6 @@ std::string Columned(std::string text, std::size_t width) {
 std::string WithReason(std::string_view text, std::string_view reason) {
     std::string whole(text);
     return reason.empty() ? whole : whole.append(" (").append(reason).append(")");
-}
-
-std::string_view NameOf(imports::RowOrder order) {
-    switch (order) {
-    case imports::RowOrder::OldestFirst:
-        return "oldest first";
-    case imports::RowOrder::NewestFirst:
-        return "newest first";
-    case imports::RowOrder::Mixed:
-        return "in no order";
-    }
-    return {};
 }
 
 // What is not settled has several names.
@@ -123,19 +111,11 @@ void AddRows(std::string& report, ImportResult const& result) {
 void AddFindings(std::string& report, std::string_view title, imports::Findings const& findings) {
     ReportPart section(report, title);
     for (imports::Finding const& finding : findings.Kept) {
-        section.Add(FindingText(finding));
+        section.Add(imports::FindingText(finding));
     }
     if (findings.Count > findings.Kept.size()) {
         section.Add("and " + std::to_string(findings.Count - findings.Kept.size()) + " more");
     }
-}
-
-std::string FiguresText(imports::DayQuote const& quote) {
-    std::string text;
-    for (double const figure : quote.Figures) {
-        text.append(text.empty() ? "" : ", ").append(text::PlainNumber(figure));
-    }
-    return text;
 }
 
 void AddMerge(std::string& report, ImportResult const& result) {
@@ -152,9 +132,7 @@ void AddMerge(std::string& report, ImportResult const& result) {
         section.Add("More than a week lies between the last day of the file and the first new one");
     }
     for (imports::DayChange const& change : merge.Changed) {
-        section.Add(text::FormatDate(change.Before.Day) + ": " + FiguresText(change.Before) +
-                    " in the file, " + FiguresText(change.After) + " at line " +
-                    std::to_string(change.After.Line));
+        section.Add(imports::ChangeText(change));
     }
 }
 
@@ -175,10 +153,6 @@ void AddQuoteFile(std::string& report, ImportResult const& result) {
 }
 
 } // namespace
-
-std::string FindingText(imports::Finding const& finding) {
-    return finding.Line == 0 ? finding.Text : "Line " + std::to_string(finding.Line) + ": " + finding.Text;
-}
 
 std::string ImportReport(ImportResult const& result) {
     std::string report;

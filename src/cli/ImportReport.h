@@ -22,7 +22,4 @@ struct ImportResult {
 // The result in words; of a refused one what was found out of the table, which may be nothing.
 [[nodiscard]] std::string ImportReport(ImportResult const& result);
 
-// What is to be said of a line: "Line 3: text", or the text alone.
-[[nodiscard]] std::string FindingText(imports::Finding const& finding);
-
 } // namespace quorvex::cli

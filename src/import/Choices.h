@@ -5,6 +5,7 @@
 // line that begins with `import` would be a directive of the language.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -81,6 +82,19 @@ struct Choices {
     bool OnlyChosenColumns = false; // those that are not named are unused
     std::string Symbol;             // the contract to take, in either case; empty: there is one
 };
+
+// What there is to choose from, in the order in which it is offered.
+inline constexpr std::array<Encoding, 4> EncodingChoices = {
+    Encoding::Utf8, Encoding::Windows1252, Encoding::Utf16LittleEndian, Encoding::Utf16BigEndian};
+inline constexpr std::array<Separator, 5> SeparatorChoices = {
+    Separator::Comma, Separator::Semicolon, Separator::Tab, Separator::Bar, Separator::Blanks};
+inline constexpr std::array<DateOrder, 3> DateOrderChoices = {
+    DateOrder::MonthDayYear, DateOrder::DayMonthYear, DateOrder::YearMonthDay};
+inline constexpr std::array<DecimalMark, 2> DecimalChoices = {DecimalMark::Point, DecimalMark::Comma};
+inline constexpr std::array<int, 8> FractionChoices = {NoFraction, 2, 4, 8, 16, 32, 64, 128};
+inline constexpr std::array<Role, 10> RoleChoices = {
+    Role::Unused, Role::Date,  Role::Time,   Role::Open,         Role::High,
+    Role::Low,    Role::Close, Role::Volume, Role::OpenInterest, Role::Symbol};
 
 [[nodiscard]] std::string_view NameOf(Encoding encoding);   // "UTF-8"
 [[nodiscard]] std::string_view NameOf(Separator separator); // "semicolons"

@@ -22,7 +22,8 @@ namespace quorvex::imports {
 
 namespace {
 
-constexpr std::size_t MostNames = 12;
+constexpr std::size_t MostNames = 12;         // that are told
+constexpr std::size_t MostKept = 200;         // that can be chosen from
 constexpr std::size_t MostOfNote = 200;       // bytes of a note that are told
 constexpr std::string_view AllMonths = "DVL"; // the volume of all contracts together
 
@@ -135,7 +136,7 @@ public:
         }
         taken_ = isWanted || name == wanted_;
         auto& names = taken_ ? names_ : others_;
-        if (std::ranges::find(names, name) == names.end() && names.size() <= MostNames) {
+        if (std::ranges::find(names, name) == names.end() && names.size() < MostKept) {
             names.push_back(name);
         }
         return taken_;
@@ -606,6 +607,8 @@ void Converter::TakeOver(Candidate& candidate) {
 }
 
 void Converter::Finish() {
+    common_.Symbols = symbols_.Names();
+    common_.Symbols.insert(common_.Symbols.end(), symbols_.Others().begin(), symbols_.Others().end());
     if (symbols_.Names().size() > 1) {
         Refuse(0, "There are several contracts: " + Listed(symbols_.Names()), Choice::Symbol);
         return;

@@ -65,7 +65,8 @@ struct Conversion {
     std::uint64_t OtherSymbolCount = 0; // rows of other contracts
     std::uint64_t WithoutVolume = 0;    // days whose volume is missing and 0 instead
     std::uint64_t WithoutOpenInterest = 0;
-    std::uint64_t WeekendCount = 0; // days that are a Saturday or Sunday
+    std::uint64_t WeekendCount = 0;   // days that are a Saturday or Sunday
+    std::vector<std::string> Symbols; // of the contracts in the table, those that are taken first
     RowOrder Order = RowOrder::OldestFirst;
     Findings LeftOut;
     Findings Notes; // lines that are no rows

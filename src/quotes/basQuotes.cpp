@@ -36,12 +36,18 @@ void OpenQuoteFile(QuoteSeries& series, settings::Settings const& settings, plat
         CloseQuoteFile(series);
         return;
     }
-    std::string const before = std::exchange(series.QuoteFileName, *chosen);
+    OpenNamedQuoteFile(*chosen, series, settings, files, dialogs);
+}
+
+bool OpenNamedQuoteFile(std::string const& name, QuoteSeries& series, settings::Settings const& settings,
+                        platform::Files const& files, platform::Dialogs& dialogs) {
+    std::string const before = std::exchange(series.QuoteFileName, name);
     bool const isLoaded = LoadQuoteFile(series, settings, files, dialogs) > 0;
     // A refused file has closed the series; one that could not be read leaves that to be done here.
     if (!isLoaded && series.HasQuotes()) {
         series.QuoteFileName = before;
     }
+    return isLoaded;
 }
 
 bool IsQuoteFileName(std::string_view name) {

@@ -29,6 +29,11 @@ void ShowNoQuotesMessage(platform::Dialogs& dialogs);
 void OpenQuoteFile(QuoteSeries& series, settings::Settings const& settings, platform::Files const& files,
                    platform::Dialogs& dialogs);
 
+// Loads the quote file of this name from the data folder as if it had been chosen. Returns whether it is open
+// now.
+bool OpenNamedQuoteFile(std::string const& name, QuoteSeries& series, settings::Settings const& settings,
+                        platform::Files const& files, platform::Dialogs& dialogs);
+
 // Whether a name is one that quotes can be saved under: five characters at least, ending with
 // ".TXT" in either case.
 [[nodiscard]] bool IsQuoteFileName(std::string_view name);
