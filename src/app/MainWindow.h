@@ -17,6 +17,7 @@ enum class SecondaryWindow {
     Forecast,
     FindCycles,
     TestForecast,
+    Import,
     Preferences,
     Legend,
     Help,

@@ -5,6 +5,7 @@
 
 #include "app/basCommands.h"
 #include "app/basCycleCommands.h"
+#include "app/basImportCommands.h"
 
 #include <algorithm>
 #include <array>
@@ -84,6 +85,7 @@ constexpr auto Menu = std::to_array<MenuRow>({
 });
 
 constexpr auto ChartMenu = std::to_array<MenuRow>({
+    {"mnuChartImport", "&Import...", "Pic1", ImportChosenTable},
     {"mnuChartFindCycles", "&Find Best Cycles...", "Pic2", FindBestCycles},
     {"mnuChartWriteParameters", "&Write Parameter File...", "Pic2", WriteParameterFile},
     {"mnuChartFindCycles", "&Find Best Cycles...", "Pic3", FindBestCycles},

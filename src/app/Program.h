@@ -10,6 +10,7 @@
 #include "cycles/CycleCurves.h"
 #include "cycles/CycleParameterSet.h"
 #include "cycles/ParameterGrid.h"
+#include "import/ImportSource.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/Launcher.h"
@@ -37,9 +38,11 @@ struct Program {
     cycles::CycleParameterSet Cycles;
     cycles::CycleCurves Curves; // of the last redraw
     std::optional<search::CycleModel>
-        FoundModel;            // what the search window was left with, nothing after Cancel
-    std::string HelpFileName;  // the document that the help window shows, without folder
-    std::string ProgramFolder; // where the program keeps its files
+        FoundModel;                   // what the search window was left with, nothing after Cancel
+    imports::ImportSource ImportFrom; // the table that the import window shows
+    std::optional<imports::ImportedFile> Imported; // what it has written, nothing after Close
+    std::string HelpFileName;                      // the document that the help window shows, without folder
+    std::string ProgramFolder;                     // where the program keeps its files
 };
 
 // What the charts are drawn and read from.

@@ -60,7 +60,18 @@ TEST(IndexDocument, TellsWhereTheEditorSaysHowASaveEnded) {
     EXPECT_EQ(told, 2);
 }
 
-TEST(QuickStartDocument, LeadsToTheContextMenusOfTheCycles) {
+TEST(IndexDocument, HasAnEntryForEveryPartOfTheImportWindow) {
+    auto const entries = tests::ReadIndexEntries();
+    for (char const* name : {"As Found Out", "Columns", "Contract", "Dates", "Decimal Mark", "Encoding",
+                             "Findings", "Fraction", "From and To", "Import", "Latest", "Name",
+                             "Replace changed figures", "Separator", "Table", "Update"}) {
+        EXPECT_TRUE(std::ranges::any_of(entries, [&](tests::IndexEntry const& entry) {
+            return entry.Name == name && entry.Place.ends_with("Import window");
+        })) << name;
+    }
+}
+
+TEST(QuickStartDocument, LeadsToTheContextMenusOfTheCharts) {
     std::string const text = tests::TextOf(tests::ReadHelp("Quorvex-QuickStart.rtf"));
     for (MenuRow const& row : ChartMenuTable()) {
         std::string caption(row.Caption);

@@ -6,6 +6,7 @@
 #include "RunningProgram.h"
 #include "app/MenuTable.h"
 #include "app/basCommands.h"
+#include "app/basImportCommands.h"
 #include "search/basSearch.h"
 #include "support/Golden.h"
 #include "support/Messages.h"
@@ -211,8 +212,9 @@ TEST(WriteParameterFile, AFaultShowsItsDescription) {
     EXPECT_TRUE(IsOnlyMessage(running.Dialogs.Messages, "Permission denied", "Quorvex", Icon::None));
 }
 
-TEST(ChartMenuTable, TheChartsOfTheCyclesHaveTheirItems) {
-    std::map<std::string_view, Command> const commands = {{"mnuChartFindCycles", FindBestCycles},
+TEST(ChartMenuTable, TheChartsHaveTheirItems) {
+    std::map<std::string_view, Command> const commands = {{"mnuChartImport", ImportChosenTable},
+                                                          {"mnuChartFindCycles", FindBestCycles},
                                                           {"mnuChartTestForecast", TestForecast},
                                                           {"mnuChartWriteParameters", WriteParameterFile}};
     std::vector<std::string> items;
@@ -221,11 +223,12 @@ TEST(ChartMenuTable, TheChartsOfTheCyclesHaveTheirItems) {
                         std::string(row.Caption));
         EXPECT_EQ(row.Run, commands.at(row.Name));
     }
-    EXPECT_THAT(items, ElementsAre("Pic2 mnuChartFindCycles &Find Best Cycles...",
-                                   "Pic2 mnuChartWriteParameters &Write Parameter File...",
-                                   "Pic3 mnuChartFindCycles &Find Best Cycles...",
-                                   "Pic3 mnuChartTestForecast &Test Forecast...",
-                                   "Pic3 mnuChartWriteParameters &Write Parameter File..."));
+    EXPECT_THAT(items,
+                ElementsAre("Pic1 mnuChartImport &Import...", "Pic2 mnuChartFindCycles &Find Best Cycles...",
+                            "Pic2 mnuChartWriteParameters &Write Parameter File...",
+                            "Pic3 mnuChartFindCycles &Find Best Cycles...",
+                            "Pic3 mnuChartTestForecast &Test Forecast...",
+                            "Pic3 mnuChartWriteParameters &Write Parameter File..."));
 }
 
 TEST(ChartMenuTable, HasRowsByName) {

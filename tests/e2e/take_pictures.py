@@ -89,6 +89,28 @@ class Studio:
         window = self.program.window("Quorvex - Test Forecast - [Wheat.txt]")
         wait_for(lambda: not window.find_all("progress bar"), "the end of the test")
 
+    def import_table(self):
+        """The window that imports a table: the sample as a vendor has it, the newest day first."""
+        path = os.path.join(self.desktop.folder, "ZW_daily.csv")
+        with open(os.path.join(SAMPLES, "Wheat.txt"), encoding="ascii") as quotes:
+            rows = [line.replace(" ", "").strip().split(",") for line in quotes]
+        with open(path, "w", encoding="ascii") as table:
+            table.write("Symbol,Time,Last,Open,High,Low,Change,Volume,Open Int\n")
+            for date, opening, high, low, close, volume, interest in reversed(rows):
+                change = float(close) - float(opening)
+                table.write(f"ZW,{date},{close},{opening},{high},{low},{change:+.2f},{volume},{interest}\n")
+            table.write("Downloaded from a vendor\n")
+        self.desktop.hand_over(path)
+        self.program.chart("Daily quotes chart").focus()
+        self.desktop.press("Menu", "i")
+        chooser = wait_for(self.program.showing_dialogs, "the file chooser")[0]
+        wait_for(lambda: chooser.has("active"), "the file chooser's activation")
+        self.desktop.press("ctrl+a")
+        self.desktop.type(path)
+        self.desktop.press("Return")
+        window = self.program.window("Quorvex - Import - [ZW_daily.csv]")
+        wait_for(lambda: not window.find_all("progress bar"), "the end of the reading")
+
     def take(self, title, path):
         """A picture of the window alone, without the window manager's frame."""
         subprocess.run(["import", "-window", self.window_number(title), path], env=self.desktop.environment,
@@ -129,6 +151,10 @@ def take_dialogs(studio, folder):
     program.wait_for_main()
     studio.test_forecast()
     studio.take("Quorvex - Test Forecast", os.path.join(folder, "test-forecast.png"))
+    studio.desktop.press("Escape")
+    program.wait_for_main()
+    studio.import_table()
+    studio.take("Quorvex - Import", os.path.join(folder, "import.png"))
     studio.desktop.press("Escape")
     program.wait_for_main()
     for picture, exit_item, title, *command in SECONDARY_WINDOWS:

@@ -3,9 +3,13 @@
 
 #include "app/ui/GridPanel.h"
 
+#include "app/ui/Tables.h"
 #include "app/ui/basPlacing.h"
 #include "platform/pictures/QtTexts.h"
 
+#include <QApplication>
+#include <QClipboard>
+#include <QDragEnterEvent>
 #include <QKeyEvent>
 #include <cstddef>
 
@@ -51,6 +55,15 @@ QWidget* MakeFiller(QWidget& client) {
     auto* filler = new QWidget(&client);
     filler->setAutoFillBackground(true);
     return filler;
+}
+
+// A table that is pasted or dropped on a cell: no cell can hold it.
+bool IsForWindow(QEvent& event) {
+    if (event.type() == QEvent::ShortcutOverride) {
+        return static_cast<QKeyEvent&>(event).matches(QKeySequence::Paste) &&
+               HoldsTables(QApplication::clipboard()->mimeData());
+    }
+    return event.type() == QEvent::DragEnter && HoldsTables(static_cast<QDragEnterEvent&>(event).mimeData());
 }
 
 QRect WithoutLines(QRect const& cell) {
@@ -125,6 +138,10 @@ void GridPanel::SetText(cycles::Parameter parameter, int cycle, std::string_view
 }
 
 bool GridPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (IsForWindow(*event)) {
+        event->ignore();
+        return true;
+    }
     if (event->type() == QEvent::KeyPress) {
         switch (static_cast<QKeyEvent*>(event)->key()) {
         case Qt::Key_Up:

@@ -15,6 +15,7 @@
 #include "convert/ui/frmConvertCustom.h"
 #include "editor/ui/frmEdit.h"
 #include "evaluation/ui/frmTestForecast.h"
+#include "import/ui/frmImport.h"
 #include "platform/pictures/QtTexts.h"
 #include "platform/qt/QtDialogs.h"
 #include "prefs/ui/frmPreferences.h"
@@ -76,6 +77,10 @@ void SecondaryWindows::RunModal(SecondaryWindow window) {
         program_.FoundModel = Need(findCycles_, parent, program_.Quotes, program_.Curves, program_.Settings,
                                    host_.Files, dialogs_)
                                   .RunModal();
+        break;
+    case SecondaryWindow::Import:
+        program_.Imported = Need(import_, parent, program_.Quotes, program_.Settings, host_.Files, dialogs_)
+                                .RunModal(program_.ImportFrom);
         break;
     case SecondaryWindow::Preferences:
         Need(preferences_, parent, program_.Settings, program_.Quotes, host_.Profile, dialogs_).RunModal();

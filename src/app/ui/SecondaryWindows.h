@@ -37,6 +37,10 @@ namespace quorvex::evaluation::ui {
 class frmTestForecast;
 }
 
+namespace quorvex::imports::ui {
+class frmImport;
+}
+
 namespace quorvex::prefs::ui {
 class frmPreferences;
 }
@@ -75,6 +79,7 @@ private:
     QPointer<chart::ui::frmForecast> forecast_;
     QPointer<search::ui::frmFindCycles> findCycles_;
     QPointer<auxiliary::ui::frmHelp> help_;
+    QPointer<imports::ui::frmImport> import_;
     QPointer<chart::ui::frmLegend> legend_;
     QPointer<prefs::ui::frmPreferences> preferences_;
     QPointer<auxiliary::ui::frmProperties> properties_;

@@ -3,18 +3,23 @@
 
 #include "app/ui/frmMain.h"
 
+#include "app/basImportCommands.h"
 #include "app/basRedraw.h"
 #include "app/layout/basLayout.h"
 #include "app/ui/MenuBar.h"
+#include "app/ui/Tables.h"
 #include "app/ui/basPlacing.h"
 #include "platform/pictures/QtTexts.h"
 #include "platform/qt/NominalFrame.h"
 #include "platform/qt/QtDialogs.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QDropEvent>
 #include <QScreen>
+#include <QShortcut>
 #include <utility>
 
 namespace quorvex::app::ui {
@@ -63,6 +68,10 @@ frmMain::frmMain(Program& program, std::string_view programFolder, Host const& h
                                                     .Dialogs = dialogs_,
                                                     .Pending = *this,
                                                     .Window = *this});
+    setAcceptDrops(true);
+    auto* paste = new QShortcut(QKeySequence::Paste, this);
+    connect(paste, &QShortcut::activated, this,
+            [this] { TakeTables(QApplication::clipboard()->mimeData()); });
     resize(InitialSize.boundedTo(screen()->availableSize()));
     platform::qt::CentreForm(*this);
     StartUp(program, *grid_, host.Profile, programFolder);
@@ -210,6 +219,41 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
 void frmMain::closeEvent(QCloseEvent* event) {
     event->accept();
     End();
+}
+
+void frmMain::dragEnterEvent(QDragEnterEvent* event) {
+    if (!IsOccupied() && HoldsTables(event->mimeData())) {
+        event->setDropAction(Qt::CopyAction); // the file stays where it is
+        event->accept();
+    }
+}
+
+void frmMain::dropEvent(QDropEvent* event) {
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    TakeTables(event->mimeData());
+}
+
+void frmMain::TakeTables(QMimeData const* mimeData) {
+    auto tables = TablesIn(mimeData);
+    if (tables.IsNone()) {
+        return;
+    }
+    QMetaObject::invokeMethod(
+        this,
+        [this, tables = std::move(tables)] {
+            if (IsOccupied()) {
+                return; // somebody was quicker
+            }
+            RunUndisturbed([&] {
+                if (tables.Paths.empty()) {
+                    TakeTable(tables.Text, program_, *services_);
+                } else {
+                    TakeFiles(tables.Paths, program_, *services_);
+                }
+            });
+        },
+        Qt::QueuedConnection);
 }
 
 void frmMain::SetCaption(std::string_view caption) {

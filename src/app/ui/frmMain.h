@@ -15,6 +15,7 @@
 #include "platform/qt/QtPendingMessages.h"
 
 #include <QMainWindow>
+#include <QMimeData>
 #include <QScopeGuard>
 #include <QTimer>
 #include <array>
@@ -43,6 +44,8 @@ protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     static constexpr std::size_t BoxCount = 4;
@@ -56,6 +59,10 @@ private:
 
     // What the context menu of the chart of this name offers besides its own.
     [[nodiscard]] std::vector<platform::qt::PictureCommand> CommandsOf(std::string_view boxName);
+
+    // Imports what was dropped or pasted, if there is a table in it, once Qt is done with the event: who
+    // dropped it waits for the end of that.
+    void TakeTables(QMimeData const* mimeData);
 
     // Whether a command, a redraw or a dialog is under way. Redraws that are wanted wait for its end.
     [[nodiscard]] bool IsOccupied() const;

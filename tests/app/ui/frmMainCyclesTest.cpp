@@ -103,7 +103,7 @@ class frmMainCyclesTest final : public WindowTest {
 
 private Q_SLOTS:
 
-    void TheChartsOfTheCyclesOfferTheirItems() {
+    void TheChartsOfferTheirItems() {
         RunningWindow main;
         for (int chart = 1; chart <= 4; ++chart) {
             QStringList items;
@@ -119,7 +119,7 @@ private Q_SLOTS:
             QString const own = u"&Copy Image|Save Image &As..."_s;
             QString const find = u"&Find Best Cycles...|"_s;
             QString const write = u"&Write Parameter File...|-|"_s;
-            QStringList const offered = {own, find + write + own,
+            QStringList const offered = {u"&Import...|-|"_s + own, find + write + own,
                                          find + u"&Test Forecast...|"_s + write + own, own};
             QCOMPARE(items.join(u'|'), offered.at(chart - 1));
         }

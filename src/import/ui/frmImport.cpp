@@ -1,0 +1,539 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "import/ui/frmImport.h"
+
+#include "import/basTelling.h"
+#include "platform/basFiles.h"
+#include "platform/basMessages.h"
+#include "platform/pictures/QtTexts.h"
+#include "platform/qt/QtDialogs.h"
+#include "quotes/basQuotes.h"
+#include "text/RunTimeError.h"
+#include "text/basDates.h"
+#include "text/basTexts.h"
+#include "ui_frmImport.h"
+
+#include <QDir>
+#include <QSignalBlocker>
+#include <algorithm>
+#include <exception>
+#include <set>
+#include <utility>
+
+namespace quorvex::imports::ui {
+
+namespace {
+
+using platform::pictures::FromQt;
+using platform::pictures::ToQt;
+
+constexpr int RowHeight = 22;
+constexpr int PlanRowsShown = 9;
+
+// What no quote file is longer than, be there a line for each day of a century.
+constexpr std::uint64_t LargestQuoteFile = 4'194'304;
+
+QString Automatic() {
+    return QStringLiteral("automatic");
+}
+
+QString FractionName(int denominator) {
+    return denominator == NoFraction ? QStringLiteral("none") : QStringLiteral("1/%1").arg(denominator);
+}
+
+// Where the user settles what a table leaves open.
+QString HowToSettle(Choice choice) {
+    switch (choice) {
+    case Choice::None:
+        return {};
+    case Choice::Encoding:
+        return QStringLiteral(" Choose another encoding.");
+    case Choice::Separator:
+        return QStringLiteral(" Choose the separator, if another one is right.");
+    case Choice::Columns:
+        return QStringLiteral(" Choose in the boxes above the table what its columns are.");
+    case Choice::DateOrder:
+        return QStringLiteral(" Choose the order under Dates.");
+    case Choice::Decimal:
+        return QStringLiteral(" Choose the decimal mark.");
+    case Choice::Fraction:
+        return QStringLiteral(" Choose the fraction.");
+    case Choice::Symbol:
+        return QStringLiteral(" Choose the contract.");
+    }
+    return {};
+}
+
+// Behind "automatic": what was found out, when it is one thing.
+QString Found(QString const& name) {
+    return name.isEmpty() ? Automatic() : Automatic() + QStringLiteral(": ") + name;
+}
+
+template <class Value>
+QString OnlyName(std::vector<Value> const& values) {
+    return values.size() == 1 ? ToQt(NameOf(values.front())) : QString();
+}
+
+} // namespace
+
+frmImport::frmImport(QWidget* parent, quotes::QuoteSeries const& series, settings::Settings const& settings,
+                     platform::Files& files, platform::Dialogs& dialogs)
+    : QDialog(parent),
+      series_(series),
+      settings_(settings),
+      files_(files),
+      dialogs_(dialogs),
+      ui_(std::make_unique<Ui::frmImport>()),
+      preview_(new TablePreview(this)),
+      thread_(
+          [this](TableNews const& news) {
+              QMetaObject::invokeMethod(
+                  this, [this, news] { Take(news); }, Qt::QueuedConnection);
+          },
+          files) {
+    ui_->setupUi(this);
+    PrepareTables();
+    FillBoxes();
+    ConnectBoxes();
+}
+
+frmImport::~frmImport() = default;
+
+void frmImport::PrepareTables() {
+    ui_->tblTable->setModel(preview_);
+    ui_->tblTable->horizontalHeader()->setHighlightSections(false);
+    ui_->boxes->Follow(*ui_->tblTable);
+    ui_->tblTable->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    ui_->tblTable->verticalHeader()->setDefaultSectionSize(RowHeight);
+    ui_->tblTable->verticalHeader()->setHighlightSections(false);
+    QTableWidget& plan = *ui_->tblPlan;
+    plan.verticalHeader()->hide();
+    plan.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    plan.verticalHeader()->setDefaultSectionSize(RowHeight);
+    plan.horizontalHeader()->setHighlightSections(false);
+    plan.horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    plan.horizontalHeader()->setStretchLastSection(true);
+    plan.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    plan.setMinimumHeight(PlanRowsShown * RowHeight + plan.horizontalHeader()->sizeHint().height() +
+                          2 * plan.frameWidth());
+    ui_->lstFindings->setModel(&findings_);
+    QSizePolicy policy = ui_->prgImport->sizePolicy();
+    policy.setRetainSizeWhenHidden(true); // the buttons stay where they are
+    ui_->prgImport->setSizePolicy(policy);
+}
+
+template <class Values, class Value, class Name>
+void frmImport::Bind(QComboBox& box, Values const& values, std::optional<Value> Choices::*choice,
+                     Name nameOf) {
+    box.addItem(Automatic());
+    for (auto const& value : values) {
+        box.addItem(nameOf(value));
+    }
+    connect(&box, &QComboBox::activated, this, [this, &box, &values, choice](int index) {
+        chosen_.*choice =
+            index == 0 ? std::nullopt : std::optional<Value>(values.at(static_cast<std::size_t>(index - 1)));
+        if (&box == ui_->cboSeparator || &box == ui_->cboEncoding) {
+            roles_.clear(); // the columns are others now
+        }
+        StartReading();
+    });
+}
+
+void frmImport::FillBoxes() {
+    auto const name = [](auto value) { return ToQt(NameOf(value)); };
+    Bind(*ui_->cboEncoding, EncodingChoices, &Choices::Encoding, name);
+    Bind(*ui_->cboSeparator, SeparatorChoices, &Choices::Separator, name);
+    Bind(*ui_->cboDates, DateOrderChoices, &Choices::DateOrder, name);
+    Bind(*ui_->cboDecimal, DecimalChoices, &Choices::Decimal, name);
+    Bind(*ui_->cboFraction, FractionChoices, &Choices::Fraction, FractionName);
+    ui_->cboSymbol->addItem(Automatic());
+}
+
+void frmImport::ConnectBoxes() {
+    connect(ui_->boxes, &RoleBoxes::RoleChosen, this, [this](int column, int choice) {
+        ChooseRole(column, RoleChoices.at(static_cast<std::size_t>(choice)));
+    });
+    connect(ui_->cboSymbol, &QComboBox::activated, this, [this](int index) { ChooseSymbol(index); });
+    connect(ui_->cmdAsFound, &QPushButton::clicked, this, [this] {
+        ClearChoices();
+        StartReading();
+    });
+    for (QLineEdit* box : {ui_->txtFrom, ui_->txtTo}) {
+        connect(box, &QLineEdit::textChanged, this, [this] { StartReading(); });
+    }
+    auto const prepare = [this] {
+        PrepareFile();
+        ShowState();
+    };
+    connect(ui_->txtQuoteFile, &QLineEdit::textChanged, this, prepare);
+    connect(ui_->spnDays, &QSpinBox::valueChanged, this, prepare);
+    connect(ui_->chkReplace, &QCheckBox::toggled, this, prepare);
+    auto const guard = [this](void (frmImport::*routine)()) {
+        return [this, routine] { platform::qt::RunGuarded(*this, [this, routine] { (this->*routine)(); }); };
+    };
+    connect(ui_->cmdBrowse, &QPushButton::clicked, this, guard(&frmImport::Browse));
+    connect(ui_->cmdImport, &QPushButton::clicked, this, guard(&frmImport::Import));
+    connect(ui_->cmdUpdate, &QPushButton::clicked, this, guard(&frmImport::Update));
+    connect(ui_->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(ui_->cmdClose, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+std::optional<ImportedFile> frmImport::RunModal(ImportSource const& source) {
+    source_ = source;
+    imported_.reset();
+    std::string const name =
+        source.Text ? std::string("pasted table") : std::string(platform::BareName(source.Path));
+    platform::qt::SetCaption(*this, "Quorvex - Import - [" + name + "]");
+    platform::qt::CentreForm(*this);
+    ClearChoices();
+    {
+        QSignalBlocker const from(ui_->txtFrom);
+        QSignalBlocker const to(ui_->txtTo);
+        QSignalBlocker const replace(ui_->chkReplace);
+        QSignalBlocker const file(ui_->txtQuoteFile);
+        ui_->txtFrom->clear();
+        ui_->txtTo->clear();
+        ui_->chkReplace->setChecked(false);
+        ui_->txtQuoteFile->setText(ToQt(SuggestedName()));
+    }
+    ui_->cboEncoding->setEnabled(!source.Text);
+    StartReading();
+    ui_->txtQuoteFile->setFocus();
+    ui_->txtQuoteFile->selectAll();
+    exec();
+    return imported_;
+}
+
+void frmImport::done(int result) {
+    thread_.Stop();
+    number_ = 0;
+    source_ = {};
+    look_.reset();
+    read_.reset();
+    made_.reset();
+    updated_.reset();
+    preview_->Show({});
+    QDialog::done(result);
+}
+
+void frmImport::ClearChoices() {
+    chosen_ = {};
+    roles_.clear();
+    for (QComboBox* box : {ui_->cboEncoding, ui_->cboSeparator, ui_->cboDates, ui_->cboDecimal,
+                           ui_->cboFraction, ui_->cboSymbol}) {
+        box->setCurrentIndex(0);
+    }
+}
+
+void frmImport::ChooseRole(int column, Role role) {
+    std::erase_if(roles_, [column](ChosenRole const& chosen) { return chosen.Column == column; });
+    roles_.insert(roles_.begin(), {column, role});
+    StartReading();
+}
+
+// Of two columns that the user gave a role which only one can have, the one that got it last has it. The
+// other one has it again when that becomes something else, as it does while keys go through the entries of
+// its box.
+void frmImport::TakeRoles() {
+    chosen_.Columns.clear();
+    std::set<Role> taken;
+    for (ChosenRole const& chosen : roles_) {
+        bool const isShared = chosen.Is == Role::Unused || chosen.Is == Role::Symbol;
+        if (isShared || taken.insert(chosen.Is).second) {
+            chosen_.Columns.push_back({std::to_string(chosen.Column + 1), chosen.Is});
+        }
+    }
+}
+
+void frmImport::ChooseSymbol(int index) {
+    chosen_.Symbol = index == 0 ? std::string() : FromQt(ui_->cboSymbol->itemText(index));
+    StartReading();
+}
+
+bool frmImport::TakeLimits(Limits& limits) {
+    struct Box {
+        QLineEdit const& Edit;
+        std::optional<text::CalendarDay>& Day;
+    };
+
+    for (Box const& box : {Box{*ui_->txtFrom, limits.From}, Box{*ui_->txtTo, limits.To}}) {
+        std::string const typed = FromQt(box.Edit.text().trimmed());
+        box.Day = text::ParseDate(typed);
+        if (!box.Day && !typed.empty()) {
+            fault_ = typed + " is no date such as 01/31/24.";
+            return false;
+        }
+    }
+    return true;
+}
+
+void frmImport::StartReading() {
+    fault_.clear();
+    read_.reset();
+    TakeRoles();
+    ui_->prgImport->setValue(0);
+    Limits limits;
+    if (TakeLimits(limits)) {
+        number_ = thread_.Start({source_, chosen_, limits});
+        PrepareFile();
+        ShowState();
+    } else {
+        EndReading();
+    }
+}
+
+void frmImport::EndReading() {
+    thread_.Stop();
+    number_ = 0;
+    PrepareFile();
+    ShowState();
+}
+
+void frmImport::Take(TableNews const& news) {
+    if (news.Number != number_) {
+        return; // of a reading that was ended
+    }
+    if (news.Looked) {
+        look_ = news.Looked;
+        preview_->Show(look_);
+        ui_->boxes->ShowRoles(*preview_);
+        ui_->boxes->FitColumns();
+        OrderTabs();
+        ShowPlan(look_->Made);
+        ShowChoices(look_->Made);
+    } else if (!news.IsOver) {
+        ui_->prgImport->setValue(static_cast<int>(news.Share * ui_->prgImport->maximum()));
+    }
+    if (!news.IsOver) {
+        return;
+    }
+    read_ = news.Read;
+    if (read_) {
+        preview_->ShowFindings(*read_);
+        ShowChoices(read_->Used);
+        ShowSymbols();
+    }
+    if (news.Fault) {
+        platform::qt::RunGuarded(*this, [&] {
+            if (auto const fault = text::Trap([&] { std::rethrow_exception(news.Fault); })) {
+                fault_ = std::string(fault->Description()) + ".";
+            }
+        });
+    }
+    EndReading();
+}
+
+// The boxes above the table come with its first columns.
+void frmImport::OrderTabs() {
+    QWidget* before = ui_->cmdAsFound;
+    for (QComboBox* box : ui_->boxes->Boxes()) {
+        setTabOrder(std::exchange(before, box), box);
+    }
+    setTabOrder(before, ui_->tblTable);
+}
+
+void frmImport::PrepareFile() {
+    made_.reset();
+    updated_.reset();
+    updateFault_.clear();
+    if (!read_ || read_->Refused) {
+        return;
+    }
+    made_ = MakeQuoteFile(*read_, static_cast<std::size_t>(ui_->spnDays->value()));
+    std::string const path = TargetPath();
+    if (!made_->Days.empty() && quotes::IsQuoteFileName(platform::BareName(path)) &&
+        platform::IsThere(files_, path)) {
+        PrepareUpdate(path);
+    }
+}
+
+void frmImport::PrepareUpdate(std::string const& path) {
+    auto const fault = text::Trap([&] {
+        if (files_.Length(path) > LargestQuoteFile) {
+            updateFault_ = "it is too long for a quote file";
+            return;
+        }
+        auto const bytes = files_.OpenForInput(path);
+        updated_ = UpdateQuoteFile(*bytes, *read_, ui_->chkReplace->isChecked(),
+                                   static_cast<std::size_t>(ui_->spnDays->value()));
+    });
+    if (fault) {
+        updateFault_ = fault->Description();
+    }
+}
+
+void frmImport::ShowPlan(Plan const& plan) {
+    auto const rows = PlanRows(plan);
+    QTableWidget& table = *ui_->tblPlan;
+    table.setRowCount(static_cast<int>(rows.size()));
+    int index = 0;
+    for (PlanRow const& row : rows) {
+        int column = 0;
+        for (std::string const* text : {&row.Is, &row.Column, &row.Why}) {
+            auto* item = new QTableWidgetItem(ToQt(*text));
+            item->setToolTip(item->text());
+            table.setItem(index, column++, item);
+        }
+        ++index;
+    }
+    table.scrollToTop();
+}
+
+void frmImport::ShowChoices(Plan const& plan) {
+    ui_->cboEncoding->setItemText(0, Found(chosen_.Encoding ? QString() : ToQt(NameOf(plan.EncodedIn))));
+    ui_->cboSeparator->setItemText(0, Found(chosen_.Separator ? QString() : ToQt(NameOf(plan.SeparatedBy))));
+    ui_->cboDates->setItemText(0, Found(chosen_.DateOrder ? QString() : OnlyName(plan.DateOrders)));
+    ui_->cboDecimal->setItemText(0, Found(chosen_.Decimal ? QString() : OnlyName(plan.Decimals)));
+}
+
+void frmImport::ShowSymbols() {
+    QComboBox& box = *ui_->cboSymbol;
+    QString const chosen = ToQt(chosen_.Symbol);
+    box.clear();
+    box.addItem(
+        Found(chosen.isEmpty() && read_->Symbols.size() == 1 ? ToQt(read_->Symbols.front()) : QString()));
+    for (std::string const& symbol : read_->Symbols) {
+        box.addItem(ToQt(symbol));
+    }
+    if (!chosen.isEmpty() && box.findText(chosen) < 0) {
+        box.addItem(chosen);
+    }
+    box.setCurrentIndex(chosen.isEmpty() ? 0 : box.findText(chosen));
+}
+
+void frmImport::ShowState() {
+    ui_->lblResult->setText(ResultText());
+    findings_.setStringList(FindingTexts());
+    ShowButtons();
+}
+
+QString frmImport::ResultText() const {
+    if (number_ != 0) {
+        return QStringLiteral("Reading...");
+    }
+    if (!read_) {
+        return ToQt(fault_);
+    }
+    QString text = ToQt(DescribeConversion(*read_));
+    if (read_->Refused) {
+        return text + HowToSettle(read_->Refused->SettledBy);
+    }
+    text += QStringLiteral("\nQuote file: ") + ToQt(DescribeQuoteFile(*made_));
+    std::string const name(platform::BareName(TargetPath()));
+    if (updated_) {
+        text += u'\n' + ToQt(DescribeUpdate(*updated_, name, ui_->chkReplace->isChecked()));
+    } else if (!updateFault_.empty()) {
+        text += u'\n' + ToQt(name + " cannot be brought up to date: " + updateFault_ + ".");
+    }
+    return text;
+}
+
+QStringList frmImport::FindingTexts() const {
+    QStringList texts;
+    if (!read_) {
+        return texts;
+    }
+    if (updated_ && updated_->Merged) {
+        for (DayChange const& change : updated_->Merged->Changed) {
+            texts.append(ToQt(ChangeText(change)));
+        }
+    }
+    for (std::string const& line : FindingLines(*read_)) {
+        texts.append(ToQt(line));
+    }
+    if (preview_->ColumnsInAll() > MostShownColumns) {
+        texts.append(QStringLiteral("Of %1 columns the first %2 are shown")
+                         .arg(preview_->ColumnsInAll())
+                         .arg(MostShownColumns));
+    }
+    return texts;
+}
+
+bool frmImport::CanImport() const {
+    return made_ && !made_->Refused && !TargetPath().empty();
+}
+
+bool frmImport::CanUpdate() const {
+    return updated_ && updated_->HasNews();
+}
+
+// While a table is read Enter writes nothing.
+void frmImport::ShowButtons() {
+    bool const isReading = number_ != 0;
+    ui_->prgImport->setVisible(isReading);
+    ui_->cmdCancel->setVisible(isReading);
+    ui_->cmdClose->setVisible(!isReading);
+    ui_->cmdImport->setEnabled(CanImport());
+    ui_->cmdUpdate->setEnabled(CanUpdate());
+    ui_->cmdUpdate->setDefault(CanUpdate());
+    ui_->cmdImport->setDefault(CanImport() && !CanUpdate());
+    ui_->chkReplace->setEnabled(updated_ && updated_->Merged && !updated_->Merged->Changed.empty());
+}
+
+std::string frmImport::SuggestedName() const {
+    if (source_.Text) {
+        return series_.HasQuotes() ? series_.QuoteFileName : "Pasted.txt";
+    }
+    std::string const source(platform::BareName(source_.Path));
+    std::string const stem = source.substr(0, source.rfind('.'));
+    std::string const name = stem + ".txt";
+    // One that is there is meant, however it is spelled.
+    bool const isPattern = name.find_first_of("*?") != std::string::npos;
+    auto const there = isPattern ? std::vector<std::string>() : files_.List(settings_.DataPath, name);
+    std::string const& found = there.empty() ? name : there.front();
+    return settings_.DataPath + found == source_.Path ? stem + " quotes.txt" : found;
+}
+
+std::string frmImport::TargetPath() const {
+    QString const typed = ui_->txtQuoteFile->text().trimmed();
+    if (typed.isEmpty()) {
+        return {};
+    }
+    return QDir::isAbsolutePath(typed) ? FromQt(typed) : settings_.DataPath + FromQt(typed);
+}
+
+void frmImport::Browse() {
+    std::string const path = TargetPath();
+    std::string const name(platform::BareName(path));
+    std::string const chosen = dialogs_.AskWhereToSave(
+        {.Title = "Quote File",
+         .Folder = path.empty() ? settings_.DataPath : path.substr(0, path.size() - name.size()),
+         .Name = name,
+         .Filter = "Quote files (*.txt)|*.txt",
+         .Ending = "txt"});
+    if (chosen.empty()) {
+        return;
+    }
+    bool const isInDataFolder = chosen == settings_.DataPath + std::string(platform::BareName(chosen));
+    ui_->txtQuoteFile->setText(ToQt(isInDataFolder ? platform::BareName(chosen) : std::string_view(chosen)));
+}
+
+void frmImport::Import() {
+    std::string const path = TargetPath();
+    std::string const name(platform::BareName(path));
+    if (!quotes::RequireQuoteFileName(name, dialogs_)) {
+        return;
+    }
+    if (!platform::IsThere(files_, path) || platform::MayReplace(dialogs_, name, "Import")) {
+        Write(path, *made_);
+    }
+}
+
+// The file may be another one by now than when it was looked at.
+void frmImport::Update() {
+    PrepareFile();
+    ShowState();
+    if (CanUpdate()) {
+        Write(TargetPath(), *updated_);
+    }
+}
+
+void frmImport::Write(std::string const& path, QuoteFile const& file) {
+    files_.Replace(path, QuoteText(file.Days));
+    std::string const name(platform::BareName(path));
+    imported_ = ImportedFile{path.substr(0, path.size() - name.size()), name};
+    accept();
+}
+
+} // namespace quorvex::imports::ui

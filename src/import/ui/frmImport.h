@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "import/ImportSource.h"
+#include "import/basImport.h"
+#include "import/ui/TablePreview.h"
+#include "import/ui/TableThread.h"
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "quotes/QuoteSeries.h"
+#include "settings/Settings.h"
+
+#include <QComboBox>
+#include <QDialog>
+#include <QStringListModel>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Ui {
+class frmImport;
+}
+
+namespace quorvex::imports::ui {
+
+// Shows what a vendor's table is taken for and what is wrong with it, lets the user choose otherwise, and
+// writes its days into a quote file, a new one or one that it brings up to date. It reads the table anew
+// after every choice, and not longer than it is open. Nothing is written of a table that is refused.
+class frmImport final : public QDialog {
+    Q_OBJECT
+
+public:
+    // All must outlive the window.
+    frmImport(QWidget* parent, quotes::QuoteSeries const& series, settings::Settings const& settings,
+              platform::Files& files, platform::Dialogs& dialogs);
+    ~frmImport() override;
+
+    // Shows the window with the table and waits until it is closed. Returns the quote file that was written,
+    // nothing when none was.
+    [[nodiscard]] std::optional<ImportedFile> RunModal(ImportSource const& source);
+
+    void done(int result) override;
+
+private:
+    struct ChosenRole {
+        int Column = 0;
+        Role Is = Role::Unused;
+    };
+
+    void PrepareTables();
+    void FillBoxes();
+    void ConnectBoxes();
+
+    // Lets the box set this choice; what stands first in it sets none.
+    template <class Values, class Value, class Name>
+    void Bind(QComboBox& box, Values const& values, std::optional<Value> Choices::*choice, Name nameOf);
+
+    void ClearChoices();
+    void ChooseRole(int column, Role role);
+    void TakeRoles();
+    void ChooseSymbol(int index);
+
+    // Reads the table by the choices.
+    void StartReading();
+    void EndReading();
+    void Take(TableNews const& news);
+    [[nodiscard]] bool TakeLimits(Limits& limits);
+
+    void OrderTabs();
+
+    // What the file of the name becomes, of which nothing is written yet.
+    void PrepareFile();
+    void PrepareUpdate(std::string const& path);
+
+    void ShowPlan(Plan const& plan);
+    void ShowChoices(Plan const& plan);
+    void ShowSymbols();
+    void ShowState();
+    void ShowButtons();
+    [[nodiscard]] QString ResultText() const;
+    [[nodiscard]] QStringList FindingTexts() const;
+    // The table was not changed since it was read, and a file can be made of it.
+    [[nodiscard]] bool CanImport() const;
+    [[nodiscard]] bool CanUpdate() const;
+
+    [[nodiscard]] std::string SuggestedName() const;
+    [[nodiscard]] std::string TargetPath() const;
+    void Browse();
+    void Import();
+    void Update();
+    void Write(std::string const& path, QuoteFile const& file);
+
+    quotes::QuoteSeries const& series_;
+    settings::Settings const& settings_;
+    platform::Files& files_;
+    platform::Dialogs& dialogs_;
+    ImportSource source_;
+    Choices chosen_;
+    std::vector<ChosenRole> roles_; // each column once, the latest choice first
+    std::shared_ptr<TableLook const> look_;
+    std::shared_ptr<Conversion const> read_; // none while the table is read, and after a fault
+    std::optional<QuoteFile> made_;          // of the table alone
+    std::optional<QuoteFile> updated_;       // of the table and the file of the name, when there is one
+    std::string fault_;                      // why the table could not be read
+    std::string updateFault_;                // why that file cannot be brought up to date
+    int number_ = 0;                         // of the reading whose news count, 0 when none does
+    std::optional<ImportedFile> imported_;
+    std::unique_ptr<Ui::frmImport> ui_;
+    TablePreview* preview_;
+    QStringListModel findings_;
+    TableThread thread_; // the last member: it reports to the others
+};
+
+} // namespace quorvex::imports::ui
