@@ -12,8 +12,7 @@ namespace quorvex::imports {
 
 namespace {
 
-constexpr std::size_t MostOfRecord = 65'536;
-constexpr std::size_t Capacity = 2 * MostOfRecord;
+constexpr std::size_t Capacity = 2 * RecordReader::MostOfRecord;
 constexpr std::size_t ByteCount = 256;
 
 } // namespace
@@ -88,10 +87,11 @@ bool RecordReader::Next() {
                 return false;
             }
             break;
+        case Outcome::TooLong:
+            return EndAtLongRecord();
         case Outcome::NeedsMore:
             if (static_cast<std::size_t>(end_ - begin_) > MostOfRecord) {
-                trouble_ = "The line is longer than 64 KiB";
-                return false;
+                return EndAtLongRecord();
             }
             if (!Fill()) {
                 trouble_ = "The quotation mark is not closed";
@@ -100,6 +100,11 @@ bool RecordReader::Next() {
             break;
         }
     }
+}
+
+bool RecordReader::EndAtLongRecord() {
+    trouble_ = "The line is longer than 64 KiB";
+    return false;
 }
 
 char* RecordReader::SkipBlanks(char* at) const {
@@ -139,6 +144,10 @@ RecordReader::Outcome RecordReader::Scan() {
     char* const next = ScanLineEnd(at);
     if (next == nullptr) {
         return Outcome::NeedsMore;
+    }
+    // Also where it is in the buffer as a whole: it must not matter how the bytes arrive.
+    if (static_cast<std::size_t>(next - begin_) > MostOfRecord) {
+        return Outcome::TooLong;
     }
     begin_ = next;
     nextLine_ = line_ + lineEndsInside_ + 1;

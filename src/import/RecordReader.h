@@ -30,6 +30,8 @@ struct Field {
 // separate, a run of them is one separator. The text streams through one buffer; a record has at most 64 KiB.
 class RecordReader {
 public:
+    static constexpr std::size_t MostOfRecord = 65'536;
+
     // The source must outlive the reader.
     RecordReader(text::ByteSource& source, Separator separator);
 
@@ -56,9 +58,10 @@ public:
     [[nodiscard]] std::string_view Trouble() const { return trouble_; }
 
 private:
-    enum class Outcome : std::uint8_t { Record, Empty, NeedsMore };
+    enum class Outcome : std::uint8_t { Record, Empty, TooLong, NeedsMore };
 
     [[nodiscard]] bool Fill();
+    [[nodiscard]] bool EndAtLongRecord();
     [[nodiscard]] Outcome Scan();
     [[nodiscard]] char* ScanField(char* at, Field& field);
     [[nodiscard]] char* ScanQuoted(char* at, Field& field);

@@ -265,7 +265,7 @@ bool Converter::TakePlainRow() {
     if (!plainRows_) {
         plainRows_.emplace(plan_, only.Read.Order(), only.Read.Mark());
     }
-    if (!plainRows_->Read(reader_.Ahead(), plainRow_)) {
+    if (!plainRows_->Read(reader_.Ahead(), plainRow_) || plainRow_.Length > RecordReader::MostOfRecord) {
         return false;
     }
     plainRow_.Quote.Line = reader_.NextLine();

@@ -103,5 +103,20 @@ TEST(RecordReader, ReadsLongTablesThroughOneBuffer) {
     EXPECT_EQ(AllOf(source, Separator::Comma), expected);
 }
 
+// Not only where the bytes come in pieces that are smaller.
+TEST(RecordReader, RefusesALongRecordHoweverItArrives) {
+    std::size_t const most = imports::RecordReader::MostOfRecord;
+    auto const recordOf = [](std::size_t size) { return std::string(size - 1, 'x') + "\n"; };
+    std::string const whole = recordOf(most) + "b\n";
+    text::TextSource fits(whole);
+    EXPECT_TRUE(AllOf(fits, Separator::Comma).ends_with("x] 2:[b] "));
+    std::string const longer = recordOf(most + 1) + "b\n";
+    text::TextSource tooLong(longer);
+    EXPECT_EQ(AllOf(tooLong, Separator::Comma), "1!");
+    std::string const blanks = std::string(most, ' ') + "\nb\n";
+    text::TextSource empty(blanks);
+    EXPECT_EQ(AllOf(empty, Separator::Comma), "1!");
+}
+
 } // namespace
 } // namespace quorvex::tests

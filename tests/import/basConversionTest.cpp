@@ -182,6 +182,13 @@ TEST(Conversion, GivesTheSameForPlainRowsAndOthers) {
     }
 }
 
+TEST(Conversion, RefusesALongLineOfAColumnThatIsNotUsed) {
+    std::string const head = "Date,Open,High,Low,Close,Remark\n2019-10-28,5,6,4,5.5,x\n2019-10-29,5,6,4,5.5,";
+    EXPECT_EQ(RefusalOf(ImportText(head + std::string(65'000, 'y') + "\n")), "");
+    EXPECT_EQ(RefusalOf(ImportText(head + std::string(65'536, 'y') + "\n")),
+              "3: The line is longer than 64 KiB");
+}
+
 TEST(Conversion, RefusesDatesThatAllowTwoOrders) {
     std::string const table = Table("01/02/2019,5,6,4,5.5,1\n03/02/2019,5,6,4,5,1\n");
     auto const conversion = ImportText(table);
