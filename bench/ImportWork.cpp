@@ -39,7 +39,7 @@ std::string Rows(int first, int count, int volume) {
 // As long a table as a table of days can be, and that many times over.
 std::string LongTable() {
     constexpr int Days = 25'000;
-    constexpr int Times = 8;
+    constexpr int Times = 76; // 100 MB
     std::string const rows = Rows(0, Days, 25'000);
     std::string table = Head;
     for (int time = 0; time < Times; ++time) {
