@@ -22,6 +22,13 @@ std::string QuotePath(quotes::QuoteSeries const& series, settings::Settings cons
     return name.find_first_of("/\\") == std::string::npos ? settings.DataPath + name : name;
 }
 
+// Where the edits of the editor on the series are kept.
+std::string EditsPath(quotes::QuoteSeries const& series, settings::Settings const& settings) {
+    std::string const path =
+        series.HasQuotes() ? QuotePath(series, settings) : settings.DataPath + std::string(NameWithoutFile);
+    return path + std::string(Extension);
+}
+
 // A quote file that cannot be read is like one that is not there.
 std::string MarkOfFile(platform::Files const& files, std::string const& path) {
     std::string mark = "none";
@@ -37,11 +44,9 @@ bool LookAlike(EditRows const& one, EditRows const& other) {
 
 void UnsavedEdits::Start(Editor const& editor, quotes::QuoteSeries const& series,
                          settings::Settings const& settings) {
-    std::string const quotes = QuotePath(series, settings);
-    path_ = (series.HasQuotes() ? quotes : settings.DataPath + std::string(NameWithoutFile)) +
-            std::string(Extension);
+    path_ = EditsPath(series, settings);
     of_ = {std::string(platform::BareName(series.QuoteFileName)),
-           series.HasQuotes() ? MarkOfFile(files_, quotes) : "none"};
+           series.HasQuotes() ? MarkOfFile(files_, QuotePath(series, settings)) : "none"};
     rows_ = RowsOf(editor);
     kept_.reset();
     hasBegun_ = false;
@@ -67,6 +72,10 @@ void UnsavedEdits::ReadKept() {
     }
 }
 
+bool UnsavedEdits::HasFileChanged() const {
+    return kept_ && (!(kept_->Of == of_) || !LookAlike(kept_->Before, rows_));
+}
+
 void UnsavedEdits::Keep(Change const& change, ChangeKind kind, Editor const& editor) {
     bool const isEdit = kind == ChangeKind::Edit;
     // What only a save or the listing copied is no edit, and neither is a refill.
@@ -75,6 +84,8 @@ void UnsavedEdits::Keep(Change const& change, ChangeKind kind, Editor const& edi
     }
     if (isEdit && !Difference(rows_, editor).IsShown()) {
         TakeBack();
+    } else if (!isEdit && !IsMine()) {
+        hasBegun_ = false; // what a refill dropped must not displace the edits of the other program
     } else if (!hasBegun_ || !IsMine() || (isEdit && writer_.Length() > mostLength_)) {
         Begin(editor);
     } else {
@@ -134,13 +145,15 @@ void UnsavedEdits::TakeBack() {
 
 void UnsavedEdits::Saved(Editor const& editor, quotes::QuoteSeries const& series,
                          settings::Settings const& settings) {
-    auto const error = text::Trap([this] {
-        if (platform::IsThere(files_, path_)) {
-            if (!IsMine()) {
-                files_.Keep(path_);
-            }
-            files_.Remove(path_);
+    bool const isOtherFile = path_ != EditsPath(series, settings);
+    auto const error = text::Trap([this, isOtherFile] {
+        if (!platform::IsThere(files_, path_) || (isOtherFile && !IsMine())) {
+            return; // what was not restored waits for an editor on its own quote file
         }
+        if (!IsMine()) {
+            files_.Keep(path_);
+        }
+        files_.Remove(path_);
     });
     Start(editor, series, settings);
     if (error) {

@@ -39,8 +39,9 @@ public:
     // not end that; saving does.
     [[nodiscard]] bool HasKept() const { return kept_.has_value(); }
 
-    // Whether the quote file is another one since.
-    [[nodiscard]] bool HasFileChanged() const { return kept_ && !(kept_->Of == of_); }
+    // Whether the quote file is another one since, or the earlier editor opened with other rows: restoring
+    // would take back what lies between.
+    [[nodiscard]] bool HasFileChanged() const;
 
     // Gives the editor the rows that were kept, after a question when the quote file has changed. Returns
     // what to tell in the status line; empty when the user refused. REQUIRES: there are some.

@@ -30,14 +30,41 @@ void RequireEnoughDays(QuoteFile& file, Conversion const& conversion) {
     file.Refused = Refusal{{0, std::move(text)}, Choice::None};
 }
 
-// What is not mostly quotes is another file, such as a vendor's table, of which some lines read as quotes.
+void Refuse(QuoteFile& file, std::string why) {
+    if (!file.Refused) {
+        file.Refused = Refusal{{0, std::move(why)}, Choice::None};
+    }
+}
+
+// The new file has the quotes of the old one and nothing else, so that there must be nothing else: a remark
+// may shift the fields of all days behind it. What is not mostly quotes is another file, such as a vendor's
+// table, of which some lines read as quotes.
 void RequireQuotes(QuoteFile& file) {
     std::uint64_t const passed = file.Old->PassedCount;
-    if (!file.Refused && passed * 2 > file.Old->Days.size()) {
-        file.Refused = Refusal{{0, "What shall be brought up to date is no quote file: quotes in it " +
-                                       std::to_string(file.Old->Days.size()) + ", other lines " +
-                                       std::to_string(passed)},
-                               Choice::None};
+    std::size_t const count = file.Old->Days.size();
+    if (passed * 2 > count) {
+        Refuse(file, "What shall be brought up to date is no quote file: quotes in it " +
+                         std::to_string(count) + ", other lines " + std::to_string(passed));
+    } else if (passed > 0) {
+        Refuse(
+            file,
+            "What shall be brought up to date has lines that are no quotes, or shifted ones, and would lose "
+            "them: quotes in it " +
+                std::to_string(count) + ", other lines " + std::to_string(passed));
+    }
+}
+
+// Most figures are others when the table is of another contract, or of one whose prices were adjusted.
+void RequireSameContract(QuoteFile& file, bool replaces) {
+    constexpr std::size_t Few = 5; // which a vendor may have corrected
+    std::size_t const changed = file.Merged->Changed.size();
+    std::uint64_t const shared = file.Merged->EqualCount + changed;
+    if (!replaces && changed >= Few && changed * 2 > shared) {
+        Refuse(
+            file,
+            "The table looks like another contract's: " + std::to_string(changed) + " of the " +
+                std::to_string(shared) +
+                " days that are there already have other figures. Replacing them takes those of the table");
     }
 }
 
@@ -76,6 +103,7 @@ QuoteFile UpdateQuoteFile(text::ByteSource& source, Conversion const& conversion
     RequireQuotes(file);
     file.Merged = MergeDays(file.Old->Days, conversion.Days, replaces, most);
     file.Days = file.Merged->Days;
+    RequireSameContract(file, replaces);
     RequireEnoughDays(file, conversion);
     return file;
 }

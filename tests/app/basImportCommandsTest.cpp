@@ -42,7 +42,7 @@ public:
 
     void Take(std::vector<std::string> const& paths) { TakeFiles(paths, *Data, Outside); }
 
-    [[nodiscard]] long CountOf(std::string const& call) const {
+    [[nodiscard]] std::ptrdiff_t CountOf(std::string const& call) const {
         return std::ranges::count(Window.Calls, call);
     }
 

@@ -153,10 +153,43 @@ TEST_F(UnsavedEditsTest, BehindASaveAreKeptOnTopOfIt) {
     TypeKept(3, 5, "556");
     OpenAgain();
     ASSERT_TRUE(unsaved.HasKept());
-    EXPECT_FALSE(unsaved.HasFileChanged());
+    EXPECT_TRUE(unsaved.HasFileChanged()); // this one opened without what was saved
+    dialogs.Answers = {platform::Answer::Yes};
     static_cast<void>(Restore());
     EXPECT_EQ(sheet.Text(2, 5), "555");
     EXPECT_EQ(sheet.Text(3, 5), "556");
+}
+
+// A save changes the file and not the series: an editor that is opened again shows the rows from before it.
+TEST_F(UnsavedEditsTest, OfRowsOlderThanTheFileAreAskedFor) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    auto const saved = GridTexts();
+    files.Contents[QuotePath] += "\r\n"; // as the save would
+    unsaved.Saved(*edited, *series, settings);
+    OpenAgain();
+    TypeKept(3, 5, "556");
+    OpenEdited(); // after a restart, with the rows that were saved
+    Type(2, 5, "555");
+    static_cast<void>(history.Record(*edited));
+    unsaved.Open(*edited, *series, settings);
+    ASSERT_EQ(GridTexts(), saved);
+    ASSERT_TRUE(unsaved.HasKept());
+    EXPECT_TRUE(unsaved.HasFileChanged());
+    dialogs.Answers = {platform::Answer::No};
+    EXPECT_EQ(Restore(), "");
+    EXPECT_EQ(GridTexts(), saved);
+}
+
+TEST_F(UnsavedEditsTest, ThatWereNotRestoredStayWhenAnotherNameIsSaved) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    std::string const first = files.Contents.at(KeptPath);
+    OpenAgain();
+    series->QuoteFileName = "D:\\Other\\new.txt";
+    unsaved.Saved(*edited, *series, settings);
+    EXPECT_EQ(files.Contents.at(KeptPath), first);
+    EXPECT_FALSE(files.Contents.contains(KeptPathBefore));
 }
 
 TEST_F(UnsavedEditsTest, FollowTheNameThatASaveGave) {
@@ -320,6 +353,24 @@ TEST_F(UnsavedEditsTest, OfTwoProgramsAreNotMixed) {
     EXPECT_TRUE(editor::ReadKeptEdits(files.Contents.at(KeptPath))->IsWhole);
 }
 
+TEST_F(UnsavedEditsTest, OfAnotherProgramStayWhenTheGridIsFilledAgain) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    editor::UnsavedEdits other{files};
+    other.Open(*edited, *series, settings);
+    editor::History otherHistory;
+    otherHistory.Start(*edited);
+    Type(3, 5, "556");
+    other.Keep(otherHistory.Record(*edited), editor::ChangeKind::Edit, *edited);
+    std::string const second = files.Contents.at(KeptPath);
+    editor::RebuildGrid(*edited, settings); // which drops what was typed
+    Record(editor::ChangeKind::Refill);
+    EXPECT_EQ(files.Contents.at(KeptPath), second);
+    TypeKept(4, 5, "557");
+    EXPECT_EQ(files.Contents.at(KeptPathBefore), second);
+    EXPECT_EQ(editor::ReadKeptEdits(files.Contents.at(KeptPath))->After.at(3).Texts.at(4), "557");
+}
+
 TEST_F(UnsavedEditsTest, AFileThatCannotBeReadIsAFault) {
     OpenEdited();
     TypeKept(2, 5, "555");
@@ -340,6 +391,7 @@ TEST_F(UnsavedEditsTest, ThatCannotBeDroppedAreAFaultAndTheNextOnesAreKept) {
     files.BreakRemoving.reset();
     TypeKept(3, 5, "556");
     OpenAgain();
+    dialogs.Answers = {platform::Answer::Yes}; // the rows that were saved are not those of the series
     static_cast<void>(Restore());
     EXPECT_EQ(sheet.Text(3, 5), "556");
 }

@@ -161,7 +161,7 @@ TEST(EvaluationThread, AStoppedTestEndsWithinAFifthOfASecond) {
             EXPECT_EQ(end.Refusal, "");
             return duration;
         };
-        EXPECT_LT(tests::ShortestOf(3, stop), 200ms);
+        EXPECT_LT(tests::ShortestOf(3, stop), tests::Patience * 200ms);
     }
 }
 
@@ -192,7 +192,7 @@ TEST(EvaluationThread, GoesWithATestUnderWay) {
         EXPECT_EQ(box.WaitForEnd(number).Result, nullptr);
         return duration;
     };
-    EXPECT_LT(tests::ShortestOf(3, go), 200ms);
+    EXPECT_LT(tests::ShortestOf(3, go), tests::Patience * 200ms);
 }
 
 } // namespace

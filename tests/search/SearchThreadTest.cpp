@@ -181,7 +181,7 @@ TEST(SearchThread, AStoppedSearchEndsWithinAFifthOfASecond) {
             box.WaitForEnd(number);
             return Clock::now() - before;
         };
-        EXPECT_LT(tests::ShortestOf(3, stop), 200ms);
+        EXPECT_LT(tests::ShortestOf(3, stop), tests::Patience * 200ms);
     }
 }
 

@@ -8,6 +8,7 @@
 #include "import/Plan.h"
 #include "import/Sample.h"
 #include "import/basConversion.h"
+#include "import/basTelling.h"
 #include "quotes/QuoteSeries.h"
 #include "text/basDates.h"
 #include "text/basFields.h"
@@ -79,10 +80,6 @@ bool IsOwnBlock(imports::Sample const& sample, std::string_view text) {
            });
 }
 
-std::string Told(imports::Finding const& finding) {
-    return finding.Line == 0 ? finding.Text : "Line " + std::to_string(finding.Line) + ": " + finding.Text;
-}
-
 void TellRefusal(std::string const& cause, platform::Dialogs& dialogs) {
     dialogs.Show({"The table was not pasted.\n" + cause, "Edit", platform::Icon::Exclamation});
 }
@@ -93,7 +90,7 @@ void TellLeftOut(imports::Findings const& leftOut, platform::Dialogs& dialogs) {
         (leftOut.Count == 1 ? " row of the table was left out.\n" : " rows of the table were left out.\n");
     std::size_t const told = std::min(MostTold, leftOut.Kept.size());
     for (std::size_t finding = 0; finding < told; ++finding) {
-        text += Told(leftOut.Kept[finding]) + '\n';
+        text += imports::FindingText(leftOut.Kept[finding]) + '\n';
     }
     text.append(told < leftOut.Count ? "..." : "");
     dialogs.Show(
@@ -117,11 +114,11 @@ EditRow RowOf(imports::DayQuote const& day, ShownNumbers const& shown) {
 // Why the table cannot be pasted from the row on; empty when it can.
 std::string FindRefusal(imports::Conversion const& table, std::int16_t row) {
     if (table.Refused) {
-        return Told(table.Refused->Told);
+        return imports::FindingText(table.Refused->Told);
     }
     if (table.Days.empty()) {
         return table.LeftOut.Kept.empty() ? "It has no day with four prices"
-                                          : Told(table.LeftOut.Kept.front());
+                                          : imports::FindingText(table.LeftOut.Kept.front());
     }
     auto const room = static_cast<std::size_t>(quotes::MaxQuotes) + 1 - static_cast<std::size_t>(row);
     if (table.Days.size() > room) {

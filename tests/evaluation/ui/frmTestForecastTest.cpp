@@ -30,7 +30,7 @@ using platform::pictures::ToQt;
 namespace {
 
 // Within which a window answers.
-constexpr std::chrono::milliseconds AnswerTime(200);
+constexpr std::chrono::milliseconds AnswerTime(200 * tests::Patience);
 
 QStringList VerdictRows(evaluation::Evaluation const& evaluation) {
     QStringList rows;

@@ -33,7 +33,7 @@ using platform::pictures::ToQt;
 namespace {
 
 // Within which a window answers.
-constexpr std::chrono::milliseconds AtOnce(200);
+constexpr std::chrono::milliseconds AtOnce(200 * tests::Patience);
 
 search::SearchOutcome Searched(ShownSearch const& shown, int cycleCount, bool isDetrended) {
     search::SearchRequest request;
