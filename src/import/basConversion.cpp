@@ -9,6 +9,7 @@
 #include "import/basColumns.h"
 #include "import/basTableDates.h"
 #include "import/basWords.h"
+#include "text/Characters.h"
 #include "text/basNumbers.h"
 #include "text/basTexts.h"
 
