@@ -197,7 +197,7 @@ TEST(Import, HasEveryOptionOfTheReadMe) {
     ASSERT_NE(chapter, std::string::npos);
     std::size_t const end = text.find("The companion quorvex-cli", chapter);
     for (std::size_t at = text.find("--", chapter); at < end; at = text.find("--", at + 2)) {
-        std::string const option = text.substr(at, text.find_first_of(" .,:;\n", at) - at);
+        std::string const option = text.substr(at, text.find_first_of(" .,:;)\n", at) - at);
         EXPECT_TRUE(Has(help, option)) << option;
         ++named;
     }
