@@ -20,12 +20,12 @@ namespace quorvex::cli {
 
 int RunCommandLine(int argc, char** argv, Outputs (*makeOutputs)()) {
     auto status = ExitStatus::Success;
+    platform::disk::HostConsole const console; // before anything is said
     try {
         CLI::App app("Cycle analysis of commodity futures quotes", "quorvex-cli");
         app.set_version_flag("--version", "quorvex-cli " + std::string(quorvex::app::ProgramVersion));
         app.require_subcommand(1);
         app.allow_windows_style_options(false);
-        platform::disk::HostConsole const console;
         Outputs const outputs = makeOutputs();
         AddAnalyse(app, console, status);
         AddChart(app, *outputs.Pictures, status);

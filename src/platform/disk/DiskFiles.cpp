@@ -6,14 +6,10 @@
 #include "platform/disk/HostFile.h"
 #include "platform/disk/TemporaryFile.h"
 #include "text/RunTimeError.h"
-#include "text/basFolders.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
-#include <optional>
-#include <system_error>
-#include <utility>
+#include <filesystem>
 
 namespace quorvex::platform::disk {
 
@@ -28,40 +24,14 @@ void RequireName(std::string_view path) {
     }
 }
 
-// The name as UTF-8; nothing for one that Unicode cannot spell, as Windows allows.
-std::optional<std::string> Utf8(std::filesystem::path const& name) {
-    try {
-        auto const text = name.u8string();
-        return std::string(text.begin(), text.end());
-    } catch (std::system_error const&) {
-        return std::nullopt;
-    }
-}
-
-// A link keeps pointing at its file: the file behind it is the one that is replaced, even one that is not
-// there yet.
-std::filesystem::path BehindLinks(std::filesystem::path path) {
-    constexpr int MostLinks = 40;
-    std::error_code error;
-    for (int links = 0; std::filesystem::is_symlink(path, error); ++links) {
-        auto const target = std::filesystem::read_symlink(path, error);
-        if (error || links == MostLinks) {
-            throw RunTimeError(Fault::BadFileName);
-        }
-        path = path.parent_path() / target; // an absolute target stands for itself
-    }
-    return path;
-}
-
 // A folder is no file, and neither is a device or a pipe: reading it could keep the program waiting, and it
 // is never replaced, emptied or deleted. Returns whether there is a file.
 bool RequireFileOrNone(std::filesystem::path const& path) {
-    std::error_code error;
-    bool const exists = std::filesystem::exists(path, error);
-    if (exists && !std::filesystem::is_regular_file(path, error)) {
+    auto const kind = KindOfHostFile(path);
+    if (kind == HostFileKind::Other) {
         throw RunTimeError(Fault::PermissionDenied);
     }
-    return exists;
+    return kind == HostFileKind::File;
 }
 
 void RequireWritableOrNone(std::filesystem::path const& path) {
@@ -70,10 +40,10 @@ void RequireWritableOrNone(std::filesystem::path const& path) {
     }
 }
 
-// The file that takes new content for this name.
+// The file that takes new content for this name: a link keeps pointing at its own.
 std::filesystem::path WritableTarget(std::string_view path) {
     RequireName(path);
-    std::filesystem::path target = BehindLinks(HostPath(path));
+    std::filesystem::path target = FollowHostLinks(HostPath(path));
     RequireWritableOrNone(target);
     return target;
 }
@@ -84,8 +54,7 @@ TemporaryFile Written(std::filesystem::path const& target, std::string_view cont
 }
 
 bool IsThere(std::filesystem::path const& path) {
-    std::error_code ignored;
-    return std::filesystem::exists(path, ignored);
+    return KindOfHostFile(path) != HostFileKind::None;
 }
 
 bool HoldsAlready(std::filesystem::path const& file, std::string_view content) {
@@ -117,18 +86,6 @@ void KeepContent(std::filesystem::path const& file) {
 }
 
 } // namespace
-
-std::filesystem::path HostPath(std::string_view path) {
-    std::u8string spelled(path.begin(), path.end());
-    if constexpr (std::filesystem::path::preferred_separator == '/') {
-        std::replace(spelled.begin(), spelled.end(), u8'\\', u8'/');
-    }
-    try {
-        return {spelled};
-    } catch (std::system_error const&) {
-        throw RunTimeError(Fault::BadFileName); // bytes that are no UTF-8, on Windows
-    }
-}
 
 std::unique_ptr<text::ByteSource> OpenFileOrPipe(std::string const& path) {
     RequireName(path);
@@ -175,7 +132,7 @@ std::unique_ptr<ByteSink> DiskFiles::OpenForOutput(std::string const& path) {
 
 void DiskFiles::Remove(std::string const& path) {
     RequireName(path);
-    std::filesystem::path const target = BehindLinks(HostPath(path));
+    std::filesystem::path const target = FollowHostLinks(HostPath(path));
     RequireFileOrNone(target);
     RemoveHostFile(target);
 }
@@ -189,20 +146,8 @@ std::uint64_t DiskFiles::Length(std::string const& path) const {
 
 std::vector<std::string> DiskFiles::List(std::string const& folder, std::string_view pattern) const {
     std::vector<std::string> names;
-    std::error_code error;
-    std::filesystem::path path;
-    if (text::Trap([&] { path = HostPath(folder); })) {
-        return names;
-    }
-    std::filesystem::directory_iterator entry(path, error);
-    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-        std::error_code unreadable;
-        auto name = Utf8(entry->path().filename());
-        // A pipe or a device would keep a reader waiting.
-        if (name && text::MatchesPattern(*name, pattern) && entry->is_regular_file(unreadable)) {
-            names.push_back(std::move(*name));
-        }
-    }
+    // A folder that no folder can be is one that cannot be read.
+    static_cast<void>(text::Trap([&] { names = ListHostFiles(HostPath(folder), pattern); }));
     return names;
 }
 

@@ -5,13 +5,9 @@
 
 #include "platform/Files.h"
 
-#include <filesystem>
 #include <string_view>
 
 namespace quorvex::platform::disk {
-
-// The path in the form of this system: where "/" separates folders, backslashes become "/".
-[[nodiscard]] std::filesystem::path HostPath(std::string_view path);
 
 // Opens for reading what the path names, with the faults of Files. Unlike Files it takes pipes and devices
 // too, and waits for the other end of a pipe.

@@ -4,6 +4,8 @@
 #include "platform/disk/HostConsole.h"
 
 #ifdef _WIN32
+#include <atomic>
+#include <fcntl.h>
 #include <io.h>
 #include <windows.h>
 #else
@@ -20,6 +22,41 @@ constexpr int UsualWidth = 80;
 } // namespace
 
 #ifdef _WIN32
+
+namespace {
+
+// The code page that the console had before, 0 without a console. The console outlives the process, which may
+// be ended by Ctrl-C.
+std::atomic<UINT>& CodePageBefore() {
+    static std::atomic<UINT> codePage = 0;
+    return codePage;
+}
+
+void RestoreCodePage() {
+    if (UINT const before = CodePageBefore().exchange(0); before != 0) {
+        SetConsoleOutputCP(before);
+    }
+}
+
+BOOL WINAPI RestoreAtEnd(DWORD) {
+    RestoreCodePage();
+    return FALSE; // the process ends as it would have
+}
+
+} // namespace
+
+HostConsole::HostConsole() {
+    _setmode(1, _O_BINARY);
+    _setmode(2, _O_BINARY);
+    CodePageBefore() = GetConsoleOutputCP();
+    SetConsoleCtrlHandler(RestoreAtEnd, TRUE);
+    SetConsoleOutputCP(CP_UTF8);
+}
+
+HostConsole::~HostConsole() {
+    RestoreCodePage();
+    SetConsoleCtrlHandler(RestoreAtEnd, FALSE);
+}
 
 bool HostConsole::IsTerminal() const {
     return _isatty(1) != 0;
@@ -38,6 +75,10 @@ int HostConsole::Width() const {
 }
 
 #else
+
+HostConsole::HostConsole() = default;
+
+HostConsole::~HostConsole() = default;
 
 bool HostConsole::IsTerminal() const {
     return isatty(STDOUT_FILENO) != 0;

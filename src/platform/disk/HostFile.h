@@ -12,9 +12,30 @@
 #include <filesystem>
 #include <memory>
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace quorvex::platform::disk {
+
+// The path in the form of this system. Where "/" separates folders, backslashes become "/". On Windows it
+// becomes a whole path of any length, and what names a device or a stream there, or cannot be spelled in
+// UTF-16, raises "Bad file name or number".
+[[nodiscard]] std::filesystem::path HostPath(std::string_view path);
+
+// What a path names. Links are followed: one that leads nowhere is none.
+enum class HostFileKind { None, File, Other };
+
+[[nodiscard]] HostFileKind KindOfHostFile(std::filesystem::path const& path);
+
+// The file that the link names, even one that is not there yet; any other path as it is. On Windows a link
+// that leads nowhere raises a fault.
+[[nodiscard]] std::filesystem::path FollowHostLinks(std::filesystem::path path);
+
+// The names as UTF-8 of the files, not folders, that fit the pattern, in the order of the file system. None
+// when the folder cannot be read. Names that Unicode cannot spell, as Windows allows, are left out.
+[[nodiscard]] std::vector<std::string> ListHostFiles(std::filesystem::path const& folder,
+                                                     std::string_view pattern);
 
 // The file opened for reading from its start. A pipe is waited for until it has a writer.
 [[nodiscard]] std::unique_ptr<text::ByteSource> OpenHostFile(std::filesystem::path const& path);

@@ -4,6 +4,7 @@
 #include "platform/disk/TemporaryFile.h"
 
 #include "platform/disk/HostFile.h"
+#include "text/RunTimeError.h"
 
 #include <array>
 #include <cstddef>
@@ -11,7 +12,6 @@
 #include <random>
 #include <string>
 #include <string_view>
-#include <system_error>
 
 namespace quorvex::platform::disk {
 
@@ -32,8 +32,7 @@ void WriteAll(text::ByteSource& bytes, ByteSink& sink) {
 TemporaryFile::TemporaryFile(std::filesystem::path const& target, text::ByteSource& bytes,
                              std::filesystem::path const& rightsOf)
     : TemporaryFile() {
-    std::error_code ignored;
-    bool const hasRights = std::filesystem::exists(rightsOf, ignored);
+    bool const hasRights = KindOfHostFile(rightsOf) != HostFileKind::None;
     std::random_device random;
     std::unique_ptr<ByteSink> sink;
     std::filesystem::path path;
@@ -51,8 +50,8 @@ TemporaryFile::TemporaryFile(std::filesystem::path const& target, text::ByteSour
 
 TemporaryFile::~TemporaryFile() {
     if (!path_.empty()) {
-        std::error_code ignored;
-        std::filesystem::remove(path_, ignored);
+        // Left behind, it is only in the way.
+        static_cast<void>(text::Trap([this] { RemoveHostFile(path_); }));
     }
 }
 

@@ -6,10 +6,13 @@
 #include "platform/basFiles.h"
 #include "platform/basProfileTexts.h"
 #include "platform/disk/DiskFiles.h"
+#include "platform/disk/HostFile.h"
 #include "platform/disk/TemporaryFile.h"
+#include "platform/windows/WideTexts.h"
 #include "text/RunTimeError.h"
 
 #include <array>
+#include <cstring>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -22,59 +25,82 @@ namespace {
 using text::Fault;
 using text::RunTimeError;
 
-std::wstring Widened(std::string_view text, UINT codePage) {
-    int const length = static_cast<int>(text.size());
-    std::wstring wide(text.size(), L'\0'); // no code page makes more of a byte than one unit
-    wide.resize(static_cast<std::size_t>(
-        MultiByteToWideChar(codePage, 0, text.data(), length, wide.data(), static_cast<int>(wide.size()))));
-    return wide;
+constexpr std::string_view WideMark = "\xFF\xFE"; // in front of UTF-16
+constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
+
+std::wstring WideText(std::string_view content) {
+    return IsUtf8(content) ? Widened(content) : WidenedFromCodePage(content);
 }
 
-std::string Narrowed(std::wstring const& wide, UINT codePage) {
-    constexpr std::size_t MostBytes = 4; // of a unit, in any code page
-    std::string text(wide.size() * MostBytes, '\0');
-    text.resize(static_cast<std::size_t>(
-        WideCharToMultiByte(codePage, 0, wide.data(), static_cast<int>(wide.size()), text.data(),
-                            static_cast<int>(text.size()), nullptr, nullptr)));
-    return text;
+std::string BytesOf(std::wstring_view text) {
+    std::string bytes(text.size() * sizeof(wchar_t), '\0');
+    std::memcpy(bytes.data(), text.data(), bytes.size());
+    return bytes;
 }
 
-// The text in the system's code page. Raises "Invalid procedure call or argument" for one that it cannot
-// spell: writing question marks instead would lose what the user typed.
-std::string SystemText(std::string_view text) {
-    std::wstring const wide = Widened(text, CP_UTF8);
-    std::string system = Narrowed(wide, CP_ACP);
-    if (Widened(system, CP_ACP) != wide) {
-        throw RunTimeError(Fault::InvalidProcedureCall);
+// The content of an INI file in the one form in which the profile functions take every character.
+std::string Spread(std::string_view content) {
+    if (content.starts_with(WideMark)) {
+        return std::string(content);
     }
-    return system;
+    if (content.starts_with(Utf8Mark)) {
+        content.remove_prefix(Utf8Mark.size());
+    }
+    return std::string(WideMark) + BytesOf(WideText(content));
 }
 
-// What the system gave, unless it reported an error in place of it.
-std::filesystem::path Checked(std::filesystem::path path, std::error_code const& error) {
+// That form as what the file held before: UTF-16 stays what it is, everything else becomes UTF-8.
+std::string Folded(std::string_view wide, std::string_view before) {
+    if (before.starts_with(WideMark)) {
+        return std::string(wide);
+    }
+    wide.remove_prefix(WideMark.size());
+    std::wstring text(wide.size() / sizeof(wchar_t), L'\0');
+    std::memcpy(text.data(), wide.data(), text.size() * sizeof(wchar_t));
+    return std::string(before.starts_with(Utf8Mark) ? Utf8Mark : "") + Narrowed(text);
+}
+
+std::filesystem::path ScratchFile() {
+    std::error_code error;
+    auto const folder = std::filesystem::temp_directory_path(error);
     if (error) {
         throw RunTimeError(Fault::PathNotFound);
     }
-    return path;
+    return folder / "Quorvex.INI";
 }
 
-// The profile functions look for a name without its folder among the system's own files.
-std::string SystemPath(std::filesystem::path const& path) {
-    std::error_code error;
-    std::filesystem::path whole = std::filesystem::absolute(path, error);
-    std::u8string const text = Checked(std::move(whole), error).u8string();
-    return SystemText(std::string(text.begin(), text.end()));
-}
+// A copy of the INI file for the profile functions. They write over the file, one value at a time, and keep
+// to the code page in any file that is not UTF-16: a copy costs neither old values, when a disk is full or
+// the process dies, nor characters.
+class ScratchProfile {
+public:
+    // A scratch file has the rights of the file of this path, when there is one.
+    ScratchProfile(std::string_view content, std::string const& path)
+        : bytes_(Spread(content)),
+          source_(bytes_),
+          file_(ScratchFile(), source_, disk::HostPath(path)) {}
 
-std::filesystem::path ScratchFolder() {
-    std::error_code error;
-    std::filesystem::path folder = std::filesystem::temp_directory_path(error);
-    return Checked(std::move(folder), error);
-}
+    [[nodiscard]] std::wstring Path() const { return file_.Path().native(); }
 
-std::string ReadBack(disk::TemporaryFile const& file) {
-    std::u8string const name = file.Path().u8string();
-    return ReadWholeFile(disk::DiskFiles(), std::string(name.begin(), name.end()));
+    [[nodiscard]] std::string Content() const {
+        auto const name = file_.Path().u8string();
+        return ReadWholeFile(disk::DiskFiles(), std::string(name.begin(), name.end()));
+    }
+
+private:
+    std::string bytes_;
+    text::TextSource source_;
+    disk::TemporaryFile file_;
+};
+
+// The value as it is read, before it is cut; the text for missing ones when there is none.
+std::wstring ReadValue(ScratchProfile const& scratch, std::wstring const& section, std::wstring const& key,
+                       wchar_t const* missing) {
+    constexpr std::size_t MostUnits = 4096;
+    std::array<wchar_t, MostUnits> buffer{};
+    DWORD const length = GetPrivateProfileStringW(section.c_str(), key.c_str(), missing, buffer.data(),
+                                                  MostUnits, scratch.Path().c_str());
+    return {buffer.data(), length};
 }
 
 } // namespace
@@ -83,41 +109,34 @@ WindowsProfile::WindowsProfile(std::string path, Files& files) : path_(std::move
 
 std::string WindowsProfile::ReadString(std::string_view section, std::string_view key,
                                        std::string_view defaultText) const {
-    std::string value;
+    std::wstring value;
     bool isThere = false;
     auto const error = text::Trap([&] {
-        std::string const path = SystemPath(disk::HostPath(path_));
-        std::array<char, MaxProfileText + 1> buffer{};
-        auto const read = [&](char const* missing) {
-            DWORD const length =
-                GetPrivateProfileStringA(SystemText(section).c_str(), SystemText(key).c_str(), missing,
-                                         buffer.data(), static_cast<DWORD>(buffer.size()), path.c_str());
-            return std::string(buffer.data(), length);
-        };
-        value = read("");
+        ScratchProfile const scratch(ReadWholeFile(files_, path_), path_);
+        value = ReadValue(scratch, Widened(section), Widened(key), L"");
         // An empty value is one; only a key that is not there gives the text for missing ones.
-        isThere = !value.empty() || read("missing").empty();
+        isThere = !value.empty() || ReadValue(scratch, Widened(section), Widened(key), L"missing").empty();
     });
-    return !error && isThere ? Narrowed(Widened(value, CP_ACP), CP_UTF8) : std::string(defaultText);
+    return !error && isThere ? std::string(CutProfileText(Narrowed(value))) : std::string(defaultText);
 }
 
 void WindowsProfile::WriteStrings(std::string_view section, std::span<ProfileEntry const> entries) {
-    // The system's function writes over the file, one value at a time. It works on a copy, so that a crash or
-    // a full disk costs neither the old values nor half of the new ones.
+    // A file that is there and cannot be read must not be taken for an empty one.
     std::string const before = ReadFileIfThere(files_, path_);
-    text::TextSource bytes(before);
-    disk::TemporaryFile const copy(ScratchFolder() / "Quorvex.INI", bytes, disk::HostPath(path_));
-    std::string const path = SystemPath(copy.Path());
+    ScratchProfile const scratch(before, path_);
     for (ProfileEntry const& entry : entries) {
         RequireProfileValue(entry.Value);
-        if (WritePrivateProfileStringA(SystemText(section).c_str(), SystemText(entry.Key).c_str(),
-                                       SystemText(entry.Value).c_str(), path.c_str()) == 0) {
+        if (!IsUtf8(entry.Value)) {
+            throw RunTimeError(Fault::InvalidProcedureCall);
+        }
+        if (WritePrivateProfileStringW(Widened(section).c_str(), Widened(entry.Key).c_str(),
+                                       Widened(entry.Value).c_str(), scratch.Path().c_str()) == 0) {
             throw RunTimeError(Fault::PermissionDenied);
         }
     }
     // Flushes what the system keeps of the file; by its own description the call returns no success.
-    WritePrivateProfileStringA(nullptr, nullptr, nullptr, path.c_str());
-    files_.Replace(path_, ReadBack(copy));
+    WritePrivateProfileStringW(nullptr, nullptr, nullptr, scratch.Path().c_str());
+    files_.Replace(path_, Folded(scratch.Content(), before));
 }
 
 } // namespace quorvex::platform::windows

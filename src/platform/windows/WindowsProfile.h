@@ -8,8 +8,8 @@
 
 namespace quorvex::platform::windows {
 
-// An INI file through the profile functions of Windows, which work in the system's code page; the program's
-// own texts are UTF-8.
+// An INI file through the profile functions of Windows. It is written in UTF-8, or in UTF-16 when it was that
+// before; read, it can also be in the system's code page.
 class WindowsProfile final : public Profile {
 public:
     // The files must outlive the profile.
@@ -17,6 +17,7 @@ public:
 
     [[nodiscard]] std::string ReadString(std::string_view section, std::string_view key,
                                          std::string_view defaultText) const override;
+    // Raises "Invalid procedure call or argument" for a value that is no UTF-8, too.
     void WriteStrings(std::string_view section, std::span<ProfileEntry const> entries) override;
 
 private:

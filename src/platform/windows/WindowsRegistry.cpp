@@ -3,6 +3,8 @@
 
 #include "platform/windows/WindowsRegistry.h"
 
+#include "platform/windows/WideTexts.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -16,11 +18,11 @@ namespace {
 // Closes the key when it goes.
 class OpenKey {
 public:
-    explicit OpenKey(std::string const& name) {
-        isOpen_ = RegOpenKeyExA(HKEY_LOCAL_MACHINE, name.c_str(), 0, KEY_ALL_ACCESS, &key_) == ERROR_SUCCESS;
+    explicit OpenKey(std::wstring const& name) {
+        isOpen_ = RegOpenKeyExW(HKEY_LOCAL_MACHINE, name.c_str(), 0, KEY_ALL_ACCESS, &key_) == ERROR_SUCCESS;
         // Only administrators may change that part of the registry; reading is all that is wanted.
         if (!isOpen_) {
-            isOpen_ = RegOpenKeyExA(HKEY_LOCAL_MACHINE, name.c_str(), 0, KEY_READ, &key_) == ERROR_SUCCESS;
+            isOpen_ = RegOpenKeyExW(HKEY_LOCAL_MACHINE, name.c_str(), 0, KEY_READ, &key_) == ERROR_SUCCESS;
         }
     }
 
@@ -44,25 +46,26 @@ private:
 
 // The text with the values of the variables that it names, such as %SystemRoot%; the text as it is when the
 // system cannot tell them.
-std::string Expanded(std::string const& text) {
-    // In the system's code page the call wants room for one more byte than it tells.
-    DWORD const room = ExpandEnvironmentStringsA(text.c_str(), nullptr, 0) + 1;
-    std::string expanded(room, '\0');
-    DWORD const written = ExpandEnvironmentStringsA(text.c_str(), expanded.data(), room);
-    return written == 0 || written > room ? text : expanded.substr(0, expanded.find('\0'));
+std::wstring Expanded(std::wstring const& text) {
+    DWORD const room = ExpandEnvironmentStringsW(text.c_str(), nullptr, 0);
+    std::wstring expanded(room, L'\0');
+    DWORD const written = ExpandEnvironmentStringsW(text.c_str(), expanded.data(), room);
+    return written == 0 || written > room ? text : expanded.substr(0, expanded.find(L'\0'));
 }
 
 } // namespace
 
 std::optional<Registry::Value> WindowsRegistry::Query(std::string_view keyName,
                                                       std::string_view valueName) const {
-    constexpr std::size_t BufferSize = 1024;
-    OpenKey const key{std::string(keyName)};
-    std::array<BYTE, BufferSize> buffer{};
-    DWORD size = BufferSize;
+    constexpr std::size_t MostUnits = 1024;
+    OpenKey const key{Widened(keyName)};
+    std::array<wchar_t, MostUnits> buffer{};
+    DWORD size = sizeof buffer;
     DWORD type = REG_NONE;
-    if (!key.IsOpen() || RegQueryValueExA(key.Handle(), std::string(valueName).c_str(), nullptr, &type,
-                                          buffer.data(), &size) != ERROR_SUCCESS) {
+    // NOLINTNEXTLINE(*-reinterpret-cast): the value is made of bytes, or of units of a text
+    auto* const bytes = reinterpret_cast<BYTE*>(buffer.data());
+    if (!key.IsOpen() || RegQueryValueExW(key.Handle(), Widened(valueName).c_str(), nullptr, &type, bytes,
+                                          &size) != ERROR_SUCCESS) {
         return std::nullopt;
     }
     if (type == REG_DWORD && size == sizeof(std::uint32_t)) {
@@ -73,10 +76,9 @@ std::optional<Registry::Value> WindowsRegistry::Query(std::string_view keyName,
     if (type != REG_SZ && type != REG_EXPAND_SZ) {
         return std::nullopt;
     }
-    std::string text(size, '\0');
-    std::memcpy(text.data(), buffer.data(), size);
-    text.resize(std::min(text.find('\0'), text.size())); // the zero at the end may be missing
-    return type == REG_EXPAND_SZ ? Expanded(text) : text;
+    std::wstring text(buffer.data(), size / sizeof(wchar_t));
+    text.resize(std::min(text.find(L'\0'), text.size())); // the zero at the end may be missing
+    return Narrowed(type == REG_EXPAND_SZ ? Expanded(text) : text);
 }
 
 } // namespace quorvex::platform::windows

@@ -7,7 +7,7 @@
 
 namespace quorvex::platform::windows {
 
-// The registry's HKEY_LOCAL_MACHINE. Texts are in the system's code page.
+// The registry's HKEY_LOCAL_MACHINE.
 class WindowsRegistry final : public Registry {
 public:
     [[nodiscard]] std::optional<Value> Query(std::string_view keyName,

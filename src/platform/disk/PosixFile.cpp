@@ -1,0 +1,267 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// One file on Linux, macOS and their like.
+
+#include "platform/disk/HostFile.h"
+#include "platform/disk/SystemFile.h"
+#include "text/RunTimeError.h"
+#include "text/basFolders.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace quorvex::platform::disk {
+
+namespace {
+
+using text::Fault;
+using text::RunTimeError;
+
+bool FolderExists(std::filesystem::path const& path) {
+    std::error_code ignored;
+    auto const folder = path.parent_path();
+    return folder.empty() || std::filesystem::is_directory(folder, ignored);
+}
+
+Fault FaultOf(int error, std::filesystem::path const& path) {
+    switch (error) {
+    case ENOENT:
+        return path.empty()         ? Fault::BadFileName
+               : FolderExists(path) ? Fault::FileNotFound
+                                    : Fault::PathNotFound;
+    case ENOTDIR:
+        return Fault::PathNotFound;
+    case ENOSPC:
+    case EFBIG:
+#ifdef EDQUOT
+    case EDQUOT:
+#endif
+        return Fault::DiskFull;
+    case EINVAL:
+    case ENAMETOOLONG:
+    case ELOOP:
+        return Fault::BadFileName;
+    default:
+        return Fault::PermissionDenied;
+    }
+}
+
+[[noreturn]] void Raise(int error, std::filesystem::path const& path = {}) {
+    throw RunTimeError(FaultOf(error, path));
+}
+
+int Descriptor(SystemFile file) {
+    return static_cast<int>(file);
+}
+
+int FlagsOf(Opening opening) {
+    switch (opening) {
+    case Opening::Read:
+        return O_RDONLY | O_CLOEXEC;
+    case Opening::Create:
+        return O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
+    case Opening::Append:
+        return O_WRONLY | O_APPEND | O_CLOEXEC;
+    case Opening::Empty:
+        break;
+    }
+    return O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC;
+}
+
+bool IsFolder(int descriptor) {
+    struct stat status {};
+
+    return fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+std::string Utf8(std::filesystem::path const& name) {
+    auto const text = name.u8string();
+    return {text.begin(), text.end()};
+}
+
+} // namespace
+
+SystemFile OpenSystemFile(std::filesystem::path const& path, Opening opening, bool onlyForOwner) {
+    constexpr mode_t Owner = 0600;
+    constexpr mode_t EverybodyLessUmask = 0666;
+    int const descriptor = open(path.c_str(), FlagsOf(opening), onlyForOwner ? Owner : EverybodyLessUmask);
+    if (descriptor < 0) {
+        if (opening == Opening::Create && errno == EEXIST) {
+            return NoSystemFile;
+        }
+        Raise(errno, path);
+    }
+    if (IsFolder(descriptor)) {
+        close(descriptor);
+        throw RunTimeError(Fault::PermissionDenied);
+    }
+    return descriptor;
+}
+
+SystemFile DuplicateStandardFile(int number) {
+    int const descriptor = dup(number);
+    if (descriptor < 0) {
+        Raise(errno);
+    }
+    if (IsFolder(descriptor)) {
+        close(descriptor);
+        throw RunTimeError(Fault::PermissionDenied);
+    }
+    return descriptor;
+}
+
+std::size_t ReadSystemFile(SystemFile file, std::span<char> buffer) {
+    for (;;) {
+        auto const count = read(Descriptor(file), buffer.data(), buffer.size());
+        if (count >= 0) {
+            return static_cast<std::size_t>(count);
+        }
+        if (errno != EINTR) {
+            Raise(errno);
+        }
+    }
+}
+
+std::size_t WriteSystemFile(SystemFile file, std::string_view bytes) {
+    for (;;) {
+        auto const count = write(Descriptor(file), bytes.data(), bytes.size());
+        if (count >= 0) {
+            return static_cast<std::size_t>(count);
+        }
+        if (errno != EINTR) {
+            Raise(errno);
+        }
+    }
+}
+
+void FlushSystemFile(SystemFile file) {
+#ifdef F_FULLFSYNC
+    // On macOS fsync stops at the drive's own memory.
+    if (fcntl(Descriptor(file), F_FULLFSYNC) == 0) {
+        return;
+    }
+#endif
+    if (fsync(Descriptor(file)) != 0) {
+        Raise(errno);
+    }
+}
+
+void CloseSystemFile(SystemFile file) {
+    if (close(Descriptor(file)) != 0 && errno != EINTR) {
+        Raise(errno);
+    }
+}
+
+std::filesystem::path HostPath(std::string_view path) {
+    std::u8string spelled(path.begin(), path.end());
+    std::replace(spelled.begin(), spelled.end(), u8'\\', u8'/');
+    return {spelled};
+}
+
+HostFileKind KindOfHostFile(std::filesystem::path const& path) {
+    std::error_code error;
+    auto const type = std::filesystem::status(path, error).type();
+    switch (type) {
+    case std::filesystem::file_type::none:
+    case std::filesystem::file_type::not_found:
+        return HostFileKind::None;
+    case std::filesystem::file_type::regular:
+        return HostFileKind::File;
+    default:
+        return HostFileKind::Other;
+    }
+}
+
+std::filesystem::path FollowHostLinks(std::filesystem::path path) {
+    constexpr int MostLinks = 40;
+    std::error_code error;
+    for (int links = 0; std::filesystem::is_symlink(path, error); ++links) {
+        auto const target = std::filesystem::read_symlink(path, error);
+        if (error || links == MostLinks) {
+            throw RunTimeError(Fault::BadFileName);
+        }
+        path = path.parent_path() / target; // an absolute target stands for itself
+    }
+    return path;
+}
+
+std::vector<std::string> ListHostFiles(std::filesystem::path const& folder, std::string_view pattern) {
+    std::vector<std::string> names;
+    std::error_code error;
+    std::filesystem::directory_iterator entry(folder, error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        std::error_code unreadable;
+        auto name = Utf8(entry->path().filename());
+        // A pipe or a device would keep a reader waiting.
+        if (text::MatchesPattern(name, pattern) && entry->is_regular_file(unreadable)) {
+            names.push_back(std::move(name));
+        }
+    }
+    return names;
+}
+
+void RemoveHostFile(std::filesystem::path const& path) {
+    if (unlink(path.c_str()) != 0) {
+        Raise(errno, path);
+    }
+}
+
+std::uint64_t HostFileLength(std::filesystem::path const& path) {
+    struct stat status {};
+
+    if (stat(path.c_str(), &status) != 0) {
+        Raise(errno, path);
+    }
+    return static_cast<std::uint64_t>(status.st_size);
+}
+
+void CopyHostFileRights(std::filesystem::path const& from, std::filesystem::path const& to) {
+    constexpr mode_t Rights = 07777;
+    constexpr mode_t WithoutSetId = 0777;
+    constexpr mode_t WithoutGroup = 0707;
+    constexpr mode_t Others = 0007;
+    constexpr auto SameOwner = static_cast<uid_t>(-1);
+
+    struct stat status {};
+
+    if (stat(from.c_str(), &status) != 0) {
+        Raise(errno, from);
+    }
+    mode_t mode = status.st_mode & Rights;
+    if (chown(to.c_str(), status.st_uid, status.st_gid) != 0) {
+        mode &= WithoutSetId;
+        if (chown(to.c_str(), SameOwner, status.st_gid) != 0) {
+            // Another group than the one that the rights were meant for gets no more than everybody.
+            mode = (mode & WithoutGroup) | (mode & Others) << 3U;
+        }
+    }
+    if (chmod(to.c_str(), mode) != 0) {
+        Raise(errno, to);
+    }
+}
+
+void MoveHostFile(std::filesystem::path const& from, std::filesystem::path const& to) {
+    if (rename(from.c_str(), to.c_str()) != 0) {
+        Raise(errno, to);
+    }
+    // The new name outlives a power failure only once the folder is on the disk. Some file systems cannot
+    // flush a folder; the rename itself stands either way.
+    auto const folder = to.parent_path();
+    int const descriptor = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor >= 0) {
+        fsync(descriptor);
+        close(descriptor);
+    }
+}
+
+bool IsWriteProtected(std::filesystem::path const& path) {
+    // Asks with the effective user, who will do the writing.
+    return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0 && errno == EACCES;
+}
+
+} // namespace quorvex::platform::disk

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+// The calls for an open file that the kinds of systems name differently. Every fault of the system comes out
+// as a text::RunTimeError.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <string_view>
+
+namespace quorvex::platform::disk {
+
+// A descriptor, or on Windows a handle.
+using SystemFile = std::intptr_t;
+
+inline constexpr SystemFile NoSystemFile = -1;
+
+enum class Opening {
+    Read,
+    Create, // a file that is not there yet
+    Append, // to a file that is there
+    Empty,  // or create
+};
+
+// The opened file, which is no folder. NoSystemFile when a new file is asked for and its name is in use.
+[[nodiscard]] SystemFile OpenSystemFile(std::filesystem::path const& path, Opening opening,
+                                        bool onlyForOwner);
+
+// What the process was given to read (0) and to write on (1), to be closed by itself.
+[[nodiscard]] SystemFile DuplicateStandardFile(int number);
+
+// How many bytes were read; 0 at the end.
+[[nodiscard]] std::size_t ReadSystemFile(SystemFile file, std::span<char> buffer);
+
+// How many of the bytes were written.
+[[nodiscard]] std::size_t WriteSystemFile(SystemFile file, std::string_view bytes);
+
+// Waits for the disk.
+void FlushSystemFile(SystemFile file);
+
+// The file is closed after a fault, too.
+void CloseSystemFile(SystemFile file);
+
+} // namespace quorvex::platform::disk
