@@ -119,6 +119,19 @@ class Program:
         self.choose_file("Open Quote File", name)
         self.wait_for_main()
 
+    def choose_table(self, path):
+        """Shows the table in the import window, read to its end, by the first chart's context menu."""
+        self.chart(CHARTS[0]).focus()
+        self._desktop.press("Menu", "i")
+        chooser = wait_for(self.showing_dialogs, "the file chooser")[0]
+        wait_for(lambda: chooser.has("active"), "the file chooser's activation")
+        self._desktop.press("ctrl+a")
+        self._desktop.type(path)
+        self._desktop.press("Return")
+        window = self.window(f"Quorvex - Import - [{os.path.basename(path)}]")
+        wait_for(lambda: not window.find_all("progress bar"), "the end of the reading")
+        return window
+
     def open_parameters(self, name):
         self.choose("Parameters", "Open")
         self.choose_file("Open Cycle Parameter File", name)

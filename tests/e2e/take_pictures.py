@@ -101,15 +101,7 @@ class Studio:
                 table.write(f"ZW,{date},{close},{opening},{high},{low},{change:+.2f},{volume},{interest}\n")
             table.write("Downloaded from a vendor\n")
         self.desktop.hand_over(path)
-        self.program.chart("Daily quotes chart").focus()
-        self.desktop.press("Menu", "i")
-        chooser = wait_for(self.program.showing_dialogs, "the file chooser")[0]
-        wait_for(lambda: chooser.has("active"), "the file chooser's activation")
-        self.desktop.press("ctrl+a")
-        self.desktop.type(path)
-        self.desktop.press("Return")
-        window = self.program.window("Quorvex - Import - [ZW_daily.csv]")
-        wait_for(lambda: not window.find_all("progress bar"), "the end of the reading")
+        self.program.choose_table(path)
 
     def take(self, title, path):
         """A picture of the window alone, without the window manager's frame."""

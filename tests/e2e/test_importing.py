@@ -8,10 +8,9 @@ import os
 import subprocess
 import unittest
 
-from session import COMPANION, SAMPLES, Session
+from session import CHARTS, COMPANION, SAMPLES, Session
 from waiting import wait_for
 
-QUOTES = "Daily quotes chart"
 HEAD = ("Time", "Last", "Open", "High", "Low", "Volume", "Open Int")
 
 
@@ -29,23 +28,10 @@ class Importing(Session):
         self.desktop.hand_over(path)
         return path
 
-    def choose_table(self, path):
-        """Shows the table in the import window, by the chart's context menu."""
-        self.program.chart(QUOTES).focus()
-        self.desktop.press("Menu", "i")
-        chooser = wait_for(self.program.showing_dialogs, "the file chooser")[0]
-        wait_for(lambda: chooser.has("active"), "the file chooser's activation")
-        self.desktop.press("ctrl+a")
-        self.desktop.type(path)
-        self.desktop.press("Return")
-        window = self.program.window(f"Quorvex - Import - [{os.path.basename(path)}]")
-        wait_for(lambda: not window.find_all("progress bar"), "the end of the reading")
-        return window
-
     def require_open(self, name, days):
         self.program.wait_for_main()
         self.wait_until_equal(lambda: self.program.main.name, f"Quorvex - [{self.folder}/{name}]", "the caption")
-        wait_for(lambda: f" {days} days" in self.program.chart(QUOTES).description, f"a chart of {days} days")
+        wait_for(lambda: f" {days} days" in self.program.chart(CHARTS[0]).description, f"a chart of {days} days")
 
     def import_by_companion(self, path):
         command = [COMPANION, "import", path, "-o", "-"]
@@ -58,7 +44,7 @@ class Importing(Session):
     def test_window(self):
         program = self.start()
         first = self.write_table("winter.csv", 40)
-        window = self.choose_table(first)
+        window = self.program.choose_table(first)
         boxes = {box.description: box.name for box in window.find_all("combo box") if "Column" in box.description}
         roles = ("date", "close", "open", "high", "low", "volume", "open interest")
         self.assertEqual(boxes, {f"Column {number}  {head}": role
@@ -74,7 +60,7 @@ class Importing(Session):
 
     def update_by_mouse(self):
         second = self.write_table("spring.csv", 45)
-        window = self.choose_table(second)
+        window = self.program.choose_table(second)
         self.desktop.press("alt+n")
         self.desktop.type("winter.txt")
         wait_for(lambda: window.find("push button", "Update").has("enabled"), "a file to be brought up to date")
