@@ -15,10 +15,11 @@
 #include "text/basNumbers.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
-#include <vector>
 
 namespace quorvex::editor::tables {
 
@@ -30,58 +31,11 @@ imports::Sample SampleOf(imports::TableText const& table) {
     return imports::ReadSample(table.FirstPart(), table.IsWhole(), std::nullopt);
 }
 
-std::vector<std::string_view> SplitAt(char mark, std::string_view text) {
-    std::vector<std::string_view> parts;
-    for (std::size_t end = text.find(mark); end != std::string_view::npos; end = text.find(mark)) {
-        parts.push_back(text.substr(0, end));
-        text.remove_prefix(end + 1);
-    }
-    parts.push_back(text);
-    return parts;
-}
-
-// A decimal comma would be read as a mark of thousands.
-bool HasOddComma(std::string_view cell) {
-    constexpr std::size_t Group = 3;
-    auto const parts = SplitAt(',', cell.substr(0, cell.find('.')));
-    return std::any_of(parts.begin() + 1, parts.end(),
-                       [](std::string_view part) { return part.size() != Group; });
-}
-
-bool IsOwnNumber(std::string_view cell) {
-    return !HasOddComma(cell) && !text::Trap([&] { static_cast<void>(text::StrictNumber(cell)); });
-}
-
-// Whether the grid takes the cells of a row of quotes as they stand. A remark in place of a number is one of
-// the grid's own.
-bool IsOwnRow(imports::SampleRow const& row, std::string_view line) {
-    if (line.ends_with('\r')) {
-        line.remove_suffix(1);
-    }
-    auto const cells = SplitAt('\t', line);
-    if (cells.size() > static_cast<std::size_t>(Sheet::Columns) || cells.size() != row.Cells.size() ||
-        !text::ParseDate(cells.front())) {
-        return false;
-    }
-    bool isOwn = true;
-    for (std::size_t cell = 1; cell < cells.size(); ++cell) {
-        isOwn = isOwn && (!imports::LooksLikeNumber(row.Cells[cell]) || IsOwnNumber(cells[cell]));
-    }
-    return isOwn;
-}
-
-bool IsOwnBlock(imports::Sample const& sample, std::string_view text) {
-    auto const lines = SplitAt('\n', text);
-    return sample.SeparatedBy == imports::Separator::Tab &&
-           imports::MakePlan(sample, imports::Encoding::Utf8, {}).HeadLines.empty() &&
-           std::ranges::all_of(sample.Rows, [&](imports::SampleRow const& row) {
-               return !imports::LooksLikeQuotes(row) ||
-                      (row.Line <= lines.size() && IsOwnRow(row, lines[row.Line - 1]));
-           });
-}
-
 void TellRefusal(std::string const& cause, platform::Dialogs& dialogs) {
-    dialogs.Show({"The table was not pasted.\n" + cause, "Edit", platform::Icon::Exclamation});
+    dialogs.Show(
+        {"The table was not pasted.\n" + cause +
+             "\nImport... in the context menu of the first chart lets you choose how a table is read.",
+         "Edit", platform::Icon::Exclamation});
 }
 
 void TellLeftOut(imports::Findings const& leftOut, platform::Dialogs& dialogs) {
@@ -135,35 +89,110 @@ imports::Conversion Read(std::string_view text) {
     return imports::ConvertTable(table.Whole(), plan, {});
 }
 
+// What became of the rows from this one on. The old ones are those that were there, which may be fewer.
+std::string PasteStatus(std::int16_t row, std::span<EditRow const> pasted, std::span<EditRow const> old,
+                        quotes::QuoteRecords const& master) {
+    auto const isLost = [](EditRow const& before, EditRow const& after) {
+        std::string const& day = before.Texts.front();
+        return !day.empty() && text::ParseDate(day) != text::ParseDate(after.Texts.front());
+    };
+    int lost = 0;
+    bool isSavedAsShown = true;
+    for (std::size_t index = 0; index < pasted.size(); ++index) {
+        EditRow const& now = pasted[index];
+        quotes::QuoteRecord const& saved = master[row + static_cast<std::int16_t>(index)];
+        lost += index < old.size() && isLost(old[index], now) ? 1 : 0;
+        isSavedAsShown =
+            isSavedAsShown && now.Copy.Volume == saved.Volume && now.Copy.OpenInterest == saved.OpenInterest;
+    }
+    std::string const first = std::to_string(row);
+    std::string status = pasted.size() == 1
+                             ? "1 day pasted into row " + first
+                             : std::to_string(pasted.size()) + " days pasted into rows " + first + " to " +
+                                   std::to_string(static_cast<std::size_t>(row) + pasted.size() - 1);
+    if (lost > 0) {
+        status += " over " + std::to_string(lost) + (lost == 1 ? " other day" : " other days") +
+                  "; Undo brings " + (lost == 1 ? "it" : "them") + " back";
+    }
+    if (!isSavedAsShown) {
+        status += ". Their volume and open interest are not saved, those of the loaded rows are; Import... "
+                  "takes them into the file";
+    }
+    return status;
+}
+
+// A number in which the comma may be a decimal one.
+bool IsDoubtfulNumber(std::string_view cell) {
+    return cell.find(',') != std::string_view::npos && cell.find('.') == std::string_view::npos &&
+           !text::Trap([&] { static_cast<void>(text::StrictNumber(cell)); });
+}
+
+// A date whose first two numbers may be the month and the day, or the other way round.
+bool IsDoubtfulDate(std::string_view cell, std::chrono::year_month_day date) {
+    constexpr unsigned Months = 12;
+    auto const month = static_cast<unsigned>(date.month());
+    auto const day = static_cast<unsigned>(date.day());
+    bool const isYearFirst = cell.find_first_of("/-") >= 4;
+    bool const isOfNumbers = cell.find_first_not_of("0123456789/- ") == std::string_view::npos;
+    return isOfNumbers && !isYearFirst && day <= Months && day != month;
+}
+
+std::string FindCellReading(std::string_view cell) {
+    if (IsDoubtfulNumber(cell)) {
+        return std::string(cell) + " is read as " + text::PlainNumber(text::StrictNumber(cell));
+    }
+    auto const day = text::ParseDate(cell);
+    if (!day || !IsDoubtfulDate(cell, *day)) {
+        return {};
+    }
+    std::chrono::year_month_day const date = *day;
+    return std::string(cell) + " is read as month " + std::to_string(static_cast<unsigned>(date.month())) +
+           ", day " + std::to_string(static_cast<unsigned>(date.day()));
+}
+
 } // namespace
 
 bool IsTable(std::string_view text) {
     text::TextSource source(text);
     imports::TableText const table(source, imports::Encoding::Utf8);
-    imports::Sample const sample = SampleOf(table);
-    return std::ranges::any_of(sample.Rows, imports::LooksLikeQuotes) && !IsOwnBlock(sample, text);
+    return std::ranges::any_of(SampleOf(table).Rows, imports::LooksLikeQuotes);
 }
 
-bool PasteTable(Editor& editor, std::int16_t row, std::string_view text, settings::Settings const& settings,
-                platform::Dialogs& dialogs) {
+std::string PasteTable(Editor& editor, std::int16_t row, std::string_view text,
+                       quotes::QuoteRecords const& master, settings::Settings const& settings,
+                       platform::Dialogs& dialogs) {
     imports::Conversion const table = Read(text);
     if (std::string const refusal = FindRefusal(table, row); !refusal.empty()) {
         TellRefusal(refusal, dialogs);
-        return false;
+        return {};
     }
     ShownNumbers const shown(settings);
-    EditRows rows = RowsOf(editor);
-    auto at = static_cast<std::size_t>(row - 1);
-    rows.resize(std::max(rows.size(), at + table.Days.size()));
+    EditRows pasted;
     for (imports::DayQuote const& day : table.Days) {
-        rows[at++] = RowOf(day, shown);
+        pasted.push_back(RowOf(day, shown));
     }
+    EditRows const before = RowsOf(editor);
+    EditRows rows = before;
+    auto const at = static_cast<std::size_t>(row - 1);
+    rows.resize(std::max(rows.size(), at + pasted.size()));
+    std::ranges::copy(pasted, rows.begin() + (row - 1));
     SetRows(editor, rows);
     editor.Grid.GotoCell(row, DateColumn);
     if (table.LeftOut.Count > 0) {
         TellLeftOut(table.LeftOut, dialogs);
     }
-    return true;
+    return PasteStatus(row, pasted, std::span(before).subspan(at), master);
+}
+
+std::string FindReading(std::string_view text) {
+    while (!text.empty()) {
+        std::string_view const cell = text.substr(0, text.find_first_of("\t\r\n"));
+        if (std::string reading = FindCellReading(cell); !reading.empty()) {
+            return reading;
+        }
+        text.remove_prefix(std::min(cell.size() + 1, text.size()));
+    }
+    return {};
 }
 
 } // namespace quorvex::editor::tables

@@ -13,14 +13,21 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 namespace quorvex::editor::ui {
 
 namespace {
 
 using platform::pictures::TwipsPerPixel;
+
+// Marks cells that a grid like this one has copied: those go in as they stand, whatever they look like.
+QString OwnFormat() {
+    return QStringLiteral("application/x-quorvex-cells");
+}
 
 int PixelsOf(double twips) {
     return std::max(0, static_cast<int>(std::lround(twips / TwipsPerPixel)));
@@ -155,7 +162,11 @@ void SpreadGrid::Cut() {
 
 void SpreadGrid::Copy() {
     if (auto const block = SelectedBlock()) {
-        QGuiApplication::clipboard()->setText(platform::pictures::ToQt(BlockText(sheet_, *block)));
+        QString const text = platform::pictures::ToQt(BlockText(sheet_, *block));
+        auto cells = std::make_unique<QMimeData>();
+        cells->setText(text);
+        cells->setData(OwnFormat(), text.toUtf8());
+        QGuiApplication::clipboard()->setMimeData(cells.release()); // which takes it over
     }
 }
 
@@ -169,13 +180,25 @@ void SpreadGrid::Clear() {
 
 void SpreadGrid::Paste() {
     auto const block = SelectedBlock();
-    std::string const text = platform::pictures::FromQt(QGuiApplication::clipboard()->text());
-    auto const behindLast = static_cast<std::int16_t>(sheet_.RowCount() + 1);
-    bool const isDone = pasteTable_ && pasteTable_(block ? block->Row : behindLast, text);
-    if (isDone || !block) {
+    QMimeData const* const copied = QGuiApplication::clipboard()->mimeData();
+    if (copied == nullptr) {
         return;
     }
-    bool const hasAll = PasteText(sheet_, *block, text);
+    bool const isOwn = copied->hasFormat(OwnFormat());
+    QString const text = isOwn ? QString::fromUtf8(copied->data(OwnFormat())) : copied->text();
+    auto const behindLast = static_cast<std::int16_t>(sheet_.RowCount() + 1);
+    bool const isTable = !isOwn && pasteTable_ &&
+                         pasteTable_(block ? block->Row : behindLast, platform::pictures::FromQt(text));
+    if (!isTable && block) {
+        PasteCells(*block, text);
+        if (!isOwn) {
+            Q_EMIT OthersPasted(text);
+        }
+    }
+}
+
+void SpreadGrid::PasteCells(Block const& block, QString const& text) {
+    bool const hasAll = PasteText(sheet_, block, platform::pictures::FromQt(text));
     model_.ShowSheet();
     Q_EMIT Edited();
     if (!hasAll) {

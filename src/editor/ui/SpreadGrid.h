@@ -46,8 +46,8 @@ public:
     void Paste();
     void Clear();
 
-    // Lets this have a text that is to be pasted, together with the row to paste it into, first. It returns
-    // whether it has done so, or told why not.
+    // Lets this have a text of another program that is to be pasted, together with the row to paste it into,
+    // first. It returns whether it has done so, or told why not.
     using TablePaste = std::function<bool(std::int16_t row, std::string const& text)>;
 
     void OfferTables(TablePaste paste) { pasteTable_ = std::move(paste); }
@@ -61,6 +61,9 @@ Q_SIGNALS:
 
     // The user changed the text of a cell.
     void Edited();
+
+    // Cells that another program has copied were pasted as they stand.
+    void OthersPasted(QString const& text);
 
     // A block was pasted that reaches beyond the last row or column.
     void CellsLeftOut();
@@ -79,6 +82,7 @@ private:
     // Whether the key was one that works on the selected cells.
     bool WorkOnBlock(QKeyEvent const& event);
     [[nodiscard]] QPoint CursorPlace() const; // on the screen
+    void PasteCells(Block const& block, QString const& text);
     void MoveDown(int rows);
 
     Sheet sheet_;

@@ -23,6 +23,8 @@ namespace quorvex::editor::ui {
 
 namespace {
 
+using platform::pictures::ToQt;
+
 constexpr QSize InitialSize(940, 680);
 
 } // namespace
@@ -60,6 +62,11 @@ frmEdit::frmEdit(QWidget* parent, quotes::QuoteSeries& series, settings::Setting
     });
     connect(spread_, &SpreadGrid::Edited, this, &frmEdit::ForgetStatus);
     connect(spread_, &SpreadGrid::Edited, this, [this] { Record(); });
+    connect(spread_, &SpreadGrid::OthersPasted, this, [this](QString const& text) {
+        if (auto const reading = tables::FindReading(platform::pictures::FromQt(text)); !reading.empty()) {
+            status_->Tell(ToQt("Pasted as it stands: " + reading));
+        }
+    });
     spread_->OfferTables([this](std::int16_t row, std::string const& text) { return PasteTable(row, text); });
     connect(spread_, &SpreadGrid::UndoWanted, this, Runs([this] { Undo(); }));
     connect(spread_, &SpreadGrid::RedoWanted, this, Runs([this] { Redo(); }));
@@ -166,8 +173,9 @@ bool frmEdit::PasteTable(std::int16_t row, std::string const& text) {
     bool const isTable = tables::IsTable(text);
     if (isTable) {
         Run([&] {
-            if (tables::PasteTable(*editor_, row, text, settings_, dialogs_)) {
-                ForgetStatus();
+            auto const told = tables::PasteTable(*editor_, row, text, series_.Master, settings_, dialogs_);
+            if (!told.empty()) {
+                status_->Tell(ToQt(told));
             }
         });
     }

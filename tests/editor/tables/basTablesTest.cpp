@@ -20,8 +20,14 @@
 namespace quorvex::tests {
 namespace {
 
+using editor::tables::FindReading;
 using editor::tables::IsTable;
 using testing::ElementsAre;
+
+constexpr char const* Refused = "The table was not pasted.\n";
+constexpr char const* Volumes =
+    ". Their volume and open interest are not saved, those of the loaded rows are; "
+    "Import... takes them into the file";
 
 // A table of one day of March 2002.
 std::string Day(std::string const& day, std::string const& close) {
@@ -35,14 +41,17 @@ std::string ThreeDays() {
 class Tables : public testing::Test {
 protected:
     void OpenDays(int count) {
-        auto const series = SeriesOf(QuoteLines(count), settings.CurrencyFormat);
+        series = SeriesOf(QuoteLines(count), settings.CurrencyFormat);
         editor::OpenEditor(*edited, *series);
         editor::RebuildGrid(*edited, settings);
     }
 
-    bool Paste(std::int16_t row, std::string const& text) {
-        return editor::tables::PasteTable(*edited, row, text, settings, dialogs);
+    // What the status line tells.
+    std::string PasteTold(std::int16_t row, std::string const& text) {
+        return editor::tables::PasteTable(*edited, row, text, series->Master, settings, dialogs);
     }
+
+    bool Paste(std::int16_t row, std::string const& text) { return !PasteTold(row, text).empty(); }
 
     [[nodiscard]] std::vector<std::string> RowTexts(std::int16_t row) const {
         std::vector<std::string> texts;
@@ -63,6 +72,7 @@ protected:
         return isUsual ? message.Text : "another kind of message";
     }
 
+    std::unique_ptr<quotes::QuoteSeries> series;
     settings::Settings settings = settings::DefaultSettings("C:\\Quotes");
     platform::fake::ScriptedDialogs dialogs;
     editor::Sheet sheet;
@@ -70,21 +80,6 @@ protected:
     std::unique_ptr<editor::Editor> edited =
         std::make_unique<editor::Editor>(editor::Editor{sheet, spread, {}, 0});
 };
-
-TEST_F(Tables, AreNotWhatTheGridCopies) {
-    OpenDays(30);
-    EXPECT_FALSE(IsTable(editor::BlockText(sheet, {1, 1, 30, 7})));
-    EXPECT_FALSE(IsTable(editor::BlockText(sheet, {1, 1, 30, 5})));
-    EXPECT_FALSE(IsTable(editor::BlockText(sheet, {1, 2, 30, 7})));
-    sheet.SetText(3, 6, "abc"); // remarks and what was typed stay as they are
-    sheet.SetText(4, 7, "\"x\"");
-    sheet.SetText(5, 1, "3/5/2002");
-    sheet.SetText(6, 1, "soon");
-    sheet.SetText(7, 3, "");
-    sheet.SetText(8, 4, "1,234.5");
-    sheet.SetText(9, 1, "2002-03-05");
-    EXPECT_FALSE(IsTable(editor::BlockText(sheet, {1, 1, 30, 7})));
-}
 
 TEST_F(Tables, AreNotCellsWithoutDays) {
     EXPECT_FALSE(IsTable(""));
@@ -95,7 +90,8 @@ TEST_F(Tables, AreNotCellsWithoutDays) {
     EXPECT_FALSE(IsTable("Some words, and some more.\n"));
 }
 
-TEST_F(Tables, HaveHeadingsOrOtherFormsOrSeparators) {
+TEST_F(Tables, HaveDaysWhateverTheirFormsAndSeparators) {
+    EXPECT_TRUE(IsTable("03/15/02\t1\t3\t1\t2\n")); // as the grid would take it
     EXPECT_TRUE(IsTable("Date\tOpen\tHigh\tLow\tClose\n01/02/02\t1\t3\t1\t2\n"));
     EXPECT_TRUE(IsTable("15.03.2002\t1\t3\t1\t2\n"));
     EXPECT_TRUE(IsTable("03/15/02\t1,5\t3\t1\t2\n"));
@@ -159,7 +155,8 @@ TEST_F(Tables, OfMoreDaysThanThereIsRoomForAreRefused) {
     OpenDays(499);
     auto const before = editor::RowsOf(*edited);
     EXPECT_FALSE(Paste(499, ThreeDays()));
-    EXPECT_EQ(Told(), "The table was not pasted.\nIt has 3 days, and from row 499 on there is room for 2");
+    EXPECT_THAT(Told(), testing::StartsWith(std::string(Refused) +
+                                            "It has 3 days, and from row 499 on there is room for 2\n"));
     EXPECT_TRUE(editor::RowsOf(*edited) == before);
     EXPECT_TRUE(Paste(498, ThreeDays()));
     EXPECT_EQ(sheet.RowCount(), 500);
@@ -169,15 +166,75 @@ TEST_F(Tables, ThatCanBeReadInTwoWaysAreRefused) {
     OpenDays(30);
     auto const before = editor::RowsOf(*edited);
     EXPECT_FALSE(Paste(2, "Date,Open,High,Low,Close\n03/05/2002,1,3,1,2\n04/05/2002,1,3,1,2\n"));
-    EXPECT_THAT(Told(), testing::StartsWith("The table was not pasted.\n"));
+    EXPECT_THAT(Told(), testing::StartsWith(Refused));
     EXPECT_THAT(Told(), testing::HasSubstr("month, day, year or day, month, year"));
+    EXPECT_THAT(Told(),
+                testing::EndsWith("\nImport... in the context menu of the first chart lets you choose "
+                                  "how a table is read."));
     EXPECT_TRUE(editor::RowsOf(*edited) == before);
+}
+
+// The grid itself would take the month first and the comma for a mark of thousands.
+TEST_F(Tables, OfRowsWithoutAHeadAreNotGuessedEither) {
+    OpenDays(30);
+    auto const before = editor::RowsOf(*edited);
+    EXPECT_FALSE(Paste(2, "03/02/2020\t11\t13\t10\t12\n"));
+    EXPECT_THAT(Told(), testing::HasSubstr("month, day, year or day, month, year"));
+    dialogs.Messages.clear();
+    EXPECT_FALSE(Paste(2, "2020-03-02\t2,345\t2,345\t2,345\t2,345\n"));
+    EXPECT_THAT(Told(), testing::StartsWith(Refused));
+    EXPECT_THAT(Told(), testing::HasSubstr("the open can be 2345 or 2.345"));
+    EXPECT_TRUE(editor::RowsOf(*edited) == before);
+}
+
+TEST_F(Tables, OfRowsWithoutAHeadAreReadWhenTheirColumnsTell) {
+    OpenDays(30);
+    EXPECT_TRUE(Paste(2, "03/02/2020\t2,345\t2,5\t2\t2,25\n13/02/2020\t11\t13\t10\t12\n"));
+    EXPECT_THAT(RowTexts(2), ElementsAre("02/03/20", "2.35", "2.50", "2.00", "2.25", "0", "0"));
+    EXPECT_THAT(RowTexts(3), ElementsAre("02/13/20", "11.00", "13.00", "10.00", "12.00", "0", "0"));
+}
+
+TEST_F(Tables, TellWhereTheyWent) {
+    OpenDays(30);
+    series->Master = {};
+    EXPECT_EQ(PasteTold(31, Day("15", "12")), "1 day pasted into row 31");
+    EXPECT_EQ(PasteTold(32, ThreeDays()), "3 days pasted into rows 32 to 34");
+    EXPECT_EQ(PasteTold(32, ThreeDays()), "3 days pasted into rows 32 to 34"); // over the same days
+}
+
+TEST_F(Tables, TellWhichDaysTheyReplaced) {
+    OpenDays(30);
+    series->Master = {};
+    EXPECT_EQ(PasteTold(30, ThreeDays()),
+              "3 days pasted into rows 30 to 32 over 1 other day; Undo brings it back");
+    EXPECT_EQ(PasteTold(2, ThreeDays()),
+              "3 days pasted into rows 2 to 4 over 3 other days; Undo brings them back");
+}
+
+TEST_F(Tables, TellThatVolumesAreNotSaved) {
+    OpenDays(30);
+    std::string const head = "Date,Open,High,Low,Close,Volume,Open Interest\n2001-01-02,1,3,1,2,";
+    EXPECT_EQ(PasteTold(2, head + "1200,3400\n"), "1 day pasted into row 2");
+    EXPECT_EQ(PasteTold(2, head + "1201,3400\n"), std::string("1 day pasted into row 2") + Volumes);
+    EXPECT_EQ(PasteTold(2, head + "1200,3401\n"), std::string("1 day pasted into row 2") + Volumes);
+    EXPECT_EQ(PasteTold(2, "Date,Open,High,Low,Close\n2001-01-02,1,3,1,2\n"),
+              std::string("1 day pasted into row 2") + Volumes); // which has none
+}
+
+TEST_F(Tables, AreNotNeededToTellHowCellsAreRead) {
+    EXPECT_EQ(FindReading("1.5\t2,345\n"), "2,345 is read as 2345");
+    EXPECT_EQ(FindReading("1,5"), "1,5 is read as 15");
+    EXPECT_EQ(FindReading("x\r\n03/02/2020\r\n2,345"), "03/02/2020 is read as month 3, day 2");
+    EXPECT_EQ(FindReading("3-2-20"), "3-2-20 is read as month 3, day 2");
+    EXPECT_EQ(FindReading("03/03/2020\t03/13/2020\t2020-03-02\t2020/03/02\tMar 2, 2020\t1,234.5\tabc, d"),
+              "");
+    EXPECT_EQ(FindReading(""), "");
 }
 
 TEST_F(Tables, WithoutAGoodDayAreRefused) {
     OpenDays(30);
     EXPECT_FALSE(Paste(2, "Date,Open,High,Low,Close\n2002-03-15,0,3,1,2\n"));
-    EXPECT_THAT(Told(), testing::StartsWith("The table was not pasted.\nLine 2: "));
+    EXPECT_THAT(Told(), testing::StartsWith(std::string(Refused) + "Line 2: "));
 }
 
 TEST_F(Tables, TellTheRowsThatAreLeftOut) {

@@ -7,6 +7,7 @@
 #include "support/QuoteTexts.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QTest>
 #include <stdexcept>
 
@@ -80,6 +81,10 @@ void ShownEditor::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) const {
 
 QString ShownEditor::Text(int row, int column) const {
     return grid_->model()->index(row - 1, column - 1).data().toString();
+}
+
+QString ShownEditor::Status() const {
+    return Window->findChild<QLabel*>(QStringLiteral("StatusLine"))->text();
 }
 
 QString ShownEditor::Cursor() const {

@@ -50,6 +50,9 @@ public:
     void GoTo(int row, int column) const;
     [[nodiscard]] QString Text(int row, int column) const;
 
+    // What the status line says.
+    [[nodiscard]] QString Status() const;
+
     // "row,column" of the cursor.
     [[nodiscard]] QString Cursor() const;
 

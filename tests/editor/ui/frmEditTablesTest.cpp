@@ -37,6 +37,11 @@ private Q_SLOTS:
             QCOMPARE(shown.Text(30, 5), u"2.25"_s);
             QCOMPARE(shown.Text(31, 2), u"11.50"_s);
             QCOMPARE(shown.Cursor(), u"30,1"_s);
+            QCOMPARE(
+                shown.Status(),
+                u"2 days pasted into rows 30 to 31 over 1 other day; Undo brings it back. Their volume and "
+                u"open "
+                "interest are not saved, those of the loaded rows are; Import... takes them into the file"_s);
             shown.ComeBack(); // which drops what is typed
             QCOMPARE(shown.Text(31, 2), u"11.50"_s);
             shown.Press(Qt::Key_Z, Qt::ControlModifier);
@@ -77,10 +82,14 @@ private Q_SLOTS:
         }
     }
 
+    // Whatever stands in them: another program's rows would be read as a table, or refused.
     void CellsOfTheGridGoInAsTheyStand() {
         ShownEditor shown(QuoteLines(30), "corn.txt");
+        QStringList const typed = {u"3/2/2020"_s, u"2,345"_s, u"1,5"_s, u"\"x\""_s, u"abc"_s};
         shown.Run([&] {
-            shown.Type(3, 6, u"abc"_s);
+            for (int column = 1; column <= typed.size(); ++column) {
+                shown.Type(3, column, typed[column - 1]);
+            }
             shown.GoTo(2, 1);
             for (int step = 0; step < 6; ++step) {
                 shown.Press(Qt::Key_Right, Qt::ShiftModifier);
@@ -89,8 +98,25 @@ private Q_SLOTS:
             shown.Press(Qt::Key_C, Qt::ControlModifier);
             shown.GoTo(10, 1);
             shown.Press(Qt::Key_V, Qt::ControlModifier);
-            QCOMPARE(shown.Text(11, 1), u"01/03/01"_s);
-            QCOMPARE(shown.Text(11, 6), u"abc"_s);
+            for (int column = 1; column <= 7; ++column) {
+                QCOMPARE(shown.Text(10, column), shown.Text(2, column));
+                QCOMPARE(shown.Text(11, column), shown.Text(3, column));
+            }
+            QCOMPARE(shown.Text(11, 2), u"2,345"_s);
+            QCOMPARE(shown.Status(), u""_s);
+        });
+        QCOMPARE(shown.Answers.Shown(), QStringList(u"frmEdit"_s));
+    }
+
+    void HowTheGridReadsCellsOfOthersIsTold() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            shown.GoTo(2, 2);
+            Paste(shown, u"2,345\t3\n"_s);
+            QCOMPARE(shown.Text(2, 2), u"2,345"_s);
+            QCOMPARE(shown.Status(), u"Pasted as it stands: 2,345 is read as 2345"_s);
+            Paste(shown, u"2.345\t3\n"_s);
+            QCOMPARE(shown.Status(), u""_s);
         });
         QCOMPARE(shown.Answers.Shown(), QStringList(u"frmEdit"_s));
     }
