@@ -1,15 +1,6 @@
-# What is installed beside the two programs, for which their own folders have the rule, and the version of all of it.
+# What is installed beside the two programs, for which their own folders have the rule.
 
 include(GNUInstallDirs)
-
-# The version stands in the source alone.
-set(header ${PROJECT_SOURCE_DIR}/src/app/Program.h)
-set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${header})
-file(STRINGS ${header} line REGEX "ProgramVersion = ")
-if(NOT line MATCHES "\"([0-9.]+[a-z]?)\"")
-    message(FATAL_ERROR "${header} tells no version.")
-endif()
-set(QUORVEX_VERSION ${CMAKE_MATCH_1})
 
 # Installs a manual page of the first section. It is not compressed; packages do that.
 function(install_manual name)
@@ -19,17 +10,24 @@ function(install_manual name)
 endfunction()
 
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
-install(FILES CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES CHANGELOG.md docs/behaviour.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY docs/formats DESTINATION ${CMAKE_INSTALL_DOCDIR})
+if(WIN32)
+    # A program folder that can be written is where the window looks for them.
+    install(DIRECTORY resources/help/ resources/samples/ DESTINATION . FILES_MATCHING PATTERN *.rtf PATTERN *.txt PATTERN *.dat)
+    if(Qt6_FOUND)
+        install(FILES packaging/windows/Qt.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+        install(DIRECTORY ${PROJECT_SOURCE_DIR}/build/windows-qt/share/doc/qt/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/Qt)
+    endif()
+    return()
+endif()
+
 # The program carries help documents and samples itself; these are for those who use the companion alone.
 install(DIRECTORY resources/help DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY resources/samples/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples)
-install(DIRECTORY docs/formats DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(FILES docs/behaviour.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
-if(UNIX)
-    install_manual(quorvex-cli)
-endif()
-if(Qt6_FOUND AND UNIX AND NOT APPLE)
+install_manual(quorvex-cli)
+if(Qt6_FOUND AND NOT APPLE)
     install_manual(Quorvex)
     install(FILES packaging/Quorvex.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
     install(FILES packaging/org.example.quorvex.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)

@@ -128,6 +128,10 @@ function(add_windows name)
     endforeach()
     add_level_target(${name} LEVEL ${arg_LEVEL} FILES ${arg_FILES} USES ${arg_USES})
     set_target_properties(quorvex_${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+    if(WIN32)
+        # The static Qt cannot unpack what rcc would choose.
+        set_target_properties(quorvex_${name} PROPERTIES AUTORCC_OPTIONS --no-zstd)
+    endif()
     if(arg_WITHOUT_WIDGETS)
         target_link_libraries(quorvex_${name} PUBLIC Qt6::Gui)
     else()
@@ -151,11 +155,18 @@ function(add_core_test core)
     add_executable(${target} ${arg_FILES})
     target_link_libraries(${target} PRIVATE quorvex_${core} quorvex_test_support quorvex_test_options)
     target_precompile_headers(${target} REUSE_FROM quorvex_test_support)
+    add_windows_manifest(${target})
     foreach(used IN LISTS arg_USES)
         target_link_libraries(${target} PRIVATE quorvex_${used})
     endforeach()
-    gtest_discover_tests(${target} TEST_PREFIX "${core}." DISCOVERY_TIMEOUT 60
-        PROPERTIES TIMEOUT 300 ENVIRONMENT "${QUORVEX_TEST_ENVIRONMENT}")
+    if(CMAKE_CROSSCOMPILING)
+        # The emulator takes longer to start than most tests to run.
+        add_test(NAME ${core} COMMAND ${target} --gtest_brief=1 --gtest_shuffle)
+        set_tests_properties(${core} PROPERTIES TIMEOUT 900 ENVIRONMENT "${QUORVEX_TEST_ENVIRONMENT}")
+    else()
+        gtest_discover_tests(${target} TEST_PREFIX "${core}." DISCOVERY_TIMEOUT 60
+            PROPERTIES TIMEOUT 300 ENVIRONMENT "${QUORVEX_TEST_ENVIRONMENT}")
+    endif()
 endfunction()
 
 # add_windows_program(<name> FILES <sources, one of them with a main function>): a program of Qt Test.
@@ -166,6 +177,8 @@ function(add_windows_program name)
     set_target_properties(${target} PROPERTIES AUTOMOC ON)
     target_link_libraries(${target} PRIVATE quorvex_test_windows quorvex_test_options)
     target_precompile_headers(${target} REUSE_FROM quorvex_test_windows)
+    add_windows_manifest(${target})
+    add_offscreen_platform(${target})
 endfunction()
 
 # add_windows_case(<name> COMMAND <program> [<arguments>]): a test that drives windows on a platform without a display.

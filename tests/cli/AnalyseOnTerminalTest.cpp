@@ -25,6 +25,7 @@ private:
 
 std::string OutputOf(platform::Console const& console, std::vector<std::string> reversedArguments) {
     CLI::App app("test", "quorvex-cli");
+    app.allow_windows_style_options(false);
     auto status = ExitStatus::Usage;
     AddAnalyse(app, console, status);
     testing::internal::CaptureStdout();

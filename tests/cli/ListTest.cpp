@@ -23,6 +23,7 @@ protected:
     // Runs "list" with these arguments.
     ExitStatus Run(std::vector<std::string> arguments, platform::PdfPrintQueue* printer) {
         CLI::App app;
+        app.allow_windows_style_options(false);
         auto status = ExitStatus::Success;
         cli::AddList(app, printer, status);
         arguments.emplace_back("list");

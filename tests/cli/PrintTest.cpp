@@ -20,6 +20,7 @@ platform::fake::PrintedPage PrintedPageOf(std::vector<std::string> arguments) {
     TemporaryFolder const folder;
     RecordingPdfQueue queue;
     CLI::App app;
+    app.allow_windows_style_options(false);
     auto status = cli::ExitStatus::Usage;
     cli::AddPrint(app, &queue, status);
     arguments.insert(arguments.begin(), {"print", "-o", folder.File("page.pdf")});
