@@ -37,14 +37,19 @@ std::optional<ImportedFile> RunImportWindow(ImportSource source, Program& progra
     return std::exchange(program.Imported, std::nullopt);
 }
 
-// A contract that stays open because this one cannot be read keeps its folder.
+// A contract that stays open because this one cannot be read keeps its folder. The current folder goes along,
+// so that the editor, which saves under the bare name, writes the file that was opened.
 void OpenQuotes(ImportedFile const& file, Program& program, Services& services) {
     std::string const before = std::exchange(program.Settings.DataPath, file.Folder);
-    if (!quotes::OpenNamedQuoteFile(file.Name, program.Quotes, program.Settings, services.System.Files,
-                                    services.Dialogs)) {
+    bool const isOpen = quotes::OpenNamedQuoteFile(file.Name, program.Quotes, program.Settings,
+                                                   services.System.Files, services.Dialogs);
+    if (!isOpen) {
         program.Settings.DataPath = before;
     }
     Redraw(program, services);
+    if (isOpen && file.Folder != before) {
+        services.System.Files.EnterFolder(file.Folder);
+    }
 }
 
 bool GoesOn(std::size_t leftCount, platform::Dialogs& dialogs) {

@@ -73,6 +73,14 @@ std::uint64_t PipeFiles::Length(std::string const& path) const {
     return disk_.Length(path);
 }
 
+bool PipeFiles::AreSame(std::string const& one, std::string const& other) const {
+    return disk_.AreSame(one, other);
+}
+
+void PipeFiles::EnterFolder(std::string const& folder) {
+    disk_.EnterFolder(folder);
+}
+
 std::vector<std::string> PipeFiles::List(std::string const& folder, std::string_view pattern) const {
     return disk_.List(folder, pattern);
 }

@@ -3,11 +3,14 @@
 
 #include "editor/UnsavedEdits.h"
 
+#include "editor/basSave.h"
 #include "platform/basFiles.h"
 #include "text/RunTimeError.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
+#include <utility>
 
 namespace quorvex::editor {
 
@@ -15,19 +18,6 @@ namespace {
 
 constexpr std::string_view Extension = ".edits";
 constexpr std::string_view NameWithoutFile = "untitled";
-
-// Where the quote file lies: Save As may have given it a folder of its own.
-std::string QuotePath(quotes::QuoteSeries const& series, settings::Settings const& settings) {
-    std::string const& name = series.QuoteFileName;
-    return name.find_first_of("/\\") == std::string::npos ? settings.DataPath + name : name;
-}
-
-// Where the edits of the editor on the series are kept.
-std::string EditsPath(quotes::QuoteSeries const& series, settings::Settings const& settings) {
-    std::string const path =
-        series.HasQuotes() ? QuotePath(series, settings) : settings.DataPath + std::string(NameWithoutFile);
-    return path + std::string(Extension);
-}
 
 // A quote file that cannot be read is like one that is not there.
 std::string MarkOfFile(platform::Files const& files, std::string const& path) {
@@ -40,40 +30,62 @@ bool LookAlike(EditRows const& one, EditRows const& other) {
     return std::ranges::equal(one, other, {}, &EditRow::Texts, &EditRow::Texts);
 }
 
-} // namespace
-
-void UnsavedEdits::Start(Editor const& editor, quotes::QuoteSeries const& series,
-                         settings::Settings const& settings) {
-    path_ = EditsPath(series, settings);
-    of_ = {std::string(platform::BareName(series.QuoteFileName)),
-           series.HasQuotes() ? MarkOfFile(files_, QuotePath(series, settings)) : "none"};
-    rows_ = RowsOf(editor);
-    kept_.reset();
-    hasBegun_ = false;
-    mine_.clear();
+// Whether the path's file has that name: where the system takes both for one, it may be spelt otherwise.
+bool IsNamed(platform::Files const& files, std::string const& path, std::string const& name) {
+    auto const bare = platform::BareName(path);
+    return bare == name ||
+           (!name.empty() && files.AreSame(path, path.substr(0, path.size() - bare.size()) + name));
 }
+
+} // namespace
 
 void UnsavedEdits::Open(Editor const& editor, quotes::QuoteSeries const& series,
                         settings::Settings const& settings) {
-    Start(editor, series, settings);
-    if (platform::IsThere(files_, path_)) {
-        ReadKept();
-    }
+    quotePath_ = series.HasQuotes() ? OpenFilePath(series, settings) : std::string();
+    name_ = (series.HasQuotes() ? quotePath_ : settings.DataPath + std::string(NameWithoutFile)) +
+            std::string(Extension);
+    of_ = {std::string(platform::BareName(quotePath_)),
+           series.HasQuotes() ? MarkOfFile(files_, quotePath_) : "none"};
+    rows_ = RowsOf(editor);
+    kept_.clear();
+    next_ = 0;
+    restored_.reset();
+    path_.clear();
+    mine_.clear();
+    hasBegun_ = false;
+    ReadKept();
 }
 
+// Of several that kept the same rows the newest is enough, and what the quotes have already is not unsaved.
 void UnsavedEdits::ReadKept() {
-    keptText_ = platform::ReadWholeFile(files_, path_);
-    kept_ = ReadKeptEdits(keptText_);
-    if (kept_ && kept_->Of.Name != of_.Name) {
-        kept_.reset(); // somebody gave it this name
-    } else if (kept_ && LookAlike(kept_->After, rows_)) {
-        kept_.reset();
-        files_.Remove(path_);
+    std::vector<std::string> needless;
+    for (KeptSet& set : ReadKeptSets(files_, name_)) {
+        auto const isSame = [&](KeptSet const& other) {
+            return LookAlike(other.Edits.After, set.Edits.After);
+        };
+        if (!IsNamed(files_, quotePath_, set.Edits.Of.Name)) {
+            continue; // somebody gave it this name
+        }
+        if (LookAlike(set.Edits.After, rows_) || std::ranges::any_of(kept_, isSame)) {
+            needless.push_back(set.Path);
+        } else {
+            kept_.push_back(std::move(set));
+        }
+    }
+    for (std::string const& path : needless) {
+        files_.Remove(path);
     }
 }
 
 bool UnsavedEdits::HasFileChanged() const {
-    return kept_ && (!(kept_->Of == of_) || !LookAlike(kept_->Before, rows_));
+    return HasKept() &&
+           (kept_[next_].Edits.Of.Mark != of_.Mark || !LookAlike(kept_[next_].Edits.Before, rows_));
+}
+
+// Whether there is more in the editor than what it was opened with or what was restored.
+bool UnsavedEdits::HasWork(Editor const& editor) const {
+    bool const isRestored = restored_ && restored_->IsIn;
+    return !LookAlike(RowsOf(editor), isRestored ? kept_[restored_->Index].Edits.After : rows_);
 }
 
 void UnsavedEdits::Keep(Change const& change, ChangeKind kind, Editor const& editor) {
@@ -82,36 +94,77 @@ void UnsavedEdits::Keep(Change const& change, ChangeKind kind, Editor const& edi
     if (change.IsEmpty() || (!hasBegun_ && !(isEdit && change.IsShown()))) {
         return;
     }
+    FollowRestored(editor);
     if (isEdit && !Difference(rows_, editor).IsShown()) {
         TakeBack();
-    } else if (!isEdit && !IsMine()) {
-        hasBegun_ = false; // what a refill dropped must not displace the edits of the other program
-    } else if (!hasBegun_ || !IsMine() || (isEdit && writer_.Length() > mostLength_)) {
+        return;
+    }
+    if (!isEdit && !IsMine()) {
+        hasBegun_ = false; // what a refill dropped needs no file of its own
+        return;
+    }
+    if (!hasBegun_ || !IsMine() || (isEdit && writer_.Length() > mostLength_)) {
         Begin(editor);
     } else {
         Append(change, kind);
     }
+    DropRestoredFile();
 }
 
-// Another program that edits the same quotes keeps its edits there, too.
-bool UnsavedEdits::IsMine() const {
-    std::string mark;
-    static_cast<void>(text::Trap([&] { mark = MarkOf(platform::ReadWholeFile(files_, path_)); }));
-    return !mine_.empty() && mark == mine_;
+// A set that was undone, or dropped by a refill, waits in its file again.
+void UnsavedEdits::FollowRestored(Editor const& editor) {
+    if (!restored_) {
+        return;
+    }
+    EditRows const rows = RowsOf(editor);
+    if (LookAlike(rows, restored_->Before)) {
+        PutBack();
+    } else if (LookAlike(rows, kept_[restored_->Index].Edits.After)) {
+        restored_->IsIn = true;
+    }
+    next_ = restored_->Index + (restored_->IsIn ? 1 : 0);
+}
+
+void UnsavedEdits::PutBack() {
+    KeptSet& set = kept_[restored_->Index];
+    bool const isOwnPath = set.Path == path_;
+    if (!restored_->IsFiled) {
+        if (!isOwnPath && platform::IsThere(files_, set.Path)) {
+            set.Path = NextKeptPath(files_, name_); // another program has taken the name
+        }
+        files_.Overwrite(set.Path, set.Text);
+    }
+    restored_->IsFiled = true;
+    restored_->IsIn = false;
+    if (isOwnPath) {
+        hasBegun_ = false;
+        mine_.clear();
+    }
+}
+
+// The file of this editor has the set, too.
+void UnsavedEdits::DropRestoredFile() {
+    if (!restored_ || !restored_->IsIn || !restored_->IsFiled) {
+        return;
+    }
+    KeptSet const& set = kept_[restored_->Index];
+    if (set.Path != path_ && HoldsMark(files_, set.Path, MarkOf(set.Text))) {
+        files_.Remove(set.Path);
+    }
+    restored_->IsFiled = false;
 }
 
 void UnsavedEdits::Begin(Editor const& editor) {
     constexpr std::uint64_t UsualLength = 1'048'576;
     constexpr std::uint64_t Growth = 4;
     hasBegun_ = false;
-    bool const isOther = platform::IsThere(files_, path_) && !IsMine();
+    if (!IsMine()) {
+        mine_.clear();
+        path_ = NextKeptPath(files_, name_); // what others keep stays
+    }
     std::string text = writer_.Start(of_, rows_);
     text += writer_.Next(Difference(rows_, editor), ChangeKind::Edit);
-    if (isOther) {
-        files_.Replace(path_, text);
-    } else {
-        files_.Overwrite(path_, text);
-    }
+    files_.Overwrite(path_, text);
     hasBegun_ = true;
     mine_ = writer_.Mark();
     mostLength_ = std::max(UsualLength, Growth * writer_.Length());
@@ -132,47 +185,71 @@ void UnsavedEdits::Append(Change const& change, ChangeKind kind) {
 // Everything was undone.
 void UnsavedEdits::TakeBack() {
     hasBegun_ = false;
-    if (!IsMine()) {
-        return;
+    if (restored_ && restored_->IsIn) {
+        PutBack();
     }
-    if (kept_) {
-        files_.Overwrite(path_, keptText_); // which waits to be restored as before
-    } else {
+    if (IsMine()) {
         files_.Remove(path_);
+        mine_.clear();
     }
-    mine_.clear();
 }
 
 void UnsavedEdits::Saved(Editor const& editor, quotes::QuoteSeries const& series,
                          settings::Settings const& settings) {
-    bool const isOtherFile = path_ != EditsPath(series, settings);
-    auto const error = text::Trap([this, isOtherFile] {
-        if (!platform::IsThere(files_, path_) || (isOtherFile && !IsMine())) {
-            return; // what was not restored waits for an editor on its own quote file
+    if (!IsOpenFileSaved(series, settings, files_)) {
+        return;
+    }
+    auto const error = text::Trap([this] {
+        if (IsMine()) {
+            files_.Remove(path_);
         }
-        if (!IsMine()) {
-            files_.Keep(path_);
-        }
-        files_.Remove(path_);
+        DropRestoredFile();
     });
-    Start(editor, series, settings);
+    Open(editor, series, settings);
     if (error) {
         throw text::RunTimeError(error->Kind());
     }
 }
 
 std::string UnsavedEdits::Restore(Editor& editor, platform::Dialogs& dialogs) {
-    if (HasFileChanged() && dialogs.Show({"The quote file has changed since these edits were made.\n"
-                                          "All rows become what they were in the editor then.\n"
-                                          "Restore them?",
-                                          "Restore Unsaved Edits", platform::Icon::Question,
-                                          platform::Buttons::YesNo}) != platform::Answer::Yes) {
+    std::string reasons = HasFileChanged() ? "The quote file has changed since these edits were made.\n" : "";
+    reasons += HasWork(editor) ? "What was done in the editor now is not in these edits.\n" : "";
+    if (!reasons.empty() &&
+        dialogs.Show({reasons + "All rows become what they were in the editor then.\nRestore them?",
+                      "Restore Unsaved Edits", platform::Icon::Question, platform::Buttons::YesNo}) !=
+            platform::Answer::Yes) {
         return {};
     }
-    SetRows(editor, kept_->After);
-    mine_ = MarkOf(keptText_);
-    return kept_->IsWhole ? "Unsaved edits restored"
-                          : "Unsaved edits restored, but for the last, which were not kept whole";
+    if (restored_ && restored_->IsIn) {
+        PutBack(); // the set that this one replaces
+    }
+    KeptSet const& set = kept_[next_];
+    restored_ = {next_, RowsOf(editor)};
+    ++next_;
+    if (!hasBegun_) {
+        path_ = set.Path; // whose file goes on as that of this editor
+        mine_ = MarkOf(set.Text);
+    }
+    SetRows(editor, set.Edits.After);
+    return set.Edits.IsWhole ? "Unsaved edits restored"
+                             : "Unsaved edits restored, but for the last, which were not kept whole";
+}
+
+bool UnsavedEdits::Forget(platform::Dialogs& dialogs) {
+    if (dialogs.Show({"Forget these edits? They were not saved and cannot be brought back then.",
+                      "Forget Unsaved Edits", platform::Icon::Question, platform::Buttons::YesNo}) !=
+        platform::Answer::Yes) {
+        return false;
+    }
+    KeptSet const& set = kept_[next_];
+    if (HoldsMark(files_, set.Path, MarkOf(set.Text))) {
+        files_.Remove(set.Path);
+    }
+    if (restored_ && restored_->Index == next_) {
+        restored_.reset();
+    }
+    kept_.erase(std::next(kept_.begin(), static_cast<std::ptrdiff_t>(next_)));
+    return true;
 }
 
 } // namespace quorvex::editor

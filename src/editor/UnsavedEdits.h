@@ -5,64 +5,90 @@
 
 #include "editor/Change.h"
 #include "editor/Editor.h"
+#include "editor/KeptSets.h"
 #include "editor/basUnsaved.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "quotes/QuoteSeries.h"
 #include "settings/Settings.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quorvex::editor {
 
 // Keeps what was done in an editor and not saved, change by change, in a file beside the quote file, so that
-// it outlives the program and the machine's power. Every routine raises the faults of the files; what could
-// not be kept is kept by the next Keep that can.
+// it outlives the program and the machine's power. What earlier editors kept stays in their files until it is
+// restored and saved, or forgotten. Every routine raises the faults of the files; what could not be kept is
+// kept by the next Keep that can.
 class UnsavedEdits {
 public:
     // The files must outlive the object.
     explicit UnsavedEdits(platform::Files& files) : files_(files) {}
 
-    // An editor was opened on the series: looks for what an earlier one kept of it. That is left where it is.
+    // An editor was opened on the series: looks for what earlier ones kept of it. That is left where it is.
     void Open(Editor const& editor, quotes::QuoteSeries const& series, settings::Settings const& settings);
 
-    // Keeps what has changed. Nothing of an earlier editor is lost by it: what was not restored goes under
-    // the name with platform::BackupMark behind it.
+    // Keeps what has changed.
     void Keep(Change const& change, ChangeKind kind, Editor const& editor);
 
-    // All rows were saved to the file that the series names: nothing is unsaved any more.
+    // All rows were saved under the name of the series: when that is the open file, nothing is unsaved any
+    // more. A bare name can lead to another file, see IsOpenFileSaved; then the edits stay kept.
     void Saved(Editor const& editor, quotes::QuoteSeries const& series, settings::Settings const& settings);
 
-    // Whether an earlier editor left rows that differ from those that this one opened with. Restoring does
-    // not end that; saving does.
-    [[nodiscard]] bool HasKept() const { return kept_.has_value(); }
+    // Whether earlier editors left rows that differ from those that this one opened with and that were not
+    // restored since.
+    [[nodiscard]] bool HasKept() const { return next_ < kept_.size(); }
+
+    // Whether newer ones than those were restored.
+    [[nodiscard]] bool AreKeptOlder() const { return next_ > 0; }
 
     // Whether the quote file is another one since, or the earlier editor opened with other rows: restoring
     // would take back what lies between.
     [[nodiscard]] bool HasFileChanged() const;
 
-    // Gives the editor the rows that were kept, after a question when the quote file has changed. Returns
-    // what to tell in the status line; empty when the user refused. REQUIRES: there are some.
+    // Gives the editor the newest rows that were kept and not restored yet, after a question when the quote
+    // file has changed, or the editor has changes that restoring would replace. Returns what to tell in the
+    // status line; empty when the user refused. Keep must follow. REQUIRES: there are some.
     [[nodiscard]] std::string Restore(Editor& editor, platform::Dialogs& dialogs);
 
+    // Deletes the same ones, after a question. Returns whether it has. REQUIRES: there are some.
+    bool Forget(platform::Dialogs& dialogs);
+
 private:
-    void Start(Editor const& editor, quotes::QuoteSeries const& series, settings::Settings const& settings);
+    // A set that the editor was given.
+    struct RestoredSet {
+        std::size_t Index = 0; // among those that were kept
+        EditRows Before;       // the editor's rows
+        bool IsIn = true;      // in the editor: it was not undone
+        bool IsFiled = true;   // in its file, too
+    };
+
     void ReadKept();
+    [[nodiscard]] bool HasWork(Editor const& editor) const;
+    void FollowRestored(Editor const& editor);
+    void PutBack();
+    void DropRestoredFile();
     void Begin(Editor const& editor);
     void Append(Change const& change, ChangeKind kind);
     void TakeBack();
-    [[nodiscard]] bool IsMine() const;
+
+    [[nodiscard]] bool IsMine() const { return HoldsMark(files_, path_, mine_); }
 
     platform::Files& files_;
-    std::string path_;
+    std::string name_;      // of the files, without a number
+    std::string quotePath_; // empty: no file is open
     EditedFile of_;
-    EditRows rows_; // as they were opened or saved
-    std::optional<KeptEdits> kept_;
-    std::string keptText_;  // of the file that they were read from
+    EditRows rows_;             // as they were opened or saved
+    std::vector<KeptSet> kept_; // by earlier editors
+    std::size_t next_ = 0;      // to be restored
+    std::optional<RestoredSet> restored_;
+    std::string path_; // of the file of this editor; empty: it has none yet
+    std::string mine_; // the mark of that file, with nothing but what is in this editor; empty: there is none
     bool hasBegun_ = false; // the file holds the edits of this editor, all of them
-    std::string mine_; // the mark of a file with nothing but what is in this editor; empty: there is none
     KeptEditsWriter writer_;
     std::uint64_t mostLength_ = 0; // in bytes, that the file may have before it is written anew
 };

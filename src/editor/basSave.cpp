@@ -108,6 +108,14 @@ SaveResult Saved(std::int16_t rows, std::string const& fileName) {
     return {true, std::to_string(rows) + (rows == 1 ? " row" : " rows") + " saved to " + fileName};
 }
 
+void TellPlace(SaveResult& result, quotes::QuoteSeries const& series, settings::Settings const& settings,
+               platform::Files const& files) {
+    if (result.IsSaved && !IsOpenFileSaved(series, settings, files)) {
+        result.Status += " in the current folder of the program, and not to " +
+                         OpenFilePath(series, settings) + "; Save As takes a whole path";
+    }
+}
+
 SaveResult CheckAndSave(std::string const& fileName, Editor& editor, quotes::QuoteRecords const& master,
                         settings::Settings const& settings, platform::Files& files,
                         platform::Dialogs& dialogs) {
@@ -127,6 +135,17 @@ SaveResult CheckAndSave(std::string const& fileName, Editor& editor, quotes::Quo
 
 } // namespace
 
+std::string OpenFilePath(quotes::QuoteSeries const& series, settings::Settings const& settings) {
+    std::string const& name = series.QuoteFileName;
+    return name.find_first_of("/\\") == std::string::npos ? settings.DataPath + name : name;
+}
+
+bool IsOpenFileSaved(quotes::QuoteSeries const& series, settings::Settings const& settings,
+                     platform::Files const& files) {
+    std::string const path = OpenFilePath(series, settings);
+    return path == series.QuoteFileName || files.AreSame(path, series.QuoteFileName);
+}
+
 void CopySpreadToArray(Editor& editor) {
     CopyRows(editor, editor.Cells.RowCount());
 }
@@ -139,7 +158,9 @@ void SaveEditData(std::string const& fileName, Editor& editor, quotes::QuoteReco
 
 SaveResult SaveEdits(Editor& editor, quotes::QuoteSeries const& series, settings::Settings const& settings,
                      platform::Files& files, platform::Dialogs& dialogs) {
-    return CheckAndSave(series.QuoteFileName, editor, series.Master, settings, files, dialogs);
+    SaveResult result = CheckAndSave(series.QuoteFileName, editor, series.Master, settings, files, dialogs);
+    TellPlace(result, series, settings, files);
+    return result;
 }
 
 SaveResult SaveEditsAs(Editor& editor, quotes::QuoteSeries& series, settings::Settings const& settings,
@@ -156,6 +177,7 @@ SaveResult SaveEditsAs(Editor& editor, quotes::QuoteSeries& series, settings::Se
         series.QuoteFileName = name;
         RebuildGrid(editor, settings);
     }
+    TellPlace(result, series, settings, files);
     return result;
 }
 

@@ -27,13 +27,21 @@ void CopySpreadToArray(Editor& editor);
 void SaveEditData(std::string const& fileName, Editor& editor, quotes::QuoteRecords const& master,
                   settings::Settings const& settings, platform::Files& files);
 
+// Where the open file lies: in the data folder, unless Save As gave it a folder of its own.
+[[nodiscard]] std::string OpenFilePath(quotes::QuoteSeries const& series, settings::Settings const& settings);
+
+// Whether what is written under the name of the series, as a save takes it, is the open file.
+[[nodiscard]] bool IsOpenFileSaved(quotes::QuoteSeries const& series, settings::Settings const& settings,
+                                   platform::Files const& files);
+
 // How a command that saves ended.
 struct SaveResult {
     bool IsSaved = false;
     std::string Status; // for the status line; empty when the user gave the command up
 };
 
-// Checks the rows and writes them to the open file. A price that the currency format would spell as another
+// Checks the rows and writes them under the name of the open file. The status tells when that is not the open
+// file. A price that the currency format would spell as another
 // number, or as 0, is told: the file would lose the day. What SaveEditData raises is told in the status
 // alone.
 [[nodiscard]] SaveResult SaveEdits(Editor& editor, quotes::QuoteSeries const& series,

@@ -54,7 +54,7 @@ int main(int argc, char** argv) {
     qt::RunGuarded(desktop, [&] {
         place = qt::FindProgramPlace(
             [&](std::string const& folder) { quorvex::app::ui::FillProgramFolder(folder, files); });
-        qt::EnterFolder(place.Folder);
+        files.EnterFolder(place.Folder);
     });
 
     HostProfile profile(quorvex::settings::ProfileFileName(place.Folder, place.ExecutableName), files);

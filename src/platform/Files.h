@@ -74,6 +74,14 @@ public:
     // The length of the file in bytes.
     [[nodiscard]] virtual std::uint64_t Length(std::string const& path) const = 0;
 
+    // Whether both names lead to one file, by whatever folder, link or spelling: where names that differ in
+    // case are one, these are. False when one of them is not there. A bare name lies in the current folder.
+    [[nodiscard]] virtual bool AreSame(std::string const& one, std::string const& other) const = 0;
+
+    // Makes the folder the current one, in which bare names lie. Raises "Path not found" when it cannot be
+    // entered.
+    virtual void EnterFolder(std::string const& folder) = 0;
+
     // The names of the files, not folders, in the folder that fit the pattern, in the order of the file
     // system. The folder ends with a separator. None when the folder cannot be read.
     [[nodiscard]] virtual std::vector<std::string> List(std::string const& folder,

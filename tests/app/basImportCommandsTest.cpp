@@ -102,6 +102,7 @@ TEST(TakeFiles, OpensAQuoteFileWithoutTheWindow) {
     EXPECT_THAT(program.Window.Opened, IsEmpty());
     EXPECT_EQ(program.Data->Quotes.QuoteFileName, "Wheat.TXT");
     EXPECT_EQ(program.Data->Settings.DataPath, Elsewhere);
+    EXPECT_EQ(program.Files.CurrentFolder, Elsewhere); // where the editor saves
     EXPECT_EQ(program.Window.Caption, "Quorvex - [" + Elsewhere + "Wheat.TXT]");
 }
 
@@ -146,10 +147,20 @@ TEST(TakeFiles, AsksWhetherToGoOnBehindATableThatWasNotImported) {
     EXPECT_EQ(program.Data->Quotes.QuoteFileName, "Wheat.txt");
 }
 
+TEST(TakeFiles, LeavesTheCurrentFolderToAFileOfTheDataFolder) {
+    ImportingProgram program;
+    program.Files.CurrentFolder = Elsewhere;
+    program.Files.Contents[Folder + "Wheat.txt"] = tests::QuoteLines(30);
+    program.Take({Folder + "Wheat.txt"});
+    EXPECT_EQ(program.Data->Quotes.QuoteFileName, "Wheat.txt");
+    EXPECT_EQ(program.Files.CurrentFolder, Elsewhere);
+}
+
 // The contract that stays open is where it was.
 TEST(TakeFiles, KeepTheDataFolderWhenTheFileCannotBeOpened) {
     ImportingProgram program;
     program.Open("Corn.txt", tests::QuoteLines(40));
+    program.Files.CurrentFolder = Folder;
     program.Names = {"Wheat.txt"};
     program.Window.WhenOpened = [&] {
         program.Data->Imported = imports::ImportedFile{Elsewhere, "gone.txt"};
@@ -159,6 +170,7 @@ TEST(TakeFiles, KeepTheDataFolderWhenTheFileCannotBeOpened) {
         tests::IsOnlyMessage(program.Dialogs.Messages, "File not found", "Quorvex", platform::Icon::None));
     EXPECT_EQ(program.Data->Quotes.QuoteFileName, "Corn.txt");
     EXPECT_EQ(program.Data->Settings.DataPath, Folder);
+    EXPECT_EQ(program.Files.CurrentFolder, Folder);
 }
 
 TEST(TakeTable, HandsTheTextToTheWindow) {

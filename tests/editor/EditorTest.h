@@ -23,6 +23,9 @@ class EditorTest : public testing::Test {
 protected:
     using Texts = std::vector<std::string>;
 
+    // The program runs in the data folder.
+    EditorTest() { files.CurrentFolder = settings.DataPath; }
+
     // Opens the editor on the series and fills the grid, as the window does when it comes up.
     void Open(std::unique_ptr<quotes::QuoteSeries> opened);
 

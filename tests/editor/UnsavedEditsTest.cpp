@@ -7,14 +7,18 @@
 #include "editor/History.h"
 #include "editor/basEdit.h"
 #include "editor/basUnsaved.h"
+#include "platform/disk/DiskFiles.h"
 #include "support/QuoteTexts.h"
+#include "support/TemporaryFolder.h"
 #include "text/RunTimeError.h"
+
+#include <filesystem>
 
 namespace quorvex::tests {
 namespace {
 
 constexpr char const* KeptPath = "C:\\Quotes\\test.txt.edits";
-constexpr char const* KeptPathBefore = "C:\\Quotes\\test.txt.edits~";
+constexpr char const* SecondPath = "C:\\Quotes\\test.txt.edits.2";
 constexpr char const* QuotePath = "C:\\Quotes\\test.txt";
 
 class UnsavedEditsTest : public EditorTest {
@@ -44,6 +48,19 @@ protected:
         std::string const told = unsaved.Restore(*edited, dialogs);
         Record();
         return told;
+    }
+
+    void Undo() { unsaved.Keep(history.Undo(*edited), editor::ChangeKind::Edit, *edited); }
+
+    void Redo() { unsaved.Keep(history.Redo(*edited), editor::ChangeKind::Edit, *edited); }
+
+    // Two editors, of which the second did not restore what the first had left.
+    void LeaveTwoSets() {
+        OpenEdited();
+        TypeKept(2, 5, "555");
+        OpenAgain();
+        TypeKept(3, 5, "556");
+        OpenAgain();
     }
 
     [[nodiscard]] bool IsKept() const { return files.Contents.contains(KeptPath); }
@@ -91,7 +108,7 @@ TEST_F(UnsavedEditsTest, RestoringIsOneStepThatCanBeUndone) {
     TypeKept(3, 5, "556");
     OpenAgain();
     static_cast<void>(Restore());
-    unsaved.Keep(history.Undo(*edited), editor::ChangeKind::Edit, *edited);
+    Undo();
     EXPECT_EQ(GridTexts(), before);
     OpenAgain();
     EXPECT_TRUE(unsaved.HasKept()); // which undoing has not lost
@@ -109,7 +126,7 @@ TEST_F(UnsavedEditsTest, WhatFollowsARestorationIsKeptWithIt) {
     static_cast<void>(Restore());
     EXPECT_EQ(sheet.Text(2, 5), "555");
     EXPECT_EQ(sheet.Text(3, 5), "556");
-    EXPECT_FALSE(files.Contents.contains(KeptPathBefore)); // all of it went over
+    EXPECT_FALSE(files.Contents.contains(SecondPath)); // all of it went over
 }
 
 TEST_F(UnsavedEditsTest, OfAnEarlierEditorStayWhenAnotherOneGoesOn) {
@@ -118,10 +135,12 @@ TEST_F(UnsavedEditsTest, OfAnEarlierEditorStayWhenAnotherOneGoesOn) {
     std::string const first = files.Contents.at(KeptPath);
     OpenAgain();
     TypeKept(3, 5, "556");
-    EXPECT_EQ(files.Contents.at(KeptPathBefore), first);
-    EXPECT_TRUE(unsaved.HasKept()); // as long as this editor is open
-    unsaved.Keep(history.Undo(*edited), editor::ChangeKind::Edit, *edited);
     EXPECT_EQ(files.Contents.at(KeptPath), first);
+    EXPECT_TRUE(files.Contents.contains(SecondPath));
+    EXPECT_TRUE(unsaved.HasKept());
+    Undo();
+    EXPECT_EQ(files.Contents.at(KeptPath), first);
+    EXPECT_FALSE(files.Contents.contains(SecondPath));
 }
 
 TEST_F(UnsavedEditsTest, ASaveDropsThem) {
@@ -139,10 +158,168 @@ TEST_F(UnsavedEditsTest, ASaveKeepsThoseThatWereNotRestored) {
     TypeKept(2, 5, "555");
     std::string const first = files.Contents.at(KeptPath);
     OpenAgain();
+    TypeKept(3, 5, "556");
     unsaved.Saved(*edited, *series, settings);
+    EXPECT_TRUE(unsaved.HasKept());
+    EXPECT_EQ(files.Contents.at(KeptPath), first);
+    EXPECT_FALSE(files.Contents.contains(SecondPath));
+    OpenAgain();
+    static_cast<void>(Restore());
+    EXPECT_EQ(sheet.Text(2, 5), "555");
+}
+
+TEST_F(UnsavedEditsTest, OfSeveralEditorsAreOfferedTheNewestFirst) {
+    LeaveTwoSets();
+    ASSERT_TRUE(unsaved.HasKept());
+    EXPECT_FALSE(unsaved.AreKeptOlder());
+    static_cast<void>(Restore());
+    EXPECT_EQ(sheet.Text(2, 5), "102.00");
+    EXPECT_EQ(sheet.Text(3, 5), "556");
+    ASSERT_TRUE(unsaved.HasKept());
+    EXPECT_TRUE(unsaved.AreKeptOlder());
+    static_cast<void>(Restore());
+    EXPECT_EQ(sheet.Text(2, 5), "555");
+    EXPECT_EQ(sheet.Text(3, 5), "103.00");
     EXPECT_FALSE(unsaved.HasKept());
+    EXPECT_TRUE(dialogs.Messages.empty());
+}
+
+TEST_F(UnsavedEditsTest, ThatOlderOnesReplacedWaitAgain) {
+    LeaveTwoSets();
+    std::string const second = files.Contents.at(SecondPath);
+    static_cast<void>(Restore());
+    TypeKept(4, 5, "557");
+    dialogs.Answers = {platform::Answer::Yes};
+    static_cast<void>(Restore());
+    EXPECT_EQ(sheet.Text(4, 5), "104.00");
+    EXPECT_EQ(files.Contents.at(SecondPath), second);
+    unsaved.Saved(*edited, *series, settings);
     EXPECT_FALSE(IsKept());
-    EXPECT_EQ(files.Contents.at(KeptPathBefore), first);
+    OpenAgain();
+    static_cast<void>(Restore());
+    EXPECT_EQ(sheet.Text(3, 5), "556");
+    EXPECT_FALSE(unsaved.HasKept());
+}
+
+TEST_F(UnsavedEditsTest, AreNotOfferedOnceTheyAreRestoredUntilThatIsUndone) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    OpenAgain();
+    static_cast<void>(Restore());
+    EXPECT_FALSE(unsaved.HasKept());
+    TypeKept(3, 5, "556");
+    EXPECT_FALSE(unsaved.HasKept());
+    Undo();
+    Undo();
+    EXPECT_TRUE(unsaved.HasKept());
+    Redo();
+    EXPECT_FALSE(unsaved.HasKept());
+}
+
+TEST_F(UnsavedEditsTest, AreAskedForBeforeTheyReplaceWhatWasDoneSince) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    OpenAgain();
+    TypeKept(3, 5, "556");
+    dialogs.Answers = {platform::Answer::No, platform::Answer::Yes};
+    EXPECT_EQ(Restore(), "");
+    EXPECT_EQ(sheet.Text(3, 5), "556");
+    EXPECT_EQ(Restore(), "Unsaved edits restored");
+    EXPECT_EQ(sheet.Text(3, 5), "103.00");
+    EXPECT_EQ(dialogs.Messages.at(0).Text, "What was done in the editor now is not in these edits.\n"
+                                           "All rows become what they were in the editor then.\n"
+                                           "Restore them?");
+}
+
+// Restored over what was typed: both are kept, one in the file of the editor and the other one where it was.
+TEST_F(UnsavedEditsTest, ThatWereRestoredOverOthersAreBackWhenThatIsUndone) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    std::string const first = files.Contents.at(KeptPath);
+    OpenAgain();
+    TypeKept(3, 5, "556");
+    dialogs.Answers = {platform::Answer::Yes};
+    static_cast<void>(Restore());
+    EXPECT_FALSE(IsKept()); // it is in the file of this editor
+    EXPECT_EQ(editor::ReadKeptEdits(files.Contents.at(SecondPath))->After.at(1).Texts.at(4), "555");
+    Undo();
+    EXPECT_EQ(files.Contents.at(KeptPath), first);
+    EXPECT_EQ(editor::ReadKeptEdits(files.Contents.at(SecondPath))->After.at(2).Texts.at(4), "556");
+    Redo();
+    EXPECT_FALSE(IsKept());
+    unsaved.Saved(*edited, *series, settings);
+    EXPECT_FALSE(files.Contents.contains(SecondPath));
+}
+
+TEST_F(UnsavedEditsTest, AreForgottenWhenTheUserAgrees) {
+    LeaveTwoSets();
+    dialogs.Answers = {platform::Answer::No, platform::Answer::Yes, platform::Answer::Yes};
+    EXPECT_FALSE(unsaved.Forget(dialogs));
+    EXPECT_TRUE(files.Contents.contains(SecondPath));
+    EXPECT_TRUE(unsaved.Forget(dialogs));
+    EXPECT_FALSE(files.Contents.contains(SecondPath));
+    EXPECT_TRUE(IsKept());
+    ASSERT_TRUE(unsaved.HasKept());
+    EXPECT_TRUE(unsaved.Forget(dialogs));
+    EXPECT_FALSE(IsKept());
+    EXPECT_FALSE(unsaved.HasKept());
+    EXPECT_EQ(dialogs.Messages.at(0).Text,
+              "Forget these edits? They were not saved and cannot be brought back then.");
+    EXPECT_EQ(dialogs.Messages.at(0).Title, "Forget Unsaved Edits");
+    EXPECT_EQ(dialogs.Messages.at(0).Shown, platform::Icon::Question);
+    EXPECT_EQ(dialogs.Messages.at(0).Offered, platform::Buttons::YesNo);
+}
+
+TEST_F(UnsavedEditsTest, ThatAnotherEditorHasGoneOnWithAreNotForgotten) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    editor::UnsavedEdits other{files};
+    Open(SeriesOf(QuoteLines(30), settings.CurrencyFormat, "test.txt"));
+    other.Open(*edited, *series, settings);
+    files.Contents.at(KeptPath) += "edit\n";
+    dialogs.Answers = {platform::Answer::Yes};
+    EXPECT_TRUE(other.Forget(dialogs));
+    EXPECT_TRUE(IsKept());
+}
+
+// A bare name leads into the current folder, the quotes were read from the data folder.
+TEST_F(UnsavedEditsTest, ASaveIntoAnotherFolderKeepsThem) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    files.CurrentFolder = "D:\\Work\\";
+    files.Contents["test.txt"] = QuoteLines(30); // as the save would
+    unsaved.Saved(*edited, *series, settings);
+    EXPECT_TRUE(IsKept());
+    TypeKept(3, 5, "556");
+    OpenAgain();
+    static_cast<void>(Restore());
+    EXPECT_EQ(sheet.Text(2, 5), "555");
+    EXPECT_EQ(sheet.Text(3, 5), "556");
+}
+
+// As where names that differ in case are one file: here they are one by a link.
+TEST_F(UnsavedEditsTest, OfTheFileUnderAnotherSpellingAreOffered) {
+    TemporaryFolder const folder;
+    folder.Write("test.txt", QuoteLines(30));
+    std::filesystem::create_hard_link(folder.File("test.txt"), folder.File("link.txt"));
+    settings.DataPath = folder.Text();
+    platform::disk::DiskFiles disk;
+    OpenDays(30);
+    series->QuoteFileName = "link.txt";
+    history.Start(*edited);
+    editor::UnsavedEdits one{disk};
+    one.Open(*edited, *series, settings);
+    Type(2, 5, "555");
+    one.Keep(history.Record(*edited), editor::ChangeKind::Edit, *edited);
+    std::filesystem::rename(folder.File("link.txt.edits"), folder.File("test.txt.edits"));
+    OpenDays(30);
+    editor::UnsavedEdits other{disk};
+    other.Open(*edited, *series, settings);
+    EXPECT_TRUE(other.HasKept());
+    EXPECT_FALSE(other.HasFileChanged());
+    std::filesystem::remove(folder.File("link.txt"));
+    other.Open(*edited, *series, settings);
+    EXPECT_FALSE(other.HasKept()); // of another contract
 }
 
 TEST_F(UnsavedEditsTest, BehindASaveAreKeptOnTopOfIt) {
@@ -189,7 +366,7 @@ TEST_F(UnsavedEditsTest, ThatWereNotRestoredStayWhenAnotherNameIsSaved) {
     series->QuoteFileName = "D:\\Other\\new.txt";
     unsaved.Saved(*edited, *series, settings);
     EXPECT_EQ(files.Contents.at(KeptPath), first);
-    EXPECT_FALSE(files.Contents.contains(KeptPathBefore));
+    EXPECT_FALSE(files.Contents.contains(SecondPath));
 }
 
 TEST_F(UnsavedEditsTest, FollowTheNameThatASaveGave) {
@@ -205,9 +382,9 @@ TEST_F(UnsavedEditsTest, FollowTheNameThatASaveGave) {
 TEST_F(UnsavedEditsTest, ThatWereAllUndoneAreNone) {
     OpenEdited();
     TypeKept(2, 5, "555");
-    unsaved.Keep(history.Undo(*edited), editor::ChangeKind::Edit, *edited);
+    Undo();
     EXPECT_FALSE(IsKept());
-    unsaved.Keep(history.Redo(*edited), editor::ChangeKind::Edit, *edited);
+    Redo();
     EXPECT_TRUE(IsKept());
 }
 
@@ -251,7 +428,8 @@ TEST_F(UnsavedEditsTest, OfAnotherContractAreNotOffered) {
     unsaved.Open(*edited, *series, settings);
     EXPECT_FALSE(unsaved.HasKept());
     TypeKept(3, 5, "556");
-    EXPECT_EQ(files.Contents.at("C:\\Quotes\\corn.txt.edits~"), text);
+    EXPECT_EQ(files.Contents.at("C:\\Quotes\\corn.txt.edits"), text);
+    EXPECT_TRUE(files.Contents.contains("C:\\Quotes\\corn.txt.edits.2"));
 }
 
 TEST_F(UnsavedEditsTest, WithoutAnOpenFileHaveANameOfTheirOwn) {
@@ -344,30 +522,29 @@ TEST_F(UnsavedEditsTest, OfTwoProgramsAreNotMixed) {
     Type(2, 5, "102.00"); // which the other program does not see
     Type(3, 5, "556");    // as long as the first one
     other.Keep(otherHistory.Record(*edited), editor::ChangeKind::Edit, *edited);
-    std::string const second = files.Contents.at(KeptPath);
-    EXPECT_EQ(files.Contents.at(KeptPathBefore), first);
-    EXPECT_EQ(second.size(), first.size());
+    std::string const second = files.Contents.at(SecondPath);
+    EXPECT_EQ(files.Contents.at(KeptPath), first);
     Type(2, 5, "557");
     Record();
-    EXPECT_EQ(files.Contents.at(KeptPathBefore), second);
+    EXPECT_EQ(files.Contents.at(SecondPath), second);
+    EXPECT_NE(files.Contents.at(KeptPath), first);
     EXPECT_TRUE(editor::ReadKeptEdits(files.Contents.at(KeptPath))->IsWhole);
 }
 
 TEST_F(UnsavedEditsTest, OfAnotherProgramStayWhenTheGridIsFilledAgain) {
     OpenEdited();
-    TypeKept(2, 5, "555");
     editor::UnsavedEdits other{files};
     other.Open(*edited, *series, settings);
     editor::History otherHistory;
     otherHistory.Start(*edited);
+    TypeKept(2, 5, "555");
     Type(3, 5, "556");
     other.Keep(otherHistory.Record(*edited), editor::ChangeKind::Edit, *edited);
-    std::string const second = files.Contents.at(KeptPath);
+    std::string const second = files.Contents.at(SecondPath);
     editor::RebuildGrid(*edited, settings); // which drops what was typed
     Record(editor::ChangeKind::Refill);
-    EXPECT_EQ(files.Contents.at(KeptPath), second);
     TypeKept(4, 5, "557");
-    EXPECT_EQ(files.Contents.at(KeptPathBefore), second);
+    EXPECT_EQ(files.Contents.at(SecondPath), second);
     EXPECT_EQ(editor::ReadKeptEdits(files.Contents.at(KeptPath))->After.at(3).Texts.at(4), "557");
 }
 
@@ -380,7 +557,8 @@ TEST_F(UnsavedEditsTest, AFileThatCannotBeReadIsAFault) {
     files.BreakReading.reset();
     std::string const first = files.Contents.at(KeptPath);
     TypeKept(3, 5, "556");
-    EXPECT_EQ(files.Contents.at(KeptPathBefore), first);
+    EXPECT_EQ(files.Contents.at(KeptPath), first);
+    EXPECT_TRUE(files.Contents.contains(SecondPath));
 }
 
 TEST_F(UnsavedEditsTest, ThatCannotBeDroppedAreAFaultAndTheNextOnesAreKept) {

@@ -236,6 +236,19 @@ TEST_F(SavedEdits, TellHowManyRowsWentIntoWhichFile) {
     EXPECT_TRUE(dialogs.Messages.empty());
 }
 
+TEST_F(SavedEdits, TellWhenTheyWentIntoAnotherFileThanTheOpenOne) {
+    OpenDays(2);
+    files.CurrentFolder = "D:\\Work\\";
+    EXPECT_TRUE(Save());
+    EXPECT_EQ(status, "2 rows saved to test.txt in the current folder of the program, and not to "
+                      "C:\\Quotes\\test.txt; Save As takes a whole path");
+    EXPECT_TRUE(SaveAs("new.txt"));
+    EXPECT_EQ(status, "2 rows saved to new.txt in the current folder of the program, and not to "
+                      "C:\\Quotes\\new.txt; Save As takes a whole path");
+    EXPECT_TRUE(SaveAs("C:\\Quotes\\new.txt"));
+    EXPECT_EQ(status, "2 rows saved to C:\\Quotes\\new.txt");
+}
+
 TEST_F(SavedEdits, TellWhichCellIsNoNumber) {
     for (auto const& [column, head] :
          {std::pair<std::int16_t, std::string>(2, "Open"), {6, "Volume"}, {7, "Open Interest"}}) {

@@ -95,6 +95,36 @@ TEST(DiskFiles, TakeBackslashesAsSeparators) {
     EXPECT_THAT(DiskFiles().List(folder.File("sub\\"), "*.txt"), UnorderedElementsAre("a.txt", "b.txt"));
 }
 
+TEST(DiskFiles, AreTheSameUnderAnyNameOfOneFile) {
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "one");
+    folder.Write("b.txt", "one");
+    std::filesystem::create_directory(folder.File("sub"));
+    std::filesystem::create_hard_link(folder.File("a.txt"), folder.File("sub/other.txt"));
+    std::string const a = folder.File("a.txt");
+    DiskFiles const files;
+    EXPECT_TRUE(files.AreSame(a, a));
+    EXPECT_TRUE(files.AreSame(a, folder.File("sub\\..\\a.txt")));
+    EXPECT_TRUE(files.AreSame(folder.File("sub/other.txt"), a));
+    EXPECT_FALSE(files.AreSame(a, folder.File("b.txt")));
+    EXPECT_FALSE(files.AreSame(a, folder.File("none.txt")));
+    EXPECT_FALSE(files.AreSame(folder.File("none.txt"), folder.File("none.txt")));
+    EXPECT_FALSE(files.AreSame(a, ""));
+}
+
+TEST(DiskFiles, FindBareNamesInTheFolderThatWasEntered) {
+    tests::TemporaryFolder const folder;
+    auto const before = std::filesystem::current_path();
+    DiskFiles files;
+    files.EnterFolder(folder.Text());
+    files.Overwrite("a.txt", "one");
+    EXPECT_TRUE(files.AreSame("a.txt", folder.File("a.txt")));
+    EXPECT_EQ(FaultOf([&] { files.EnterFolder(folder.File("none")); }), Fault::PathNotFound);
+    EXPECT_EQ(FaultOf([&] { files.EnterFolder(folder.File("a.txt")); }), Fault::PathNotFound);
+    std::filesystem::current_path(before);
+    EXPECT_EQ(folder.Read("a.txt"), "one");
+}
+
 TEST(DiskFiles, ReplaceCreatesAndOverwrites) {
     tests::TemporaryFolder const folder;
     DiskFiles files;

@@ -30,6 +30,15 @@ TEST(MemoryFiles, ListTheFilesOfOneFolder) {
     EXPECT_THAT(files.List("C:\\q\\", "*.Txt"), ElementsAre("a.txt", "b.TXT"));
 }
 
+TEST(MemoryFiles, FindBareNamesInTheCurrentFolder) {
+    MemoryFiles files;
+    files.Contents["C:\\Quotes\\a.txt"] = "one";
+    EXPECT_FALSE(files.AreSame("a.txt", "C:\\Quotes\\a.txt"));
+    files.CurrentFolder = "C:\\Quotes\\";
+    EXPECT_TRUE(files.AreSame("a.txt", "C:\\Quotes\\a.txt"));
+    EXPECT_FALSE(files.AreSame("b.txt", "C:\\Quotes\\b.txt")); // which is not there
+}
+
 TEST(MemoryFiles, FailAsTold) {
     MemoryFiles files;
     files.Contents = {{"a.txt", "hello"}};

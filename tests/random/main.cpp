@@ -14,7 +14,6 @@
 #include "platform/disk/DiskProfile.h"
 #include "platform/fake/RecordingLauncher.h"
 #include "platform/fake/RecordingPrinter.h"
-#include "platform/qt/ProgramPlace.h"
 #include "random/Journal.h"
 #include "random/RandomUser.h"
 #include "random/Watchdog.h"
@@ -143,7 +142,7 @@ int Run(int argc, char** argv) {
     app::ui::LoadResources();
     platform::disk::DiskFiles files;
     FillFolder(surroundings, files);
-    platform::qt::EnterFolder(surroundings.ProgramFolder());
+    files.EnterFolder(surroundings.ProgramFolder());
     auto const before = surroundings.Entries();
 
     Watchdog const watchdog(journal, std::chrono::seconds(60));

@@ -139,34 +139,40 @@ void frmEdit::ShowUndone(Change const& change) {
 }
 
 void frmEdit::RestoreUnsaved() {
-    std::string const told = unsaved_.Restore(*editor_, dialogs_);
+    std::string told = unsaved_.Restore(*editor_, dialogs_);
     if (told.empty()) {
         return;
     }
+    if (unsaved_.HasKept()) {
+        told += ". Restore Older Edits brings back those that were made before them";
+    }
     Change const change = history_.Record(*editor_);
     GotoPlace(*editor_, change.FirstCell());
-    status_->Tell(platform::pictures::ToQt(told));
+    status_->Tell(ToQt(told));
     Keep(change, ChangeKind::Edit);
 }
 
+void frmEdit::ForgetUnsaved() {
+    if (unsaved_.Forget(dialogs_)) {
+        ForgetStatus(); // which may have offered them
+    }
+}
+
 void frmEdit::Keep(Change const& change, ChangeKind kind) {
-    TellNotKept(text::Trap([&] { unsaved_.Keep(change, kind, *editor_); }));
+    auto const error = text::Trap([&] { unsaved_.Keep(change, kind, *editor_); });
+    if (error || change.IsShown()) {
+        TellNotKept(error);
+    }
 }
 
 void frmEdit::TellNotKept(std::optional<text::RunTimeError> const& error) {
-    if (!error || std::exchange(isNotKeptTold_, true)) {
-        return;
+    bool const isShown = status_->text().isEmpty() || status_->text() == notKept_;
+    notKept_ = error ? ToQt("Unsaved edits cannot be kept: " + std::string(error->Description()) +
+                            ". What is not saved is lost when the editor is closed.")
+                     : QString();
+    if (isShown) {
+        ForgetStatus();
     }
-    QMetaObject::invokeMethod(
-        this,
-        [this, cause = std::string(error->Description())] {
-            Run([&] {
-                dialogs_.Show({"Unsaved edits cannot be kept: " + cause +
-                                   "\nWhat is not saved is lost when the editor is closed.",
-                               "Edit", platform::Icon::Exclamation});
-            });
-        },
-        Qt::QueuedConnection);
 }
 
 bool frmEdit::PasteTable(std::int16_t row, std::string const& text) {
@@ -199,17 +205,25 @@ void frmEdit::ShowMenu(QPoint place) {
                   {QStringLiteral("mnuCellsClear"), QStringLiteral("C&lear"), Qt::Key_Delete, hasCursor,
                    Runs([this] { spread_->Clear(); })},
                   {},
-                  {QStringLiteral("mnuCellsRestore"),
-                   QStringLiteral("Restore Un&saved Edits"),
+                  {QStringLiteral("mnuCellsRestore"), RestoreCaption(), {}, unsaved_.HasKept(), Runs([this] {
+                       RestoreUnsaved();
+                   })},
+                  {QStringLiteral("mnuCellsForget"),
+                   QStringLiteral("&Forget Unsaved Edits..."),
                    {},
                    unsaved_.HasKept(),
-                   Runs([this] { RestoreUnsaved(); })}});
+                   Runs([this] { ForgetUnsaved(); })}});
     isUntouched_ = true; // a menu that closes late must not drop what was typed either
+}
+
+QString frmEdit::RestoreCaption() const {
+    bool const areOlder = unsaved_.HasKept() && unsaved_.AreKeptOlder();
+    return areOlder ? QStringLiteral("Re&store Older Edits") : QStringLiteral("Restore Un&saved Edits");
 }
 
 void frmEdit::Finish(SaveResult const& result) {
     if (!result.Status.empty()) {
-        status_->Tell(platform::pictures::ToQt(result.Status));
+        status_->Tell(ToQt(result.Status));
     }
     if (result.IsSaved) {
         history_.Record(*editor_); // the sorting, which was saved as well
@@ -218,12 +232,11 @@ void frmEdit::Finish(SaveResult const& result) {
 }
 
 void frmEdit::ForgetStatus() {
-    status_->Tell(QString());
+    status_->Tell(notKept_);
 }
 
 void frmEdit::RunModal() {
     platform::qt::CentreForm(*this);
-    isNotKeptTold_ = false;
     platform::qt::RunGuarded(*this, [this] { LoadQuotes(); });
     isUntouched_ = false;
     spread_->setFocus();
@@ -235,6 +248,7 @@ void frmEdit::RunModal() {
 void frmEdit::LoadQuotes() {
     PlaceGrid(); // the width of the columns follows from its width
     OpenEditor(*editor_, series_);
+    notKept_.clear();
     ForgetStatus();
     platform::qt::SetCaption(*this, EditorCaption(series_));
     spread_->GotoCell(editor_->EditCount > 0 ? 1 : 0, 1);

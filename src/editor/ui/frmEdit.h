@@ -64,18 +64,20 @@ private:
     void Redo();
     void ShowUndone(Change const& change);
     void RestoreUnsaved();
+    void ForgetUnsaved();
 
     // Pastes the text when it is a table. Returns whether it is one.
     bool PasteTable(std::int16_t row, std::string const& text);
     void Keep(Change const& change, ChangeKind kind);
 
-    // That edits are not kept is told once, when the event that brought it about is over.
+    // That edits cannot be kept stands in the status line as long as nothing else does, until they can.
     void TellNotKept(std::optional<text::RunTimeError> const& error);
     void ShowMenu(QPoint place);
+    [[nodiscard]] QString RestoreCaption() const;
 
     void Finish(SaveResult const& result);
 
-    // What the status line says no longer holds once the grid changes.
+    // What the status line says no longer holds once the grid changes, but for edits that are not kept.
     void ForgetStatus();
 
     void LoadQuotes();
@@ -98,8 +100,8 @@ private:
     std::unique_ptr<Editor> editor_;
     History history_;
     UnsavedEdits unsaved_;
-    bool isBusy_ = false; // a command is running
-    bool isNotKeptTold_ = false;
+    bool isBusy_ = false;      // a command is running
+    QString notKept_;          // why edits are not kept; empty while they are
     bool isUntouched_ = false; // no key and no button since the last command
 };
 

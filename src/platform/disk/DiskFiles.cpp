@@ -144,6 +144,23 @@ std::uint64_t DiskFiles::Length(std::string const& path) const {
     return HostFileLength(file);
 }
 
+bool DiskFiles::AreSame(std::string const& one, std::string const& other) const {
+    std::error_code error; // for one that is not there
+    bool areSame = false;
+    static_cast<void>(
+        text::Trap([&] { areSame = std::filesystem::equivalent(HostPath(one), HostPath(other), error); }));
+    return areSame && !error;
+}
+
+void DiskFiles::EnterFolder(std::string const& folder) {
+    RequireName(folder);
+    std::error_code error;
+    std::filesystem::current_path(HostPath(folder), error);
+    if (error) {
+        throw RunTimeError(Fault::PathNotFound);
+    }
+}
+
 std::vector<std::string> DiskFiles::List(std::string const& folder, std::string_view pattern) const {
     std::vector<std::string> names;
     // A folder that no folder can be is one that cannot be read.

@@ -24,6 +24,8 @@ public:
     [[nodiscard]] std::unique_ptr<ByteSink> OpenForOutput(std::string const& path) override;
     void Remove(std::string const& path) override;
     [[nodiscard]] std::uint64_t Length(std::string const& path) const override;
+    [[nodiscard]] bool AreSame(std::string const& one, std::string const& other) const override;
+    void EnterFolder(std::string const& folder) override;
     [[nodiscard]] std::vector<std::string> List(std::string const& folder,
                                                 std::string_view pattern) const override;
 };

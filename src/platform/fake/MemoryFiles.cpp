@@ -157,6 +157,17 @@ std::uint64_t MemoryFiles::Length(std::string const& path) const {
     return file->second.size();
 }
 
+bool MemoryFiles::AreSame(std::string const& one, std::string const& other) const {
+    auto const pathOf = [this](std::string const& path) {
+        return path.find_first_of("\\/") == std::string::npos ? CurrentFolder + path : path;
+    };
+    return pathOf(one) == pathOf(other) && (Contents.contains(one) || Contents.contains(other));
+}
+
+void MemoryFiles::EnterFolder(std::string const& folder) {
+    CurrentFolder = folder;
+}
+
 std::vector<std::string> MemoryFiles::List(std::string const& folder, std::string_view pattern) const {
     std::vector<std::string> names;
     for (auto const& [path, content] : Contents) {

@@ -28,6 +28,8 @@ public:
     [[nodiscard]] std::unique_ptr<ByteSink> OpenForOutput(std::string const& path) override;
     void Remove(std::string const& path) override;
     [[nodiscard]] std::uint64_t Length(std::string const& path) const override;
+    [[nodiscard]] bool AreSame(std::string const& one, std::string const& other) const override;
+    void EnterFolder(std::string const& folder) override;
     [[nodiscard]] std::vector<std::string> List(std::string const& folder,
                                                 std::string_view pattern) const override;
 
@@ -38,6 +40,9 @@ public:
     [[nodiscard]] int ReadingCount() const { return readingCount_; }
 
     std::map<std::string, std::string> Contents;
+
+    // The one that was entered, ending with a separator: where AreSame takes bare names to lie.
+    std::string CurrentFolder;
 
     // When set, reading breaks with this fault behind so many bytes.
     std::optional<std::pair<std::size_t, text::Fault>> BreakReading;

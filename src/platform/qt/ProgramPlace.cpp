@@ -74,8 +74,4 @@ ProgramPlace PlaceOf(std::string const& executablePath, std::string const& ownFo
     return place;
 }
 
-void EnterFolder(std::string const& folder) {
-    Require(QDir::setCurrent(pictures::ToQt(folder)));
-}
-
 } // namespace quorvex::platform::qt

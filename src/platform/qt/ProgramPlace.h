@@ -30,7 +30,4 @@ using FillFolder = std::function<void(std::string const& folder)>;
 [[nodiscard]] ProgramPlace PlaceOf(std::string const& executablePath, std::string const& ownFolder,
                                    FillFolder const& fill);
 
-// Makes the folder the current one. Raises "Path not found" when it cannot be entered.
-void EnterFolder(std::string const& folder);
-
 } // namespace quorvex::platform::qt

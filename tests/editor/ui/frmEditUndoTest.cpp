@@ -220,7 +220,8 @@ private Q_SLOTS:
                      QStringList({u"mnuCellsUndo &Undo Ctrl+Z grey"_s, u"mnuCellsRedo &Redo Ctrl+Y grey"_s,
                                   u"-"_s, u"mnuCellsCut Cu&t Ctrl+X"_s, u"mnuCellsCopy &Copy Ctrl+C"_s,
                                   u"mnuCellsPaste &Paste Ctrl+V"_s, u"mnuCellsClear C&lear Del"_s, u"-"_s,
-                                  u"mnuCellsRestore Restore Un&saved Edits  grey"_s}));
+                                  u"mnuCellsRestore Restore Un&saved Edits  grey"_s,
+                                  u"mnuCellsForget &Forget Unsaved Edits...  grey"_s}));
             shown.Type(2, 5, u"7"_s);
             WithMenu(shown, [&](QWidget& menu) {
                 items = ItemsOf(menu);
@@ -301,7 +302,7 @@ private Q_SLOTS:
                 items = ItemsOf(menu);
                 QTest::keyClick(&menu, Qt::Key_R);
             });
-            QCOMPARE(items.filter(u"grey"_s).size(), 5);
+            QCOMPARE(items.filter(u"grey"_s).size(), 6);
             QCOMPARE(shown.Grid().model()->rowCount(), 1);
             QCOMPARE(shown.Text(1, 2), u"0.00"_s);
         });

@@ -5,7 +5,6 @@
 #include "support/QuoteTexts.h"
 #include "windows/WindowTest.h"
 
-#include <QLabel>
 #include <QMenu>
 #include <filesystem>
 
@@ -16,6 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr char const* KeptName = "corn.txt.edits";
+constexpr char const* SecondName = "corn.txt.edits.2";
 
 // Opens the context menu of the cells by keys; returns whether it offers to restore.
 bool OffersToRestore(ShownEditor& shown) {
@@ -28,14 +28,21 @@ bool OffersToRestore(ShownEditor& shown) {
     return shown.Answers.IsDone() && isOffered;
 }
 
+// What the item of the menu says.
+QString MenuCaption(ShownEditor& shown, QString const& name) {
+    QString caption;
+    shown.Answers.Next([&](QWidget& menu) {
+        caption = menu.findChild<QAction*>(name)->text();
+        QTest::keyClick(&menu, Qt::Key_Escape);
+    });
+    shown.Press(Qt::Key_F10, Qt::ShiftModifier);
+    return shown.Answers.IsDone() ? caption : QString();
+}
+
 void ChooseRestore(ShownEditor& shown) {
     shown.Answers.Next([](QWidget& menu) { QTest::keyClick(&menu, Qt::Key_S); });
     shown.Press(Qt::Key_F10, Qt::ShiftModifier);
     QTRY_VERIFY(shown.Answers.IsDone());
-}
-
-QString StatusText(ShownEditor const& shown) {
-    return shown.Window->findChild<QLabel*>(u"StatusLine"_s)->text();
 }
 
 bool HasKept(ShownEditor const& shown) {
@@ -53,13 +60,13 @@ private Q_SLOTS:
         ShownEditor shown(QuoteLines(30), "corn.txt");
         shown.Run([&] {
             QVERIFY(!OffersToRestore(shown));
-            QCOMPARE(StatusText(shown), u""_s);
+            QCOMPARE(shown.Status(), u""_s);
             shown.Choose("mnuEditAppend");
             shown.Type(2, 5, u"555"_s);
             shown.Choose("mnuFileExit");
         });
         shown.Run([&] {
-            QCOMPARE(StatusText(shown),
+            QCOMPARE(shown.Status(),
                      u"Edits of these quotes were not saved. Restore Unsaved Edits in the context "
                      "menu of the cells brings them back."_s);
             QCOMPARE(shown.Text(2, 5), u"102.00"_s);
@@ -67,7 +74,7 @@ private Q_SLOTS:
             ChooseRestore(shown);
             QCOMPARE(shown.Text(2, 5), u"555"_s);
             QCOMPARE(shown.Grid().model()->rowCount(), 31);
-            QCOMPARE(StatusText(shown), u"Unsaved edits restored"_s);
+            QCOMPARE(shown.Status(), u"Unsaved edits restored"_s);
             QCOMPARE(shown.Cursor(), u"2,1"_s);
             shown.Press(Qt::Key_Z, Qt::ControlModifier);
             QCOMPARE(shown.Grid().model()->rowCount(), 30);
@@ -88,7 +95,7 @@ private Q_SLOTS:
         });
         shown.Run([&] {
             QVERIFY(!OffersToRestore(shown));
-            QCOMPARE(StatusText(shown), u""_s);
+            QCOMPARE(shown.Status(), u""_s);
         });
     }
 
@@ -138,28 +145,65 @@ private Q_SLOTS:
         QCOMPARE(shown.Answers.Shown().count(question), 2);
     }
 
-    void ThatNothingCanBeKeptIsToldOnce() {
+    void ThatNothingCanBeKeptStandsInTheStatusLine() {
+        QString const told =
+            u"Unsaved edits cannot be kept: Permission denied. What is not saved is lost when the editor is closed."_s;
         ShownEditor shown(QuoteLines(30), "corn.txt");
         shown.Run([&] {
-            std::filesystem::create_directory(shown.Folder.File(KeptName));
+            for (char const* name : {KeptName, SecondName}) {
+                std::filesystem::create_directory(shown.Folder.File(name));
+            }
             shown.Type(2, 5, u"555"_s);
-            QTRY_COMPARE(shown.Answers.Shown().size(), 2);
+            QCOMPARE(shown.Status(), told);
             shown.Type(3, 5, u"556"_s);
-            shown.Type(4, 5, u"557"_s);
-            QCoreApplication::processEvents();
-            QCOMPARE(shown.Text(2, 5) + shown.Text(3, 5), u"555556"_s);
-            std::filesystem::remove(shown.Folder.File(KeptName));
+            QCOMPARE(shown.Status(), told);
+            shown.Choose("mnuEditHelp");
+            QCOMPARE(shown.Status(), told);
+            for (char const* name : {KeptName, SecondName}) {
+                std::filesystem::remove(shown.Folder.File(name));
+            }
             shown.Type(5, 5, u"558"_s);
+            QCOMPARE(shown.Status(), u""_s);
             QVERIFY(HasKept(shown));
         });
-        QCOMPARE(shown.Answers.Shown().mid(1),
-                 QStringList(OkMessage(u"Edit"_s, u"exclamation"_s,
-                                       u"Unsaved edits cannot be kept: Permission denied\n"
-                                       "What is not saved is lost when the editor is closed."_s)));
+        QCOMPARE(shown.Answers.Shown().size(), 2); // the editor and its help
         shown.Run([&] {
             ChooseRestore(shown);
             QCOMPARE(shown.Text(2, 5), u"555"_s);
             QCOMPARE(shown.Text(5, 5), u"558"_s);
+        });
+    }
+
+    void OlderOnesAreOfferedBehindTheNewest() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] { shown.Type(2, 5, u"555"_s); });
+        shown.Run([&] { shown.Type(3, 5, u"556"_s); });
+        shown.Run([&] {
+            ChooseRestore(shown);
+            QCOMPARE(shown.Text(3, 5), u"556"_s);
+            QCOMPARE(shown.Status(),
+                     u"Unsaved edits restored. Restore Older Edits brings back those that were "
+                     "made before them"_s);
+            QCOMPARE(MenuCaption(shown, u"mnuCellsRestore"_s), u"Re&store Older Edits"_s);
+            ChooseRestore(shown);
+            QCOMPARE(shown.Text(2, 5) + shown.Text(3, 5), u"555103.00"_s);
+            QVERIFY(!OffersToRestore(shown));
+            shown.Press(Qt::Key_Z, Qt::ControlModifier);
+            QVERIFY(OffersToRestore(shown));
+        });
+    }
+
+    void TheyCanBeForgotten() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] { shown.Type(2, 5, u"555"_s); });
+        shown.Run([&] {
+            shown.Answers.Next([](QWidget& menu) { QTest::keyClick(&menu, Qt::Key_F); });
+            shown.Answers.Click(QMessageBox::Yes);
+            shown.Press(Qt::Key_F10, Qt::ShiftModifier);
+            QTRY_VERIFY(shown.Answers.IsDone());
+            QVERIFY(!HasKept(shown));
+            QCOMPARE(shown.Status(), u""_s);
+            QVERIFY(!OffersToRestore(shown));
         });
     }
 };

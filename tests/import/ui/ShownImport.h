@@ -44,6 +44,12 @@ public:
 
     [[nodiscard]] std::uint64_t Length(std::string const& path) const override { return files_.Length(path); }
 
+    [[nodiscard]] bool AreSame(std::string const& one, std::string const& other) const override {
+        return files_.AreSame(one, other);
+    }
+
+    void EnterFolder(std::string const& folder) override { files_.EnterFolder(folder); }
+
     [[nodiscard]] std::vector<std::string> List(std::string const& folder,
                                                 std::string_view pattern) const override {
         return files_.List(folder, pattern);

@@ -112,15 +112,6 @@ private Q_SLOTS:
         QCOMPARE(place.ExecutableName, std::string("test_windows"));
     }
 
-    void TheFolderBecomesTheCurrentOne() {
-        TemporaryFolder folder;
-        QString const before = QDir::currentPath();
-        platform::qt::EnterFolder(folder.Text());
-        QString const entered = QDir::currentPath();
-        QDir::setCurrent(before);
-        QCOMPARE(entered, QDir(ToQt(folder.Text())).canonicalPath());
-    }
-
     void ANewFolderGetsTheSamplesAndTheHelpDocuments() {
         app::ui::LoadResources();
         TemporaryFolder folder;
