@@ -19,8 +19,8 @@ namespace {
 using imports::ImportedFile;
 using imports::ImportSource;
 
-// A file that File > Open lists and reads without loss. One that cannot be read is left to the import window,
-// which tells why.
+// A file that File > Open lists and of which it takes everything, but rounds prices to the Currency Format,
+// as it does with every quote file. One that cannot be read is left to the import window, which tells why.
 bool IsQuoteFile(std::string const& path, platform::Files const& files) {
     bool isQuoteFile = false;
     if (quotes::IsQuoteFileName(platform::BareName(path))) {

@@ -5,12 +5,15 @@
 #include "cli/ImportJson.h"
 #include "cli/ImportReport.h"
 #include "cli/PipeFiles.h"
+#include "cli/SettingOptions.h"
 #include "cli/StandardStreams.h"
 #include "cli/SubCommands.h"
 #include "cli/WholeNumber.h"
+#include "import/basBars.h"
 #include "import/basTelling.h"
 #include "platform/basMessages.h"
 #include "quotes/QuoteSeries.h"
+#include "settings/Settings.h"
 #include "text/basDates.h"
 
 #include <algorithm>
@@ -41,6 +44,7 @@ struct ImportOptions {
     bool Replaces = false;
     bool IsDryRun = false;
     bool Json = false;
+    std::optional<std::string> Format;
     std::size_t Days = static_cast<std::size_t>(quotes::MaxQuotes);
 
     [[nodiscard]] std::string const& Target() const { return IntoPath.empty() ? OutputPath : IntoPath; }
@@ -104,7 +108,11 @@ std::string HowToSettle(Choice choice) {
     case Choice::Fraction:
         return ". Give --fraction " + Listed(FractionWords);
     case Choice::Symbol:
-        return ". Give --symbol, or --columns not-used=N for a column that does not name the contract";
+        return ". Give --symbol NAME (\"\" for one without a name), or --columns not-used=N for a column "
+               "that does "
+               "not name the contract";
+    case Choice::Bars:
+        return ". Give --any-bars to take each row for a day";
     }
     return {};
 }
@@ -185,8 +193,15 @@ bool WriteQuotes(ImportOptions const& options, ImportResult& result) {
     return result.IsWritten;
 }
 
-// Where the quotes themselves go to standard output, what was left out goes to standard error.
-void ComplainOfLeftOut(ImportResult const& result) {
+// Where the quotes themselves go to standard output, what is wrong with them goes to standard error.
+void ComplainOfRows(ImportResult const& result) {
+    if (!result.File.Refused && result.Read.DaysApart > 1) {
+        Complain(result.Source, imports::DescribeBars(result.Read.DaysApart));
+    }
+    std::string const rounding = imports::DescribeRounding(result.File, result.CurrencyFormat);
+    if (!rounding.empty()) {
+        Complain(result.Source, rounding);
+    }
     for (imports::Finding const& finding : result.Read.LeftOut.Kept) {
         Complain(result.Source, imports::FindingText(finding) + ", left out");
     }
@@ -202,7 +217,7 @@ ExitStatus Tell(ImportOptions const& options, ImportResult const& result) {
     }
     bool isTold = true;
     if (options.Target() == PipeName && !options.IsDryRun) {
-        ComplainOfLeftOut(result);
+        ComplainOfRows(result);
     } else if (options.Json) {
         isTold = Print(ImportJson(result));
     } else {
@@ -216,6 +231,8 @@ ExitStatus Import(ImportOptions const& options) {
     result.Source = InputName(options.SourcePath);
     result.Target = options.Target();
     result.IsReplacing = options.Replaces;
+    result.CurrencyFormat = options.Format.value_or(
+        std::string(settings::SettingRowOf(&settings::Settings::CurrencyFormat).Default));
     bool const isDone =
         ReadSource(options, result) && MakeFile(options, result) && WriteQuotes(options, result);
     return isDone ? Tell(options, result) : ExitStatus::Refused;
@@ -259,13 +276,18 @@ void AddChoices(CLI::App& command, ImportOptions& options) {
                     "symbol, not-used), or some of them by heading or number: close=Last,volume=7")
         ->type_name("LIST")
         ->check(IsColumnList());
-    command.add_option("--symbol", options.Chosen.Symbol, "Contract to take, where there are several")
+    command
+        .add_option("--symbol", options.Chosen.Symbol,
+                    "Contract to take, where there are several, \"\" for the one without a name")
         ->type_name("NAME");
+    command.add_flag("--any-bars", options.Chosen.TakesAnyBars,
+                     "Take rows of weeks or months, too, each for a day");
     command.add_option("--from", options.From, "First day to take")->type_name("mm/dd/yy")->check(IsDay());
     command.add_option("--to", options.To, "Last day to take")->type_name("mm/dd/yy")->check(IsDay());
     command.add_option("--days", options.Days, "Most days of the quote file, the latest of them [500]")
         ->type_name("N")
         ->transform(WholeNumberBetween(quotes::MinQuotes, quotes::MaxQuotes));
+    AddFormatOption(command, options.Format);
     command.add_flag("--strict", options.IsStrict, "Refuse a table of which a row would be left out");
 }
 

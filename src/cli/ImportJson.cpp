@@ -5,6 +5,7 @@
 
 #include "cli/JsonText.h"
 #include "text/basDates.h"
+#include "text/basFormats.h"
 
 namespace quorvex::cli {
 
@@ -82,6 +83,16 @@ Json MergeJson(ImportResult const& result) {
             {"HasGap", merge.HasGap}};
 }
 
+Json OccurrencesJson(imports::Occurrences const& occurrences) {
+    return {{"Count", occurrences.Count}, {"FirstLine", LineJson(occurrences.FirstLine)}};
+}
+
+Json RoundedJson(ImportResult const& result) {
+    return result.File.Refused ? Json()
+                               : OccurrencesJson(imports::CountRounded(
+                                     result.File.Days, text::NumberFormat(result.CurrencyFormat)));
+}
+
 Json RowsJson(imports::Conversion const& read) {
     return {{"Read", read.RowCount},
             {"Days", read.Days.size()},
@@ -90,7 +101,9 @@ Json RowsJson(imports::Conversion const& read) {
             {"OtherContracts", read.OtherSymbolCount},
             {"WithoutVolume", read.WithoutVolume},
             {"WithoutOpenInterest", read.WithoutOpenInterest},
-            {"OnWeekends", read.WeekendCount}};
+            {"OnWeekends", read.WeekendCount},
+            {"WithSettlementMark", OccurrencesJson(read.SettlementMarks)},
+            {"DaysApart", read.DaysApart == 0 ? Json() : Json(read.DaysApart)}};
 }
 
 } // namespace
@@ -105,6 +118,7 @@ std::string ImportJson(ImportResult const& result) {
                      {"LeftOut", FindingsJson(result.Read.LeftOut)},
                      {"OtherLines", FindingsJson(result.Read.Notes)},
                      {"Update", MergeJson(result)},
+                     {"Rounded", RoundedJson(result)},
                      {"Quotes", result.File.Refused ? Json() : QuoteRowsJson(result.File.Days)}});
 }
 

@@ -3,6 +3,7 @@
 
 #include "cli/ImportReport.h"
 
+#include "import/basBars.h"
 #include "import/basTelling.h"
 #include "text/basDates.h"
 
@@ -94,6 +95,13 @@ void AddCount(ReportPart& section, std::string_view label, std::uint64_t count) 
     }
 }
 
+void AddOccurrences(ReportPart& section, std::string_view label, imports::Occurrences const& occurrences) {
+    if (occurrences.Count > 0) {
+        section.Add(label, WithReason(std::to_string(occurrences.Count),
+                                      "first at line " + std::to_string(occurrences.FirstLine)));
+    }
+}
+
 void AddRows(std::string& report, ImportResult const& result) {
     imports::Conversion const& read = result.Read;
     ReportPart section(report, "Rows");
@@ -106,6 +114,10 @@ void AddRows(std::string& report, ImportResult const& result) {
     AddCount(section, "Without volume", read.WithoutVolume);
     AddCount(section, "Without OI", read.WithoutOpenInterest);
     AddCount(section, "On weekends", read.WeekendCount);
+    AddOccurrences(section, "Mark s", read.SettlementMarks);
+    if (read.DaysApart > 1) {
+        section.Add(imports::DescribeBars(read.DaysApart));
+    }
 }
 
 void AddFindings(std::string& report, std::string_view title, imports::Findings const& findings) {
@@ -127,7 +139,6 @@ void AddMerge(std::string& report, ImportResult const& result) {
     section.Add(result.IsReplacing ? "Replaced" : "Kept as it was", std::to_string(merge.Changed.size()));
     AddCount(section, "Too old", merge.OlderCount);
     AddCount(section, "Leaving", merge.LeavingCount);
-    AddCount(section, "No quotes", result.File.Old->PassedCount);
     if (merge.HasGap) {
         section.Add("More than a week lies between the last day of the file and the first new one");
     }
@@ -144,6 +155,10 @@ void AddQuoteFile(std::string& report, ImportResult const& result) {
                                    : "";
     section.Add("Days", std::to_string(days.size()) + ", " + text::FormatDate(days.front().Day) + " to " +
                             text::FormatDate(days.back().Day) + latest);
+    std::string const rounding = imports::DescribeRounding(result.File, result.CurrencyFormat);
+    if (!rounding.empty()) {
+        section.Add(rounding);
+    }
     if (result.IsWritten) {
         section.Add("Written", result.Target);
     } else {

@@ -15,6 +15,7 @@ struct ImportResult {
     std::string Target; // likewise; empty when none was
     imports::Conversion Read;
     imports::QuoteFile File;
+    std::string CurrencyFormat; // with which the program is to open the quote file
     bool IsReplacing = false;
     bool IsWritten = false;
 };

@@ -48,6 +48,7 @@ enum class Choice : std::uint8_t {
     Decimal,
     Fraction,
     Symbol,
+    Bars,
 };
 
 // Something to tell about a line, counted from 1, or about the table as a whole: line 0.
@@ -80,7 +81,9 @@ struct Choices {
     std::optional<int> Fraction; // 2, 4, 8, 16, 32, 64, 128 or NoFraction
     std::vector<ColumnChoice> Columns;
     bool OnlyChosenColumns = false; // those that are not named are unused
-    std::string Symbol;             // the contract to take, in either case; empty: there is one
+    bool TakesAnyBars = false;      // rows of weeks or months are taken, each for a day
+    // The contract to take, in either case; the empty text is the one without a name. Not set: there is one.
+    std::optional<std::string> Symbol;
 };
 
 // What there is to choose from, in the order in which it is offered.

@@ -3,6 +3,7 @@
 
 #include "import/Plan.h"
 
+#include "import/basBars.h"
 #include "import/basColumns.h"
 #include "import/basTableDates.h"
 #include "import/basTableNumbers.h"
@@ -23,6 +24,7 @@ using Rows = std::span<SampleRow const>;
 constexpr std::array<DateOrder, 3> AllOrders = {DateOrder::YearMonthDay, DateOrder::MonthDayYear,
                                                 DateOrder::DayMonthYear};
 constexpr std::size_t MostOfHeading = 200; // bytes that are told
+constexpr std::array<Role, 4> PriceRoles = {Role::Open, Role::High, Role::Low, Role::Close};
 constexpr std::array<DecimalMark, 2> AllMarks = {DecimalMark::Point, DecimalMark::Comma};
 
 // The parts that a sample has from top to bottom, each possibly empty.
@@ -223,22 +225,53 @@ bool AreInOrder(std::vector<std::string_view> const& cells, DateOrder order) {
     return rises || falls;
 }
 
-// With two digits for the year 19/11/05 can be three days. Whether the year comes first is told by the order
-// of the rows; month and day are never told by that.
-void SettleYearFirst(Plan& plan, std::vector<std::string_view> const& cells) {
-    constexpr std::size_t FewestRows = 10;
-    auto& orders = plan.DateOrders;
-    if (orders.size() < 2 || orders.front() != DateOrder::YearMonthDay || cells.size() < FewestRows) {
-        return;
+bool AreOfEachDay(std::vector<std::string_view> const& cells, DateOrder order) {
+    std::vector<text::CalendarDay> days;
+    for (std::string_view const cell : cells) {
+        days.push_back(ReadTableDay(cell, order)->Day);
     }
-    bool const yearFirst = AreInOrder(cells, DateOrder::YearMonthDay);
-    bool const yearLast = std::any_of(orders.begin() + 1, orders.end(),
-                                      [&](DateOrder order) { return AreInOrder(cells, order); });
-    if (yearFirst && !yearLast) {
-        orders = {DateOrder::YearMonthDay};
-        plan.DateReason = "the rows are in order";
-    } else if (yearLast && !yearFirst) {
-        orders.erase(orders.begin());
+    int const apart = MedianDistance(std::move(days));
+    return apart > 0 && apart <= MostOfDaily;
+}
+
+using OrderTest = bool (*)(std::vector<std::string_view> const&, DateOrder);
+
+// Drops the orders with the year on the side of which none passes the test. Returns whether there was one.
+bool SettleYearBy(OrderTest test, std::vector<DateOrder>& orders,
+                  std::vector<std::string_view> const& cells) {
+    bool const yearFirst = test(cells, orders.front());
+    bool const yearLast =
+        std::any_of(orders.begin() + 1, orders.end(), [&](DateOrder order) { return test(cells, order); });
+    if (yearFirst != yearLast) {
+        orders.erase(orders.begin() + (yearFirst ? 1 : 0), yearFirst ? orders.end() : orders.begin() + 1);
+    }
+    return yearFirst != yearLast;
+}
+
+// With two digits for the year 19/11/05 can be three days, and 19-Nov-05 two. Whether the year comes first is
+// told by the order of the rows, or because the days are years apart otherwise; month and day are never told
+// by that. Returns by what it was told.
+std::string SettleYearFirst(std::vector<DateOrder>& orders, std::vector<std::string_view> const& cells) {
+    constexpr std::size_t FewestRows = 10;
+    if (orders.size() < 2 || orders.front() != DateOrder::YearMonthDay) {
+        return {};
+    }
+    if (cells.size() >= FewestRows && SettleYearBy(AreInOrder, orders, cells)) {
+        return "the rows are in order";
+    }
+    return SettleYearBy(AreOfEachDay, orders, cells) ? "the days follow each other" : "";
+}
+
+// Of orders in which all dates mean the same one is enough: that in which they are written.
+void DropEqualOrders(std::vector<DateOrder>& orders, std::vector<std::string_view> const& cells) {
+    if (auto const written = cells.empty() ? std::nullopt : OrderAsWritten(cells.front())) {
+        std::ranges::stable_partition(orders, [&](DateOrder order) { return order == *written; });
+    }
+    for (std::size_t kept = 0; kept < orders.size(); ++kept) {
+        auto const isSame = [&](DateOrder order) { return MeanTheSame(cells, orders[kept], order); };
+        orders.erase(
+            std::remove_if(orders.begin() + static_cast<std::ptrdiff_t>(kept) + 1, orders.end(), isSame),
+            orders.end());
     }
 }
 
@@ -266,13 +299,11 @@ std::optional<Refusal> FindDateOrder(Plan& plan, Rows rows, std::size_t column) 
     bool const areSame = allowed.size() > 1 && std::ranges::all_of(allowed, [&](DateOrder order) {
                              return MeanTheSame(cells, allowed.front(), order);
                          });
-    if (areSame) {
-        allowed.resize(1);
-    }
+    std::string const reason = areSame ? "the dates tell it themselves" : SettleYearFirst(allowed, cells);
+    DropEqualOrders(allowed, cells);
     plan.DateOrders = allowed;
-    SettleYearFirst(plan, cells);
-    if (plan.DateReason.empty() && plan.DateOrders.size() == 1) {
-        plan.DateReason = areSame ? "the dates tell it themselves" : "no other order fits all rows";
+    if (allowed.size() == 1) {
+        plan.DateReason = reason.empty() ? "no other order fits all rows" : reason;
     }
     return std::nullopt;
 }
@@ -292,6 +323,20 @@ void FindVolumeLines(Plan& plan, Rows rows) {
             (plan.Columns[column].Is == Role::Symbol && std::ranges::any_of(rows, [&](SampleRow const& row) {
                  return column < row.Cells.size() && IsVolumeContract(row.Cells[column]);
              }));
+    }
+}
+
+// A price such as 411'2s is read without its mark, which the plan has to tell.
+void TellSettlementMarks(Plan& plan, Rows rows) {
+    for (std::size_t column = 0; column < plan.Columns.size(); ++column) {
+        ColumnPlan& there = plan.Columns[column];
+        bool const isPrice = std::ranges::find(PriceRoles, there.Is) != PriceRoles.end();
+        if (isPrice && std::ranges::any_of(rows, [&](SampleRow const& row) {
+                return column < row.Cells.size() &&
+                       FigureOf(row.Cells[column], plan.Decimals.front(), plan.Fraction).HasSettlementMark;
+            })) {
+            there.Reason += ", without the mark s of settlements";
+        }
     }
 }
 
@@ -324,6 +369,7 @@ std::optional<Refusal> FindOut(Plan& plan, Sample const& sample, Choices const& 
     auto refusal = AssignRoles(plan, parts.Head, parts.Quotes, choices,
                                [&](std::size_t column) { return FindDateOrder(plan, parts.Quotes, column); });
     FindVolumeLines(plan, parts.Quotes);
+    TellSettlementMarks(plan, parts.Quotes);
     return refusal;
 }
 
@@ -340,7 +386,10 @@ Plan MakePlan(Sample const& sample, Encoding encoding, Choices const& choices) {
     plan.EncodedIn = encoding;
     plan.SeparatedBy = sample.SeparatedBy;
     plan.Fraction = choices.Fraction;
-    plan.Symbol = text::UpperCase(choices.Symbol);
+    plan.TakesAnyBars = choices.TakesAnyBars;
+    if (choices.Symbol) {
+        plan.Symbol = text::UpperCase(*choices.Symbol);
+    }
     plan.Refused = sample.Refused;
     if (!plan.Refused) {
         plan.Refused = FindOut(plan, sample, choices);

@@ -44,7 +44,8 @@ struct Plan {
     bool HasVolumeLines = false; // a small month letter: the line holds volume and open interest of its day
     bool IsDateChosen = false;
     bool IsDecimalChosen = false;
-    std::string Symbol; // that is taken; empty: all are the same
+    bool TakesAnyBars = false;
+    std::optional<std::string> Symbol; // that is taken, in capitals; not set: all are the same
 
     // Why no quotes can be read. What could be found out is in the plan all the same.
     std::optional<Refusal> Refused;

@@ -116,7 +116,8 @@ RowResult Reading::TakeFigures(RowCells const& cells, DayQuote& quote) {
         form_.IsPrice = index < PriceCount;
         Figure const figure = ReadFigure(cells.Figures[index], form_);
         quote.Figures[index] = figure.Value;
-        if (figure.State == FigureState::NoNumber) {
+        // Behind a price B is a bid to exchanges.
+        if (figure.State == FigureState::NoNumber || (form_.IsPrice && figure.IsInBillions)) {
             RowResult bad = Bad(RowKind::NoFigure, FigureRoles[index]);
             bad.NeedsFraction = figure.NeedsFraction;
             return bad;
@@ -127,6 +128,7 @@ RowResult Reading::TakeFigures(RowCells const& cells, DayQuote& quote) {
             }
             (index == VolumeIndex ? quote.LacksVolume : quote.LacksOpenInterest) = true;
         }
+        quote.HasSettlementMark = quote.HasSettlementMark || figure.HasSettlementMark;
         (form_.IsPrice ? hasGroupedPrices_ : hasGroupedCounts_) |= figure.HasGroups;
         if (form_.IsPrice && figure.HasTicks && ticksLine_ == 0) {
             ticksLine_ = cells.Line;

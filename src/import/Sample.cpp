@@ -6,6 +6,8 @@
 #include "import/RecordReader.h"
 #include "import/basTableDates.h"
 #include "import/basTableNumbers.h"
+#include "import/basWords.h"
+#include "text/Characters.h"
 #include "text/basTexts.h"
 
 #include <algorithm>
@@ -69,8 +71,40 @@ bool IsText(std::string_view text) {
     return text.find('\0') == std::string_view::npos && !text.starts_with("PK\x03\x04");
 }
 
+// What is wrong with the first row that has a date and cells enough for a quote, of which one has digits but
+// is no number; nothing when there is no such row.
+std::optional<Finding> WhyNoQuotes(Sample const& sample) {
+    for (SampleRow const& row : sample.Rows) {
+        auto const isDay = [](std::string const& cell) { return IsTableDay(cell); };
+        auto const isOdd = [](std::string const& cell) {
+            return !cell.empty() && text::IsDigit(cell.front()) && !LooksLikeNumber(cell) &&
+                   !IsTableDay(cell) && !IsTimeOfDay(cell);
+        };
+        auto const odd = std::ranges::find_if(row.Cells, isOdd);
+        if (row.Cells.size() >= FewestCells && std::ranges::any_of(row.Cells, isDay) &&
+            odd != row.Cells.end()) {
+            constexpr std::size_t MostShown = 40;
+            return Finding{row.Line, "\"" + Shown(*odd, MostShown) + "\" is no number"};
+        }
+    }
+    return std::nullopt;
+}
+
+// The same under any separator, those first that separate nothing else.
+std::optional<Finding> FindNearlyQuotes(std::string_view text, std::optional<Separator> chosen) {
+    for (Separator const separator : Separators) {
+        auto const why = chosen && separator != *chosen
+                             ? std::nullopt
+                             : WhyNoQuotes(SplitRows(text, true, separator, ScoredRows));
+        if (why) {
+            return why;
+        }
+    }
+    return std::nullopt;
+}
+
 // Why no separator makes rows of quotes.
-Refusal NoTable(std::string_view text, Sample const& sample) {
+Refusal NoTable(std::string_view text, Sample const& sample, std::optional<Separator> chosen) {
     if (!IsText(text)) {
         return {{0, "The file is no text. Save the table as text with separators (CSV)"}, Choice::None};
     }
@@ -83,7 +117,11 @@ Refusal NoTable(std::string_view text, Sample const& sample) {
     if (sample.Rows.empty()) {
         return {{0, "The table is empty"}, Choice::None};
     }
-    return {{0, "No row with a date and four prices was found"}, Choice::Separator};
+    std::string const none = "No row with a date and four prices was found";
+    if (auto const why = FindNearlyQuotes(text, chosen)) {
+        return {{why->Line, none + ": " + why->Text}, Choice::None};
+    }
+    return {{0, none}, Choice::Separator};
 }
 
 } // namespace
@@ -139,7 +177,7 @@ Sample ReadSample(std::string_view firstPart, bool isWhole, std::optional<Separa
     Separator const separator = best.empty() ? chosen.value_or(Separator::Comma) : best.front();
     Sample sample = SplitRows(firstPart, isWhole, separator, SampleRows);
     if (best.empty()) {
-        sample.Refused = NoTable(firstPart, sample);
+        sample.Refused = NoTable(firstPart, sample, chosen);
     } else if (!sample.Refused && best.size() > 1) {
         sample.Refused = Refusal{{0, "The columns can be separated by " + std::string(NameOf(best[0])) +
                                          " or " + std::string(NameOf(best[1]))},

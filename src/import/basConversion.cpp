@@ -6,6 +6,7 @@
 #include "import/PlainRows.h"
 #include "import/Reading.h"
 #include "import/RecordReader.h"
+#include "import/basBars.h"
 #include "import/basColumns.h"
 #include "import/basTableDates.h"
 #include "import/basWords.h"
@@ -15,6 +16,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <iterator>
 #include <list>
 #include <span>
 #include <utility>
@@ -48,6 +50,13 @@ std::string_view CellOf(RowCells const& cells, Role role) {
                : cells.Figures.at(static_cast<std::size_t>(found - FigureRoles.begin()));
 }
 
+// A letter behind a number is a mark of the vendor's.
+std::string WhyNoNumber(std::string_view cell) {
+    bool const isMarked = cell.size() > 1 && text::IsDigit(cell.front()) &&
+                          text::IsDigit(cell[cell.size() - 2]) && !text::IsDigit(cell.back());
+    return isMarked ? std::string(": of the marks behind a price only the s of a settlement is known") : "";
+}
+
 // Why the row is left out.
 std::string WhyLeftOut(RowResult const& result, RowCells const& cells) {
     std::string const cell = Quoted(CellOf(cells, result.Of));
@@ -57,7 +66,7 @@ std::string WhyLeftOut(RowResult const& result, RowCells const& cells) {
     case RowKind::NoYear:
         return cell + " is no day of 1950 to 2049";
     case RowKind::NoFigure:
-        return The(result.Of) + " " + cell + " is no number";
+        return The(result.Of) + " " + cell + " is no number" + WhyNoNumber(CellOf(cells, result.Of));
     case RowKind::NoPrice:
         return The(result.Of) + " is missing";
     case RowKind::NotPositive:
@@ -116,7 +125,7 @@ std::string_view TextAt(std::span<Field const> fields, std::optional<std::size_t
 // Tells the contracts of a table apart.
 class SymbolFilter {
 public:
-    SymbolFilter(std::vector<std::size_t> const& columns, std::string wanted)
+    SymbolFilter(std::vector<std::size_t> const& columns, std::optional<std::string> wanted)
         : columns_(columns),
           cells_(columns.size()),
           wanted_(std::move(wanted)) {}
@@ -128,14 +137,14 @@ public:
         }
         isFirst_ = false;
         std::string name;
-        bool isWanted = wanted_.empty();
+        bool isWanted = !wanted_;
         for (std::size_t index = 0; index < columns_.size(); ++index) {
             cells_[index] = TextAt(fields, columns_[index]);
             std::string const part = text::UpperCase(cells_[index]);
-            isWanted = isWanted || part == wanted_;
+            isWanted = isWanted || (!part.empty() && part == *wanted_);
             name.append(name.empty() || part.empty() ? "" : " ").append(part);
         }
-        taken_ = isWanted || name == wanted_;
+        taken_ = isWanted || name == *wanted_;
         auto& names = taken_ ? names_ : others_;
         if (std::ranges::find(names, name) == names.end() && names.size() < MostKept) {
             names.push_back(name);
@@ -160,7 +169,7 @@ private:
 
     std::vector<std::size_t> const& columns_;
     std::vector<std::string> cells_; // of the row before
-    std::string wanted_;
+    std::optional<std::string> wanted_;
     std::vector<std::string> names_;
     std::vector<std::string> others_;
     bool isFirst_ = true;
@@ -241,6 +250,7 @@ private:
     void DropImpossibleCommas();
     void RefuseDoubt(Candidate const& left, Candidate const& right);
     void TakeOver(Candidate& candidate);
+    void FindBars();
 
     Plan const& plan_;
     Limits const& limits_;
@@ -592,6 +602,9 @@ void Converter::TakeOver(Candidate& candidate) {
         ++weekdays.at(std::chrono::weekday(quote.Day).iso_encoding());
         common_.WithoutVolume += quote.LacksVolume ? 1U : 0U;
         common_.WithoutOpenInterest += quote.LacksOpenInterest ? 1U : 0U;
+        if (quote.HasSettlementMark) {
+            common_.SettlementMarks.Add(quote.Line);
+        }
     }
     common_.WeekendCount = weekdays[6] + weekdays[7];
     bool const isShifted = weekdays[5] == 0 && weekdays[6] == 0 && weekdays[7] > 0 && weekdays[1] > 0;
@@ -605,6 +618,21 @@ void Converter::TakeOver(Candidate& candidate) {
         line > 0 && !plan_.Fraction && !common_.Refused) {
         Refuse(line, "The price can have a thousands mark or a fraction", Choice::Fraction);
     }
+    FindBars();
+}
+
+// Rows of weeks would be taken for days without a word.
+void Converter::FindBars() {
+    constexpr std::size_t FewestDays = 4;
+    if (common_.Days.size() < FewestDays) {
+        return;
+    }
+    std::vector<text::CalendarDay> days;
+    std::ranges::transform(common_.Days, std::back_inserter(days), &DayQuote::Day);
+    common_.DaysApart = MedianDistance(std::move(days));
+    if (common_.DaysApart > MostOfDaily && !plan_.TakesAnyBars && !common_.Refused) {
+        Refuse(0, DescribeBars(common_.DaysApart), Choice::Bars);
+    }
 }
 
 void Converter::Finish() {
@@ -614,8 +642,10 @@ void Converter::Finish() {
         Refuse(0, "There are several contracts: " + Listed(symbols_.Names()), Choice::Symbol);
         return;
     }
-    if (!plan_.Symbol.empty() && symbols_.Names().empty()) {
-        Refuse(0, "There is no contract " + plan_.Symbol + ", but " + Listed(symbols_.Others()),
+    if (plan_.Symbol && symbols_.Names().empty()) {
+        Refuse(0,
+               "There is no contract " + (plan_.Symbol->empty() ? "without a name" : *plan_.Symbol) +
+                   ", but " + Listed(symbols_.Others()),
                Choice::Symbol);
         return;
     }

@@ -8,6 +8,7 @@
 #include "text/basDates.h"
 #include "text/basFields.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -30,6 +31,7 @@ struct DayQuote {
     std::uint64_t Line = 0;   // of the table; 0: not of a table
     bool LacksVolume = false; // it is 0 because there is none
     bool LacksOpenInterest = false;
+    bool HasSettlementMark = false; // behind a price
 
     [[nodiscard]] bool IsSameAs(DayQuote const& other) const {
         return Day == other.Day && Figures == other.Figures;
@@ -45,6 +47,17 @@ struct Limits {
 
 // In which order the days stand in the table.
 enum class RowOrder : std::uint8_t { OldestFirst, NewestFirst, Mixed };
+
+// So many of something, the first of them at a line.
+struct Occurrences {
+    std::uint64_t Count = 0;
+    std::uint64_t FirstLine = 0; // 0 when there is none
+
+    void Add(std::uint64_t line) {
+        ++Count;
+        FirstLine = FirstLine == 0 ? line : std::min(FirstLine, line);
+    }
+};
 
 // How many things of one kind are kept to be told; those behind them are counted.
 inline constexpr std::size_t MostFindings = 1000;
@@ -66,6 +79,8 @@ struct Conversion {
     std::uint64_t WithoutVolume = 0;    // days whose volume is missing and 0 instead
     std::uint64_t WithoutOpenInterest = 0;
     std::uint64_t WeekendCount = 0;   // days that are a Saturday or Sunday
+    Occurrences SettlementMarks;      // days with a price such as 411'2s
+    int DaysApart = 0;                // the median distance of the days, 0 when they are too few to tell
     std::vector<std::string> Symbols; // of the contracts in the table, those that are taken first
     RowOrder Order = RowOrder::OldestFirst;
     Findings LeftOut;
@@ -75,7 +90,8 @@ struct Conversion {
 
 // Reads the whole table by the plan, in one pass and without keeping its text. Refused are: rows that
 // contradict each other about the order of dates or the decimal mark, rows that leave either open where it
-// matters, the same day twice with different figures, several contracts, several times of one day. Left out
+// matters, the same day twice with different figures, several contracts, several times of one day, rows of
+// weeks or months unless the plan takes any bars. Left out
 // are rows without a date or four positive prices, with a number that is none, and with a price outside of
 // high and low. A quote file can hold the days of 1950 to 2049. Raises the faults of the source.
 [[nodiscard]] Conversion ConvertTable(text::ByteSource& table, Plan const& plan, Limits const& limits);

@@ -5,6 +5,7 @@
 
 #include "import/Sample.h"
 #include "quotes/QuoteSeries.h"
+#include "text/RunTimeError.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -68,6 +69,13 @@ void RequireSameContract(QuoteFile& file, bool replaces) {
     }
 }
 
+// A format that spells no numbers rounds none: no quote file opens with it, which is told then.
+bool IsRounded(double price, text::NumberFormat const& format) {
+    bool isRounded = false;
+    static_cast<void>(text::Trap([&] { isRounded = format.Round(price) != price; }));
+    return isRounded;
+}
+
 } // namespace
 
 Conversion ImportTable(text::ByteSource& bytes, Choices const& choices, Limits const& limits) {
@@ -106,6 +114,18 @@ QuoteFile UpdateQuoteFile(text::ByteSource& source, Conversion const& conversion
     RequireSameContract(file, replaces);
     RequireEnoughDays(file, conversion);
     return file;
+}
+
+Occurrences CountRounded(std::span<DayQuote const> days, text::NumberFormat const& format) {
+    Occurrences rounded;
+    for (DayQuote const& quote : days) {
+        auto const prices = std::span(quote.Figures).first<PriceCount>();
+        if (quote.Line > 0 &&
+            std::ranges::any_of(prices, [&](double price) { return IsRounded(price, format); })) {
+            rounded.Add(quote.Line);
+        }
+    }
+    return rounded;
 }
 
 } // namespace quorvex::imports

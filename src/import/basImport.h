@@ -7,9 +7,11 @@
 #include "import/basConversion.h"
 #include "import/basMerge.h"
 #include "text/basFields.h"
+#include "text/basFormats.h"
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace quorvex::imports {
@@ -35,5 +37,9 @@ struct QuoteFile {
 // The days of a quote file with those of the table. Raises the faults of ReadQuoteFileDays.
 [[nodiscard]] QuoteFile UpdateQuoteFile(text::ByteSource& source, Conversion const& conversion, bool replaces,
                                         std::size_t most);
+
+// The days of the table with a price that the program rounds when it opens their quote file, as this format
+// keeps fewer decimals.
+[[nodiscard]] Occurrences CountRounded(std::span<DayQuote const> days, text::NumberFormat const& format);
 
 } // namespace quorvex::imports

@@ -187,8 +187,8 @@ std::optional<TableDay> WithTime(std::optional<text::CalendarDay> day, std::stri
     return time ? std::optional(TableDay{*day, *time}) : std::nullopt;
 }
 
-// 5-Nov-19, 5. November 2019, 2019-Nov-05
-std::optional<TableDay> ReadNumberThenName(CellScanner scan, Number const& first) {
+// 5-Nov-19, 5. November 2019, 2019-Nov-05, 19-Nov-05
+std::optional<TableDay> ReadNumberThenName(CellScanner scan, Number const& first, DateOrder order) {
     scan.SkipJoints();
     if (!IsPartOfName(scan.Next())) {
         return std::nullopt;
@@ -196,8 +196,9 @@ std::optional<TableDay> ReadNumberThenName(CellScanner scan, Number const& first
     Number const month{MonthOf(scan.TakeName()), 2};
     scan.SkipJoints();
     Number const last = scan.TakeNumber();
-    return WithTime(first.Length == DigitsOfYear ? DayOfParts(first, month, last)
-                                                 : DayOfParts(last, month, first),
+    bool const isYearFirst =
+        first.Length == DigitsOfYear || (order == DateOrder::YearMonthDay && last.Length != DigitsOfYear);
+    return WithTime(isYearFirst ? DayOfParts(first, month, last) : DayOfParts(last, month, first),
                     scan.Rest());
 }
 
@@ -221,7 +222,7 @@ std::optional<TableDay> ReadNumbers(CellScanner scan, DateOrder order) {
             return day;
         }
     }
-    return ReadNumberThenName(scan, first);
+    return ReadNumberThenName(scan, first, order);
 }
 
 // Nov 5, 2019
@@ -276,6 +277,23 @@ std::optional<TableDay> ReadTableDay(std::string_view cell, DateOrder order) {
         return ReadNumbers(scan, order);
     }
     return IsPartOfName(scan.Next()) ? ReadNames(scan, order) : std::nullopt;
+}
+
+std::optional<DateOrder> OrderAsWritten(std::string_view cell) {
+    CellScanner scan(cell);
+    CellScanner behind = scan;
+    bool const isWeekday = std::ranges::find(WeekdayTable, behind.TakeName()) != WeekdayTable.end();
+    if (isWeekday && behind.SkipJoints()) {
+        scan = behind;
+    }
+    if (IsPartOfName(scan.Next())) {
+        return DateOrder::MonthDayYear;
+    }
+    if (scan.TakeNumber().Length == DigitsOfYear) {
+        return DateOrder::YearMonthDay;
+    }
+    scan.SkipJoints();
+    return IsPartOfName(scan.Next()) ? std::optional(DateOrder::DayMonthYear) : std::nullopt;
 }
 
 bool IsTableDay(std::string_view cell) {

@@ -22,7 +22,8 @@ struct TableDay {
 //   three numbers with "/", "-" or "." between them, or 6 or 8 digits without; a year of four digits in front
 //   has its month next in every order
 //   a number, the name of a month and a number, or the name in front, in four languages, whole or shortened;
-//   a name of a weekday in front of it all: the order does not matter then
+//   a name of a weekday in front of it all: the order matters only for two digits on both sides of the name,
+//   such as 20-Mar-05, of which the first are the year when the year comes first, else the day
 //   9 or 10 digits: seconds since 1970, of which the day in UTC counts
 //
 // A time with or without a zone may follow, which does not move the day; the time of seconds is the number
@@ -32,6 +33,9 @@ struct TableDay {
 // The same of yyyy-mm-dd, yyyy/mm/dd or yyyy.mm.dd with nothing behind, as most tables have; nothing for any
 // other cell.
 [[nodiscard]] std::optional<text::CalendarDay> ReadIsoDay(std::string_view cell);
+
+// The order in which the pieces of a day stand in the cell, when a name or a year of four digits tells it.
+[[nodiscard]] std::optional<DateOrder> OrderAsWritten(std::string_view cell);
 
 // Whether the cell names a day in any order.
 [[nodiscard]] bool IsTableDay(std::string_view cell);

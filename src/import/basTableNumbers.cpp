@@ -38,7 +38,8 @@ struct Unit {
     std::string_view Exponent;
 };
 
-constexpr std::array<Unit, 3> Units = {{{'K', "e3"}, {'M', "e6"}, {'B', "e9"}}};
+constexpr std::string_view Billions = "e9";
+constexpr std::array<Unit, 3> Units = {{{'K', "e3"}, {'M', "e6"}, {'B', Billions}}};
 
 constexpr std::size_t LongestMissing = 4;
 
@@ -284,12 +285,16 @@ Dressing TakeDressing(std::string_view& cell) {
     return dressing;
 }
 
-Figure ReadSpelledFigure(std::string_view cell, FigureForm const& form) {
-    TrimAnyBlanks(cell);
-    if (SaysNothing(cell)) {
-        return {0, FigureState::Missing, false, false, false, false};
-    }
-    auto const [isNegative, exponent] = TakeDressing(cell);
+// The mark with which vendors tell that a price is the settlement: 411'2s.
+bool TakeSettlementMark(std::string_view& cell) {
+    bool const isMarked =
+        cell.size() > 1 && text::UpperCase(cell.back()) == 'S' && text::IsDigit(cell[cell.size() - 2]);
+    cell.remove_suffix(isMarked ? 1 : 0);
+    return isMarked;
+}
+
+Figure ReadUndressed(std::string_view cell, FigureForm const& form, bool isNegative,
+                     std::string_view exponent) {
     if (cell.empty() || (!text::IsDigit(cell.front()) && cell.front() != '.' && cell.front() != ',')) {
         return {};
     }
@@ -302,6 +307,21 @@ Figure ReadSpelledFigure(std::string_view cell, FigureForm const& form) {
         }
     }
     return ReadDigits(cell, form, isNegative, exponent);
+}
+
+Figure ReadSpelledFigure(std::string_view cell, FigureForm const& form) {
+    TrimAnyBlanks(cell);
+    if (SaysNothing(cell)) {
+        Figure missing;
+        missing.State = FigureState::Missing;
+        return missing;
+    }
+    bool const isSettlement = form.IsPrice && TakeSettlementMark(cell);
+    auto const [isNegative, exponent] = TakeDressing(cell);
+    Figure figure = ReadUndressed(cell, form, isNegative, exponent);
+    figure.HasSettlementMark = isSettlement && figure.State == FigureState::Number;
+    figure.IsInBillions = exponent == Billions;
+    return figure;
 }
 
 std::optional<double> PlainWithPoint(std::string_view cell) {
@@ -325,8 +345,13 @@ std::optional<double> PlainWithComma(std::string_view cell) {
 Figure ReadFigure(std::string_view cell, FigureForm const& form) {
     // As nearly all cells are: digits with at most the decimal mark between them.
     auto const number = form.Decimal == DecimalMark::Point ? PlainWithPoint(cell) : PlainWithComma(cell);
-    return number ? Figure{*number, FigureState::Number, false, false, false, false}
-                  : ReadSpelledFigure(cell, form);
+    if (!number) {
+        return ReadSpelledFigure(cell, form);
+    }
+    Figure plain;
+    plain.Value = *number;
+    plain.State = FigureState::Number;
+    return plain;
 }
 
 } // namespace quorvex::imports

@@ -3,7 +3,9 @@
 
 #include "import/basTelling.h"
 
+#include "import/basBars.h"
 #include "text/basDates.h"
+#include "text/basFormats.h"
 #include "text/basNumbers.h"
 
 #include <algorithm>
@@ -53,6 +55,11 @@ void AddCount(std::vector<std::string>& lines, std::uint64_t count, std::string_
     if (count > 0) {
         lines.push_back(Counted(count, noun).append(" ").append(what));
     }
+}
+
+std::string FirstAt(Occurrences const& occurrences) {
+    return (occurrences.Count == 1 ? ", at line " : ", the first at line ") +
+           std::to_string(occurrences.FirstLine);
 }
 
 void AddFindings(std::vector<std::string>& lines, Findings const& findings, std::string_view what) {
@@ -158,10 +165,23 @@ std::string DescribeUpdate(QuoteFile const& file, std::string_view name, bool re
     return text;
 }
 
+std::string DescribeRounding(QuoteFile const& file, std::string_view currencyFormat) {
+    Occurrences const rounded =
+        file.Refused ? Occurrences() : CountRounded(file.Days, text::NumberFormat(currencyFormat));
+    if (rounded.Count == 0) {
+        return {};
+    }
+    return Counted(rounded.Count, "day") + " with prices of more decimals than the Currency Format " +
+           std::string(currencyFormat) + " keeps" + FirstAt(rounded) + ": the program rounds them";
+}
+
 std::vector<std::string> FindingLines(Conversion const& conversion) {
     std::vector<std::string> lines;
     if (conversion.Refused) {
         lines.push_back(FindingText(conversion.Refused->Told));
+    }
+    if (conversion.DaysApart > 1 && !conversion.Refused) {
+        lines.push_back(DescribeBars(conversion.DaysApart));
     }
     AddFindings(lines, conversion.LeftOut, ", left out");
     AddFindings(lines, conversion.Notes, " (no row)");
@@ -171,6 +191,8 @@ std::vector<std::string> FindingLines(Conversion const& conversion) {
     AddCount(lines, conversion.WithoutVolume, "day", "without volume, which is 0");
     AddCount(lines, conversion.WithoutOpenInterest, "day", "without open interest, which is 0");
     AddCount(lines, conversion.WeekendCount, "day", "on weekends");
+    AddCount(lines, conversion.SettlementMarks.Count, "day",
+             "with the mark s of a settlement, which is passed over" + FirstAt(conversion.SettlementMarks));
     return lines;
 }
 

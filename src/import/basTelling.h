@@ -41,6 +41,10 @@ struct PlanRow {
 // What an update does to the file of this name.
 [[nodiscard]] std::string DescribeUpdate(QuoteFile const& file, std::string_view name, bool replaces);
 
+// Which prices of the quote file the program rounds when it opens it with this currency format; empty when it
+// rounds none.
+[[nodiscard]] std::string DescribeRounding(QuoteFile const& file, std::string_view currencyFormat);
+
 // What there is to look at, a line each: why rows are left out, lines that are no rows, and what is odd.
 [[nodiscard]] std::vector<std::string> FindingLines(Conversion const& conversion);
 

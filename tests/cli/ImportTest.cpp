@@ -114,6 +114,66 @@ TEST(Import, RefusesAndTellsHowToSettle) {
               "quorvex-cli: standard input: Line 32: \"x\" is no date\n");
 }
 
+TEST(Import, TakesRowsOfWeeksOnlyOnRequest) {
+    std::string table = "Date,Open,High,Low,Close\n";
+    for (int month = 1; month <= 12; ++month) {
+        for (int day = 1; day <= 22; day += 7) {
+            table += "2019-" + std::to_string(100 + month).substr(1) + "-" +
+                     std::to_string(100 + day).substr(1) + ",5,6.5,4,5\n";
+        }
+    }
+    auto const refused = RunCompanion({"import", "-"}, table);
+    EXPECT_EQ(refused.ExitStatus, 1);
+    EXPECT_EQ(refused.Errors,
+              "quorvex-cli: standard input: The rows look weekly, not daily: the median distance "
+              "of the days is 7. Give --any-bars to take each row for a day\n");
+    auto const taken = RunCompanion({"import", "-", "--any-bars"}, table);
+    EXPECT_EQ(taken.ExitStatus, 0);
+    EXPECT_TRUE(Has(taken.Output, "The rows look weekly, not daily: the median distance of the days is 7\n"));
+    EXPECT_EQ(
+        RunCompanion({"import", "-", "-o", "-", "--any-bars"}, table).Errors,
+        "quorvex-cli: standard input: The rows look weekly, not daily: the median distance of the days is "
+        "7\n");
+    auto const json =
+        nlohmann::json::parse(RunCompanion({"import", "-", "--any-bars", "--json"}, table).Output);
+    EXPECT_EQ(json["Rows"]["DaysApart"], 7);
+}
+
+TEST(Import, TellsOfPricesThatTheProgramRounds) {
+    std::string const table = Head + Rows(1, 30) + "2019-11-01,400.125,480,390.0625s,401,1,2\n";
+    std::string const rounding =
+        "1 day with prices of more decimals than the Currency Format ####0.00 keeps, at "
+        "line 32: the program rounds them\n";
+    auto const run = RunCompanion({"import", "-"}, table);
+    EXPECT_EQ(run.ExitStatus, 0);
+    EXPECT_TRUE(Has(run.Output, "  " + rounding)) << run.Output;
+    EXPECT_TRUE(Has(run.Output, "  Mark s          1 (first at line 32)\n")) << run.Output;
+    EXPECT_EQ(RunCompanion({"import", "-", "-o", "-"}, table).Errors,
+              "quorvex-cli: standard input: " + rounding);
+    EXPECT_FALSE(Has(RunCompanion({"import", "-", "--format", "0.0000"}, table).Output, "rounds them"));
+    auto const json = nlohmann::json::parse(RunCompanion({"import", "-", "--json"}, table).Output);
+    EXPECT_EQ(json["Rounded"], (nlohmann::json{{"Count", 1}, {"FirstLine", 32}}));
+    EXPECT_EQ(json["Rows"]["WithSettlementMark"], (nlohmann::json{{"Count", 1}, {"FirstLine", 32}}));
+}
+
+TEST(Import, TakesTheContractWithoutAName) {
+    std::string table = "Symbol," + std::string(Head);
+    for (int day = 10; day < 40; ++day) {
+        for (auto const* symbol : {"ZW", ""}) {
+            std::string const row = Rows(day, 1);
+            table.append(symbol).append(",").append(row);
+        }
+    }
+    EXPECT_EQ(
+        RunCompanion({"import", "-"}, table).Errors,
+        "quorvex-cli: standard input: There are several contracts: ZW, one without a name. Give --symbol "
+        "NAME (\"\" for one without a name), or --columns not-used=N for a column that does not name the "
+        "contract\n");
+    auto const run = RunCompanion({"import", "-", "-o", "-", "--symbol", ""}, table);
+    EXPECT_EQ(run.Errors, "");
+    EXPECT_EQ(run.Output, ImportedLines(10, 30));
+}
+
 TEST(Import, TakesChoicesOfTheUser) {
     TemporaryFolder const folder;
     std::string const out = folder.File("out.txt");

@@ -214,6 +214,57 @@ TEST(Plan, TellsTheOrderOfDatesByTheWholeColumn) {
               "The dates have no common order: 01/13/2019 and 13/01/2019");
 }
 
+std::string WithDates(std::vector<std::string> const& dates) {
+    std::string table;
+    for (std::string const& date : dates) {
+        table += date + ",401.5,404.25,399.75,403\n";
+    }
+    return table;
+}
+
+// 20-Mar-05 is the 5th of March 2020 or the 20th of March 2005.
+TEST(Plan, TellsWhetherTheYearStandsInFrontOfANameByTheOtherDays) {
+    using OrderList = std::vector<DateOrder>;
+    auto const days = PlanOf(WithDates({"20-Mar-05", "20-Mar-06", "20-Mar-09", "20-Mar-10"}));
+    EXPECT_EQ(days.DateOrders, OrderList{DateOrder::YearMonthDay});
+    EXPECT_EQ(days.DateReason, "the days follow each other");
+    auto const usual = PlanOf(WithDates({"12-Nov-19", "13-Nov-19"}));
+    EXPECT_EQ(usual.DateOrders, OrderList{DateOrder::DayMonthYear});
+    EXPECT_EQ(usual.DateReason, "the days follow each other");
+    auto const single = PlanOf(WithDates({"8-Nov-19", "11-Nov-19"}));
+    EXPECT_EQ(single.DateOrders, OrderList{DateOrder::DayMonthYear});
+    EXPECT_EQ(single.DateReason, "the dates tell it themselves");
+    auto const months = PlanOf(WithDates({"25-Oct-19", "28-Oct-19", "29-Oct-19", "30-Oct-19", "31-Oct-19",
+                                          "01-Nov-19", "04-Nov-19", "05-Nov-19", "06-Nov-19", "07-Nov-19"}));
+    EXPECT_EQ(months.DateOrders, OrderList{DateOrder::DayMonthYear});
+    EXPECT_EQ(months.DateReason, "the rows are in order");
+    EXPECT_EQ(PlanOf(WithDates({"Nov 5 19", "Nov 6 19"})).DateOrders, OrderList{DateOrder::MonthDayYear});
+}
+
+TEST(Plan, LeavesOpenWhetherTheYearStandsInFrontOfAName) {
+    std::vector<DateOrder> const both = {DateOrder::DayMonthYear, DateOrder::YearMonthDay};
+    EXPECT_EQ(PlanOf(WithDates({"20-Mar-05"})).DateOrders, both);
+    EXPECT_EQ(PlanOf(WithDates({"05-Mar-20", "05-Apr-20", "05-May-20"})).DateOrders, both)
+        << "monthly either way";
+}
+
+TEST(Plan, TellsThatMarksOfSettlementsArePassedOver) {
+    auto const plan = PlanOf("Date,Open,High,Low,Close,Volume\n2019-10-29,401'4,404'2,399'6,403'0s,22540\n");
+    EXPECT_EQ(RolesOf(plan), "DOHLCV");
+    EXPECT_EQ(plan.Columns[4].Reason, "heading, without the mark s of settlements");
+    EXPECT_EQ(plan.Columns[3].Reason, "heading");
+}
+
+TEST(Plan, TellsWhatIsNoNumberInARowThatIsNearlyOne) {
+    auto const plan = PlanOf("Date;Open;High;Low;Close\n2019-10-29;401.5x;404.25x;399.75x;403x\n");
+    EXPECT_EQ(RefusalText(plan), "No row with a date and four prices was found: \"401.5x\" is no number");
+    EXPECT_EQ(plan.Refused->Told.Line, 2U);
+    EXPECT_EQ(plan.Refused->SettledBy, Choice::None);
+    auto const other = PlanOf("Date,Text\n2019-10-29,none\n");
+    EXPECT_EQ(RefusalText(other), "No row with a date and four prices was found");
+    EXPECT_EQ(other.Refused->SettledBy, Choice::Separator);
+}
+
 TEST(Plan, TellsTheDecimalMarkByAllNumbers) {
     using Marks = std::vector<DecimalMark>;
     auto const marks = [](std::string_view row) { return PlanOf(row).Decimals; };

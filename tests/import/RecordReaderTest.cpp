@@ -92,6 +92,19 @@ TEST(RecordReader, RefusesALineWithoutEnd) {
     EXPECT_EQ(Records("a\n" + std::string(200'000, 'x')), "1:[a] 2!");
 }
 
+// Which the buffer holds as a whole; however many fields it has.
+TEST(RecordReader, RefusesALongLineOfManyFields) {
+    std::string text = "a,b\n";
+    for (int field = 0; field < 40'000; ++field) {
+        text += "a,";
+    }
+    for (auto const* end : {"", "\nb,c\n"}) {
+        std::string const whole = text + end;
+        text::TextSource source(whole);
+        EXPECT_EQ(AllOf(source, Separator::Comma), "1:[a][b] 2!");
+    }
+}
+
 TEST(RecordReader, ReadsLongTablesThroughOneBuffer) {
     std::string text;
     std::string expected;

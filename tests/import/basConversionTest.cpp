@@ -42,6 +42,9 @@ TEST(Conversion, LeavesOutWhatIsNoQuoteAndTellsWhy) {
     EXPECT_EQ(LeftOut("1949-12-30,5,6,4,5.5,1\n"), "3: \"1949-12-30\" is no day of 1950 to 2049");
     EXPECT_EQ(LeftOut("2050-01-03,5,6,4,5.5,1\n"), "3: \"2050-01-03\" is no day of 1950 to 2049");
     EXPECT_EQ(LeftOut("2019-10-29,5,6,4,abc,1\n"), "3: the close \"abc\" is no number");
+    std::string const why = " is no number: of the marks behind a price only the s of a settlement is known";
+    EXPECT_EQ(LeftOut("2019-10-29,5,6,4,5.5a,1\n"), "3: the close \"5.5a\"" + why);
+    EXPECT_EQ(LeftOut("2019-10-29,5,6,4,5.5B,1\n"), "3: the close \"5.5B\"" + why) << "a bid, no billions";
     EXPECT_EQ(LeftOut("2019-10-29,5,6,,5.5,1\n"), "3: the low is missing");
     EXPECT_EQ(LeftOut("2019-10-29,,,,,\n"), "3: the open is missing");
     EXPECT_EQ(LeftOut("2019-10-29,5e100,6e100,4e100,5.5e100,1\n"),
@@ -236,7 +239,8 @@ TEST(Conversion, LetsALaterRowTellTheOrder) {
         }
     }
     EXPECT_EQ(ImportText(table).Refused->SettledBy, Choice::DateOrder);
-    auto const conversion = ImportText(table + "1/13/2010,5,6,4,5.5,1\n");
+    auto const monthly = Chosen(&imports::Choices::TakesAnyBars, true);
+    auto const conversion = ImportText(table + "1/13/2010,5,6,4,5.5,1\n", monthly);
     EXPECT_EQ(RefusalOf(conversion), "");
     EXPECT_EQ(conversion.Days.size(), 601U);
     EXPECT_EQ(conversion.Used.DateOrders, std::vector<DateOrder>{DateOrder::MonthDayYear});
@@ -291,6 +295,41 @@ TEST(Conversion, AsksForTheKindOfFraction) {
     EXPECT_EQ(ImportText(longer, Chosen(&imports::Choices::Fraction, 32)).Days[0].Figures[0], 118.5);
     EXPECT_EQ(ImportText(longer, Chosen(&imports::Choices::Fraction, imports::NoFraction)).Days[0].Figures[0],
               118'160);
+}
+
+TEST(Conversion, CountsDaysWithMarksOfSettlements) {
+    auto const conversion =
+        ImportText(Table("2019-10-28,5,6,4,5.5,1\n2019-10-29,5,6,4,5.5s,1\n2019-10-30,5s,6s,4s,5.5s,1\n"));
+    EXPECT_EQ(RefusalOf(conversion), "");
+    EXPECT_EQ(conversion.Days[1].Figures[3], 5.5);
+    EXPECT_EQ(conversion.SettlementMarks.Count, 2U);
+    EXPECT_EQ(conversion.SettlementMarks.FirstLine, 3U);
+}
+
+TEST(Conversion, RefusesADateThatCanHaveItsYearOnEitherSideOfTheMonth) {
+    std::string const table = Table("20-Mar-05,5,6,4,5.5,1\n");
+    auto const conversion = ImportText(table);
+    EXPECT_EQ(RefusalOf(conversion),
+              "2: \"20-Mar-05\" and all other dates can be day, month, year or year, month, day");
+    EXPECT_EQ(conversion.Refused->SettledBy, Choice::DateOrder);
+    EXPECT_EQ(ImportText(table, Chosen(&imports::Choices::DateOrder, DateOrder::DayMonthYear)).Days[0].Day,
+              text::CalendarDay{std::chrono::year{2005} / 3 / 20});
+    EXPECT_EQ(ImportText(table, Chosen(&imports::Choices::DateOrder, DateOrder::YearMonthDay)).Days[0].Day,
+              text::CalendarDay{std::chrono::year{2020} / 3 / 5});
+}
+
+TEST(Conversion, TakesTheContractWithoutAName) {
+    std::string const table = "Symbol,Date,Open,High,Low,Close\nZWH24,2019-10-28,5,6,4,5.5\n"
+                              ",2019-10-28,15,16,14,15.5\n,2019-10-29,15,16,14,15.5\n";
+    EXPECT_EQ(RefusalOf(ImportText(table)), "0: There are several contracts: ZWH24, one without a name");
+    auto const unnamed = ImportText(table, Chosen(&imports::Choices::Symbol, std::string()));
+    EXPECT_EQ(RefusalOf(unnamed), "");
+    EXPECT_EQ(unnamed.Days.size(), 2U);
+    EXPECT_EQ(unnamed.Days[0].Figures[0], 15);
+    EXPECT_EQ(unnamed.Symbols, (std::vector<std::string>{"", "ZWH24"}));
+    std::string const named = "Symbol,Month,Date,Open,High,Low,Close\nZW,,2019-10-28,5,6,4,5.5\n";
+    EXPECT_EQ(RefusalOf(ImportText(named, Chosen(&imports::Choices::Symbol, std::string()))),
+              "0: There is no contract without a name, but ZW");
 }
 
 TEST(Conversion, RefusesHalvesOfNumbersThatAreNotQuoted) {

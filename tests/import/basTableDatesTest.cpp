@@ -29,7 +29,6 @@ TEST(TableDates, ReadThemselvesWhenTheYearOrANameTellsTheOrder) {
                              "2019-11-05T05:00:00+0000",
                              "2019-11-05T05:00:00Z",
                              "2019-11-05 00:00:00-05:00",
-                             "5-Nov-19",
                              "05-NOV-2019",
                              "5 November 2019",
                              "Nov 5, 2019",
@@ -59,6 +58,34 @@ TEST(TableDates, ReadInTheOrderThatIsGiven) {
     }
     for (auto const* cell : {"20191105", "191105", "19/11/05", "19-11-05"}) {
         EXPECT_TRUE(Reads(cell, DateOrder::YearMonthDay, Fifth)) << cell;
+    }
+}
+
+TEST(TableDates, ReadTwoDigitsOnBothSidesOfANameInTheOrderThatIsGiven) {
+    for (DateOrder const order : {DateOrder::DayMonthYear, DateOrder::MonthDayYear}) {
+        EXPECT_TRUE(Reads("5-Nov-19", order, Fifth));
+        EXPECT_TRUE(Reads("05-Nov-19", order, Fifth));
+        EXPECT_TRUE(Reads("Tue 5 Nov 19", order, Fifth));
+        EXPECT_FALSE(Reads("19-Nov-5", order, Fifth));
+    }
+    EXPECT_TRUE(Reads("19-Nov-05", DateOrder::YearMonthDay, Fifth));
+    EXPECT_TRUE(Reads("19-Nov-5", DateOrder::YearMonthDay, Fifth));
+    EXPECT_FALSE(imports::ReadTableDay("5-Nov-19", DateOrder::YearMonthDay)) << "5 is no year";
+    EXPECT_TRUE(Reads("05-Nov-2019", DateOrder::YearMonthDay, Fifth));
+}
+
+TEST(TableDates, TellTheOrderInWhichTheyAreWritten) {
+    for (auto const* cell : {"2019-11-05", "2019-Nov-05"}) {
+        EXPECT_EQ(imports::OrderAsWritten(cell), DateOrder::YearMonthDay) << cell;
+    }
+    for (auto const* cell : {"5-Nov-19", "20-Mar-05", "Tue 5 Nov 19", "5. November 2019"}) {
+        EXPECT_EQ(imports::OrderAsWritten(cell), DateOrder::DayMonthYear) << cell;
+    }
+    for (auto const* cell : {"Nov 5, 2019", "Tue, Nov 5, 2019"}) {
+        EXPECT_EQ(imports::OrderAsWritten(cell), DateOrder::MonthDayYear) << cell;
+    }
+    for (auto const* cell : {"11/05/2019", "20191105", "1572962400"}) {
+        EXPECT_EQ(imports::OrderAsWritten(cell), std::nullopt) << cell;
     }
 }
 

@@ -122,6 +122,22 @@ TEST(TableNumbers, ReadOtherFractionsWhenTheyAreTold) {
     EXPECT_EQ(Price("118.5", 32), 118.5);
 }
 
+TEST(TableNumbers, ReadPricesWithTheMarkOfASettlement) {
+    EXPECT_EQ(Price("411'2s"), 411.25);
+    EXPECT_EQ(Price("410.25s"), 410.25);
+    EXPECT_EQ(Price("410.25S"), 410.25);
+    EXPECT_EQ(Price("118'16s", 32), 118.5);
+    FigureForm const form{DecimalMark::Point, true, -1};
+    EXPECT_TRUE(imports::ReadFigure("411'2s", form).HasSettlementMark);
+    EXPECT_FALSE(imports::ReadFigure("411'2", form).HasSettlementMark);
+    EXPECT_EQ(ByPoint("22540s"), std::nullopt) << "volumes have none";
+    for (auto const* cell : {"s", "410.25 s", "410.s", "410.25a", "410.25ss"}) {
+        EXPECT_EQ(Price(cell), std::nullopt) << cell;
+    }
+    EXPECT_TRUE(imports::ReadFigure("1.2B", {}).IsInBillions);
+    EXPECT_FALSE(imports::ReadFigure("1.2M", {}).IsInBillions);
+}
+
 TEST(TableNumbers, TellWhatThreeDigitsBehindAnApostropheCanBe) {
     FigureForm const form{DecimalMark::Point, true, -1};
     auto const open = imports::ReadFigure("118'165", form);

@@ -131,6 +131,51 @@ TEST(FindingLines, TellEverything) {
                             "2 days without open interest, which is 0", "1 day on weekends"));
 }
 
+TEST(FindingLines, TellOfMarksOfSettlements) {
+    auto const read = ImportText("Date,Open,High,Low,Close,Volume,OI\n2024-03-01,10,12,9,11,1,1\n"
+                                 "2024-03-04,10,12,9,11s,1,1\n2024-03-05,10,12,9,11s,1,1\n");
+    EXPECT_THAT(FindingLines(read), ElementsAre("2 days with the mark s of a settlement, which is passed "
+                                                "over, the first at line 3"));
+}
+
+// A line for each day, the close of the second one with four decimals.
+std::string TableWithDecimals() {
+    std::string table = Table(30);
+    std::string const second = "2024-03-02,10,12,9,11";
+    return table.replace(table.find(second), second.size(), second + ".0625");
+}
+
+TEST(DescribeRounding, CountsDaysAndNamesTheFirstLine) {
+    auto const file = MakeQuoteFile(ImportText(TableWithDecimals()), 500);
+    EXPECT_EQ(DescribeRounding(file, "####0.00"),
+              "1 day with prices of more decimals than the Currency Format ####0.00 keeps, at line 3: the "
+              "program rounds them");
+    EXPECT_EQ(DescribeRounding(file, "####0.0000"), "");
+    EXPECT_EQ(DescribeRounding(file, ""), "");
+    EXPECT_EQ(DescribeRounding(MakeQuoteFile(ImportText(TableWithDecimals()), 28), "####0.00"), "")
+        << "the day is none of the latest";
+    auto const eighths =
+        MakeQuoteFile(ImportText(Table(28) + "2024-04-02,10,12,9.125,11\n2024-04-03,10.375,12,9,11\n"), 500);
+    EXPECT_EQ(
+        DescribeRounding(eighths, "####0.00"),
+        "2 days with prices of more decimals than the Currency Format ####0.00 keeps, the first at line "
+        "30: the program rounds them");
+}
+
+TEST(DescribeRounding, LooksAtTheTableAlone) {
+    std::string const file = QuoteText(ImportText(TableWithDecimals()).Days);
+    text::TextSource source(file);
+    auto const updated =
+        UpdateQuoteFile(source, ImportText("Date,Open,High,Low,Close\n2024-04-01,10,12,9,11\n"), false, 500);
+    EXPECT_EQ(updated.Days.size(), 31U);
+    EXPECT_EQ(DescribeRounding(updated, "####0.00"), "");
+}
+
+TEST(DescribeRounding, LeavesAFormatThatSpellsNoNumbersToTheProgram) {
+    EXPECT_EQ(DescribeRounding(MakeQuoteFile(ImportText(Table(30)), 500), "\"$\"0.00"), "");
+    EXPECT_EQ(DescribeRounding(MakeQuoteFile(ImportText(Table(3)), 500), "####0.00"), "") << "no file";
+}
+
 TEST(FindingLines, CountWhatIsTooMuch) {
     std::string table = Table(26);
     for (int row = 0; row < 1005; ++row) {

@@ -85,7 +85,9 @@ std::string FindRefusal(imports::Conversion const& table, std::int16_t row) {
 imports::Conversion Read(std::string_view text) {
     text::TextSource source(text);
     imports::TableText table(source, imports::Encoding::Utf8);
-    imports::Plan const plan = imports::MakePlan(SampleOf(table), imports::Encoding::Utf8, {});
+    imports::Choices scattered; // days that are corrected may lie weeks apart
+    scattered.TakesAnyBars = true;
+    imports::Plan const plan = imports::MakePlan(SampleOf(table), imports::Encoding::Utf8, scattered);
     return imports::ConvertTable(table.Whole(), plan, {});
 }
 

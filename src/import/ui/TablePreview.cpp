@@ -91,7 +91,8 @@ void TablePreview::ShowFindings(Conversion const& conversion) {
     }
     if (rowCount() > 0 && columnCount() > 0) {
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1),
-                           {Qt::FontRole, Qt::ToolTipRole});
+                           {Qt::FontRole, Qt::ToolTipRole, Qt::AccessibleDescriptionRole});
+        Q_EMIT headerDataChanged(Qt::Vertical, 0, rowCount() - 1);
     }
 }
 
@@ -126,10 +127,10 @@ QVariant TablePreview::data(QModelIndex const& index, int role) const {
         font.setStrikeOut(leftOut_.contains(row.Line));
         return font;
     }
-    case Qt::ToolTipRole: {
-        auto const found = leftOut_.find(row.Line);
-        return found == leftOut_.end() ? QVariant() : found->second;
-    }
+    case Qt::ToolTipRole:
+        return WhyLeftOut(row);
+    case Qt::AccessibleDescriptionRole:
+        return DescribeRow(row);
     case Qt::TextAlignmentRole:
         return QVariant::fromValue((IsNumberRole(RoleOf(index.column())) ? Qt::AlignRight : Qt::AlignLeft) |
                                    Qt::AlignVCenter);
@@ -138,12 +139,39 @@ QVariant TablePreview::data(QModelIndex const& index, int role) const {
     }
 }
 
-QVariant TablePreview::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (role != Qt::DisplayRole) {
+QVariant TablePreview::WhyLeftOut(SampleRow const& row) const {
+    auto const found = leftOut_.find(row.Line);
+    return found == leftOut_.end() ? QVariant() : found->second;
+}
+
+// What the look of the row tells.
+QVariant TablePreview::DescribeRow(SampleRow const& row) const {
+    if (headLines_.contains(row.Line)) {
+        return QStringLiteral("heading");
+    }
+    QVariant const why = WhyLeftOut(row);
+    return why.isNull() ? why : QStringLiteral("left out: ") + why.toString();
+}
+
+QVariant TablePreview::LineHeader(SampleRow const& row, int role) const {
+    switch (role) {
+    case Qt::DisplayRole:
+        return QString::number(row.Line);
+    case Qt::ToolTipRole:
+        return WhyLeftOut(row);
+    case Qt::AccessibleDescriptionRole:
+        return DescribeRow(row);
+    default:
         return {};
     }
+}
+
+QVariant TablePreview::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation == Qt::Vertical) {
-        return QString::number(RowAt(section).Line);
+        return LineHeader(RowAt(section), role);
+    }
+    if (role != Qt::DisplayRole) {
+        return {};
     }
     auto const column = static_cast<std::size_t>(section);
     QString const number = QString::number(section + 1);

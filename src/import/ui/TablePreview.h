@@ -24,7 +24,7 @@ inline constexpr int MostShownColumns = 100;
 [[nodiscard]] QColor RoleColour(Role role, QPalette const& palette);
 
 // The first rows of a table as they stand there, the columns coloured by their roles, the head bold, and rows
-// that are left out struck out, with the reason as tool tip.
+// that are left out struck out, with the reason as tool tip and for screen readers.
 class TablePreview final : public QAbstractTableModel {
     Q_OBJECT
 
@@ -50,6 +50,9 @@ public:
 
 private:
     [[nodiscard]] SampleRow const& RowAt(int row) const;
+    [[nodiscard]] QVariant WhyLeftOut(SampleRow const& row) const;
+    [[nodiscard]] QVariant DescribeRow(SampleRow const& row) const;
+    [[nodiscard]] QVariant LineHeader(SampleRow const& row, int role) const;
 
     std::shared_ptr<TableLook const> look_;
     int columns_ = 0;

@@ -4,6 +4,7 @@
 #include "import/ui/frmImport.h"
 
 #include "import/basTelling.h"
+#include "import/ui/ChoiceTexts.h"
 #include "platform/basFiles.h"
 #include "platform/basMessages.h"
 #include "platform/pictures/QtTexts.h"
@@ -30,45 +31,10 @@ using platform::pictures::ToQt;
 
 constexpr int RowHeight = 22;
 constexpr int PlanRowsShown = 9;
+constexpr int TypingPause = 400; // milliseconds, after which a date is taken for typed
 
 // What no quote file is longer than, be there a line for each day of a century.
 constexpr std::uint64_t LargestQuoteFile = 4'194'304;
-
-QString Automatic() {
-    return QStringLiteral("automatic");
-}
-
-QString FractionName(int denominator) {
-    return denominator == NoFraction ? QStringLiteral("none") : QStringLiteral("1/%1").arg(denominator);
-}
-
-// Where the user settles what a table leaves open.
-QString HowToSettle(Choice choice) {
-    switch (choice) {
-    case Choice::None:
-        return {};
-    case Choice::Encoding:
-        return QStringLiteral(" Choose another encoding.");
-    case Choice::Separator:
-        return QStringLiteral(" Choose the separator, if another one is right.");
-    case Choice::Columns:
-        return QStringLiteral(" Choose in the boxes above the table what its columns are.");
-    case Choice::DateOrder:
-        return QStringLiteral(" Choose the order under Dates.");
-    case Choice::Decimal:
-        return QStringLiteral(" Choose the decimal mark.");
-    case Choice::Fraction:
-        return QStringLiteral(" Choose the fraction.");
-    case Choice::Symbol:
-        return QStringLiteral(" Choose the contract.");
-    }
-    return {};
-}
-
-// Behind "automatic": what was found out, when it is one thing.
-QString Found(QString const& name) {
-    return name.isEmpty() ? Automatic() : Automatic() + QStringLiteral(": ") + name;
-}
 
 template <class Value>
 QString OnlyName(std::vector<Value> const& values) {
@@ -147,21 +113,35 @@ void frmImport::FillBoxes() {
     Bind(*ui_->cboDates, DateOrderChoices, &Choices::DateOrder, name);
     Bind(*ui_->cboDecimal, DecimalChoices, &Choices::Decimal, name);
     Bind(*ui_->cboFraction, FractionChoices, &Choices::Fraction, FractionName);
-    ui_->cboSymbol->addItem(Automatic());
 }
 
 void frmImport::ConnectBoxes() {
     connect(ui_->boxes, &RoleBoxes::RoleChosen, this, [this](int column, int choice) {
         ChooseRole(column, RoleChoices.at(static_cast<std::size_t>(choice)));
     });
-    connect(ui_->cboSymbol, &QComboBox::activated, this, [this](int index) { ChooseSymbol(index); });
+    connect(ui_->cboSymbol, &QComboBox::activated, this, [this](int index) {
+        chosen_.Symbol = ui_->cboSymbol->ContractAt(index);
+        StartReading();
+    });
+    connect(ui_->chkAnyBars, &QCheckBox::toggled, this, [this](bool takes) {
+        chosen_.TakesAnyBars = takes;
+        StartReading();
+    });
     connect(ui_->cmdAsFound, &QPushButton::clicked, this, [this] {
         ClearChoices();
         StartReading();
     });
     for (QLineEdit* box : {ui_->txtFrom, ui_->txtTo}) {
-        connect(box, &QLineEdit::textChanged, this, [this] { StartReading(); });
+        connect(box, &QLineEdit::textChanged, this, [this] { WaitForTyping(); });
+        connect(box, &QLineEdit::editingFinished, this, [this] {
+            if (typing_.isActive()) {
+                StartReading();
+            }
+        });
     }
+    typing_.setSingleShot(true);
+    typing_.setInterval(TypingPause);
+    connect(&typing_, &QTimer::timeout, this, [this] { StartReading(); });
     auto const prepare = [this] {
         PrepareFile();
         ShowState();
@@ -207,6 +187,7 @@ std::optional<ImportedFile> frmImport::RunModal(ImportSource const& source) {
 
 void frmImport::done(int result) {
     thread_.Stop();
+    typing_.stop();
     number_ = 0;
     source_ = {};
     look_.reset();
@@ -220,10 +201,13 @@ void frmImport::done(int result) {
 void frmImport::ClearChoices() {
     chosen_ = {};
     roles_.clear();
-    for (QComboBox* box : {ui_->cboEncoding, ui_->cboSeparator, ui_->cboDates, ui_->cboDecimal,
-                           ui_->cboFraction, ui_->cboSymbol}) {
+    for (QComboBox* box :
+         {ui_->cboEncoding, ui_->cboSeparator, ui_->cboDates, ui_->cboDecimal, ui_->cboFraction}) {
         box->setCurrentIndex(0);
     }
+    ui_->cboSymbol->Offer({}, std::nullopt);
+    QSignalBlocker const bars(ui_->chkAnyBars);
+    ui_->chkAnyBars->setChecked(false);
 }
 
 void frmImport::ChooseRole(int column, Role role) {
@@ -246,11 +230,6 @@ void frmImport::TakeRoles() {
     }
 }
 
-void frmImport::ChooseSymbol(int index) {
-    chosen_.Symbol = index == 0 ? std::string() : FromQt(ui_->cboSymbol->itemText(index));
-    StartReading();
-}
-
 bool frmImport::TakeLimits(Limits& limits) {
     struct Box {
         QLineEdit const& Edit;
@@ -265,10 +244,25 @@ bool frmImport::TakeLimits(Limits& limits) {
             return false;
         }
     }
+    if (limits.From && limits.To && *limits.From > *limits.To) {
+        fault_ = "From " + text::FormatDate(*limits.From) + " lies behind To " +
+                 text::FormatDate(*limits.To) + ".";
+        return false;
+    }
     return true;
 }
 
+// A date that is being typed is none yet, and each key would begin the reading anew.
+void frmImport::WaitForTyping() {
+    fault_.clear();
+    read_.reset();
+    ui_->prgImport->setValue(0);
+    typing_.start();
+    EndReading();
+}
+
 void frmImport::StartReading() {
+    typing_.stop();
     fault_.clear();
     read_.reset();
     TakeRoles();
@@ -312,7 +306,7 @@ void frmImport::Take(TableNews const& news) {
     if (read_) {
         preview_->ShowFindings(*read_);
         ShowChoices(read_->Used);
-        ShowSymbols();
+        ui_->cboSymbol->Offer(read_->Symbols, chosen_.Symbol);
     }
     if (news.Fault) {
         platform::qt::RunGuarded(*this, [&] {
@@ -387,21 +381,6 @@ void frmImport::ShowChoices(Plan const& plan) {
     ui_->cboDecimal->setItemText(0, Found(chosen_.Decimal ? QString() : OnlyName(plan.Decimals)));
 }
 
-void frmImport::ShowSymbols() {
-    QComboBox& box = *ui_->cboSymbol;
-    QString const chosen = ToQt(chosen_.Symbol);
-    box.clear();
-    box.addItem(
-        Found(chosen.isEmpty() && read_->Symbols.size() == 1 ? ToQt(read_->Symbols.front()) : QString()));
-    for (std::string const& symbol : read_->Symbols) {
-        box.addItem(ToQt(symbol));
-    }
-    if (!chosen.isEmpty() && box.findText(chosen) < 0) {
-        box.addItem(chosen);
-    }
-    box.setCurrentIndex(chosen.isEmpty() ? 0 : box.findText(chosen));
-}
-
 void frmImport::ShowState() {
     ui_->lblResult->setText(ResultText());
     findings_.setStringList(FindingTexts());
@@ -409,7 +388,7 @@ void frmImport::ShowState() {
 }
 
 QString frmImport::ResultText() const {
-    if (number_ != 0) {
+    if (IsReading()) {
         return QStringLiteral("Reading...");
     }
     if (!read_) {
@@ -442,6 +421,13 @@ QStringList frmImport::FindingTexts() const {
     for (std::string const& line : FindingLines(*read_)) {
         texts.append(ToQt(line));
     }
+    for (auto const* file : {&made_, &updated_}) {
+        std::string const rounding =
+            *file ? DescribeRounding(**file, settings_.CurrencyFormat) : std::string();
+        if (!rounding.empty() && !texts.contains(ToQt(rounding))) {
+            texts.append(ToQt(rounding));
+        }
+    }
     if (preview_->ColumnsInAll() > MostShownColumns) {
         texts.append(QStringLiteral("Of %1 columns the first %2 are shown")
                          .arg(preview_->ColumnsInAll())
@@ -460,7 +446,7 @@ bool frmImport::CanUpdate() const {
 
 // While a table is read Enter writes nothing.
 void frmImport::ShowButtons() {
-    bool const isReading = number_ != 0;
+    bool const isReading = IsReading();
     ui_->prgImport->setVisible(isReading);
     ui_->cmdCancel->setVisible(isReading);
     ui_->cmdClose->setVisible(!isReading);

@@ -15,6 +15,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QStringListModel>
+#include <QTimer>
 #include <memory>
 #include <optional>
 #include <string>
@@ -61,11 +62,15 @@ private:
     void ClearChoices();
     void ChooseRole(int column, Role role);
     void TakeRoles();
-    void ChooseSymbol(int index);
 
     // Reads the table by the choices.
     void StartReading();
+    void WaitForTyping();
     void EndReading();
+
+    // Or about to begin.
+    [[nodiscard]] bool IsReading() const { return number_ != 0 || typing_.isActive(); }
+
     void Take(TableNews const& news);
     [[nodiscard]] bool TakeLimits(Limits& limits);
 
@@ -77,7 +82,6 @@ private:
 
     void ShowPlan(Plan const& plan);
     void ShowChoices(Plan const& plan);
-    void ShowSymbols();
     void ShowState();
     void ShowButtons();
     [[nodiscard]] QString ResultText() const;
@@ -106,6 +110,7 @@ private:
     std::optional<QuoteFile> updated_;       // of the table and the file of the name, when there is one
     std::string fault_;                      // why the table could not be read
     std::string updateFault_;                // why that file cannot be brought up to date
+    QTimer typing_;                          // runs while a date is being typed
     int number_ = 0;                         // of the reading whose news count, 0 when none does
     std::optional<ImportedFile> imported_;
     std::unique_ptr<Ui::frmImport> ui_;

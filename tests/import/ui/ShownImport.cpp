@@ -27,6 +27,7 @@ public:
         : bytes_(std::move(bytes)),
           files_(files) {
         ++files_.OpenCount;
+        ++files_.OpenedInAll;
     }
 
     ~SlowSource() override { --files_.OpenCount; }

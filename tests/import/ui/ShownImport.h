@@ -57,6 +57,7 @@ public:
 
     std::atomic<bool> IsSlow = false;
     mutable std::atomic<int> OpenCount = 0; // sources that are not closed yet
+    mutable std::atomic<int> OpenedInAll = 0;
 
 private:
     platform::disk::DiskFiles files_;

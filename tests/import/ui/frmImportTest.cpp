@@ -4,13 +4,17 @@
 #include "import/ui/frmImport.h"
 
 #include "import/basTelling.h"
+#include "import/ui/ContractBox.h"
 #include "import/ui/ShownImport.h"
 #include "platform/pictures/QtTexts.h"
 #include "support/Messages.h"
 #include "support/ShortestOf.h"
 #include "windows/WindowTest.h"
 
+#include <QAbstractItemView>
+#include <QAccessible>
 #include <QCheckBox>
+#include <QDate>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
@@ -300,6 +304,51 @@ private Q_SLOTS:
         QVERIFY(shown.Folder.Read("wheat.txt").starts_with("02/01/24, 20.00, 22.00, 19.00, 21.00, 0, 0"));
     }
 
+    static std::string TwoContracts(std::string const& one, std::string const& other) {
+        std::string table = "Symbol,Date,Open,High,Low,Close\n";
+        for (int day = 1; day <= 28; ++day) {
+            std::string const date = ",2024-02-" + std::to_string(100 + day).substr(1);
+            table.append(one).append(date).append(",10,12,9,11\n");
+            table.append(other).append(date).append(",20,22,19,21\n");
+        }
+        return table;
+    }
+
+    void AContractWithoutANameIsChosen() {
+        ShownImport shown;
+        shown.Run("wheat.csv", TwoContracts("ZWH24", ""), [&] {
+            QCOMPARE(shown.Result(),
+                     u"There are several contracts: ZWH24, one without a name. Choose the contract."_s);
+            shown.Choose(u"cboSymbol"_s, u"(without a name)"_s);
+            QCOMPARE(shown.Chosen(u"cboSymbol"_s), u"(without a name)"_s);
+            QVERIFY(shown.Findings().contains(u"28 rows of other contracts"_s));
+            shown.Press("cmdImport");
+        });
+        QVERIFY(shown.Folder.Read("wheat.txt").starts_with("02/01/24, 20.00, 22.00, 19.00, 21.00, 0, 0"));
+    }
+
+    // A reading that ends meanwhile must not close it, nor change what an entry stands for.
+    void TheListOfContractsStaysAsItIsWhileItIsOpen() {
+        ShownImport shown;
+        shown.Run("wheat.csv", TwoContracts("ZWH24", "ZWK24"), [&] {
+            auto& box = shown.Find<imports::ui::ContractBox>(u"cboSymbol"_s);
+            box.showPopup();
+            QTRY_VERIFY(box.view()->isVisible());
+            box.Offer({"ZWN24"}, "ZWN24");
+            QVERIFY(box.view()->isVisible());
+            QCOMPARE(box.count(), 3);
+            QCOMPARE(box.itemText(2), u"ZWK24"_s);
+            QTest::keyClick(box.view(), Qt::Key_Down);
+            QTest::keyClick(box.view(), Qt::Key_Return);
+            QTRY_VERIFY(!box.view()->isVisible());
+            QVERIFY(shown.WaitForEnd());
+            QTRY_COMPARE(box.currentText(), u"ZWH24"_s);
+            QCOMPARE(box.ContractAt(box.currentIndex()), std::optional<std::string>("ZWH24"));
+            QVERIFY(shown.Can("cmdImport"));
+            QCOMPARE(box.count(), 3);
+        });
+    }
+
     void WhatIsLeftOutIsTold() {
         ShownImport shown;
         shown.Run("wheat.csv", TableHead + "2024-07-01,10,9,11,10,5\nthe end,,,,,\n" + TableRows(30), [&] {
@@ -313,6 +362,17 @@ private Q_SLOTS:
             QVERIFY(model.index(1, 0).data(Qt::FontRole).value<QFont>().strikeOut());
             QCOMPARE(model.index(1, 3).data(Qt::ToolTipRole).toString(), u"the high is below the low"_s);
             QVERIFY(!model.index(3, 0).data(Qt::FontRole).value<QFont>().strikeOut());
+            // What screen readers say of it.
+            QString const why = u"left out: the high is below the low"_s;
+            QCOMPARE(model.index(0, 1).data(Qt::AccessibleDescriptionRole).toString(), u"heading"_s);
+            QCOMPARE(model.index(1, 3).data(Qt::AccessibleDescriptionRole).toString(), why);
+            QVERIFY(model.index(3, 0).data(Qt::AccessibleDescriptionRole).isNull());
+            QCOMPARE(model.headerData(1, Qt::Vertical, Qt::AccessibleDescriptionRole).toString(), why);
+            QCOMPARE(model.headerData(1, Qt::Vertical, Qt::ToolTipRole).toString(),
+                     u"the high is below the low"_s);
+            QAccessibleInterface* table =
+                QAccessible::queryAccessibleInterface(&shown.Find<QTableView>(u"tblTable"_s));
+            QCOMPARE(table->tableInterface()->cellAt(1, 0)->text(QAccessible::Description), why);
         });
     }
 
@@ -479,6 +539,7 @@ private Q_SLOTS:
                      qPrintable(shown.Result()));
             QVERIFY(shown.Findings().contains(u"15 rows outside of the days asked for"_s));
             shown.TypeInto("txtTo", u"soon"_s);
+            QVERIFY(shown.WaitForEnd());
             QCOMPARE(shown.Result(), u"soon is no date such as 01/31/24."_s);
             QVERIFY(!shown.Can("cmdImport"));
             shown.TypeInto("txtTo", u"04/16/24"_s);
@@ -490,6 +551,82 @@ private Q_SLOTS:
         // The next table begins without them.
         shown.Run("corn.csv", TableHead + TableRows(60),
                   [&] { QVERIFY(shown.Find<QLineEdit>(u"txtTo"_s).text().isEmpty()); });
+    }
+
+    void FromBehindToIsRefused() {
+        ShownImport shown;
+        shown.Run("wheat.csv", TableHead + TableRows(60), [&] {
+            shown.TypeInto("txtFrom", u"06/14/24"_s);
+            shown.TypeInto("txtTo", u"06/13/24"_s);
+            QVERIFY(shown.WaitForEnd());
+            QCOMPARE(shown.Result(), u"From 06/14/24 lies behind To 06/13/24."_s);
+            QVERIFY(!shown.Can("cmdImport"));
+            shown.TypeInto("txtTo", u"06/14/24"_s);
+            QVERIFY(shown.WaitForEnd());
+            QVERIFY2(shown.Result().contains(u"1 day, 06/14/24 to 06/14/24."), qPrintable(shown.Result()));
+        });
+    }
+
+    // Not at each key: the table may be large, and half a date is none.
+    void ADateIsTakenOnceItIsTyped() {
+        ShownImport shown;
+        shown.Run("wheat.csv", TableHead + TableRows(60), [&] {
+            int const before = shown.Files.OpenedInAll;
+            shown.TypeInto("txtFrom", u"04/15/2024"_s);
+            QCOMPARE(shown.Result(), u"Reading..."_s);
+            QVERIFY(!shown.Can("cmdImport"));
+            shown.PressKey(Qt::Key_Return);
+            QVERIFY(shown.Window->isVisible());
+            QVERIFY(shown.WaitForEnd());
+            QCOMPARE(shown.Files.OpenedInAll - before, 1);
+            QVERIFY(shown.Result().contains(u"Quote file: 55 days, 04/15/24 to 06/28/24."));
+            shown.TypeInto("txtFrom", u"04/16/2024"_s);
+            shown.PressKey(Qt::Key_Tab); // has ended typing
+            QTRY_COMPARE(shown.Files.OpenedInAll - before, 2);
+            QVERIFY(shown.WaitForEnd());
+            QVERIFY(shown.Result().contains(u"Quote file: 54 days, 04/16/24 to 06/28/24."));
+            QTest::qWait(500);
+            QCOMPARE(shown.Files.OpenedInAll - before, 2);
+        });
+    }
+
+    void RowsOfWeeksAreTakenOnlyOnRequest() {
+        ShownImport shown;
+        std::string table = "Date,Open,High,Low,Close\n";
+        QDate const first(2023, 1, 6);
+        for (int week = 0; week < 30; ++week) {
+            table += first.addDays(7 * week).toString(Qt::ISODate).toStdString() + ",10,12,9,11\n";
+        }
+        shown.Run("wheat.csv", table, [&] {
+            QCOMPARE(shown.Result(),
+                     u"The rows look weekly, not daily: the median distance of the days is 7. Tick \"Rows of "
+                     u"weeks or months, too\" to take each row for a day."_s);
+            QVERIFY(!shown.Can("cmdImport"));
+            shown.PressKey(Qt::Key_W, Qt::AltModifier);
+            QTRY_VERIFY(shown.Can("cmdImport"));
+            QVERIFY(shown.Findings().contains(
+                u"The rows look weekly, not daily: the median distance of the days is 7"_s));
+            shown.Press("cmdAsFound");
+            QVERIFY(shown.WaitForEnd());
+            QVERIFY(!shown.Find<QCheckBox>(u"chkAnyBars"_s).isChecked());
+            QVERIFY(!shown.Can("cmdImport"));
+            shown.PressKey(Qt::Key_W, Qt::AltModifier);
+            QTRY_VERIFY(shown.Can("cmdImport"));
+        });
+        shown.Run("corn.csv", table, [&] { QVERIFY(!shown.Find<QCheckBox>(u"chkAnyBars"_s).isChecked()); });
+    }
+
+    void PricesThatTheCurrencyFormatRoundsAreTold() {
+        ShownImport shown;
+        shown.Settings.CurrencyFormat = "####0.0";
+        shown.Run("wheat.csv", TableHead + TableRows(60), [&] {
+            QVERIFY(shown.Findings().contains(
+                u"60 days with prices of more decimals than the Currency Format ####0.0 keeps, the first at "
+                u"line 2: the program rounds them"_s));
+            shown.Settings.CurrencyFormat = "####0.00";
+            shown.Find<QSpinBox>(u"spnDays"_s).setValue(100);
+            QCOMPARE(shown.Findings(), QStringList(u"60 days without open interest, which is 0"_s));
+        });
     }
 
     void TheLatestDaysAreTaken() {
@@ -629,14 +766,15 @@ private Q_SLOTS:
         ShownImport shown;
         shown.Run("wheat.csv", TableHead + TableRows(60), [&] {
             QStringList names;
-            for (int step = 0; step < 26; ++step) {
+            for (int step = 0; step < 27; ++step) {
                 names.append(QApplication::focusWidget()->objectName());
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             }
             QCOMPARE(
                 names.join(u' '),
                 u"txtQuoteFile cmdBrowse txtFrom txtTo spnDays cmdImport cmdClose tblPlan cboEncoding "
-                u"cboSeparator cboDates cboDecimal cboFraction cboSymbol cmdAsFound cboRole_1 cboRole_2 "
+                u"cboSeparator cboDates cboDecimal cboFraction cboSymbol chkAnyBars cmdAsFound cboRole_1 "
+                u"cboRole_2 "
                 u"cboRole_3 cboRole_4 cboRole_5 cboRole_6 tblTable lstFindings txtQuoteFile cmdBrowse txtFrom"_s);
         });
     }
