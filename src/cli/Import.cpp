@@ -276,9 +276,11 @@ void AddChoices(CLI::App& command, ImportOptions& options) {
                     "symbol, not-used), or some of them by heading or number: close=Last,volume=7")
         ->type_name("LIST")
         ->check(IsColumnList());
+    // Not as an optional text, which would be none when it is empty.
     command
-        .add_option("--symbol", options.Chosen.Symbol,
-                    "Contract to take, where there are several, \"\" for the one without a name")
+        .add_option_function<std::string>(
+            "--symbol", [&options](std::string const& name) { options.Chosen.Symbol = name; },
+            "Contract to take, where there are several, \"\" for the one without a name")
         ->type_name("NAME");
     command.add_flag("--any-bars", options.Chosen.TakesAnyBars,
                      "Take rows of weeks or months, too, each for a day");

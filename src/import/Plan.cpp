@@ -13,7 +13,9 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <span>
+#include <utility>
 
 namespace quorvex::imports {
 
@@ -227,9 +229,8 @@ bool AreInOrder(std::vector<std::string_view> const& cells, DateOrder order) {
 
 bool AreOfEachDay(std::vector<std::string_view> const& cells, DateOrder order) {
     std::vector<text::CalendarDay> days;
-    for (std::string_view const cell : cells) {
-        days.push_back(ReadTableDay(cell, order)->Day);
-    }
+    std::ranges::transform(cells, std::back_inserter(days),
+                           [&](std::string_view cell) { return ReadTableDay(cell, order)->Day; });
     int const apart = MedianDistance(std::move(days));
     return apart > 0 && apart <= MostOfDaily;
 }
@@ -265,7 +266,8 @@ std::string SettleYearFirst(std::vector<DateOrder>& orders, std::vector<std::str
 // Of orders in which all dates mean the same one is enough: that in which they are written.
 void DropEqualOrders(std::vector<DateOrder>& orders, std::vector<std::string_view> const& cells) {
     if (auto const written = cells.empty() ? std::nullopt : OrderAsWritten(cells.front())) {
-        std::ranges::stable_partition(orders, [&](DateOrder order) { return order == *written; });
+        std::stable_partition(orders.begin(), orders.end(),
+                              [&](DateOrder order) { return order == *written; });
     }
     for (std::size_t kept = 0; kept < orders.size(); ++kept) {
         auto const isSame = [&](DateOrder order) { return MeanTheSame(cells, orders[kept], order); };

@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -23,6 +24,12 @@ struct Field {
     std::string_view Text; // without the blanks around it and without its quotation marks
     bool WasQuoted = false;
 };
+
+// The text of the field, empty when there is none at this place.
+[[nodiscard]] inline std::string_view TextAt(std::span<Field const> fields,
+                                             std::optional<std::size_t> column) {
+    return column && *column < fields.size() ? fields[*column].Text : std::string_view();
+}
 
 // Takes the records of a text one by one, quoted as in RFC 4180: a field that starts with `"` runs to the
 // next single `"`, separators and line ends included, and two of them stand for one. A record ends at CR LF,

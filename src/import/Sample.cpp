@@ -93,9 +93,8 @@ std::optional<Finding> WhyNoQuotes(Sample const& sample) {
 // The same under any separator, those first that separate nothing else.
 std::optional<Finding> FindNearlyQuotes(std::string_view text, std::optional<Separator> chosen) {
     for (Separator const separator : Separators) {
-        auto const why = chosen && separator != *chosen
-                             ? std::nullopt
-                             : WhyNoQuotes(SplitRows(text, true, separator, ScoredRows));
+        auto why = chosen && separator != *chosen ? std::nullopt
+                                                  : WhyNoQuotes(SplitRows(text, true, separator, ScoredRows));
         if (why) {
             return why;
         }

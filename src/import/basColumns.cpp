@@ -101,6 +101,8 @@ public:
     [[nodiscard]] std::optional<Refusal> RequireAll() const;
 
 private:
+    [[nodiscard]] std::optional<Refusal> FindOpenFraction() const;
+
     [[nodiscard]] ColumnPlan& Column(std::size_t index) { return plan_.Columns[index]; }
 
     [[nodiscard]] bool IsFree(std::size_t column) const {
@@ -488,9 +490,30 @@ void RoleFinder::FindNames(bool hasHead) {
     }
 }
 
+// As long as it is not told what 118-16 is, its column looks like none of prices.
+std::optional<Refusal> RoleFinder::FindOpenFraction() const {
+    FigureForm form;
+    form.IsPrice = true;
+    form.Fraction = plan_.Fraction.value_or(form.Fraction);
+    for (SampleRow const& row : rows_) {
+        auto const found = std::ranges::find_if(
+            row.Cells, [&](std::string const& cell) { return ReadFigure(cell, form).NeedsFraction; });
+        if (found != row.Cells.end()) {
+            constexpr std::size_t MostShown = 40;
+            return Refusal{
+                {row.Line, "\"" + Shown(*found, MostShown) + "\" is a fraction of a kind that is not told"},
+                Choice::Fraction};
+        }
+    }
+    return std::nullopt;
+}
+
 std::optional<Refusal> RoleFinder::RequireAll() const {
     for (Role const role : {Role::Date, Role::Open, Role::High, Role::Low, Role::Close}) {
         if (!plan_.Find(role)) {
+            if (auto refusal = FindOpenFraction()) {
+                return refusal;
+            }
             return Refusal{{0, "No column is the " + std::string(NameOf(role))}, Choice::Columns};
         }
     }

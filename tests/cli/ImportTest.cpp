@@ -134,9 +134,9 @@ TEST(Import, TakesRowsOfWeeksOnlyOnRequest) {
         RunCompanion({"import", "-", "-o", "-", "--any-bars"}, table).Errors,
         "quorvex-cli: standard input: The rows look weekly, not daily: the median distance of the days is "
         "7\n");
-    auto const json =
+    auto const told =
         nlohmann::json::parse(RunCompanion({"import", "-", "--any-bars", "--json"}, table).Output);
-    EXPECT_EQ(json["Rows"]["DaysApart"], 7);
+    EXPECT_EQ(told["Rows"]["DaysApart"], 7);
 }
 
 TEST(Import, TellsOfPricesThatTheProgramRounds) {
@@ -151,9 +151,9 @@ TEST(Import, TellsOfPricesThatTheProgramRounds) {
     EXPECT_EQ(RunCompanion({"import", "-", "-o", "-"}, table).Errors,
               "quorvex-cli: standard input: " + rounding);
     EXPECT_FALSE(Has(RunCompanion({"import", "-", "--format", "0.0000"}, table).Output, "rounds them"));
-    auto const json = nlohmann::json::parse(RunCompanion({"import", "-", "--json"}, table).Output);
-    EXPECT_EQ(json["Rounded"], (nlohmann::json{{"Count", 1}, {"FirstLine", 32}}));
-    EXPECT_EQ(json["Rows"]["WithSettlementMark"], (nlohmann::json{{"Count", 1}, {"FirstLine", 32}}));
+    auto const told = nlohmann::json::parse(RunCompanion({"import", "-", "--json"}, table).Output);
+    EXPECT_EQ(told["Rounded"], (nlohmann::json{{"Count", 1}, {"FirstLine", 32}}));
+    EXPECT_EQ(told["Rows"]["WithSettlementMark"], (nlohmann::json{{"Count", 1}, {"FirstLine", 32}}));
 }
 
 TEST(Import, TakesTheContractWithoutAName) {
@@ -240,8 +240,8 @@ TEST(Import, LeavesTheQuoteFileWhenAnythingIsRefused) {
     auto const run =
         RunCompanion({"import", "-", "--into", quotes}, Head + Rows(31, 2) + "2019-10-31,5,6,4,5,1,2\n");
     EXPECT_EQ(run.ExitStatus, 1);
-    EXPECT_EQ(run.Errors,
-              "quorvex-cli: standard input: Line 4: The day of line 2 again with other figures\n");
+    EXPECT_EQ(run.Errors, "quorvex-cli: standard input: Line 4: The day of line 2 again with other figures: "
+                          "take one of both rows out\n");
     EXPECT_EQ(folder.Read("quotes.txt"), ImportedLines(1, 30));
     EXPECT_EQ(RunCompanion({"import", "-", "--into", folder.File("gone.txt")}, Head + Rows(1, 30)).Errors,
               "quorvex-cli: " + folder.File("gone.txt") + ": File not found\n");

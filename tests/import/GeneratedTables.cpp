@@ -48,6 +48,7 @@ constexpr auto DateForms = std::to_array<DateForm>({
     {"D.M.Y", DateOrder::DayMonthYear},
     {"D.M.y", DateOrder::DayMonthYear},
     {"D-N-y", DateOrder::DayMonthYear},
+    {"y-N-D", DateOrder::YearMonthDay},
     {"N D, Y", DateOrder::MonthDayYear},
     {"W D. N Y", DateOrder::DayMonthYear},
     {"U", DateOrder::YearMonthDay},

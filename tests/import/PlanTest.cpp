@@ -255,6 +255,16 @@ TEST(Plan, TellsThatMarksOfSettlementsArePassedOver) {
     EXPECT_EQ(plan.Columns[3].Reason, "heading");
 }
 
+TEST(Plan, AsksForTheFractionWhereItHidesThePrices) {
+    std::string_view const table = "2019-10-29,118-16,118-20,118-10,118-12\n";
+    auto const plan = PlanOf(table);
+    EXPECT_EQ(RefusalText(plan), "\"118-16\" is a fraction of a kind that is not told");
+    EXPECT_EQ(plan.Refused->SettledBy, Choice::Fraction);
+    Choices choices;
+    choices.Fraction = 32;
+    EXPECT_EQ(RolesOf(PlanOf(table, choices)), "DOHLC");
+}
+
 TEST(Plan, TellsWhatIsNoNumberInARowThatIsNearlyOne) {
     auto const plan = PlanOf("Date;Open;High;Low;Close\n2019-10-29;401.5x;404.25x;399.75x;403x\n");
     EXPECT_EQ(RefusalText(plan), "No row with a date and four prices was found: \"401.5x\" is no number");

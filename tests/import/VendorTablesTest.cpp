@@ -173,7 +173,7 @@ TEST(VendorTables, VolumeInLinesOfItsOwn) {
     EXPECT_EQ(ImportText(table).WithoutVolume, 1U);
     EXPECT_EQ(ImportText(table).Notes.Count, 1U) << "the volume of all months";
     EXPECT_EQ(RefusalOf(ImportText(table + "W,h2020,10/30/2019,19871,121940,31300\r\n")),
-              "7: The day of line 6 again with other figures");
+              "7: The day of line 6 again with other figures: take one of both rows out");
 }
 
 TEST(VendorTables, TotalsOfAllContracts) {
@@ -218,17 +218,17 @@ TEST(VendorTables, RefusesRowsOfLessThanADay) {
     EXPECT_EQ(RefusalOf(ImportText("Date,Time,Open,High,Low,Close\n"
                                    "2019-10-29,09:30,401.5,404.25,399.75,403\n"
                                    "2019-10-29,09:35,403.25,405,401.25,401.5\n")),
-              "3: The day of line 2 again at another time: rows of less than a day");
+              "3: The day of line 2 again at another time: rows of less than a day. Download daily ones");
     EXPECT_EQ(RefusalOf(ImportText("2019-10-29 09:30,401.5,404.25,399.75,403\n"
                                    "2019-10-29 09:35,403.25,405,401.25,401.5\n")),
-              "2: The day of line 1 again at another time: rows of less than a day");
+              "2: The day of line 1 again at another time: rows of less than a day. Download daily ones");
     EXPECT_EQ(RefusalOf(ImportText("1572307200,401.5,404.25,399.75,403\n"
                                    "1572310800,401.5,404.25,399.75,403\n")),
-              "2: The day of line 1 again at another time: rows of less than a day");
+              "2: The day of line 1 again at another time: rows of less than a day. Download daily ones");
     EXPECT_EQ(RefusalOf(ImportText("2019-10-29,0930,401.5,404.25,399.75,403\n"
                                    "2019-10-29,0935,401.5,404.25,399.75,403\n"
                                    "2019-10-29,0940,401.5,404.25,399.75,403\n")),
-              "2: The day of line 1 again at another time: rows of less than a day");
+              "2: The day of line 1 again at another time: rows of less than a day. Download daily ones");
 }
 
 } // namespace

@@ -86,7 +86,7 @@ TEST(Conversion, ListsLinesThatAreNoRows) {
 TEST(Conversion, RefusesASecondTableUnderAnotherHead) {
     EXPECT_EQ(RefusalOf(ImportText(Table("2019-10-28,5,6,4,5.5,1\nDate,Close,High,Low,Open,Volume\n"
                                          "2019-10-29,5,6,4,5.5,1\n"))),
-              "3: Another head stands here: the table is several ones");
+              "3: Another head stands here: the table is several ones. Make a file of each");
 }
 
 TEST(Conversion, SortsAnyOrderAndTellsIt) {
@@ -107,7 +107,7 @@ TEST(Conversion, TakesTheSameDayOnceWhenItSaysTheSame) {
     EXPECT_EQ(conversion.Days.size(), 1U);
     EXPECT_EQ(conversion.RepeatCount, 1U);
     EXPECT_EQ(RefusalOf(ImportText(Table("2019-10-28,5,6,4,5.5,1\n2019-10-28,5,6,4,5.25,1\n"))),
-              "3: The day of line 2 again with other figures");
+              "3: The day of line 2 again with other figures: take one of both rows out");
 }
 
 TEST(Conversion, TakesTheDaysThatAreAskedFor) {
@@ -223,7 +223,7 @@ TEST(Conversion, RefusesTimesThatShiftTheDays) {
         midnights += date + " 00:00:00,5,6,4,5.5,1\n";
     }
     std::string const refusal = "2: The dates with their times are Sundays to Thursdays: in the zone of the "
-                                "market each of them is the day behind";
+                                "market each of them is the day behind. Download dates without times";
     EXPECT_EQ(RefusalOf(ImportText(evenings)), refusal);
     EXPECT_EQ(RefusalOf(ImportText(seconds)), refusal);
     EXPECT_EQ(RefusalOf(ImportText(midnights)), "") << "a market that trades on Sundays";

@@ -11,9 +11,9 @@
 
 namespace quorvex::imports::ui {
 
-using platform::pictures::ToQt;
-
 namespace {
+
+using platform::pictures::ToQt;
 
 QString EntryOf(std::string const& contract) {
     return contract.empty() ? QStringLiteral("(without a name)") : ToQt(contract);

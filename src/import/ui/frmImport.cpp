@@ -19,7 +19,6 @@
 #include <QSignalBlocker>
 #include <algorithm>
 #include <exception>
-#include <set>
 #include <utility>
 
 namespace quorvex::imports::ui {
@@ -32,9 +31,6 @@ using platform::pictures::ToQt;
 constexpr int RowHeight = 22;
 constexpr int PlanRowsShown = 9;
 constexpr int TypingPause = 400; // milliseconds, after which a date is taken for typed
-
-// What no quote file is longer than, be there a line for each day of a century.
-constexpr std::uint64_t LargestQuoteFile = 4'194'304;
 
 template <class Value>
 QString OnlyName(std::vector<Value> const& values) {
@@ -100,7 +96,7 @@ void frmImport::Bind(QComboBox& box, Values const& values, std::optional<Value> 
         chosen_.*choice =
             index == 0 ? std::nullopt : std::optional<Value>(values.at(static_cast<std::size_t>(index - 1)));
         if (&box == ui_->cboSeparator || &box == ui_->cboEncoding) {
-            roles_.clear(); // the columns are others now
+            roles_.Clear(); // the columns are others now
         }
         StartReading();
     });
@@ -117,7 +113,8 @@ void frmImport::FillBoxes() {
 
 void frmImport::ConnectBoxes() {
     connect(ui_->boxes, &RoleBoxes::RoleChosen, this, [this](int column, int choice) {
-        ChooseRole(column, RoleChoices.at(static_cast<std::size_t>(choice)));
+        roles_.Choose(column, RoleChoices.at(static_cast<std::size_t>(choice)));
+        StartReading();
     });
     connect(ui_->cboSymbol, &QComboBox::activated, this, [this](int index) {
         chosen_.Symbol = ui_->cboSymbol->ContractAt(index);
@@ -192,15 +189,14 @@ void frmImport::done(int result) {
     source_ = {};
     look_.reset();
     read_.reset();
-    made_.reset();
-    updated_.reset();
+    prepared_.Clear();
     preview_->Show({});
     QDialog::done(result);
 }
 
 void frmImport::ClearChoices() {
     chosen_ = {};
-    roles_.clear();
+    roles_.Clear();
     for (QComboBox* box :
          {ui_->cboEncoding, ui_->cboSeparator, ui_->cboDates, ui_->cboDecimal, ui_->cboFraction}) {
         box->setCurrentIndex(0);
@@ -208,26 +204,6 @@ void frmImport::ClearChoices() {
     ui_->cboSymbol->Offer({}, std::nullopt);
     QSignalBlocker const bars(ui_->chkAnyBars);
     ui_->chkAnyBars->setChecked(false);
-}
-
-void frmImport::ChooseRole(int column, Role role) {
-    std::erase_if(roles_, [column](ChosenRole const& chosen) { return chosen.Column == column; });
-    roles_.insert(roles_.begin(), {column, role});
-    StartReading();
-}
-
-// Of two columns that the user gave a role which only one can have, the one that got it last has it. The
-// other one has it again when that becomes something else, as it does while keys go through the entries of
-// its box.
-void frmImport::TakeRoles() {
-    chosen_.Columns.clear();
-    std::set<Role> taken;
-    for (ChosenRole const& chosen : roles_) {
-        bool const isShared = chosen.Is == Role::Unused || chosen.Is == Role::Symbol;
-        if (isShared || taken.insert(chosen.Is).second) {
-            chosen_.Columns.push_back({std::to_string(chosen.Column + 1), chosen.Is});
-        }
-    }
 }
 
 bool frmImport::TakeLimits(Limits& limits) {
@@ -265,7 +241,7 @@ void frmImport::StartReading() {
     typing_.stop();
     fault_.clear();
     read_.reset();
-    TakeRoles();
+    chosen_.Columns = roles_.Columns();
     ui_->prgImport->setValue(0);
     Limits limits;
     if (TakeLimits(limits)) {
@@ -328,33 +304,13 @@ void frmImport::OrderTabs() {
 }
 
 void frmImport::PrepareFile() {
-    made_.reset();
-    updated_.reset();
-    updateFault_.clear();
     if (!read_ || read_->Refused) {
+        prepared_.Clear();
         return;
     }
-    made_ = MakeQuoteFile(*read_, static_cast<std::size_t>(ui_->spnDays->value()));
-    std::string const path = TargetPath();
-    if (!made_->Days.empty() && quotes::IsQuoteFileName(platform::BareName(path)) &&
-        platform::IsThere(files_, path)) {
-        PrepareUpdate(path);
-    }
-}
-
-void frmImport::PrepareUpdate(std::string const& path) {
-    auto const fault = text::Trap([&] {
-        if (files_.Length(path) > LargestQuoteFile) {
-            updateFault_ = "it is too long for a quote file";
-            return;
-        }
-        auto const bytes = files_.OpenForInput(path);
-        updated_ = UpdateQuoteFile(*bytes, *read_, ui_->chkReplace->isChecked(),
-                                   static_cast<std::size_t>(ui_->spnDays->value()));
-    });
-    if (fault) {
-        updateFault_ = fault->Description();
-    }
+    prepared_.Prepare(
+        *read_, {TargetPath(), static_cast<std::size_t>(ui_->spnDays->value()), ui_->chkReplace->isChecked()},
+        files_);
 }
 
 void frmImport::ShowPlan(Plan const& plan) {
@@ -394,18 +350,9 @@ QString frmImport::ResultText() const {
     if (!read_) {
         return ToQt(fault_);
     }
-    QString text = ToQt(DescribeConversion(*read_));
-    if (read_->Refused) {
-        return text + HowToSettle(read_->Refused->SettledBy);
-    }
-    text += QStringLiteral("\nQuote file: ") + ToQt(DescribeQuoteFile(*made_));
-    std::string const name(platform::BareName(TargetPath()));
-    if (updated_) {
-        text += u'\n' + ToQt(DescribeUpdate(*updated_, name, ui_->chkReplace->isChecked()));
-    } else if (!updateFault_.empty()) {
-        text += u'\n' + ToQt(name + " cannot be brought up to date: " + updateFault_ + ".");
-    }
-    return text;
+    QString const text = ToQt(DescribeConversion(*read_));
+    return read_->Refused ? text + HowToSettle(read_->Refused->SettledBy)
+                          : text + u'\n' + ToQt(prepared_.Describe());
 }
 
 QStringList frmImport::FindingTexts() const {
@@ -413,19 +360,13 @@ QStringList frmImport::FindingTexts() const {
     if (!read_) {
         return texts;
     }
-    if (updated_ && updated_->Merged) {
-        for (DayChange const& change : updated_->Merged->Changed) {
-            texts.append(ToQt(ChangeText(change)));
-        }
+    // In front: behind a thousand rows that are left out nobody would find it.
+    if (std::string const rounding = prepared_.Rounding(settings_.CurrencyFormat); !rounding.empty()) {
+        texts.append(ToQt(rounding));
     }
-    for (std::string const& line : FindingLines(*read_)) {
-        texts.append(ToQt(line));
-    }
-    for (auto const* file : {&made_, &updated_}) {
-        std::string const rounding =
-            *file ? DescribeRounding(**file, settings_.CurrencyFormat) : std::string();
-        if (!rounding.empty() && !texts.contains(ToQt(rounding))) {
-            texts.append(ToQt(rounding));
+    for (auto const& lines : {prepared_.Changes(), FindingLines(*read_)}) {
+        for (std::string const& line : lines) {
+            texts.append(ToQt(line));
         }
     }
     if (preview_->ColumnsInAll() > MostShownColumns) {
@@ -436,25 +377,18 @@ QStringList frmImport::FindingTexts() const {
     return texts;
 }
 
-bool frmImport::CanImport() const {
-    return made_ && !made_->Refused && !TargetPath().empty();
-}
-
-bool frmImport::CanUpdate() const {
-    return updated_ && updated_->HasNews();
-}
-
 // While a table is read Enter writes nothing.
 void frmImport::ShowButtons() {
     bool const isReading = IsReading();
     ui_->prgImport->setVisible(isReading);
     ui_->cmdCancel->setVisible(isReading);
     ui_->cmdClose->setVisible(!isReading);
-    ui_->cmdImport->setEnabled(CanImport());
-    ui_->cmdUpdate->setEnabled(CanUpdate());
-    ui_->cmdUpdate->setDefault(CanUpdate());
-    ui_->cmdImport->setDefault(CanImport() && !CanUpdate());
-    ui_->chkReplace->setEnabled(updated_ && updated_->Merged && !updated_->Merged->Changed.empty());
+    bool const canUpdate = prepared_.CanUpdate();
+    ui_->cmdImport->setEnabled(prepared_.CanImport());
+    ui_->cmdUpdate->setEnabled(canUpdate);
+    ui_->cmdUpdate->setDefault(canUpdate);
+    ui_->cmdImport->setDefault(prepared_.CanImport() && !canUpdate);
+    ui_->chkReplace->setEnabled(prepared_.HasChanges());
 }
 
 std::string frmImport::SuggestedName() const {
@@ -502,7 +436,7 @@ void frmImport::Import() {
         return;
     }
     if (!platform::IsThere(files_, path) || platform::MayReplace(dialogs_, name, "Import")) {
-        Write(path, *made_);
+        Write(path, prepared_.Made());
     }
 }
 
@@ -510,8 +444,8 @@ void frmImport::Import() {
 void frmImport::Update() {
     PrepareFile();
     ShowState();
-    if (CanUpdate()) {
-        Write(TargetPath(), *updated_);
+    if (prepared_.CanUpdate()) {
+        Write(TargetPath(), prepared_.Updated());
     }
 }
 

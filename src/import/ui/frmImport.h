@@ -3,8 +3,9 @@
 
 #pragma once
 
+#include "import/ChosenColumns.h"
 #include "import/ImportSource.h"
-#include "import/basImport.h"
+#include "import/PreparedFile.h"
 #include "import/ui/TablePreview.h"
 #include "import/ui/TableThread.h"
 #include "platform/Dialogs.h"
@@ -46,11 +47,6 @@ public:
     void done(int result) override;
 
 private:
-    struct ChosenRole {
-        int Column = 0;
-        Role Is = Role::Unused;
-    };
-
     void PrepareTables();
     void FillBoxes();
     void ConnectBoxes();
@@ -60,8 +56,6 @@ private:
     void Bind(QComboBox& box, Values const& values, std::optional<Value> Choices::*choice, Name nameOf);
 
     void ClearChoices();
-    void ChooseRole(int column, Role role);
-    void TakeRoles();
 
     // Reads the table by the choices.
     void StartReading();
@@ -78,7 +72,6 @@ private:
 
     // What the file of the name becomes, of which nothing is written yet.
     void PrepareFile();
-    void PrepareUpdate(std::string const& path);
 
     void ShowPlan(Plan const& plan);
     void ShowChoices(Plan const& plan);
@@ -86,9 +79,6 @@ private:
     void ShowButtons();
     [[nodiscard]] QString ResultText() const;
     [[nodiscard]] QStringList FindingTexts() const;
-    // The table was not changed since it was read, and a file can be made of it.
-    [[nodiscard]] bool CanImport() const;
-    [[nodiscard]] bool CanUpdate() const;
 
     [[nodiscard]] std::string SuggestedName() const;
     [[nodiscard]] std::string TargetPath() const;
@@ -103,13 +93,11 @@ private:
     platform::Dialogs& dialogs_;
     ImportSource source_;
     Choices chosen_;
-    std::vector<ChosenRole> roles_; // each column once, the latest choice first
+    ChosenColumns roles_;
     std::shared_ptr<TableLook const> look_;
     std::shared_ptr<Conversion const> read_; // none while the table is read, and after a fault
-    std::optional<QuoteFile> made_;          // of the table alone
-    std::optional<QuoteFile> updated_;       // of the table and the file of the name, when there is one
+    PreparedFile prepared_;                  // of the table that was read, and the name
     std::string fault_;                      // why the table could not be read
-    std::string updateFault_;                // why that file cannot be brought up to date
     QTimer typing_;                          // runs while a date is being typed
     int number_ = 0;                         // of the reading whose news count, 0 when none does
     std::optional<ImportedFile> imported_;
