@@ -13,7 +13,7 @@ import re
 KEY_BYTES = 88
 
 # What the address sanitizer writes when leaks are all that it found.
-REPORT = re.compile(r"=+\n==\d+==ERROR: LeakSanitizer: detected memory leaks\n\n(.*\n)\nSUMMARY: AddressSanitizer: .*\n",
+REPORT = re.compile(r"\n?=+\n==\d+==ERROR: LeakSanitizer: detected memory leaks\n\n(.*\n)\nSUMMARY: AddressSanitizer: .*\n",
                     re.DOTALL)
 FROM_QT_GUI = re.compile(r"Direct leak of (\d+) byte\(s\) in (\d+) object\(s\) allocated from:\n"
                          r" +#0 \S+ in operator new\(unsigned long\) .*\n"

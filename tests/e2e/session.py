@@ -153,6 +153,7 @@ class Session(unittest.TestCase):
     """Tests of programs that start with nothing but the sample files in their folder."""
 
     SCREEN = (1280, 1024)
+    maxDiff = None  # a sanitizer's report is shown whole
 
     @classmethod
     def setUpClass(cls):

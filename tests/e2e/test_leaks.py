@@ -11,7 +11,7 @@ HEAD = """
 =================================================================
 ==15904==ERROR: LeakSanitizer: detected memory leaks
 
-""".lstrip()
+"""
 END = """
 SUMMARY: AddressSanitizer: 88 byte(s) leaked in 1 allocation(s).
 """
