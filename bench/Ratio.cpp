@@ -15,8 +15,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::size_t MostRounds = 501;
-constexpr std::size_t FewestRounds = 21;
+std::size_t mostRounds = 501;
+std::size_t fewestRounds = 21;
 
 // Slow work gets fewer rounds.
 constexpr std::chrono::seconds LongestMeasurement(4);
@@ -48,12 +48,17 @@ double Median(std::vector<double> values) {
     return *middle;
 }
 
+void MeasureOnce() {
+    mostRounds = 1;
+    fewestRounds = 1;
+}
+
 double MeasureRatio(Work const& work, Work const& baseline) {
     int const workTimes = TimesInOneTurn(work);
     int const baselineTimes = TimesInOneTurn(baseline);
     std::vector<double> ratios;
     auto const end = Clock::now() + LongestMeasurement;
-    for (std::size_t round = 0; round < FewestRounds || (round < MostRounds && Clock::now() < end); ++round) {
+    for (std::size_t round = 0; round < fewestRounds || (round < mostRounds && Clock::now() < end); ++round) {
         // Neither always comes first, so that a clock rate that drifts favours neither.
         bool const workFirst = round % 2 == 0;
         auto const first = workFirst ? TimeOf(work, workTimes) : TimeOf(baseline, baselineTimes);
@@ -68,7 +73,7 @@ double MeasureRatio(Work const& work, Work const& baseline) {
 double MeasureMilliseconds(Work const& work) {
     std::vector<double> times;
     auto const end = Clock::now() + LongestMeasurement;
-    while (times.size() < FewestRounds || (times.size() < MostRounds && Clock::now() < end)) {
+    while (times.size() < fewestRounds || (times.size() < mostRounds && Clock::now() < end)) {
         times.push_back(std::chrono::duration<double, std::milli>(TimeOf(work, 1)).count());
     }
     return Median(std::move(times));

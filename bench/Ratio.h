@@ -13,6 +13,9 @@ namespace quorvex::bench {
 
 using Work = std::function<void()>;
 
+// From now on one round is enough: for a run that shows that everything runs, whatever it measures.
+void MeasureOnce();
+
 // How many times as long the work takes as its baseline. Both run by turns in many short rounds, and the
 // median of the rounds' ratios counts: what else the machine does disturbs both alike or a few rounds only.
 [[nodiscard]] double MeasureRatio(Work const& work, Work const& baseline);

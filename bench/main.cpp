@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 // Times the display-free routines, each beside the least work that it could be done with, and ends with a
-// table of the ratios that have a target, those of the window included.
+// table of the ratios that have a target, those of the window included. With --once as its last argument it
+// measures each ratio a single time, which shows no more than that everything runs.
 
 #include "CoreRatios.h"
+#include "Ratio.h"
 #include "RatioTable.h"
 #include "WindowRatios.h"
 
@@ -12,9 +14,14 @@
 
 #include <exception>
 #include <iostream>
+#include <string_view>
 
 int main(int argc, char** argv) {
     try {
+        if (argc > 1 && std::string_view(argv[argc - 1]) == "--once") {
+            --argc;
+            quorvex::bench::MeasureOnce();
+        }
         benchmark::Initialize(&argc, argv);
         if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
             return 2;

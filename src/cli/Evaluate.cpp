@@ -29,6 +29,7 @@ namespace {
 struct EvaluateOptions {
     AnalysisOptions Analysis;
     int Every = evaluation::DefaultEvery;
+    int Surrogates = evaluation::DefaultSurrogates;
     int Jobs = evaluation::UsualJobs();
     bool Json = false;
     std::string PlotPath;
@@ -57,6 +58,7 @@ std::optional<evaluation::Evaluation> Test(EvaluateOptions const& options, Analy
     request.Models = evaluation::StandardModels(hasParameters);
     request.Parameters = hasParameters ? &program.Cycles : nullptr;
     request.Every = options.Every;
+    request.SurrogateCount = options.Surrogates;
     request.Jobs = options.Jobs;
     ConsoleDialogs dialogs(options.Analysis.QuotePath);
     evaluation::EvaluationOutcome outcome;
@@ -104,6 +106,7 @@ ExitStatus Evaluate(EvaluateOptions const& options, platform::Console const& con
 void AddEvaluate(CLI::App& app, platform::Console const& console, platform::PictureEncoder& encoder,
                  ExitStatus& status) {
     constexpr int LargestEvery = 400;
+    constexpr int MostSurrogates = 10'000;
     auto const options = std::make_shared<EvaluateOptions>();
     CLI::App* command =
         app.add_subcommand("evaluate", "Test whether cycles forecast one contract of " +
@@ -119,6 +122,13 @@ void AddEvaluate(CLI::App& app, platform::Console const& console, platform::Pict
                          "], all at one phase of a cycle of so many days: compare with 4 or 6")
         ->type_name("N")
         ->transform(WholeNumberBetween(1, LargestEvery));
+    command
+        ->add_option("--surrogates", options->Surrogates,
+                     "Series in other phases to compare correlations with [" +
+                         std::to_string(evaluation::DefaultSurrogates) +
+                         "]; more tell smaller p, fewer take less time")
+        ->type_name("N")
+        ->transform(WholeNumberBetween(1, MostSurrogates));
     command
         ->add_option("--jobs", options->Jobs,
                      "Threads to work with; the result is the same with any number [as many as the machine "

@@ -19,6 +19,7 @@
 namespace quorvex::evaluation {
 
 inline constexpr int DefaultEvery = 5;
+inline constexpr int DefaultSurrogates = 200;
 
 struct EvaluationRequest {
     std::vector<Model> Models = StandardModels(false);
@@ -26,7 +27,7 @@ struct EvaluationRequest {
     cycles::CycleParameterSet const* Parameters = nullptr; // needed by the model of that method
     int Every = DefaultEvery;                              // origins, in days
     int SampleCount = 2000;                                // of the bootstrap
-    int SurrogateCount = 200;                              // 0 for none
+    int SurrogateCount = DefaultSurrogates;                // 0 for none
     int Jobs = 1;                                          // threads; the result does not depend on them
 };
 

@@ -16,11 +16,11 @@ namespace {
 using nlohmann::json;
 
 std::string const Contract = GoldenPath("quotes/q250.txt");
-// Where the length does not matter: the surrogates take most of the time, and theirs grows with it.
+// Where the length does not matter: the time grows with it.
 std::string const ShortContract = GoldenPath("quotes/q137.txt");
 
 TEST(EvaluateCommand, PrintsTableSurrogatesAndVerdicts) {
-    auto const run = RunCompanion({"evaluate", Contract, "--every", "25"});
+    auto const run = RunCompanion({"evaluate", Contract, "--every", "25", "--surrogates", "7"});
     EXPECT_EQ(run.ExitStatus, 0) << run.Errors;
     EXPECT_EQ(run.Errors, "");
     EXPECT_TRUE(
@@ -32,15 +32,21 @@ TEST(EvaluateCommand, PrintsTableSurrogatesAndVerdicts) {
           "\nDrift                     -             1  ", "\nFit of 3 cycles           scaled       25  ",
           "\nQuick search of 5 cycles  composite    10  ", "\n\nKey\n  window: ", "\n  [ ]: ", "\n  *: ",
           "\n\nCorrelation with the moving average of all days\n  Quick search of 1 cycle: ",
-          " of 200 surrogates ", "\n\nVerdict\n  Fit of 1 cycle: not tested: 5 forecasts are too few\n"}) {
+          " of 7 surrogates ", "\n\nVerdict\n  Fit of 1 cycle: not tested: 5 forecasts are too few\n"}) {
         EXPECT_NE(run.Output.find(part), std::string::npos) << part << '\n' << run.Output;
     }
     EXPECT_EQ(run.Output.find("Parameters"), std::string::npos);
 }
 
+TEST(EvaluateCommand, ComparesWithTwoHundredSurrogatesUnlessTold) {
+    auto const run = RunCompanion({"evaluate", ShortContract, "--every", "50"});
+    EXPECT_NE(run.Output.find(" of 200 surrogates "), std::string::npos) << run.Output;
+}
+
 TEST(EvaluateCommand, GivesTheSameWithAnyNumberOfThreads) {
-    auto const one = RunCompanion({"evaluate", ShortContract, "--jobs", "1", "--json"});
-    auto const three = RunCompanion({"evaluate", ShortContract, "--jobs", "3", "--json"});
+    auto const one = RunCompanion({"evaluate", ShortContract, "--jobs", "1", "--surrogates", "20", "--json"});
+    auto const three =
+        RunCompanion({"evaluate", ShortContract, "--jobs", "3", "--surrogates", "20", "--json"});
     EXPECT_EQ(one.ExitStatus, 0);
     EXPECT_EQ(one.Output, three.Output);
 }
@@ -61,7 +67,7 @@ TEST(EvaluateCommand, PrintsOneJsonObjectWithTwelveDigitsANumber) {
     TemporaryFolder const folder;
     folder.Write("one.dat", "100, 40, 0, 0\n");
     auto const run = RunCompanion({"evaluate", Contract, "--every", "010", "--moving-average", "7",
-                                   "--parameters", folder.File("one.dat"), "--json"});
+                                   "--surrogates", "5", "--parameters", folder.File("one.dat"), "--json"});
     ASSERT_EQ(run.ExitStatus, 0) << run.Errors;
     auto const object = nlohmann::ordered_json::parse(run.Output);
     std::vector<std::string> members;
@@ -101,7 +107,7 @@ TEST(EvaluateCommand, PrintsOneJsonObjectWithTwelveDigitsANumber) {
     EXPECT_TRUE(horizon.at("p").is_number());
     EXPECT_FALSE(horizon.at("IsBetter"));
     EXPECT_FALSE(object.at("Drift").at("Horizons").at(0).contains("p"));
-    EXPECT_EQ(object.at("Surrogates").at("Count"), 200);
+    EXPECT_EQ(object.at("Surrogates").at("Count"), 5);
     EXPECT_EQ(object.at("Surrogates").at("Searches").size(), 4U);
     for (auto const* member : {"Models", "Drift", "LastClose", "Surrogates"}) {
         EXPECT_EQ(CountLongNumbers(object.at(member)), 0) << member;
@@ -111,8 +117,8 @@ TEST(EvaluateCommand, PrintsOneJsonObjectWithTwelveDigitsANumber) {
 TEST(EvaluateCommand, TheWindowForecastIsThatOfAnAnalysisOfTheDaysUpToTheOrigin) {
     TemporaryFolder const folder;
     folder.Write("two.dat", "60, 40, 5, 0\n40, 90, -7, 0\n");
-    auto const whole = json::parse(RunCompanion({"evaluate", ShortContract, "--every", "10", "--parameters",
-                                                 folder.File("two.dat"), "--json"})
+    auto const whole = json::parse(RunCompanion({"evaluate", ShortContract, "--every", "10", "--surrogates",
+                                                 "1", "--parameters", folder.File("two.dat"), "--json"})
                                        .Output);
     auto const& origin = whole.at("Origins").at(1);
     auto const analysis =
@@ -145,8 +151,9 @@ TEST(EvaluateCommand, TestsTheDaysAskedFor) {
     auto const tooFew = RunCompanion({"evaluate", Contract, "--end", endOf(124)});
     EXPECT_EQ(tooFew.Errors,
               "quorvex-cli: " + Contract + ": Forecasts are tested on 125 days at least; there are 124\n");
-    auto const some = json::parse(
-        RunCompanion({"evaluate", Contract, "--every", "50", "--end", endOf(200), "--json"}).Output);
+    auto const some = json::parse(RunCompanion({"evaluate", Contract, "--every", "50", "--surrogates", "1",
+                                                "--end", endOf(200), "--json"})
+                                      .Output);
     EXPECT_EQ(some.at("Closes").size(), 200U);
     EXPECT_EQ(some.at("Origins").at(0).at("Day"), 100);
 }
@@ -200,6 +207,7 @@ TEST(EvaluateCommand, SaysInItsHelpWhatIsEasilyMistaken) {
     }
     for (auto const* part : {"one contract of 125 days or more", "made of the days tested, they know them",
                              "at one phase of a cycle of so many days: compare with 4 or 6",
+                             "with [200]; more tell smaller p, fewer take less time",
                              "the result is the same with any number", "in the place of one that is there"}) {
         EXPECT_NE(words.find(part), std::string::npos) << part << '\n' << run.Output;
     }
@@ -211,6 +219,8 @@ TEST(EvaluateCommand, EndsWithTwoOnWrongUsage) {
                       {"evaluate", Contract, "--every", "x"},
                       {"evaluate", Contract, "--every", "0x3"},
                       {"evaluate", Contract, "--every", "401"},
+                      {"evaluate", Contract, "--surrogates", "0"},
+                      {"evaluate", Contract, "--surrogates", "10001"},
                       {"evaluate", Contract, "--jobs", "0"},
                       {"evaluate", Contract, "--jobs", "257"},
                       {"evaluate", Contract, "--automate", "1"},
@@ -220,7 +230,8 @@ TEST(EvaluateCommand, EndsWithTwoOnWrongUsage) {
 TEST(EvaluateCommand, DrawsThePlot) {
     TemporaryFolder const folder;
     std::string const path = folder.File("plot.SVG");
-    auto const run = RunCompanion({"evaluate", ShortContract, "--every", "20", "--plot", path});
+    auto const run =
+        RunCompanion({"evaluate", ShortContract, "--every", "20", "--surrogates", "1", "--plot", path});
     EXPECT_EQ(run.ExitStatus, 0) << run.Errors;
     EXPECT_TRUE(run.Output.starts_with("There are too few forecasts "));
     EXPECT_TRUE(folder.Read("plot.SVG").starts_with("<?xml"));
@@ -230,7 +241,8 @@ TEST(EvaluateCommand, DrawsThePlot) {
 TEST(EvaluateCommand, PrintsItsTableWhenThePlotCannotBeWritten) {
     TemporaryFolder const folder;
     std::string const path = folder.File("nowhere/plot.svg");
-    auto const run = RunCompanion({"evaluate", ShortContract, "--every", "20", "--plot", path});
+    auto const run =
+        RunCompanion({"evaluate", ShortContract, "--every", "20", "--surrogates", "1", "--plot", path});
     EXPECT_EQ(run.ExitStatus, 1);
     EXPECT_EQ(run.Errors, "quorvex-cli: " + path + ": Path not found\n");
     EXPECT_TRUE(run.Output.starts_with("There are too few forecasts "));
@@ -240,8 +252,8 @@ TEST(EvaluateCommand, PrintsItsTableWhenThePlotCannotBeWritten) {
 
 TEST(EvaluateCommand, DrawsThePlotOnAPage) {
     TemporaryFolder const folder;
-    auto const run =
-        RunCompanion({"evaluate", ShortContract, "--every", "20", "--plot", folder.File("plot.PDF")});
+    auto const run = RunCompanion(
+        {"evaluate", ShortContract, "--every", "20", "--surrogates", "1", "--plot", folder.File("plot.PDF")});
     EXPECT_EQ(run.ExitStatus, 0) << run.Errors;
     EXPECT_TRUE(folder.Read("plot.PDF").starts_with("%PDF"));
 }

@@ -7,7 +7,7 @@ import os
 import subprocess
 import unittest
 
-from session import COMPANION, SAMPLES, Session
+from session import COMPANION, Session
 from waiting import wait_for
 
 COMPOSITE = "Composite estimate cycle chart"
@@ -15,14 +15,23 @@ TITLE = "Quorvex - Test Forecast - [Wheat.txt]"
 
 
 class Forecasts(Session):
+    def shorten(self):
+        """Few days are tested soon."""
+        with open(os.path.join(self.folder, "Wheat.txt"), "r+", encoding="ascii") as file:
+            days = file.readlines()[:150]
+            file.seek(0)
+            file.truncate()
+            file.writelines(days)
+
     def evaluate(self):
         """What the companion says of the same quotes and cycles."""
         command = [COMPANION, "evaluate", "Wheat.txt", "--parameters", "Wheat.dat"]
-        return subprocess.run(command, cwd=SAMPLES, check=True, capture_output=True, timeout=60, text=True).stdout
+        return subprocess.run(command, cwd=self.folder, check=True, capture_output=True, timeout=60, text=True).stdout
 
     def test_window(self):
-        expected = self.evaluate()
         program = self.start()
+        self.shorten()
+        expected = self.evaluate()
         program.open_quotes("Wheat.txt")
         program.open_parameters("Wheat.dat")
         self.cancel_a_test()
