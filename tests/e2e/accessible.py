@@ -222,9 +222,12 @@ class Accessible:
         if not self._call("EditableText", "SetTextContents", "(s)", text)[0]:
             raise AssertionError(f"{self.name!r} takes no text")
 
+    def row_count(self):
+        return self._property("Table", "NRows")
+
     def cell_texts(self):
         """The texts of a table, a list for each row."""
-        rows, columns = self._property("Table", "NRows"), self._property("Table", "NColumns")
+        rows, columns = self.row_count(), self._property("Table", "NColumns")
         answers = self._bus.call_all([self._method("Table", "GetAccessibleAt", "(ii)", row, column)
                                       for row in range(rows) for column in range(columns)])
         cells = [Accessible(self._bus, *answer[0]) for answer in answers]

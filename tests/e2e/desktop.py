@@ -164,9 +164,27 @@ class Desktop:
         self.xdotool("type", text)
 
     def click(self, accessible, button=1):
+        self.xdotool("mousemove", *self._middle(accessible), "click", str(button))
+
+    def _middle(self, accessible):
         left, top, width, height = accessible.extents()
-        place = [str(self.scale * (left + width // 2)), str(self.scale * (top + height // 2))]
-        self.xdotool("mousemove", *place, "click", str(button))
+        return str(self.scale * (left + width // 2)), str(self.scale * (top + height // 2))
+
+    def drag_file(self, program, path, accessible):
+        """Drags a file of another program's, the executable of which is given, and drops it there."""
+        source = self.start([program, path, "0", "0"], "source")
+        wait_for(lambda: self.xdotool("search", "--all", "--onlyvisible", "--pid", str(source.pid), "--name", "",
+                                      check=False).returncode == 0, "the window to drag from")
+        self.xdotool("mousemove", "20", "20", "mousedown", "1", "mousemove", "26", "26", "sleep", HOLD_SECONDS)
+        self.xdotool("mousemove", *self._middle(accessible), "sleep", HOLD_SECONDS, "mousemove_relative", "2", "2")
+        try:
+            wait_for(lambda: self._output_of("source").endswith("may be dropped\n"), "a place that takes the file")
+        finally:
+            self.xdotool("mouseup", "1")
+
+    def _output_of(self, name):
+        with open(self.output_file(name), encoding="utf-8") as file:
+            return file.read()
 
     def close(self):
         """Ends everything that was started, the last first."""

@@ -121,7 +121,7 @@ class Program:
         self.wait_for_main()
 
     def choose_table(self, path):
-        """Shows the table in the import window, read to its end, by the first chart's context menu."""
+        """Shows the table in the import window by the first chart's context menu."""
         self.chart(CHARTS[0]).focus()
         self._desktop.press("Menu", "i")
         chooser = wait_for(self.showing_dialogs, "the file chooser")[0]
@@ -129,6 +129,10 @@ class Program:
         self._desktop.press("ctrl+a")
         self._desktop.type(path)
         self._desktop.press("Return")
+        return self.wait_for_table(path)
+
+    def wait_for_table(self, path):
+        """The import window with this table, read to its end."""
         window = self.window(f"Quorvex - Import - [{os.path.basename(path)}]")
         wait_for(lambda: not window.find_all("progress bar"), "the end of the reading")
         return window

@@ -114,6 +114,7 @@ class Editing(Session):
         press("ctrl+End")
         write("1")  # a cell editor is open from here on, whenever a menu is opened
         press("alt+e", "a")
+        self.wait_until_equal(lambda: window.find("table").row_count(), DAYS + 1, "the rows")
         write("11/08/19\t521\t522.5\t519\t5x")
         press("alt+f", "s")  # the Close is a number, but for what follows it
         self.wait_for_status(window, f"Not saved: row {DAYS + 1}, Close is not a number")

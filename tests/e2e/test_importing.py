@@ -11,6 +11,7 @@ import unittest
 from session import CHARTS, COMPANION, SAMPLES, Session
 from waiting import wait_for
 
+DRAG_SOURCE = os.environ["QUORVEX_DRAG_SOURCE"]
 HEAD = ("Time", "Last", "Open", "High", "Low", "Volume", "Open Int")
 
 
@@ -40,6 +41,17 @@ class Importing(Session):
     def require_quotes(self, name, table):
         with open(os.path.join(self.folder, name), "rb") as file:
             self.assertEqual(file.read(), self.import_by_companion(table))
+
+    def test_a_file_dragged_from_another_program_is_open_two_steps_later(self):
+        program = self.start()
+        table = self.write_table("winter.csv", 40)
+        self.desktop.drag_file(DRAG_SOURCE, table, program.chart(CHARTS[0]))
+        window = program.wait_for_table(table)
+        self.desktop.click(window.find("push button", "Import"))
+        self.require_open("winter.txt", 40)
+        self.require_quotes("winter.txt", table)
+        program.choose("File", "Exit")
+        self.require_end(program)
 
     def test_window(self):
         program = self.start()
