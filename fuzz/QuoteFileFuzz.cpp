@@ -75,17 +75,23 @@ void CheckSavedQuotes(QuoteSeries& series, std::int16_t count, text::NumberForma
     auto const again = std::make_unique<QuoteSeries>();
     auto const countAgain = Read(file, format, *again);
 
-    std::int16_t expected = 0;
-    for (std::int16_t day = 1; day <= count; ++day) {
+    auto const productOf = [&](std::int16_t day) {
         QuoteRecord const& record = series.Working[day];
-        double const product = record.Open * record.High * record.Low * record.Close;
-        if (!std::isfinite(product)) {
-            Require(!countAgain);
-            return;
-        }
-        if (product > 0) {
+        return record.Open * record.High * record.Low * record.Close;
+    };
+    std::int16_t expected = 0;
+    bool isReadable = true;
+    for (std::int16_t day = 1; day <= count; ++day) {
+        isReadable = isReadable && std::isfinite(productOf(day));
+    }
+    Require(isReadable == countAgain.has_value());
+    if (!isReadable) {
+        return; // a file that is refused leaves no day
+    }
+    for (std::int16_t day = 1; day <= count; ++day) {
+        if (productOf(day) > 0) {
             ++expected;
-            Require(IsSameQuote(again->Working[expected], record));
+            Require(IsSameQuote(again->Working[expected], series.Working[day]));
         }
     }
     Require(countAgain == expected);
