@@ -27,6 +27,11 @@ install(DIRECTORY resources/help DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY resources/samples/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples)
 
 install_manual(quorvex-cli)
+# Where each shell looks for them.
+set(completions ${PROJECT_BINARY_DIR}/completions)
+install(FILES ${completions}/quorvex-cli DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+install(FILES ${completions}/_quorvex-cli DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)
+install(FILES ${completions}/quorvex-cli.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 if(Qt6_FOUND AND NOT APPLE)
     install_manual(Quorvex)
     install(FILES packaging/Quorvex.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)

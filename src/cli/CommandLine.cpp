@@ -4,7 +4,6 @@
 #include "cli/CommandLine.h"
 
 #include "app/Program.h"
-#include "cli/ExitStatus.h"
 #include "cli/StandardStreams.h"
 #include "cli/SubCommands.h"
 #include "platform/disk/HostArguments.h"
@@ -18,6 +17,20 @@
 
 namespace quorvex::cli {
 
+void AddSubCommands(CLI::App& app, platform::Console const& console, Outputs const& outputs,
+                    ExitStatus& status) {
+    AddAnalyse(app, console, status);
+    AddChart(app, *outputs.Pictures, status);
+    AddCheck(app, status);
+    AddConvert(app, status);
+    AddEvaluate(app, console, *outputs.Pictures, status);
+    AddImport(app, status);
+    AddList(app, outputs.Printing.get(), status);
+    AddPrint(app, outputs.Printing.get(), status);
+    AddSearch(app, status);
+    AddFormat(app, status);
+}
+
 int RunCommandLine(int argc, char** argv, Outputs (*makeOutputs)()) {
     auto status = ExitStatus::Success;
     platform::disk::HostConsole const console; // before anything is said
@@ -27,16 +40,7 @@ int RunCommandLine(int argc, char** argv, Outputs (*makeOutputs)()) {
         app.require_subcommand(1);
         app.allow_windows_style_options(false);
         Outputs const outputs = makeOutputs();
-        AddAnalyse(app, console, status);
-        AddChart(app, *outputs.Pictures, status);
-        AddCheck(app, status);
-        AddConvert(app, status);
-        AddEvaluate(app, console, *outputs.Pictures, status);
-        AddImport(app, status);
-        AddList(app, outputs.Printing.get(), status);
-        AddPrint(app, outputs.Printing.get(), status);
-        AddSearch(app, status);
-        AddFormat(app, status);
+        AddSubCommands(app, console, outputs, status);
         try {
             app.parse(platform::disk::ReversedArguments(argc, argv));
         } catch (CLI::ParseError const& error) {

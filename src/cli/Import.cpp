@@ -18,11 +18,12 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace quorvex::cli {
 
@@ -50,8 +51,9 @@ struct ImportOptions {
     [[nodiscard]] std::string const& Target() const { return IntoPath.empty() ? OutputPath : IntoPath; }
 };
 
+// In the order in which they are told.
 template <class Value>
-using Words = std::map<std::string, Value>;
+using Words = std::vector<std::pair<std::string, Value>>;
 
 Words<imports::Encoding> const EncodingWords = {{"utf-8", imports::Encoding::Utf8},
                                                 {"utf-16le", imports::Encoding::Utf16LittleEndian},
@@ -88,6 +90,12 @@ std::string Listed(Words<Value> const& words) {
         list.append(list.empty() ? "" : "|").append(word.first);
     }
     return list;
+}
+
+template <class Value>
+std::optional<Value> ValueOf(std::string_view typed, Words<Value> const& words) {
+    auto const word = std::ranges::find(words, typed, &std::pair<std::string, Value>::first);
+    return word == words.end() ? std::nullopt : std::optional(word->second);
 }
 
 // What to say to settle what a table leaves open.
@@ -128,14 +136,14 @@ bool ReadColumns(std::string_view typed, Choices& choices) {
         isMore = length < typed.size();
         typed.remove_prefix(isMore ? length + 1 : length);
         std::size_t const equals = item.find('=');
-        auto const role = RoleWords.find(std::string(item.substr(0, equals)));
+        auto const role = ValueOf(item.substr(0, equals), RoleWords);
         bool const hasColumn = equals != std::string_view::npos && equals + 1 < item.size();
-        if (role == RoleWords.end() || hasColumn == choices.OnlyChosenColumns) {
+        if (!role || hasColumn == choices.OnlyChosenColumns) {
             return false;
         }
         choices.Columns.push_back(
             {hasColumn ? std::string(item.substr(equals + 1)) : std::to_string(choices.Columns.size() + 1),
-             role->second});
+             *role});
     }
     return true;
 }
@@ -252,15 +260,24 @@ void RequireSense(ImportOptions const& options) {
     }
 }
 
+// Without a description of its own: the help names the words as the type of the option.
+template <class Value>
+CLI::Validator IsOneOf(Words<Value> const& words) {
+    return {[&words](std::string const& typed) {
+                return ValueOf(typed, words) ? std::string() : typed + " is not " + Listed(words);
+            },
+            ""};
+}
+
 // An option whose words stand for values.
 template <class Value>
 void AddWords(CLI::App& command, std::string const& name, std::optional<Value>& value,
               Words<Value> const& words, std::string const& about) {
     command
         .add_option_function<std::string>(
-            name, [&value, &words](std::string const& word) { value = words.at(word); }, about)
+            name, [&value, &words](std::string const& word) { value = ValueOf(word, words); }, about)
         ->type_name(Listed(words))
-        ->check(CLI::IsMember(words));
+        ->check(IsOneOf(words));
 }
 
 void AddChoices(CLI::App& command, ImportOptions& options) {

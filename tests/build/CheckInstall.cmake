@@ -8,7 +8,8 @@ execute_process(COMMAND ${CMAKE_COMMAND} --install ${QUORVEX_BUILD} --prefix ${Q
 
 set(documents share/doc/quorvex)
 set(icons share/icons/hicolor)
-set(expected bin/quorvex-cli share/man/man1/quorvex-cli.1
+set(expected bin/quorvex-cli share/man/man1/quorvex-cli.1 share/bash-completion/completions/quorvex-cli
+    share/zsh/vendor-completions/_quorvex-cli share/fish/vendor_completions.d/quorvex-cli.fish
     ${documents}/copyright ${documents}/CHANGELOG.md ${documents}/behaviour.md)
 
 # Expects a copy of everything that a folder of the sources holds.

@@ -42,6 +42,14 @@ bool Has(std::string const& text, std::string const& part) {
     return text.find(part) != std::string::npos;
 }
 
+TEST(ImportCommand, TellsTheWordsOfAnOptionInTheirOrderOnce) {
+    auto const run = RunCompanion({"import", "--help"});
+    EXPECT_NE(run.Output.find("--date-order ymd|mdy|dmy "), std::string::npos) << run.Output;
+    EXPECT_NE(run.Output.find("--fraction none|2|4|8|16|32|64|128\n"), std::string::npos) << run.Output;
+    auto const wrong = RunCompanion({"import", "table.csv", "--date-order", "ydm"});
+    EXPECT_NE(wrong.Errors.find("ydm is not ymd|mdy|dmy"), std::string::npos) << wrong.Errors;
+}
+
 TEST(Import, WritesAQuoteFileAndTellsWhatItDid) {
     TemporaryFolder const folder;
     folder.Write("in.csv", Head + Rows(1, 30) + "Total,,,,,1,2\n");
@@ -105,7 +113,7 @@ TEST(Import, RefusesAndTellsHowToSettle) {
     EXPECT_FALSE(Has(run.Output, "Quote file"));
     EXPECT_EQ(run.Errors,
               "quorvex-cli: standard input: Line 2: \"1/2/2019\" and all other dates can be month, day, "
-              "year or day, month, year. Give --date-order dmy|mdy|ymd\n");
+              "year or day, month, year. Give --date-order ymd|mdy|dmy\n");
     EXPECT_FALSE(std::filesystem::exists(out));
     EXPECT_EQ(RunCompanion({"import", "-", "-o", out, "--date-order", "mdy"}, doubtful).ExitStatus, 0);
     EXPECT_EQ(RunCompanion({"import", "-", "-o", out}, Head + Rows(1, 24)).Errors,
