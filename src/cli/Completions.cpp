@@ -184,7 +184,7 @@ _quorvex_cli() {
     return script + R"(            esac
             ;;
     esac
-    mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
+    COMPREPLY=($(compgen -W "$words" -- "$current"))
 }
 complete -o default -F _quorvex_cli quorvex-cli
 )";
