@@ -20,24 +20,18 @@ function(included_folders variable)
     set(${variable} ${folders} PARENT_SCOPE)
 endfunction()
 
-# Sets the variable to those of the headers that no source of the files proves to compile alone. A source begins with its
-# own header, so that the header's includes stand first in what is compiled.
-function(unproven_headers variable)
-    set(unproven)
-    foreach(header IN LISTS ARGN)
-        if(header MATCHES "\\.h$")
-            string(REGEX REPLACE "\\.h$" ".cpp" source ${header})
-            if(NOT source IN_LIST ARGN)
-                list(APPEND unproven ${header})
-                continue()
-            endif()
+# A source begins with its own header: so the header's includes stand first in what is compiled, which proves that it can
+# be included alone.
+function(require_own_headers_first)
+    foreach(source IN LISTS ARGN)
+        string(REGEX REPLACE "\\.cpp$" ".h" header ${source})
+        if(source MATCHES "\\.cpp$" AND header IN_LIST ARGN)
             file(STRINGS ${CMAKE_CURRENT_SOURCE_DIR}/${source} first REGEX "^#include " LIMIT_COUNT 1)
             if(NOT first MATCHES "[\"/]${header}\"$")
                 message(FATAL_ERROR "${source} begins with ${first} instead of its own header.")
             endif()
         endif()
     endforeach()
-    set(${variable} ${unproven} PARENT_SCOPE)
 endfunction()
 
 # Checks the edges of a target and adds it with its forwarding headers.
@@ -66,17 +60,12 @@ function(add_level_target name)
 
     set(includeRoot ${PROJECT_BINARY_DIR}/include/${name})
     set(forwarding)
-    set(forwardingUnproven)
-    unproven_headers(unproven ${arg_FILES})
+    require_own_headers_first(${arg_FILES})
     foreach(header IN LISTS headers)
         # Relative, so that a compiler cache serves every checkout of the same sources.
         file(RELATIVE_PATH target ${includeRoot}/${folder} ${CMAKE_CURRENT_SOURCE_DIR}/${header})
         file(CONFIGURE OUTPUT ${includeRoot}/${folder}/${header} CONTENT "#include \"${target}\"\n")
-        if(header IN_LIST unproven)
-            list(APPEND forwardingUnproven ${includeRoot}/${folder}/${header})
-        else()
-            list(APPEND forwarding ${includeRoot}/${folder}/${header})
-        endif()
+        list(APPEND forwarding ${includeRoot}/${folder}/${header})
     endforeach()
 
     add_library(quorvex_${name} STATIC ${arg_FILES})
@@ -84,11 +73,7 @@ function(add_level_target name)
     list(REMOVE_ITEM headerFolders "" ${folder})
     set_target_properties(quorvex_${name} PROPERTIES
         QUORVEX_LEVEL ${arg_LEVEL} QUORVEX_FOLDER "${folder}" QUORVEX_HEADER_FOLDERS "${headerFolders}")
-    # CMake's verification compiles the headers of the second set one by one.
-    target_sources(quorvex_${name} PUBLIC
-        FILE_SET HEADERS BASE_DIRS ${includeRoot} FILES ${forwarding}
-        FILE_SET unproven TYPE HEADERS BASE_DIRS ${includeRoot} FILES ${forwardingUnproven})
-    set_target_properties(quorvex_${name} PROPERTIES INTERFACE_HEADER_SETS_TO_VERIFY unproven)
+    target_sources(quorvex_${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${includeRoot} FILES ${forwarding})
     target_link_libraries(quorvex_${name} PRIVATE quorvex_options)
     foreach(used IN LISTS arg_USES)
         get_target_property(usedFolder quorvex_${used} QUORVEX_FOLDER)
@@ -114,6 +99,9 @@ function(add_core name)
     set_property(GLOBAL APPEND PROPERTY QUORVEX_CORES ${name})
 endfunction()
 
+set(QUORVEX_QT_DEFINITIONS
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
 # add_windows(<name> LEVEL <n> FILES <sources, headers and .ui files> [USES <cores, platform_qt>] [EVERY_WINDOW]
 #     [WITHOUT_WIDGETS]):
 # a target that uses Qt, for builds that have it. Windows of one subsystem do not know those of another; only a target
@@ -137,8 +125,7 @@ function(add_windows name)
     else()
         target_link_libraries(quorvex_${name} PUBLIC Qt6::Widgets Qt6::PrintSupport)
     endif()
-    target_compile_definitions(quorvex_${name} PUBLIC
-        QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+    target_compile_definitions(quorvex_${name} PUBLIC ${QUORVEX_QT_DEFINITIONS})
     if(TARGET quorvex_platform_qt AND NOT name STREQUAL platform_qt AND NOT arg_WITHOUT_WIDGETS)
         target_precompile_headers(quorvex_${name} REUSE_FROM quorvex_platform_qt)
     endif()

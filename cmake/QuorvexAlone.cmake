@@ -1,0 +1,128 @@
+# Units that read every source and header of the program alone, so that none lives on what another one includes before it.
+# Nothing is made of them. A source begins with its own header, so that it proves that as well.
+#
+# Nearly all of the work is reading the headers of libraries, so those come precompiled, in the sets below. A file is read
+# with a set only if its own includes, followed through the program's headers, name every header of the set: it sees
+# nothing that it would not see without, and an include that is missing is missed. Where a source is read with a set that
+# its own header does not name, the header is read by itself.
+
+# The sets, those that save most first. Each is the name of a target, quorvex_alone_<set>.
+set(QUORVEX_ALONE_SETS json options dialogs widgets fonts figures texts nothing)
+set(QUORVEX_ALONE_json <nlohmann/json.hpp>)
+set(QUORVEX_ALONE_options <CLI/CLI.hpp>)
+set(QUORVEX_ALONE_dialogs <QDialog>)
+set(QUORVEX_ALONE_widgets <QWidget>)
+set(QUORVEX_ALONE_fonts <QFont>)
+set(QUORVEX_ALONE_figures <array> <cstddef> <cstdint> <optional> <string> <string_view> <vector>)
+set(QUORVEX_ALONE_texts <optional> <string> <string_view>)
+set(QUORVEX_ALONE_nothing)
+set(QUORVEX_ALONE_LIBRARIES json options dialogs widgets fonts)
+
+# Sets the variable to the headers of libraries that the file includes, itself or by a header of the program.
+function(find_library_headers variable file)
+    set(memory "QUORVEX_LIBRARY_HEADERS ${file}")
+    get_property(isKnown GLOBAL PROPERTY ${memory} SET)
+    if(NOT isKnown)
+        set(found "")
+        set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${file})
+        file(STRINGS ${file} includes REGEX "^#include ")
+        foreach(include IN LISTS includes)
+            if(include MATCHES "^#include (<.+>)")
+                list(APPEND found ${CMAKE_MATCH_1})
+            elseif(include MATCHES "^#include \"(.+/.+)\"")
+                find_library_headers(more ${PROJECT_SOURCE_DIR}/src/${CMAKE_MATCH_1})
+                list(APPEND found ${more})
+            endif()
+        endforeach()
+        list(REMOVE_DUPLICATES found)
+        set_property(GLOBAL PROPERTY ${memory} "${found}")
+    endif()
+    get_property(found GLOBAL PROPERTY ${memory})
+    set(${variable} "${found}" PARENT_SCOPE)
+endfunction()
+
+# Sets the variable to the first set of which the file includes everything.
+function(choose_set variable file)
+    find_library_headers(headers ${file})
+    foreach(set IN LISTS QUORVEX_ALONE_SETS)
+        set(rest ${QUORVEX_ALONE_${set}})
+        list(REMOVE_ITEM rest "" ${headers})
+        if(NOT rest)
+            set(${variable} ${set} PARENT_SCOPE)
+            return()
+        endif()
+    endforeach()
+endfunction()
+
+# Adds a unit of the target to those that are read with the set.
+function(read_alone target set unit)
+    target_sources(quorvex_alone_${set} PRIVATE ${unit})
+    # What the target is compiled with, and where the headers made of .ui files are.
+    get_target_property(folder ${target} BINARY_DIR)
+    set_source_files_properties(${unit} TARGET_DIRECTORY quorvex_alone_${set} PROPERTIES
+        INCLUDE_DIRECTORIES "$<FILTER:$<TARGET_PROPERTY:${target},INCLUDE_DIRECTORIES>,EXCLUDE,^/usr/include$>;${folder}/${target}_autogen/include"
+        COMPILE_DEFINITIONS "$<TARGET_PROPERTY:${target},COMPILE_DEFINITIONS>"
+        COMPILE_OPTIONS -fsyntax-only)
+    if(target IN_LIST QUORVEX_ALONE_WINDOWS)
+        add_dependencies(quorvex_alone_${set} ${target}_autogen)
+    endif()
+endfunction()
+
+# Adds the units of every source and header of the target.
+function(read_target_alone target)
+    get_target_property(folder ${target} SOURCE_DIR)
+    get_target_property(files ${target} SOURCES)
+    file(RELATIVE_PATH place ${PROJECT_SOURCE_DIR}/src ${folder})
+    set(headers ${files})
+    list(FILTER headers INCLUDE REGEX "^[^/]+\\.h$")
+    set(sources ${files})
+    list(FILTER sources INCLUDE REGEX "\\.cpp$")
+    foreach(source IN LISTS sources)
+        choose_set(set ${folder}/${source})
+        string(REGEX REPLACE "\\.cpp$" ".h" header ${source})
+        if(header IN_LIST headers)
+            choose_set(setOfHeader ${folder}/${header})
+            # Small savings are not worth another unit.
+            if(NOT set IN_LIST QUORVEX_ALONE_LIBRARIES)
+                set(set ${setOfHeader})
+            endif()
+            if(set STREQUAL setOfHeader)
+                list(REMOVE_ITEM headers ${header})
+            endif()
+        endif()
+        read_alone(${target} ${set} ${folder}/${source})
+    endforeach()
+    foreach(header IN LISTS headers)
+        choose_set(set ${folder}/${header})
+        set(unit ${PROJECT_BINARY_DIR}/alone/${place}/${header}.cpp)
+        file(CONFIGURE OUTPUT ${unit} CONTENT "#include \"${place}/${header}\"\n")
+        read_alone(${target} ${set} ${unit})
+    endforeach()
+endfunction()
+
+add_custom_target(quorvex_alone)
+foreach(set IN LISTS QUORVEX_ALONE_SETS)
+    add_library(quorvex_alone_${set} OBJECT EXCLUDE_FROM_ALL)
+    set_target_properties(quorvex_alone_${set} PROPERTIES UNITY_BUILD OFF EXPORT_COMPILE_COMMANDS OFF)
+    target_link_libraries(quorvex_alone_${set} PRIVATE quorvex_options CLI11::CLI11 nlohmann_json::nlohmann_json)
+    if(Qt6_FOUND)
+        target_link_libraries(quorvex_alone_${set} PRIVATE Qt6::Widgets Qt6::PrintSupport)
+        target_compile_definitions(quorvex_alone_${set} PRIVATE ${QUORVEX_QT_DEFINITIONS})
+    endif()
+    target_precompile_headers(quorvex_alone_${set} PRIVATE ${QUORVEX_ALONE_${set}})
+    add_dependencies(quorvex_alone quorvex_alone_${set})
+endforeach()
+get_property(QUORVEX_ALONE_WINDOWS GLOBAL PROPERTY QUORVEX_WINDOWS)
+list(TRANSFORM QUORVEX_ALONE_WINDOWS PREPEND quorvex_)
+foreach(target IN LISTS QUORVEX_ALONE_WINDOWS)
+    # The headers made of .ui files are all that is needed of them.
+    set_target_properties(${target} PROPERTIES AUTOMOC OFF AUTORCC OFF)
+    read_target_alone(${target})
+endforeach()
+get_property(cores GLOBAL PROPERTY QUORVEX_CORES)
+list(TRANSFORM cores PREPEND quorvex_)
+foreach(target IN LISTS cores ITEMS Quorvex quorvex-cli quorvex-completions)
+    if(TARGET ${target})
+        read_target_alone(${target})
+    endif()
+endforeach()
