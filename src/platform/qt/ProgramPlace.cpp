@@ -23,6 +23,11 @@ bool CanBeWritten(QString const& folder) {
     return file.open();
 }
 
+// What is installed beside the folder of the programs alone.
+bool IsOfInstallation(QString const& folder) {
+    return QFileInfo::exists(folder + QStringLiteral("/../share/applications/Quorvex.desktop"));
+}
+
 std::string FolderText(QString const& folder) {
     return text::EndWithSeparator(pictures::FromQt(QDir::toNativeSeparators(folder)));
 }
@@ -64,7 +69,8 @@ ProgramPlace PlaceOf(std::string const& executablePath, std::string const& ownFo
                      FillFolder const& fill) {
     QFileInfo const executable(pictures::ToQt(executablePath));
     ProgramPlace place = PlaceOf(executable);
-    if (!CanBeWritten(executable.absolutePath())) {
+    QString const folder = executable.absolutePath();
+    if (IsOfInstallation(folder) || !CanBeWritten(folder)) {
         QDir const own(pictures::ToQt(ownFolder));
         if (!own.exists()) {
             MakeFolder(own.absolutePath(), fill);

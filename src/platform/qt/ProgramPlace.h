@@ -21,9 +21,10 @@ using FillFolder = std::function<void(std::string const& folder)>;
 // The executable's own folder.
 [[nodiscard]] ProgramPlace ExecutablePlace();
 
-// The folder of the executable when it can be written; otherwise a folder of the user's own. When that is
-// missing it is made and filled: it is there as a whole or not at all. Raises "Path not found" when it cannot
-// be made, and the faults of filling it.
+// The folder of the executable when it can be written and is not the "bin" of an installation, where an
+// administrator can write as well; otherwise a folder of the user's own. When that is missing it is made and
+// filled: it is there as a whole or not at all. Raises "Path not found" when it cannot be made, and the
+// faults of filling it.
 [[nodiscard]] ProgramPlace FindProgramPlace(FillFolder const& fill);
 
 // The same for an executable of this path and this folder of the user's own.

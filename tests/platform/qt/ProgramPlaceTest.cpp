@@ -46,6 +46,22 @@ private Q_SLOTS:
         QCOMPARE(nameOf("QUORVEX.EXE"), std::string("QUORVEX"));
     }
 
+    void AnInstallationThatCanBeWrittenGivesWayToo() {
+        TemporaryFolder prefix;
+        TemporaryFolder home;
+        std::filesystem::create_directories(prefix.File("bin"));
+        std::filesystem::create_directories(prefix.File("share/applications"));
+        auto const place = [&] {
+            return PlaceOf(prefix.File("bin/Quorvex"), home.File("Quorvex"), [](std::string const& folder) {
+                std::ofstream(folder + "sample.txt") << "quotes";
+            });
+        };
+        QCOMPARE(ToQt(place().Folder), QDir::toNativeSeparators(ToQt(prefix.File("bin/"))));
+        prefix.Write("share/applications/Quorvex.desktop", "");
+        QCOMPARE(ToQt(place().Folder), QDir::toNativeSeparators(ToQt(home.File("Quorvex/"))));
+        QVERIFY(std::filesystem::exists(home.File("Quorvex/sample.txt")));
+    }
+
 #ifdef Q_OS_UNIX
     void AFolderThatCannotBeWrittenGivesWayToOneOfTheUsersOwn() {
         TemporaryFolder installed;
