@@ -19,6 +19,7 @@ EXECUTABLE = os.environ["QUORVEX_PROGRAM"]
 COMPANION = os.environ["QUORVEX_COMPANION"]
 SAMPLES = os.environ["QUORVEX_SAMPLES"]
 DOCUMENTS = os.environ["QUORVEX_DOCUMENTS"]
+INSTALLED = "QUORVEX_INSTALLED" in os.environ  # the program stays where it is, and its files in its user's own folder
 PARAMETERS = ("Weight", "Period", "Shift", "Decay")
 CYCLES = range(1, 11)
 CHARTS = ("Daily quotes chart", "Component cycles chart", "Composite estimate cycle chart", "Residual chart")
@@ -28,6 +29,7 @@ class Program:
     """A running Quorvex."""
 
     def __init__(self, desktop, executable):
+        self.executable = executable
         self._desktop = desktop
         self._cells = None
         # The user of the desktop may not be able to read the checkout.
@@ -165,14 +167,24 @@ class Session(unittest.TestCase):
         cls.addClassCleanup(cls.desktop.close)
 
     def setUp(self):
-        self.folder = tempfile.mkdtemp(prefix="program-", dir=self.desktop.folder)
+        self.folder = self.make_own_folder() if INSTALLED else tempfile.mkdtemp(prefix="program-", dir=self.desktop.folder)
         self.desktop.hand_over(self.folder)
 
+    def make_own_folder(self):
+        """The folder of the user's own for an installed program, as new and empty."""
+        own = os.path.join(self.desktop.environment["XDG_DATA_HOME"], "Quorvex")
+        if os.path.exists(own):
+            shutil.rmtree(own)
+        os.mkdir(own)
+        return own
+
     def install(self, samples=True):
-        """Puts the program, with the sample files and help documents, into the test's folder. Returns the path of its
-        executable."""
-        executable = shutil.copy2(EXECUTABLE, self.folder)
-        os.chmod(executable, 0o755)
+        """Puts the program, unless it is installed, with the sample files and help documents into the test's folder.
+        Returns the path of its executable."""
+        executable = EXECUTABLE
+        if not INSTALLED:
+            executable = shutil.copy2(EXECUTABLE, self.folder)
+            os.chmod(executable, 0o755)
         if samples:
             for file in glob.glob(os.path.join(SAMPLES, "*")) + glob.glob(os.path.join(DOCUMENTS, "*")):
                 self.desktop.hand_over(shutil.copy2(file, self.folder))

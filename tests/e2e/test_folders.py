@@ -6,7 +6,7 @@
 import os
 import unittest
 
-from session import Session
+from session import EXECUTABLE, INSTALLED, Session
 from waiting import wait_for
 
 SAMPLES = {"CrudeOil.dat", "CrudeOil.txt", "Gold.txt", "Wheat.dat", "Wheat.txt"}
@@ -16,7 +16,10 @@ DOCUMENTS = {"CommoditySymbols.rtf", "ConvertCustom.rtf", "Quorvex-Index.rtf", "
 
 class Folders(Session):
     def install_for_everybody(self):
-        """Puts the program into a folder that its user cannot write."""
+        """Puts the program into a folder that its user cannot write, if it is not in one."""
+        if INSTALLED:
+            os.rmdir(self.folder)
+            return EXECUTABLE
         executable = self.install(samples=False)
         for path in (executable, self.folder):
             os.chmod(path, 0o555)

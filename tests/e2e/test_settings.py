@@ -57,7 +57,7 @@ class Settings(Session):
         self.assertRegex(self.quotes_chart(), r"^Candlestick chart .* last close 520\.3\. 9-day moving average")
 
     def exit_and_start_again(self):
-        executable = os.path.join(self.folder, "Quorvex")
+        executable = self.program.executable
         self.program.choose("File", "Exit")
         self.require_end(self.program)
         self.start(executable).open_quotes("Wheat.txt")
