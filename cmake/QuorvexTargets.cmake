@@ -165,7 +165,7 @@ function(add_windows_program name)
     target_link_libraries(${target} PRIVATE quorvex_test_windows quorvex_test_options)
     target_precompile_headers(${target} REUSE_FROM quorvex_test_windows)
     add_windows_manifest(${target})
-    add_offscreen_platform(${target})
+    link_static_qt(${target} WIDGETS)
 endfunction()
 
 # add_windows_case(<name> COMMAND <program> [<arguments>]): a test that drives windows on a platform without a display.

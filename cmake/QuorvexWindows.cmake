@@ -67,9 +67,23 @@ function(add_windows_resources target description)
     endif()
 endfunction()
 
-# The platform without a display, which a static Qt brings only to who asks for it.
-function(add_offscreen_platform target)
+# link_static_qt(<program> [WIDGETS]): links a program, with windows or without, with the static Qt: with the platform
+# without a display, which comes only to who asks for it, and with Qt's libraries whole and in front of everything else.
+#
+# GCC takes it that an inline function spares those registers which the copy in the calling object file spares (-fipa-ra).
+# The linker keeps the first copy that it meets, and Qt crashed in one of ours. With Qt's libraries in front that copy is
+# one of Qt's own; the program's objects are compiled without that assumption. What nobody needs is left out all the same.
+function(link_static_qt target)
     if(WIN32 AND TARGET Qt6::QOffscreenIntegrationPlugin)
+        set(libraries "")
+        set(names Gui QGifPlugin QICOPlugin QJpegPlugin QWindowsIntegrationPlugin QOffscreenIntegrationPlugin Core)
+        if(ARGN STREQUAL WIDGETS)
+            list(PREPEND names PrintSupport Widgets QWindowsVistaStylePlugin)
+        endif()
+        foreach(library IN LISTS names)
+            list(APPEND libraries $<TARGET_FILE:Qt6::${library}>)
+        endforeach()
+        target_link_options(${target} PRIVATE LINKER:--whole-archive ${libraries} LINKER:--no-whole-archive)
         target_link_libraries(${target} PRIVATE Qt6::QOffscreenIntegrationPlugin)
     endif()
 endfunction()

@@ -2,6 +2,9 @@
 
 include(${CMAKE_CURRENT_LIST_DIR}/mingw64.cmake)
 
+# An inline function may be called in the copy of another object file, which uses other registers (see QuorvexWindows.cmake).
+set(CMAKE_CXX_FLAGS_INIT "-fno-ipa-ra")
+
 get_filename_component(build ${CMAKE_CURRENT_LIST_DIR}/../../build ABSOLUTE)
 list(APPEND CMAKE_FIND_ROOT_PATH ${build}/windows-libraries ${build}/windows-qt)
 list(APPEND CMAKE_PREFIX_PATH ${build}/windows-libraries ${build}/windows-qt)
