@@ -12,6 +12,7 @@
 #include <QAccessibleWidget>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -255,7 +256,7 @@ void PictureBox::SaveImageAs() {
             return;
         }
     } while (!MayWrite(dialog.selectedFiles().constFirst()));
-    std::string const path = pictures::FromQt(dialog.selectedFiles().constFirst());
+    std::string const path = pictures::FromQt(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
     auto const kindOfFilter = PictureKindOf(pictures::FromQt(u'.' + dialog.defaultSuffix()));
     PictureKind const kind = PictureKindOf(path).value_or(kindOfFilter.value_or(PictureKind::Png));
     std::array<PlacedDrawing, 1> const drawings = {{{0, 0, &drawing_}}};

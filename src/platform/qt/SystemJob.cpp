@@ -67,7 +67,7 @@ std::string NewPdfPath(std::string_view folder, std::string_view documentName) {
     for (int copy = 2; QFileInfo::exists(path); ++copy) {
         path = QStringLiteral("%1 (%2).pdf").arg(start).arg(copy);
     }
-    return pictures::FromQt(path);
+    return pictures::FromQt(QDir::toNativeSeparators(path));
 }
 
 } // namespace quorvex::platform::qt
