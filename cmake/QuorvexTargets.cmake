@@ -116,6 +116,7 @@ function(add_windows name)
     endforeach()
     add_level_target(${name} LEVEL ${arg_LEVEL} FILES ${arg_FILES} USES ${arg_USES})
     set_target_properties(quorvex_${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+    compile_quickly(quorvex_${name})
     if(WIN32)
         # The static Qt cannot unpack what rcc would choose.
         set_target_properties(quorvex_${name} PROPERTIES AUTORCC_OPTIONS --no-zstd)
