@@ -147,9 +147,9 @@ function(add_core_test core)
     foreach(used IN LISTS arg_USES)
         target_link_libraries(${target} PRIVATE quorvex_${used})
     endforeach()
-    if(CMAKE_CROSSCOMPILING)
-        # The emulator takes longer to start than most tests to run.
-        add_test(NAME ${core} COMMAND ${target} --gtest_brief=1 --gtest_shuffle)
+    if(CMAKE_CROSSCOMPILING OR QUORVEX_SANITIZERS)
+        # All in one process: an emulator, and the memory of the sanitizers, take longer to set up than most tests to run.
+        add_test(NAME ${core} COMMAND ${target} --gtest_shuffle)
         set_tests_properties(${core} PROPERTIES TIMEOUT 900 ENVIRONMENT "${QUORVEX_TEST_ENVIRONMENT}")
     else()
         gtest_discover_tests(${target} TEST_PREFIX "${core}." DISCOVERY_TIMEOUT 60

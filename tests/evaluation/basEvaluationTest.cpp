@@ -8,6 +8,7 @@
 #include "evaluation/Surrogates.h"
 #include "evaluation/basVerdicts.h"
 #include "search/basSearch.h"
+#include "support/Sanitizers.h"
 
 #include <gtest/gtest.h>
 
@@ -118,7 +119,7 @@ std::vector<Model> const PrefixModels = {
 
 TEST_F(Prefixes, NoLaterDayChangesAnEarlierForecast) {
     std::mt19937 random(1);
-    for (int round = 0; round < 999; ++round) {
+    for (int round = 0; round < tests::Repetitions(999); ++round) {
         SCOPED_TRACE(round);
         // The searches of several cycles take longest and come less often.
         std::size_t const pick = random() % 20;

@@ -4,6 +4,7 @@
 #include "import/basConversion.h"
 
 #include "Tables.h"
+#include "support/Sanitizers.h"
 #include "text/basTexts.h"
 
 #include <gtest/gtest.h>
@@ -155,7 +156,7 @@ TEST(Conversion, GivesTheSameForPlainRowsAndOthers) {
     constexpr auto Dates = std::to_array<std::string_view>(
         {"2019-10-28", "2019-10-29", "2019-10-30", "10/28/2019", "2019-10-28 16:00", "28-Oct-19",
          "1949-12-31", "2019-13-13", "20191028", "\x1a", " 2019-10-28"});
-    for (int turn = 0; turn < 3000; ++turn) {
+    for (int turn = 0; turn < tests::Repetitions(3000); ++turn) {
         std::string plain = Head;
         std::string quoted = Head;
         for (int row = 0; row < 6; ++row) {

@@ -5,6 +5,7 @@
 
 #include "PlainSearch.h"
 #include "search/Pursuit.h"
+#include "support/Sanitizers.h"
 
 #include <gtest/gtest.h>
 
@@ -242,9 +243,9 @@ TEST(CycleSearch, DoesNotDependOnTheUnitOrTheLevelOfTheSeries) {
 }
 
 TEST(CycleSearch, WholeWeightsFollowAlmostAsWellAsAnyOthers) {
-    for (std::uint32_t seed = 1; seed <= 8; ++seed) {
-        int const days = 25 + static_cast<int>(seed) * 10;
-        Series const series = Randomness(seed).Walk(days);
+    for (int seed = 1; seed <= tests::Repetitions(8); ++seed) {
+        int const days = 25 + seed * 10;
+        Series const series = Randomness(static_cast<std::uint32_t>(seed)).Walk(days);
         for (CycleModel const& model : Find(series, 5)) {
             EXPECT_LE(tests::CorrelationWithAnyWeights(model, series) - model.Correlation, 0.003 + 1e-6)
                 << seed;

@@ -4,23 +4,15 @@
 // Promises about time, held on machines that do other work beside the tests.
 #pragma once
 
+#include "support/Sanitizers.h"
+
 #include <algorithm>
 #include <chrono>
 
 namespace quorvex::tests {
 
 // How much longer than the program's own promise a test may wait: the sanitizers slow everything down.
-#if defined(__SANITIZE_ADDRESS__)
-inline constexpr int Patience = 5;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-inline constexpr int Patience = 5;
-#else
-inline constexpr int Patience = 1;
-#endif
-#else
-inline constexpr int Patience = 1;
-#endif
+inline constexpr int Patience = HasSanitizers ? 5 : 1;
 
 // How long the quickest of several tries took; each returns its own duration. Other programs hold up one try
 // or two, not every one.
