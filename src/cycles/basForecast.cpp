@@ -35,9 +35,15 @@ text::CalendarDay NextWeekday(text::CalendarDay day) {
     return day;
 }
 
+// Of both lists, read once for all lines.
+struct ListFormats {
+    text::NumberFormat Day{"##"};
+    text::NumberFormat Value{"###.####"};
+};
+
 // "12  03/15/02 246.75": day, date and value; a day below ten has a blank on its left.
-std::string ListLine(int day, std::string_view date, double value) {
-    std::string const number = text::FormatNumber(day, "##");
+std::string ListLine(ListFormats const& formats, int day, std::string_view date, double value) {
+    std::string const number = formats.Day.Format(day);
     std::string line(text::Trim(number));
     if (line.size() < 2) {
         line.insert(0, 1, ' ');
@@ -45,7 +51,8 @@ std::string ListLine(int day, std::string_view date, double value) {
     line += "  ";
     line += text::FormatDate(text::RequireDate(date));
     line += ' ';
-    return line + text::FormatNumber(value, "###.####");
+    formats.Value.AppendTo(line, value);
+    return line;
 }
 
 } // namespace
@@ -90,19 +97,21 @@ ForecastDates ComputeForecastDates(std::string_view lastQuoteDate) {
 }
 
 std::vector<std::string> EstimatedValueLines(ForecastCurve const& values, ForecastDates const& dates) {
+    ListFormats const formats;
     std::vector<std::string> lines;
     for (int day = 1; day <= ForecastDays; ++day) {
-        lines.push_back(ListLine(day, dates[day], values[day]));
+        lines.push_back(ListLine(formats, day, dates[day], values[day]));
     }
     return lines;
 }
 
 std::vector<std::string> PreviousCloseLines(quotes::QuoteSeries const& series) {
+    ListFormats const formats;
     std::vector<std::string> lines;
     int const last = series.WorkingCount;
     for (int day = std::max(1, last - ForecastDays + 1); day <= last; ++day) {
         quotes::QuoteRecord const& record = series.Working[day];
-        lines.push_back(ListLine(day, record.Date, record.Close));
+        lines.push_back(ListLine(formats, day, record.Date, record.Close));
     }
     return lines;
 }
