@@ -203,4 +203,22 @@ std::string FormatDate(CalendarDay day) {
     return {Tens(m), Units(m), '/', Tens(d), Units(d), '/', Tens(y), Units(y)};
 }
 
+std::string FormatIsoDate(CalendarDay day) {
+    constexpr unsigned Hundred = 100;
+    std::chrono::year_month_day const date{day};
+    auto const y = static_cast<unsigned>(static_cast<int>(date.year()));
+    auto const m = static_cast<unsigned>(date.month());
+    auto const d = static_cast<unsigned>(date.day());
+    return {Tens(y / Hundred),
+            Units(y / Hundred),
+            Tens(y % Hundred),
+            Units(y % Hundred),
+            '-',
+            Tens(m),
+            Units(m),
+            '-',
+            Tens(d),
+            Units(d)};
+}
+
 } // namespace quorvex::text

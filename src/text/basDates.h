@@ -32,4 +32,7 @@ using CalendarDay = std::chrono::sys_days;
 // The day as "mm/dd/yy".
 [[nodiscard]] std::string FormatDate(CalendarDay day);
 
+// The day as "yyyy-mm-dd", which every spreadsheet takes for a date. REQUIRES: a year of 0..9999.
+[[nodiscard]] std::string FormatIsoDate(CalendarDay day);
+
 } // namespace quorvex::text

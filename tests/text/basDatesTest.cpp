@@ -250,6 +250,8 @@ TEST(RequireDate, IsTheDayOrRaisesTypeMismatch) {
 TEST(FormatDate, WritesTwoDigitsEach) {
     EXPECT_EQ(FormatDate(Day(2002, 3, 5)), "03/05/02");
     EXPECT_EQ(FormatDate(Day(1999, 12, 31)), "12/31/99");
+    EXPECT_EQ(FormatIsoDate(Day(2002, 3, 5)), "2002-03-05");
+    EXPECT_EQ(FormatIsoDate(Day(1999, 12, 31)), "1999-12-31");
     EXPECT_EQ(FormatDate(Day(2000, 1, 1)), "01/01/00");
     EXPECT_EQ(FormatDate(Day(100, 10, 20)), "10/20/00");
     EXPECT_EQ(FormatDate(Day(9999, 12, 31)), "12/31/99");

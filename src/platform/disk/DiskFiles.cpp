@@ -6,10 +6,12 @@
 #include "platform/disk/HostFile.h"
 #include "platform/disk/TemporaryFile.h"
 #include "text/RunTimeError.h"
+#include "text/basFolders.h"
 
 #include <array>
 #include <cstddef>
 #include <filesystem>
+#include <utility>
 
 namespace quorvex::platform::disk {
 
@@ -28,7 +30,7 @@ void RequireName(std::string_view path) {
 // is never replaced, emptied or deleted. Returns whether there is a file.
 bool RequireFileOrNone(std::filesystem::path const& path) {
     auto const kind = KindOfHostFile(path);
-    if (kind == HostFileKind::Other) {
+    if (kind == HostFileKind::Folder || kind == HostFileKind::Other) {
         throw RunTimeError(Fault::PermissionDenied);
     }
     return kind == HostFileKind::File;
@@ -164,7 +166,14 @@ void DiskFiles::EnterFolder(std::string const& folder) {
 std::vector<std::string> DiskFiles::List(std::string const& folder, std::string_view pattern) const {
     std::vector<std::string> names;
     // A folder that no folder can be is one that cannot be read.
-    static_cast<void>(text::Trap([&] { names = ListHostFiles(HostPath(folder), pattern); }));
+    static_cast<void>(text::Trap([&] {
+        VisitHostFolder(HostPath(folder), [&](std::string name, HostFileKind kind) {
+            // A pipe or a device would keep a reader waiting.
+            if (kind == HostFileKind::File && text::MatchesPattern(name, pattern)) {
+                names.push_back(std::move(name));
+            }
+        });
+    }));
     return names;
 }
 

@@ -61,6 +61,28 @@ private:
     HostFile file_;
 };
 
+class EndingFileSource final : public text::ByteSource {
+public:
+    EndingFileSource(SystemFile file, std::function<bool()> goesOn)
+        : awaited_(file),
+          file_(file),
+          goesOn_(std::move(goesOn)) {}
+
+    [[nodiscard]] std::size_t Read(std::span<char> buffer) override {
+        while (goesOn_()) {
+            if (AwaitSystemFile(awaited_)) {
+                return file_.Read(buffer);
+            }
+        }
+        return 0;
+    }
+
+private:
+    SystemFile awaited_; // the next one's
+    HostFile file_;
+    std::function<bool()> goesOn_;
+};
+
 class HostFileSink : public ByteSink {
 public:
     explicit HostFileSink(SystemFile file) : file_(file) {}
@@ -114,6 +136,10 @@ std::unique_ptr<ByteSink> OpenHostFileToAppend(std::filesystem::path const& path
 
 std::unique_ptr<text::ByteSource> OpenStandardInput() {
     return std::make_unique<HostFileSource>(DuplicateStandardFile(0));
+}
+
+std::unique_ptr<text::ByteSource> OpenStandardInputWhile(std::function<bool()> goesOn) {
+    return std::make_unique<EndingFileSource>(DuplicateStandardFile(0), std::move(goesOn));
 }
 
 std::unique_ptr<ByteSink> OpenStandardOutput() {

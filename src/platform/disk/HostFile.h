@@ -10,11 +10,11 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace quorvex::platform::disk {
 
@@ -24,7 +24,7 @@ namespace quorvex::platform::disk {
 [[nodiscard]] std::filesystem::path HostPath(std::string_view path);
 
 // What a path names. Links are followed: one that leads nowhere is none.
-enum class HostFileKind { None, File, Other };
+enum class HostFileKind { None, File, Folder, Other };
 
 [[nodiscard]] HostFileKind KindOfHostFile(std::filesystem::path const& path);
 
@@ -32,16 +32,23 @@ enum class HostFileKind { None, File, Other };
 // that leads nowhere raises a fault.
 [[nodiscard]] std::filesystem::path FollowHostLinks(std::filesystem::path path);
 
-// The names as UTF-8 of the files, not folders, that fit the pattern, in the order of the file system. None
-// when the folder cannot be read. Names that Unicode cannot spell, as Windows allows, are left out.
-[[nodiscard]] std::vector<std::string> ListHostFiles(std::filesystem::path const& folder,
-                                                     std::string_view pattern);
+// Tells the name as UTF-8 and the kind of all that stands in the folder, in the order of the file system. A
+// link to a folder, through which a walk could come back to where it was, is of the kind Other. Names that
+// Unicode cannot spell, as Windows allows, are left out.
+using HostEntryVisitor = std::function<void(std::string, HostFileKind)>;
+
+void VisitHostFolder(std::filesystem::path const& folder, HostEntryVisitor const& visit);
 
 // The file opened for reading from its start. A pipe is waited for until it has a writer.
 [[nodiscard]] std::unique_ptr<text::ByteSource> OpenHostFile(std::filesystem::path const& path);
 
 // What the process was given to read and to write on, byte for byte.
 [[nodiscard]] std::unique_ptr<text::ByteSource> OpenStandardInput();
+
+// Standard input that ends early once the callback says no, even while it waits for bytes: it is asked some
+// times a second. Where the system cannot wait for a while only, not before the next bytes.
+[[nodiscard]] std::unique_ptr<text::ByteSource> OpenStandardInputWhile(std::function<bool()> goesOn);
+
 [[nodiscard]] std::unique_ptr<ByteSink> OpenStandardOutput();
 
 // The file, made empty or created, opened for writing.
@@ -52,6 +59,9 @@ enum class HostFileKind { None, File, Other };
 [[nodiscard]] std::unique_ptr<ByteSink> OpenHostFileToAppend(std::filesystem::path const& path);
 
 void RemoveHostFile(std::filesystem::path const& path);
+
+// Takes what stands behind so many bytes off the file.
+void ShortenHostFile(std::filesystem::path const& path, std::uint64_t length);
 
 // In bytes.
 [[nodiscard]] std::uint64_t HostFileLength(std::filesystem::path const& path);

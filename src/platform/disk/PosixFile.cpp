@@ -6,11 +6,11 @@
 #include "platform/disk/HostFile.h"
 #include "platform/disk/SystemFile.h"
 #include "text/RunTimeError.h"
-#include "text/basFolders.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -84,6 +84,20 @@ std::string Utf8(std::filesystem::path const& name) {
     return {text.begin(), text.end()};
 }
 
+HostFileKind KindOf(std::filesystem::file_type type) {
+    switch (type) {
+    case std::filesystem::file_type::none:
+    case std::filesystem::file_type::not_found:
+        return HostFileKind::None;
+    case std::filesystem::file_type::regular:
+        return HostFileKind::File;
+    case std::filesystem::file_type::directory:
+        return HostFileKind::Folder;
+    default:
+        return HostFileKind::Other;
+    }
+}
+
 } // namespace
 
 SystemFile OpenSystemFile(std::filesystem::path const& path, Opening opening, bool onlyForOwner) {
@@ -127,6 +141,12 @@ std::size_t ReadSystemFile(SystemFile file, std::span<char> buffer) {
     }
 }
 
+bool AwaitSystemFile(SystemFile file) {
+    constexpr int TenthOfASecond = 100; // in milliseconds
+    pollfd awaited{.fd = Descriptor(file), .events = POLLIN, .revents = 0};
+    return poll(&awaited, 1, TenthOfASecond) > 0;
+}
+
 std::size_t WriteSystemFile(SystemFile file, std::string_view bytes) {
     for (;;) {
         auto const count = write(Descriptor(file), bytes.data(), bytes.size());
@@ -165,16 +185,7 @@ std::filesystem::path HostPath(std::string_view path) {
 
 HostFileKind KindOfHostFile(std::filesystem::path const& path) {
     std::error_code error;
-    auto const type = std::filesystem::status(path, error).type();
-    switch (type) {
-    case std::filesystem::file_type::none:
-    case std::filesystem::file_type::not_found:
-        return HostFileKind::None;
-    case std::filesystem::file_type::regular:
-        return HostFileKind::File;
-    default:
-        return HostFileKind::Other;
-    }
+    return KindOf(std::filesystem::status(path, error).type());
 }
 
 std::filesystem::path FollowHostLinks(std::filesystem::path path) {
@@ -190,19 +201,24 @@ std::filesystem::path FollowHostLinks(std::filesystem::path path) {
     return path;
 }
 
-std::vector<std::string> ListHostFiles(std::filesystem::path const& folder, std::string_view pattern) {
-    std::vector<std::string> names;
+void VisitHostFolder(std::filesystem::path const& folder, HostEntryVisitor const& visit) {
     std::error_code error;
     std::filesystem::directory_iterator entry(folder, error);
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
         std::error_code unreadable;
-        auto name = Utf8(entry->path().filename());
-        // A pipe or a device would keep a reader waiting.
-        if (text::MatchesPattern(name, pattern) && entry->is_regular_file(unreadable)) {
-            names.push_back(std::move(name));
-        }
+        auto const kind = KindOf(entry->status(unreadable).type());
+        bool const isLink = kind == HostFileKind::Folder && entry->is_symlink(unreadable);
+        visit(Utf8(entry->path().filename()), isLink ? HostFileKind::Other : kind);
     }
-    return names;
+    if (error) {
+        Raise(error.value(), folder);
+    }
+}
+
+void ShortenHostFile(std::filesystem::path const& path, std::uint64_t length) {
+    if (truncate(path.c_str(), static_cast<off_t>(length)) != 0) {
+        Raise(errno, path);
+    }
 }
 
 void RemoveHostFile(std::filesystem::path const& path) {

@@ -35,6 +35,10 @@ enum class Opening {
 // How many bytes were read; 0 at the end.
 [[nodiscard]] std::size_t ReadSystemFile(SystemFile file, std::span<char> buffer);
 
+// Waits for bytes to read, or for the end of them, for a tenth of a second at most. Returns whether reading
+// need not wait; always where the system cannot tell.
+[[nodiscard]] bool AwaitSystemFile(SystemFile file);
+
 // How many of the bytes were written.
 [[nodiscard]] std::size_t WriteSystemFile(SystemFile file, std::string_view bytes);
 

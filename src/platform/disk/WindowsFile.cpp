@@ -7,9 +7,9 @@
 #include "platform/disk/SystemFile.h"
 #include "platform/disk/basDeviceNames.h"
 #include "text/RunTimeError.h"
-#include "text/basFolders.h"
 
 #include <algorithm>
+#include <memory>
 #include <optional>
 #include <system_error>
 #include <utility>
@@ -45,6 +45,12 @@ Fault FaultOf(DWORD error) {
     default:
         return Fault::PermissionDenied;
     }
+}
+
+HostFileKind KindOf(DWORD attributes) {
+    return (attributes & FILE_ATTRIBUTE_DEVICE) != 0      ? HostFileKind::Other
+           : (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? HostFileKind::Folder
+                                                          : HostFileKind::File;
 }
 
 [[noreturn]] void RaiseLastError() {
@@ -254,6 +260,10 @@ std::size_t ReadSystemFile(SystemFile file, std::span<char> buffer) {
     return count;
 }
 
+bool AwaitSystemFile(SystemFile) {
+    return true;
+}
+
 std::size_t WriteSystemFile(SystemFile file, std::string_view bytes) {
     constexpr std::size_t MostBytes = 1U << 16; // more at once is too much for older consoles
     DWORD count = 0;
@@ -295,11 +305,8 @@ std::filesystem::path HostPath(std::string_view path) {
 }
 
 HostFileKind KindOfHostFile(std::filesystem::path const& path) {
-    constexpr DWORD NoFile = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE;
     auto const attributes = AttributesOf(path);
-    return !attributes                                    ? HostFileKind::None
-           : (attributes->dwFileAttributes & NoFile) == 0 ? HostFileKind::File
-                                                          : HostFileKind::Other;
+    return attributes ? KindOf(attributes->dwFileAttributes) : HostFileKind::None;
 }
 
 std::filesystem::path FollowHostLinks(std::filesystem::path path) {
@@ -321,22 +328,40 @@ std::filesystem::path FollowHostLinks(std::filesystem::path path) {
     return target;
 }
 
-std::vector<std::string> ListHostFiles(std::filesystem::path const& folder, std::string_view pattern) {
-    constexpr DWORD NoFile = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE;
-    std::vector<std::string> names;
+void VisitHostFolder(std::filesystem::path const& folder, HostEntryVisitor const& visit) {
     WIN32_FIND_DATAW entry{};
     HANDLE const search = FindFirstFileW((folder / L"*").c_str(), &entry);
     if (search == INVALID_HANDLE_VALUE) {
-        return names;
+        RaiseLastError();
     }
+    auto const close = [](HANDLE open) { FindClose(open); };
+    std::unique_ptr<void, decltype(close)> const closed(search, close);
     do {
         auto name = Utf8(static_cast<wchar_t const*>(entry.cFileName));
-        if (name && (entry.dwFileAttributes & NoFile) == 0 && text::MatchesPattern(*name, pattern)) {
-            names.push_back(std::move(*name));
+        if (name && *name != "." && *name != "..") {
+            auto const kind = KindOf(entry.dwFileAttributes);
+            bool const isLink =
+                kind == HostFileKind::Folder && (entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+            visit(std::move(*name), isLink ? HostFileKind::Other : kind);
         }
     } while (FindNextFileW(search, &entry) != 0);
-    FindClose(search);
-    return names;
+    if (GetLastError() != ERROR_NO_MORE_FILES) {
+        RaiseLastError();
+    }
+}
+
+void ShortenHostFile(std::filesystem::path const& path, std::uint64_t length) {
+    HANDLE const handle = OpenHandle(path, GENERIC_WRITE, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL);
+    if (handle == INVALID_HANDLE_VALUE) {
+        RaiseLastError();
+    }
+    auto const close = [](HANDLE open) { CloseHandle(open); };
+    std::unique_ptr<void, decltype(close)> const closed(handle, close);
+    LARGE_INTEGER end{};
+    end.QuadPart = static_cast<LONGLONG>(length);
+    if (SetFilePointerEx(handle, end, nullptr, FILE_BEGIN) == 0 || SetEndOfFile(handle) == 0) {
+        RaiseLastError();
+    }
 }
 
 void RemoveHostFile(std::filesystem::path const& path) {

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#include "platform/disk/HostInterruption.h"
+
+#include <atomic>
+
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <csignal>
+#endif
+
+namespace quorvex::platform::disk {
+
+namespace {
+
+// Set where little else is allowed.
+std::atomic<bool> hasCome = false; // NOLINT(*-avoid-non-const-global-variables)
+static_assert(std::atomic<bool>::is_always_lock_free);
+
+} // namespace
+
+#ifdef _WIN32
+
+namespace {
+
+BOOL WINAPI Note(DWORD) {
+    return hasCome.exchange(true) ? FALSE : TRUE;
+}
+
+} // namespace
+
+HostInterruption::HostInterruption() {
+    hasCome = false;
+    SetConsoleCtrlHandler(Note, TRUE);
+}
+
+HostInterruption::~HostInterruption() {
+    SetConsoleCtrlHandler(Note, FALSE);
+}
+
+#else
+
+namespace {
+
+constexpr int Signals[] = {SIGINT, SIGTERM, SIGHUP}; // NOLINT(*-avoid-c-arrays)
+
+void Note(int) {
+    hasCome = true;
+}
+
+void Handle(int signal, void (*handler)(int)) {
+    struct sigaction before {};
+
+    struct sigaction action {};
+
+    action.sa_handler = handler;                                   // NOLINT(*-union-access)
+    action.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART); // the next one ends the process
+    sigemptyset(&action.sa_mask);
+    bool const isKnown = sigaction(signal, nullptr, &before) == 0;
+    if (isKnown && before.sa_handler != SIG_IGN) { // NOLINT(*-union-access)
+        sigaction(signal, &action, nullptr);
+    }
+}
+
+} // namespace
+
+HostInterruption::HostInterruption() {
+    hasCome = false;
+    for (int const signal : Signals) {
+        Handle(signal, Note);
+    }
+}
+
+HostInterruption::~HostInterruption() {
+    for (int const signal : Signals) {
+        Handle(signal, SIG_DFL);
+    }
+}
+
+#endif
+
+bool HostInterruption::HasCome() {
+    return hasCome;
+}
+
+} // namespace quorvex::platform::disk

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Quorvex developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+namespace quorvex::platform::disk {
+
+// As long as it lives, Ctrl-C and a request to end are noted and end nothing, once: the next one ends the
+// process. What the process was started to ignore stays ignored. There is one at a time.
+class HostInterruption {
+public:
+    HostInterruption();
+    HostInterruption(HostInterruption const&) = delete;
+    HostInterruption& operator=(HostInterruption const&) = delete;
+    ~HostInterruption();
+
+    // Whether there was one. For any thread.
+    [[nodiscard]] static bool HasCome();
+};
+
+} // namespace quorvex::platform::disk
