@@ -31,8 +31,12 @@ CLI::Validator IsFitCount() {
 
 void AddQuoteOptions(CLI::App& command, AnalysisOptions& options) {
     command.add_option("QUOTES", options.QuotePath, "Quote file to read")->required()->type_name("");
+    AddReadingOptions(command, options, "--format");
+}
+
+void AddReadingOptions(CLI::App& command, AnalysisOptions& options, std::string const& formatName) {
     AddMovingAverageOption(command, options.MovingAverage);
-    AddFormatOption(command, options.Format);
+    AddFormatOption(command, options.Format, formatName);
     command.add_option("--start", options.Request.StartDate, "First day to analyse")
         ->type_name("mm/dd/yy")
         ->check(IsDate());
@@ -41,8 +45,7 @@ void AddQuoteOptions(CLI::App& command, AnalysisOptions& options) {
         ->check(IsDate());
 }
 
-void AddAnalysisOptions(CLI::App& command, AnalysisOptions& options) {
-    AddQuoteOptions(command, options);
+void AddCycleOptions(CLI::App& command, AnalysisOptions& options) {
     auto* const parameters = command
                                  .add_option("--parameters", options.Request.ParameterPath,
                                              "Read the cycles from a parameter file")
@@ -54,6 +57,11 @@ void AddAnalysisOptions(CLI::App& command, AnalysisOptions& options) {
                                ->check(IsFitCount())
                                ->excludes(parameters);
     AddSearchOptions(command, "--search", options.Request.Search)->excludes(parameters)->excludes(automate);
+}
+
+void AddAnalysisOptions(CLI::App& command, AnalysisOptions& options) {
+    AddQuoteOptions(command, options);
+    AddCycleOptions(command, options);
     AddChartTypeOption(command, options.ChartType);
 }
 

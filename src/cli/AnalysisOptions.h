@@ -23,8 +23,18 @@ struct AnalysisOptions {
     app::AnalysisRequest Request;
 };
 
-// Adds them to the sub-command. The options must outlive it.
-void AddQuoteOptions(CLI::App& command, AnalysisOptions& options); // those of the quotes alone
+// They add what they tell to the sub-command. The options must outlive it.
+
+// The quote file, and with it what tells how it is read.
+void AddQuoteOptions(CLI::App& command, AnalysisOptions& options);
+
+// Moving average, the number format of prices under this name, and the days to analyse.
+void AddReadingOptions(CLI::App& command, AnalysisOptions& options, std::string const& formatName);
+
+// Where cycles come from: a parameter file, a fit or a search.
+void AddCycleOptions(CLI::App& command, AnalysisOptions& options);
+
+// All of these, and the chart type.
 void AddAnalysisOptions(CLI::App& command, AnalysisOptions& options);
 
 // Puts the settings and the quote file of the options into the started program.

@@ -7,10 +7,10 @@
 
 namespace quorvex::cli {
 
-AnalysisSession::AnalysisSession(AnalysisOptions const& options)
+AnalysisSession::AnalysisSession(AnalysisOptions const& options, MessageSink const& sink)
     : request_(options.Request),
-      dialogs_(options.QuotePath),
-      parameterDialogs_(options.Request.ParameterPath.value_or("")) {
+      dialogs_(options.QuotePath, sink),
+      parameterDialogs_(options.Request.ParameterPath.value_or(""), sink) {
     // Every run is to give the same, whatever the user prefers in the window.
     app::StartUp(*program_, grid_, platform::NoProfile(), "./");
     TakeAnalysisOptions(options, *program_);

@@ -19,7 +19,7 @@ namespace quorvex::cli {
 // A started program with the outside that it needs to run in a console.
 class AnalysisSession {
 public:
-    explicit AnalysisSession(AnalysisOptions const& options);
+    explicit AnalysisSession(AnalysisOptions const& options, MessageSink const& sink = Complain);
 
     // Runs the analysis of the options; nothing comes back when the quote file was refused.
     [[nodiscard]] std::optional<app::AnalysisResult> Analyse();

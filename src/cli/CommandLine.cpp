@@ -20,6 +20,7 @@ namespace quorvex::cli {
 void AddSubCommands(CLI::App& app, platform::Console const& console, Outputs const& outputs,
                     ExitStatus& status) {
     AddAnalyse(app, console, status);
+    AddBatch(app, console, status);
     AddChart(app, *outputs.Pictures, status);
     AddCheck(app, status);
     AddConvert(app, status);

@@ -3,13 +3,11 @@
 
 #include "cli/ConsoleDialogs.h"
 
-#include "cli/StandardStreams.h"
-
 namespace quorvex::cli {
 
 platform::Answer ConsoleDialogs::Show(platform::Message const& message) {
     hasShown_ = true;
-    Complain(fileName_, message.Text);
+    sink_(fileName_, message.Text);
     return message.Offered == platform::Buttons::Ok ? platform::Answer::Ok : platform::Answer::Cancel;
 }
 

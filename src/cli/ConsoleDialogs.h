@@ -3,17 +3,26 @@
 
 #pragma once
 
+#include "cli/StandardStreams.h"
 #include "platform/Dialogs.h"
 
+#include <functional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace quorvex::cli {
 
-// Puts the program's messages about one file on standard error and has no one to answer questions.
+// Takes a message about the file of this name.
+using MessageSink = std::function<void(std::string_view name, std::string_view message)>;
+
+// Puts the program's messages about one file on standard error, or wherever else they are to go, and has no
+// one to answer questions.
 class ConsoleDialogs final : public platform::Dialogs {
 public:
-    explicit ConsoleDialogs(std::string fileName) : fileName_(std::move(fileName)) {}
+    explicit ConsoleDialogs(std::string fileName, MessageSink sink = Complain)
+        : fileName_(std::move(fileName)),
+          sink_(std::move(sink)) {}
 
     platform::Answer Show(platform::Message const& message) override;
     [[nodiscard]] std::string Ask(platform::Question const& question) override;
@@ -27,6 +36,7 @@ public:
 
 private:
     std::string fileName_;
+    MessageSink sink_;
     bool hasShown_ = false;
 };
 

@@ -4,13 +4,13 @@
 #include "cli/AnalysisSession.h"
 #include "cli/ConsoleDialogs.h"
 #include "cli/EvaluationJson.h"
+#include "cli/ForecastTest.h"
 #include "cli/PictureFiles.h"
 #include "cli/PipeFiles.h"
-#include "cli/ProgressBar.h"
+#include "cli/ProgressLine.h"
 #include "cli/StandardStreams.h"
 #include "cli/SubCommands.h"
 #include "cli/WholeNumber.h"
-#include "cycles/basCurves.h"
 #include "evaluation/basEvaluation.h"
 #include "evaluation/basEvaluationPlot.h"
 #include "evaluation/basReport.h"
@@ -21,6 +21,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace quorvex::cli {
 
@@ -28,9 +29,7 @@ namespace {
 
 struct EvaluateOptions {
     AnalysisOptions Analysis;
-    int Every = evaluation::DefaultEvery;
-    int Surrogates = evaluation::DefaultSurrogates;
-    int Jobs = evaluation::UsualJobs();
+    TestOptions Test{.Jobs = evaluation::UsualJobs()};
     bool Json = false;
     std::string PlotPath;
 };
@@ -53,27 +52,16 @@ std::optional<evaluation::Evaluation> Test(EvaluateOptions const& options, Analy
     if (!session.OpenQuotes() || (hasParameters && !session.TakeParameters())) {
         return std::nullopt;
     }
-    app::Program const& program = session.Program();
-    evaluation::EvaluationRequest request;
-    request.Models = evaluation::StandardModels(hasParameters);
-    request.Parameters = hasParameters ? &program.Cycles : nullptr;
-    request.Every = options.Every;
-    request.SurrogateCount = options.Surrogates;
-    request.Jobs = options.Jobs;
-    ConsoleDialogs dialogs(options.Analysis.QuotePath);
-    evaluation::EvaluationOutcome outcome;
-    platform::RunReported(dialogs, [&] {
-        request.MovingAverageLength = cycles::MovingAverageLength(program.Settings.MovingAverageIndex);
-        ProgressBar bar(console);
-        outcome = evaluation::Evaluate(program.Quotes, request, [&bar](double share) {
-            bar.Show(share);
-            return true;
-        });
+    ProgressLine line(console);
+    ConsoleDialogs dialogs(options.Analysis.QuotePath,
+                           [&line](std::string_view name, std::string_view message) {
+                               line.Erase();
+                               Complain(name, message);
+                           });
+    return TestForecasts(session.Program(), hasParameters, options.Test, dialogs, [&line](double share) {
+        line.Show(ProgressText(share));
+        return true;
     });
-    if (!outcome.Refusal.empty()) {
-        platform::ShowWarning(dialogs, outcome.Refusal);
-    }
-    return std::move(outcome.Result);
 }
 
 bool WritePlot(std::string const& path, evaluation::Evaluation const& evaluation,
@@ -105,8 +93,6 @@ ExitStatus Evaluate(EvaluateOptions const& options, platform::Console const& con
 
 void AddEvaluate(CLI::App& app, platform::Console const& console, platform::PictureEncoder& encoder,
                  ExitStatus& status) {
-    constexpr int LargestEvery = 400;
-    constexpr int MostSurrogates = 10'000;
     auto const options = std::make_shared<EvaluateOptions>();
     CLI::App* command =
         app.add_subcommand("evaluate", "Test whether cycles forecast one contract of " +
@@ -116,21 +102,9 @@ void AddEvaluate(CLI::App& app, platform::Console const& console, platform::Pict
         ->add_option("--parameters", options->Analysis.Request.ParameterPath,
                      "Test the cycles of a parameter file, too; made of the days tested, they know them")
         ->type_name("FILE.dat");
+    AddTestOptions(*command, options->Test);
     command
-        ->add_option("--every", options->Every,
-                     "Days from one forecast to the next [" + std::to_string(evaluation::DefaultEvery) +
-                         "], all at one phase of a cycle of so many days: compare with 4 or 6")
-        ->type_name("N")
-        ->transform(WholeNumberBetween(1, LargestEvery));
-    command
-        ->add_option("--surrogates", options->Surrogates,
-                     "Series in other phases to compare correlations with [" +
-                         std::to_string(evaluation::DefaultSurrogates) +
-                         "]; more tell smaller p, fewer take less time")
-        ->type_name("N")
-        ->transform(WholeNumberBetween(1, MostSurrogates));
-    command
-        ->add_option("--jobs", options->Jobs,
+        ->add_option("--jobs", options->Test.Jobs,
                      "Threads to work with; the result is the same with any number [as many as the machine "
                      "has]")
         ->type_name("N")

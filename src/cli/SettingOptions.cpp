@@ -17,8 +17,8 @@ std::string WithDefault(std::string help, std::string Settings::*member) {
 
 } // namespace
 
-void AddFormatOption(CLI::App& command, std::optional<std::string>& value) {
-    command.add_option("--format", value, WithDefault("Number format of prices", &Settings::CurrencyFormat))
+void AddFormatOption(CLI::App& command, std::optional<std::string>& value, std::string const& name) {
+    command.add_option(name, value, WithDefault("Number format of prices", &Settings::CurrencyFormat))
         ->type_name("F");
 }
 

@@ -12,7 +12,8 @@
 namespace quorvex::cli {
 
 // They add the option to the sub-command. What was typed is stored in the value, which must outlive it.
-void AddFormatOption(CLI::App& command, std::optional<std::string>& value);
+void AddFormatOption(CLI::App& command, std::optional<std::string>& value,
+                     std::string const& name = "--format");
 void AddMovingAverageOption(CLI::App& command, std::optional<std::string>& value);
 void AddChartTypeOption(CLI::App& command, std::optional<std::string>& value);
 

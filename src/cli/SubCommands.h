@@ -17,6 +17,9 @@ namespace quorvex::cli {
 // "analyse". On a terminal its report ends with a chart.
 void AddAnalyse(CLI::App& app, platform::Console const& console, ExitStatus& status);
 
+// "batch". Its progress goes to a terminal.
+void AddBatch(CLI::App& app, platform::Console const& console, ExitStatus& status);
+
 // "chart". Without an encoder it writes no pictures, JSON alone.
 void AddChart(CLI::App& app, platform::PictureEncoder& encoder, ExitStatus& status);
 

@@ -20,8 +20,8 @@ TEST(Companion, TellsItsVersion) {
 TEST(Companion, HelpsOnItselfAndOnEachSubCommand) {
     auto const run = RunCompanion({"--help"});
     EXPECT_EQ(run.ExitStatus, 0);
-    for (auto const* command : {"analyse", "chart", "check", "convert", "evaluate", "import", "list", "print",
-                                "search", "format"}) {
+    for (auto const* command : {"analyse", "batch", "chart", "check", "convert", "evaluate", "import", "list",
+                                "print", "search", "format"}) {
         EXPECT_NE(run.Output.find(command), std::string::npos);
         auto const help = RunCompanion({command, "--help"});
         EXPECT_EQ(help.ExitStatus, 0);

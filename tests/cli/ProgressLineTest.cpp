@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-#include "cli/ProgressBar.h"
+#include "cli/ProgressLine.h"
 
 #include <gtest/gtest.h>
 
@@ -28,21 +28,22 @@ std::string ErrorsOf(bool shows) {
     testing::internal::CaptureStderr();
     {
         ErrorConsole const console(shows);
-        ProgressBar bar(console);
+        ProgressLine line(console);
         for (double const share : {0.0, 0.004, 0.5, 1.0}) {
-            bar.Show(share);
+            line.Show(ProgressText(share));
         }
+        line.Show("over");
     }
     return testing::internal::GetCapturedStderr();
 }
 
-TEST(ProgressBar, GrowsAndIsGoneInTheEnd) {
+TEST(ProgressLine, GrowsAndIsGoneInTheEnd) {
     EXPECT_EQ(ErrorsOf(true), "\r[" + std::string(40, '.') + "] 0 %" + "\r[" + std::string(20, '#') +
                                   std::string(20, '.') + "] 50 %" + "\r[" + std::string(40, '#') + "] 100 %" +
-                                  '\r' + std::string(48, ' ') + '\r');
+                                  "\rover" + std::string(44, ' ') + "\r    \r");
 }
 
-TEST(ProgressBar, IsNotThereWhereNobodyLooks) {
+TEST(ProgressLine, IsNotThereWhereNobodyLooks) {
     EXPECT_EQ(ErrorsOf(false), "");
 }
 
