@@ -3,15 +3,54 @@
 
 #include "batch/QuoteFileNames.h"
 
+#include "batch/RecordReader.h"
 #include "text/RunTimeError.h"
 #include "text/basFolders.h"
 
 #include <filesystem>
+#include <string_view>
 #include <utility>
 
 namespace quorvex::batch {
 
 namespace {
+
+// A name of another system's file system, which here would be a path.
+bool LeadsElsewhere(std::string_view name) {
+    return name.find_first_of("/\\") != std::string_view::npos;
+}
+
+std::string BadName() {
+    return std::string(text::RunTimeError(text::Fault::BadFileName).Description());
+}
+
+class ListLines {
+public:
+    explicit ListLines(std::unique_ptr<text::ByteSource> list) : list_(std::move(list)) {}
+
+    // Nothing behind the last one.
+    [[nodiscard]] std::optional<std::string> Next() {
+        if (isOver_) {
+            return std::nullopt;
+        }
+        auto const line = reader_.Next();
+        isOver_ = !line;
+        std::string_view path = line.value_or(reader_.Rest());
+        constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+        if (std::exchange(isAtStart_, false) && path.starts_with(ByteOrderMark)) {
+            path.remove_prefix(ByteOrderMark.size());
+        }
+        path.remove_suffix(path.ends_with('\n') ? 1 : 0);
+        path.remove_suffix(path.ends_with('\r') ? 1 : 0);
+        return std::string(path);
+    }
+
+private:
+    std::unique_ptr<text::ByteSource> list_;
+    RecordReader reader_{*list_, false};
+    bool isAtStart_ = true;
+    bool isOver_ = false;
+};
 
 std::string WithSeparator(std::string path) {
     if (path.find_first_of("/\\") != std::string::npos) {
@@ -25,6 +64,16 @@ std::string WithSeparator(std::string path) {
 PathSource PathsOf(std::vector<std::string> paths) {
     return [paths = std::move(paths), at = std::size_t{0}]() mutable -> std::optional<std::string> {
         return at < paths.size() ? std::optional(paths[at++]) : std::nullopt;
+    };
+}
+
+PathSource PathsOfList(std::unique_ptr<text::ByteSource> list) {
+    return [lines = std::make_shared<ListLines>(std::move(list))]() -> std::optional<std::string> {
+        auto path = lines->Next();
+        while (path && path->empty()) {
+            path = lines->Next();
+        }
+        return path;
     };
 }
 
@@ -64,7 +113,11 @@ std::optional<BatchFile> QuoteFileNames::NextOfFolders() {
         auto const error = text::Trap([&] {
             file = NextFile(level);
             if (auto subfolder = file ? std::nullopt : NextSubfolder(level)) {
-                Enter(std::move(*subfolder));
+                if (LeadsElsewhere(*subfolder)) {
+                    file = BatchFile{level.Folder + *subfolder, BadName()};
+                } else {
+                    Enter(text::EndWithSeparator(level.Folder + *subfolder));
+                }
             } else if (!file) {
                 if (levels_.size() == 1 && !hasGiven_) {
                     file = BatchFile{level.Folder, std::string("There is no file ") + QuotePattern};
@@ -87,6 +140,9 @@ std::optional<BatchFile> QuoteFileNames::NextOfFolders() {
 std::optional<BatchFile> QuoteFileNames::NextFile(Level& level) {
     while (auto const name = NextName(level.Folder, level.Files, platform::EntryKind::File)) {
         std::string path = level.Folder + *name;
+        if (LeadsElsewhere(*name)) {
+            return BatchFile{std::move(path), BadName()};
+        }
         if (!options_.PassOver || !options_.PassOver(path)) {
             return BatchFile{std::move(path), {}};
         }
@@ -94,13 +150,9 @@ std::optional<BatchFile> QuoteFileNames::NextFile(Level& level) {
     return std::nullopt;
 }
 
-// The path of the folder's next one, which ends with a separator.
 std::optional<std::string> QuoteFileNames::NextSubfolder(Level& level) const {
-    if (!options_.IsRecursive) {
-        return std::nullopt;
-    }
-    auto const name = NextName(level.Folder, level.Folders, platform::EntryKind::Folder);
-    return name ? std::optional(text::EndWithSeparator(level.Folder + *name)) : std::nullopt;
+    return options_.IsRecursive ? NextName(level.Folder, level.Folders, platform::EntryKind::Folder)
+                                : std::nullopt;
 }
 
 std::optional<std::string> QuoteFileNames::NextName(std::string const& folder, Names& names,

@@ -4,9 +4,11 @@
 #pragma once
 
 #include "platform/Folders.h"
+#include "text/basFields.h"
 
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -27,6 +29,10 @@ struct BatchFile {
 using PathSource = std::function<std::optional<std::string>()>;
 
 [[nodiscard]] PathSource PathsOf(std::vector<std::string> paths);
+
+// Those of a list, one a line, which ends with LF or CR LF; all other bytes, but a UTF-8 byte order mark at
+// the start, belong to a path. Empty lines are none.
+[[nodiscard]] PathSource PathsOfList(std::unique_ptr<text::ByteSource> list);
 
 // Gives the quote files that the paths lead to, in their order: a folder stands for the files of QuotePattern
 // in it, in the order of their bytes, and with IsRecursive for those of its folders behind them; links to

@@ -6,6 +6,7 @@
 #include "batch/RecordReader.h"
 
 #include <string>
+#include <utility>
 
 namespace quorvex::batch {
 
@@ -21,11 +22,16 @@ public:
     [[nodiscard]] EarlierRun Read(DoAgain const& doAgain) {
         EarlierRun run;
         run.Refusal = ReadLines(run);
-        if (run.Refusal.empty() && file_ && doAgain(*file_) != line_) {
-            run.Refusal = "The line of " + file_->Path +
-                          " would be another one now: other options, or the file has changed";
-        }
         run.Length = reader_.Length();
+        if (!run.Refusal.empty()) {
+            return run;
+        }
+        if (good_.File && doAgain(*good_.File) != good_.Text) {
+            run.Refusal = "The line of " + good_.File->Path +
+                          " would be another one now: other options, or the file has changed";
+        } else if (last_.File && format_.TellsRefusal(last_.Text, *last_.File)) {
+            LookAgain(run, doAgain(*last_.File));
+        }
         return run;
     }
 
@@ -43,26 +49,44 @@ private:
             }
         }
         while (auto const line = reader_.Next()) {
-            file_ = next_();
-            if (!file_) {
+            last_.File = next_();
+            if (!last_.File) {
                 return "It has more lines than there are files";
             }
-            if (!line->starts_with(format_.StartOf(*file_))) {
+            if (!line->starts_with(format_.StartOf(*last_.File))) {
                 return "Line " + std::to_string(run.FileCount + (head.empty() ? 1 : 2)) + " is not that of " +
-                       file_->Path;
+                       last_.File->Path;
             }
-            line_ = *line;
+            last_.Text = *line;
             ++run.FileCount;
-            run.RefusedCount += format_.TellsRefusal(line_, *file_) ? 1U : 0U;
+            if (format_.TellsRefusal(last_.Text, *last_.File)) {
+                ++run.RefusedCount;
+            } else {
+                good_ = last_;
+            }
         }
         return {};
     }
 
+    // The last line, a refusal, gives way to the one that the file has now.
+    void LookAgain(EarlierRun& run, std::string line) const {
+        if (!line.empty() && line != last_.Text) {
+            run.Length -= last_.Text.size();
+            run.RefusedCount -= format_.TellsRefusal(line, *last_.File) ? 0U : 1U;
+            run.LastLine = std::move(line);
+        }
+    }
+
+    struct Line {
+        std::optional<BatchFile> File;
+        std::string Text;
+    };
+
     RecordReader reader_;
     ResultFormat const& format_;
     NextFile const& next_;
-    std::optional<BatchFile> file_; // of the last line
-    std::string line_;
+    Line last_;
+    Line good_; // the last one that tells no refusal
 };
 
 } // namespace

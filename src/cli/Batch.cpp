@@ -20,7 +20,6 @@
 #include "platform/disk/HostFile.h"
 #include "platform/disk/HostInterruption.h"
 #include "text/RunTimeError.h"
-#include "text/basLines.h"
 
 #include <algorithm>
 #include <array>
@@ -56,24 +55,13 @@ bool GoesOn() {
     return !HostInterruption::HasCome();
 }
 
-// The paths of the list, one a line; empty lines are none.
-batch::PathSource PathsOfList(std::string const& path) {
-    struct List {
-        explicit List(std::unique_ptr<text::ByteSource> source) : Source(std::move(source)) {}
-
-        std::unique_ptr<text::ByteSource> Source;
-        text::LineReader Lines{*Source};
-    };
-
-    auto const list = std::make_shared<List>(path == PipeName ? platform::disk::OpenStandardInputWhile(GoesOn)
-                                                              : platform::disk::OpenFileOrPipe(path));
-    return [list]() -> std::optional<std::string> {
-        auto line = list->Lines.Next();
-        while (line && line->empty()) {
-            line = list->Lines.Next();
-        }
-        return line ? std::optional<std::string>(*line) : std::nullopt;
-    };
+batch::PathSource PathsOf(BatchOptions const& options) {
+    if (options.ListPath.empty()) {
+        return batch::PathsOf(options.Paths);
+    }
+    return batch::PathsOfList(options.ListPath == PipeName
+                                  ? platform::disk::OpenStandardInputWhile(GoesOn)
+                                  : platform::disk::OpenFileOrPipe(options.ListPath));
 }
 
 // How many columns of cycles the table has.
@@ -143,21 +131,19 @@ public:
         batch::EarlierRun earlier;
         if (path_ == PipeName) {
             sink_ = platform::disk::OpenStandardOutput();
-        } else if (!platform::IsThere(files_, path_)) {
-            sink_ = files_.OpenForOutput(path_);
-        } else if (!MayBeBatchLines(FirstBytes())) {
-            earlier.Refusal = "It is there and was not written by batch: it stays as it is";
-        } else if (isResumed_) {
-            earlier = batch::ReadEarlierRun(*files_.OpenForInput(path_), lines_, next, doAgain);
+        } else {
+            earlier.Refusal = Take();
+        }
+        if (path_ != PipeName && earlier.Refusal.empty()) {
+            if (isResumed_) {
+                earlier = batch::ReadEarlierRun(*files_.OpenForInput(path_), lines_, next, doAgain);
+            }
             if (earlier.Refusal.empty()) {
                 platform::disk::ShortenHostFile(platform::disk::HostPath(path_), earlier.Length);
-                sink_ = platform::disk::OpenHostFileToAppend(platform::disk::HostPath(path_));
             }
-        } else {
-            sink_ = files_.OpenForOutput(path_);
         }
-        if (earlier.Refusal.empty() && earlier.Length == 0) {
-            Write(lines_.Head());
+        if (earlier.Refusal.empty()) {
+            Write((earlier.Length == 0 ? lines_.Head() : "") + earlier.LastLine);
         }
         return earlier;
     }
@@ -167,8 +153,19 @@ public:
     void Close() const { sink_->Close(); }
 
 private:
+    // Opens the file, if it may be written over, for this run alone. Returns the refusal.
+    [[nodiscard]] std::string Take() {
+        if (!platform::IsThere(files_, path_)) {
+            files_.OpenForOutput(path_)->Close();
+        } else if (!MayBeBatchLines(FirstBytes())) {
+            return "It is there and was not written by batch: it stays as it is";
+        }
+        sink_ = platform::disk::OpenHeldHostFileToAppend(platform::disk::HostPath(path_));
+        return sink_ ? "" : "Another run is writing it";
+    }
+
     [[nodiscard]] std::string FirstBytes() const {
-        constexpr std::size_t Enough = 64;
+        constexpr std::size_t Enough = 256;
         std::array<char, Enough> bytes{};
         auto const source = files_.OpenForInput(path_);
         return {bytes.data(), source->Read(bytes)};
@@ -192,7 +189,7 @@ public:
         bool const isReady = HasGoodParameters() &&
                              Guard(InputName(options_.ListPath), [&] { names_ = Names(); }) && OpenOutput();
         if (!isReady) {
-            return GoesOn() ? ExitStatus::Refused : ExitStatus::Interrupted;
+            return GoesOn() ? ExitStatus::Unfinished : ExitStatus::Interrupted;
         }
         if (isWatched_) {
             CountFiles();
@@ -202,9 +199,10 @@ public:
             output_.Close();
         });
         progress_.End(isWhole_);
-        return !GoesOn() && !isWhole_                             ? ExitStatus::Interrupted
-               : isWritten && isWhole_ && !progress_.HasRefused() ? ExitStatus::Success
-                                                                  : ExitStatus::Refused;
+        if (!isWritten || !isWhole_) {
+            return GoesOn() ? ExitStatus::Unfinished : ExitStatus::Interrupted;
+        }
+        return progress_.HasRefused() ? ExitStatus::Refused : ExitStatus::Success;
     }
 
 private:
@@ -228,9 +226,7 @@ private:
         batch::QuoteFileNames::Options names;
         names.IsRecursive = options_.IsRecursive;
         names.PassOver = [this](std::string const& path) { return output_.Is(path); };
-        return std::make_unique<batch::QuoteFileNames>(
-            options_.ListPath.empty() ? batch::PathsOf(options_.Paths) : PathsOfList(options_.ListPath),
-            folders_, std::move(names));
+        return std::make_unique<batch::QuoteFileNames>(PathsOf(options_), folders_, std::move(names));
     }
 
     // Names that can be gone through twice are counted first, to tell how much is left.

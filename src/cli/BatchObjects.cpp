@@ -13,6 +13,7 @@ namespace quorvex::cli {
 namespace {
 
 constexpr std::string_view RefusalMember = R"("Refusal":)";
+constexpr std::string_view NoTest = R"(,"Evaluation":null})";
 
 std::string_view WithoutLineEnd(std::string_view line) {
     return line.substr(0, line.size() - 1);
@@ -30,7 +31,8 @@ std::string BatchObjects::StartOf(batch::BatchFile const& file) const {
 }
 
 bool BatchObjects::TellsRefusal(std::string_view line, batch::BatchFile const& file) const {
-    return line.substr(StartOf(file).size()).starts_with(RefusalMember);
+    return line.substr(StartOf(file).size()).starts_with(RefusalMember) ||
+           WithoutLineEnd(line).ends_with(NoTest);
 }
 
 batch::FileResult BatchObjects::ResultOf(AnalysedFile const& analysed) const {
@@ -47,11 +49,14 @@ batch::FileResult BatchObjects::ResultOf(AnalysedFile const& analysed) const {
     result.Complaints = *analysed.Messages;
     result.Line = AnalysisJson(analysed.Session->Program(), analysed.Session->Grid(), *analysed.Result);
     if (hasTest_) {
-        std::string const test =
-            analysed.ForecastTest ? EvaluationJson(*analysed.ForecastTest) : JsonText(Json());
         constexpr std::size_t End = 2; // "}" and the line's
         result.Line.resize(result.Line.size() - End);
-        result.Line.append(R"(,"Evaluation":)").append(WithoutLineEnd(test)).append("}\n");
+        if (analysed.ForecastTest) {
+            std::string const test = EvaluationJson(*analysed.ForecastTest);
+            result.Line.append(R"(,"Evaluation":)").append(WithoutLineEnd(test)).append("}\n");
+        } else {
+            result.Line.append(NoTest).append("\n");
+        }
     }
     return result;
 }

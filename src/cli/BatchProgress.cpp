@@ -41,20 +41,21 @@ std::string Duration(double seconds) {
 
 } // namespace
 
-std::string ProgressText(BatchCounts const& counts, std::chrono::duration<double> taken) {
+std::string ProgressText(BatchCounts const& counts, std::chrono::duration<double> taken, std::size_t width) {
     std::uint64_t const done = counts.Before + counts.Now;
     std::string const rate = ", " + Rate(counts.Now, taken.count());
     if (!counts.Whole) {
-        return Files(done) + rate;
+        return (Files(done) + rate).substr(0, width);
     }
     std::uint64_t const whole = std::max(*counts.Whole, done);
     double const share = whole == 0 ? 1 : static_cast<double>(done) / static_cast<double>(whole);
-    std::string text = ProgressText(share) + ", " + std::to_string(done) + " of " + Files(whole) + rate;
+    std::string text = ", " + std::to_string(done) + " of " + Files(whole) + rate;
     if (counts.Now > 0) {
         double const each = taken.count() / static_cast<double>(counts.Now);
         text += ", " + Duration(each * static_cast<double>(whole - done)) + " left";
     }
-    return text;
+    std::size_t const shortest = ProgressText(share, 0).size() + text.size();
+    return (ProgressText(share, width - std::min(width, shortest)) + text).substr(0, width);
 }
 
 std::string Summary(BatchCounts const& counts, std::chrono::duration<double> taken, bool isWhole) {
@@ -95,7 +96,7 @@ void BatchProgress::Complain(std::string const& name, std::vector<std::string> c
 
 void BatchProgress::Show() {
     std::scoped_lock const lock(mutex_);
-    line_.Show(ProgressText(counts_, Taken()));
+    line_.Show(ProgressText(counts_, Taken(), width_));
 }
 
 void BatchProgress::End(bool isWhole) {

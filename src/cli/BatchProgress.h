@@ -6,7 +6,9 @@
 #include "cli/ProgressLine.h"
 #include "platform/Console.h"
 
+#include <algorithm>
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <mutex>
 #include <optional>
@@ -23,9 +25,10 @@ struct BatchCounts {
     std::optional<std::uint64_t> Whole; // files, when that is known
 };
 
-// "[####....] 50 %, 5000 of 10000 files, 2500 a second, 2 s left"; without the whole "5000 files, 2500 a
-// second".
-[[nodiscard]] std::string ProgressText(BatchCounts const& counts, std::chrono::duration<double> taken);
+// "[####....] 50 %, 5000 of 10000 files, 2500 a second, 2 s left", with as long a bar as so many characters
+// have room for; without the whole "5000 files, 2500 a second".
+[[nodiscard]] std::string ProgressText(BatchCounts const& counts, std::chrono::duration<double> taken,
+                                       std::size_t width);
 
 // What a batch has come to, as a sentence without full stop.
 [[nodiscard]] std::string Summary(BatchCounts const& counts, std::chrono::duration<double> taken,
@@ -34,7 +37,9 @@ struct BatchCounts {
 // The counts of a batch that runs and what they tell. For any thread.
 class BatchProgress {
 public:
-    explicit BatchProgress(platform::Console const& console) : line_(console) {}
+    explicit BatchProgress(platform::Console const& console)
+        : width_(static_cast<std::size_t>(std::max(console.Width() - 1, 1))),
+          line_(console) {}
 
     void SetWhole(std::uint64_t files);
 
@@ -58,6 +63,7 @@ private:
         return std::chrono::steady_clock::now() - start_;
     }
 
+    std::size_t width_; // in characters; a line as wide as the terminal would begin another one
     std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
     mutable std::mutex mutex_; // guards the next two
     BatchCounts counts_;

@@ -141,7 +141,7 @@ void BatchTable::AddTest() {
 }
 
 std::string BatchTable::Head() const {
-    std::string head(Start.substr(0, Start.size() - 1));
+    std::string head = "File,Message";
     for (Column const& column : columns_) {
         head += ',' + column.Name;
     }

@@ -15,7 +15,9 @@ namespace quorvex::cli {
 // The lines of a table in CSV, which docs/formats/batch.md describes.
 class BatchTable final : public BatchLines {
 public:
-    static constexpr std::string_view Start = "File,Message,";
+    // The columns that are always there.
+    static constexpr std::string_view Start =
+        "File,Message,QuoteCount,WorkingCount,FirstQuoteDate,LastQuoteDate,LastClose,Correlation,";
 
     // With the columns of so many cycles, 0..10, and perhaps those of a test of forecasts.
     BatchTable(int cycleCount, bool hasTest);

@@ -3,7 +3,7 @@
 
 #include "cli/ProgressLine.h"
 
-#include <cstddef>
+#include <algorithm>
 #include <cstdio>
 
 namespace quorvex::cli {
@@ -37,12 +37,12 @@ void ProgressLine::Erase() {
     }
 }
 
-std::string ProgressText(double share) {
-    constexpr std::size_t BarWidth = 40;
+std::string ProgressText(double share, std::size_t room) {
     constexpr int Whole = 100;
+    std::size_t const width = std::min(room, UsualBar);
     auto const percent = static_cast<int>(share * Whole);
-    std::string bar(static_cast<std::size_t>(percent) * BarWidth / Whole, '#');
-    bar.resize(BarWidth, '.');
+    std::string bar(static_cast<std::size_t>(percent) * width / Whole, '#');
+    bar.resize(width, '.');
     return '[' + bar + "] " + std::to_string(percent) + " %";
 }
 

@@ -5,6 +5,7 @@
 
 #include "platform/Console.h"
 
+#include <cstddef>
 #include <string>
 
 namespace quorvex::cli {
@@ -31,7 +32,10 @@ private:
     std::string text_;
 };
 
-// "[####....] 50 %" of the share of 1 that is done.
-[[nodiscard]] std::string ProgressText(double share);
+inline constexpr std::size_t UsualBar = 40;
+
+// "[####....] 50 %" of the share of 1 that is done, with a bar of so many characters, the usual one at the
+// most.
+[[nodiscard]] std::string ProgressText(double share, std::size_t room = UsualBar);
 
 } // namespace quorvex::cli

@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 
 namespace quorvex::batch {
 namespace {
@@ -136,6 +137,15 @@ TEST_F(QuoteFileNamesTest, DoNotFollowLinksToFoldersOnTheWay) {
                 ElementsAre("b/deep/round/B.TXT", "b/deep/round/Z.txt", "b/deep/round/a.txt"));
 }
 
+TEST_F(QuoteFileNamesTest, RefuseNamesThatWouldLeadElsewhere) {
+    std::filesystem::create_directory(folder_.File("a") + "/\\");
+    std::filesystem::create_directory(folder_.File("a") + "/..\\");
+    std::ofstream(folder_.File("a") + "/x\\y.txt") << "x";
+    EXPECT_THAT(NamesBelow(folder_, {folder_.File("a")}, folders_, {.IsRecursive = true}),
+                ElementsAre("a/x\\y.txt (Bad file name or number)", "a/y.txt",
+                            "a/..\\ (Bad file name or number)", "a/\\ (Bad file name or number)"));
+}
+
 #endif
 
 TEST(PathsOf, AreGivenOneAfterTheOther) {
@@ -144,6 +154,22 @@ TEST(PathsOf, AreGivenOneAfterTheOther) {
     EXPECT_EQ(paths(), "a");
     EXPECT_EQ(paths(), std::nullopt);
     EXPECT_EQ(paths(), std::nullopt);
+}
+
+TEST(PathsOfList, AreItsLines) {
+    constexpr std::string_view list = "\xEF\xBB\xBF"
+                                      "a.txt\r\n\n\x1A"
+                                      "b,\"c\r d.txt\n\r\ne.txt";
+    auto const paths = PathsOfList(std::make_unique<text::TextSource>(list));
+    EXPECT_EQ(paths(), "a.txt");
+    EXPECT_EQ(paths(), "\x1A"
+                       "b,\"c\r d.txt");
+    EXPECT_EQ(paths(), "e.txt");
+    EXPECT_EQ(paths(), std::nullopt);
+    EXPECT_EQ(paths(), std::nullopt);
+    std::string const longLine(200'000, 'x');
+    EXPECT_EQ(PathsOfList(std::make_unique<text::TextSource>(longLine))(), longLine);
+    EXPECT_EQ(PathsOfList(std::make_unique<text::TextSource>(""))(), std::nullopt);
 }
 
 } // namespace

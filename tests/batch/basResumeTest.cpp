@@ -70,6 +70,23 @@ TEST(ReadEarlierRun, RefusesTheLinesOfAnotherBatch) {
               "The line of b would be another one now: other options, or the file has changed");
 }
 
+TEST(ReadEarlierRun, ProvesTheOptionsByTheLastLineWithoutRefusal) {
+    EXPECT_EQ(Read("head\na: otherwise\nb: !bad\n").Refusal,
+              "The line of a would be another one now: other options, or the file has changed");
+    EXPECT_EQ(Read("head\na: done\nb: !bad\nc: do").Refusal, "");
+}
+
+TEST(ReadEarlierRun, LooksOnceMoreAtARefusalInTheLastLine) {
+    auto run = Read("head\na: !bad\nb: !bad\n");
+    EXPECT_EQ(run.Length, 13U);
+    EXPECT_EQ(run.LastLine, "b: done\n");
+    EXPECT_EQ(run.FileCount, 2U);
+    EXPECT_EQ(run.RefusedCount, 1U);
+    run = Read("head\na: !bad\nb: done\n");
+    EXPECT_EQ(run.LastLine, "");
+    EXPECT_EQ(run.Length, 21U);
+}
+
 TEST(ReadEarlierRun, TakesTheFilesThatAreDone) {
     PlainLines const format("");
     auto const paths = PathsOf({"a", "b", "c"});

@@ -113,6 +113,42 @@ class UnderFire(unittest.TestCase):
             process.communicate()
             self.assertEqual(self.read(name), self.whole["jsonl"])
 
+    def test_one_run_at_a_time_writes_a_file(self):
+        first = start(*self.arguments("jsonl", "shared"))
+        while not os.path.exists(self.out("shared")) or not os.path.getsize(self.out("shared")):
+            time.sleep(0.001)
+        for resume in ([], ["--resume"]):
+            second = start(*self.arguments("jsonl", "shared"), *resume)
+            _, errors = second.communicate()
+            self.assertEqual((second.returncode, errors),
+                             (3, f"quorvex-cli: {self.out('shared')}: Another run is writing it\n"))
+        first.communicate()
+        self.assertEqual(self.read("shared"), self.whole["jsonl"])
+
+    def test_messages_do_not_get_into_the_file(self):
+        """Though standard error is closed, and its number free for the file."""
+        command = ["sh", "-c", '"$@" 2>&-', "sh", COMPANION, "batch", *self.arguments("jsonl", "closed")]
+        self.assertEqual(subprocess.run(command, check=False).returncode, 1)
+        self.assertEqual(self.read("closed"), self.whole["jsonl"])
+
+    def test_a_full_disk_is_no_success(self):
+        with open("/dev/full", "wb") as full:
+            process = start(self.quotes, stdout=full)
+            _, errors = process.communicate()
+        self.assertEqual(process.returncode, 3)
+        self.assertIn("quorvex-cli: standard output: Disk full\n", errors)
+
+    def test_python_reads_the_objects_as_documented(self):
+        with open(os.environ["QUORVEX_FORMAT"], encoding="utf-8") as file:
+            program = file.read().split("```python\n")[1].split("```")[0]
+        with open(self.out("results.jsonl"), "wb") as file:
+            file.write(self.whole["jsonl"])
+            file.write(subprocess.run([COMPANION, "batch", self.quotes, "--format", "jsonl"], check=False,
+                                      capture_output=True).stdout)  # without cycles, and so without a correlation
+        run = subprocess.run(["python3", "-c", program], cwd=self.temporary.name, capture_output=True, text=True,
+                             check=True)
+        self.assertEqual(run.stdout.count("A minimum of 25"), 2 * sum(map(is_bad, range(CONTRACTS))))
+
     def test_names_come_and_lines_go_through_pipes(self):
         process = subprocess.Popen([COMPANION, "batch", "--files-from", "-", "--format", "jsonl"], stdin=subprocess.PIPE,
                                    stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, bufsize=1)

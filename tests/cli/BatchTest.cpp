@@ -172,7 +172,7 @@ TEST_F(BatchTest, TakesNamesFromAListOrAPipe) {
     EXPECT_THAT(lines[3], StartsWith(File("no.txt") + ",File not found,"));
     EXPECT_EQ(Run({"--files-from", "-"}, list).Output, run.Output);
     auto const missing = Run({"--files-from", File("nowhere")});
-    EXPECT_EQ(missing.ExitStatus, 1);
+    EXPECT_EQ(missing.ExitStatus, 3);
     EXPECT_EQ(missing.Output, "");
     EXPECT_EQ(missing.Errors, "quorvex-cli: " + File("nowhere") + ": File not found\n");
 }
@@ -245,7 +245,7 @@ TEST_F(BatchTest, TestsForecasts) {
 
 TEST_F(BatchTest, RefusesAParameterFileOnce) {
     auto const run = Run({folder_.Text(), "--parameters", File("no.dat"), "-o", File("out.csv")});
-    EXPECT_EQ(run.ExitStatus, 1);
+    EXPECT_EQ(run.ExitStatus, 3);
     EXPECT_EQ(run.Errors, "quorvex-cli: " + File("no.dat") + ": File not found\n");
     EXPECT_FALSE(std::filesystem::exists(folder_.File("out.csv")));
 }
@@ -275,7 +275,7 @@ TEST_F(BatchTest, DoesNotGoOnBehindTheLinesOfAnotherBatch) {
     auto const resume = [&](std::vector<std::string> arguments) {
         arguments.insert(arguments.end(), {"-o", File("out"), "--resume"});
         auto const run = Run(arguments);
-        EXPECT_EQ(run.ExitStatus, 1);
+        EXPECT_EQ(run.ExitStatus, 3);
         EXPECT_EQ(folder_.Read("out"), earlier);
         return run.Errors;
     };
@@ -293,13 +293,45 @@ TEST_F(BatchTest, DoesNotGoOnBehindTheLinesOfAnotherBatch) {
 TEST_F(BatchTest, WritesOverNothingButItsOwnLines) {
     std::string const before = folder_.Read("a.txt");
     auto const run = Run({folder_.Text(), "-o", File("a.txt")});
-    EXPECT_EQ(run.ExitStatus, 1);
+    EXPECT_EQ(run.ExitStatus, 3);
     EXPECT_EQ(run.Errors, "quorvex-cli: " + File("a.txt") +
                               ": It is there and was not written by batch: it stays as it is\n");
     EXPECT_EQ(folder_.Read("a.txt"), before);
     folder_.Write("own.csv", Run({File("a.txt"), "--format", "jsonl"}).Output);
     EXPECT_EQ(Run({File("c.txt"), "-o", File("own.csv")}).ExitStatus, 0);
     EXPECT_EQ(folder_.Read("own.csv"), Run({File("c.txt")}).Output);
+}
+
+TEST_F(BatchTest, WritesOverNoTableWithOtherColumns) {
+    folder_.Write("own.csv", "File,Message,Notes\na,b,c\n");
+    for (std::vector<std::string> const& resumed : {std::vector<std::string>{}, {"--resume"}}) {
+        std::vector<std::string> arguments = {File("a.txt"), "-o", File("own.csv")};
+        arguments.insert(arguments.end(), resumed.begin(), resumed.end());
+        EXPECT_EQ(Run(arguments).ExitStatus, 3);
+        EXPECT_EQ(folder_.Read("own.csv"), "File,Message,Notes\na,b,c\n");
+    }
+}
+
+TEST_F(BatchTest, LooksAgainAtTheFileThatWasRefusedLast) {
+    for (auto const* format : {"csv", "jsonl"}) {
+        std::vector<std::string> const arguments = {File("a.txt"), File("b.txt"), File("c.txt"), "--format",
+                                                    format,        "-o",          File("out"),   "--resume"};
+        folder_.Write("b.txt", QuoteLines(24));
+        folder_.Write("out", Run({File("a.txt"), File("b.txt"), "--format", format}).Output);
+        folder_.Write("b.txt", QuoteLines(30)); // repaired
+        EXPECT_EQ(Run(arguments).ExitStatus, 0);
+        EXPECT_EQ(folder_.Read("out"),
+                  Run({File("a.txt"), File("b.txt"), File("c.txt"), "--format", format}).Output);
+        std::filesystem::remove(folder_.File("out"));
+    }
+}
+
+TEST_F(BatchTest, RemembersAMissingTestOfForecasts) {
+    std::vector<std::string> const arguments = {
+        File("a.txt"), "--evaluate", "--surrogates", "1", "--format", "jsonl", "-o", File("out"), "--resume"};
+    for (int time = 1; time <= 2; ++time) {
+        EXPECT_EQ(Run(arguments).ExitStatus, 1) << time;
+    }
 }
 
 TEST_F(BatchTest, DoesNotTakeItsOwnOutputForQuotes) {
@@ -312,11 +344,11 @@ TEST_F(BatchTest, DoesNotTakeItsOwnOutputForQuotes) {
 
 TEST_F(BatchTest, TellsWhatCannotBeWritten) {
     auto const run = Run({folder_.Text(), "-o", File("nowhere/out.csv")});
-    EXPECT_EQ(run.ExitStatus, 1);
+    EXPECT_EQ(run.ExitStatus, 3);
     EXPECT_EQ(run.Errors, "quorvex-cli: " + File("nowhere/out.csv") + ": Path not found\n");
 #ifdef __linux__
     auto const full = RunCompanion({"batch", "-o", "/dev/full", File("a.txt")});
-    EXPECT_EQ(full.ExitStatus, 1);
+    EXPECT_EQ(full.ExitStatus, 3);
     EXPECT_EQ(full.Errors, "quorvex-cli: /dev/full: Permission denied\n");
 #endif
 }

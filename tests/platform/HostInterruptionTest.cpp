@@ -32,9 +32,9 @@ TEST(HostInterruptionDeathTest, LeavesTheSecondOneToTheSystem) {
         {
             HostInterruption const interruption;
             std::raise(SIGINT);
-            std::raise(SIGINT);
+            std::raise(SIGTERM);
         },
-        testing::KilledBySignal(SIGINT), "");
+        testing::KilledBySignal(SIGTERM), "");
     EXPECT_EXIT(
         {
             { HostInterruption const interruption; }

@@ -9,6 +9,7 @@
 #include <io.h>
 #include <windows.h>
 #else
+#include <fcntl.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 #endif
@@ -76,7 +77,23 @@ int HostConsole::Width() const {
 
 #else
 
-HostConsole::HostConsole() = default;
+namespace {
+
+// Otherwise the next file that is opened would get the number, and with it what is said. The other way round,
+// so that reading and writing fail as they did.
+void FillClosedStreams() {
+    for (int const stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(stream, F_GETFD) < 0) {
+            static_cast<void>(open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY));
+        }
+    }
+}
+
+} // namespace
+
+HostConsole::HostConsole() {
+    FillClosedStreams();
+}
 
 HostConsole::~HostConsole() = default;
 

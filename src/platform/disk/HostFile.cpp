@@ -134,6 +134,12 @@ std::unique_ptr<ByteSink> OpenHostFileToAppend(std::filesystem::path const& path
     return std::make_unique<LastingHostFileSink>(OpenSystemFile(path, Opening::Append, false));
 }
 
+std::unique_ptr<ByteSink> OpenHeldHostFileToAppend(std::filesystem::path const& path) {
+    SystemFile const file = OpenSystemFile(path, Opening::Append, false);
+    auto sink = std::make_unique<LastingHostFileSink>(file);
+    return HoldSystemFile(file) ? std::move(sink) : nullptr;
+}
+
 std::unique_ptr<text::ByteSource> OpenStandardInput() {
     return std::make_unique<HostFileSource>(DuplicateStandardFile(0));
 }

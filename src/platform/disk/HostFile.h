@@ -58,6 +58,9 @@ void VisitHostFolder(std::filesystem::path const& folder, HostEntryVisitor const
 // is closed.
 [[nodiscard]] std::unique_ptr<ByteSink> OpenHostFileToAppend(std::filesystem::path const& path);
 
+// The same, held as long as it is open. Nothing when it is held already, by whatever process.
+[[nodiscard]] std::unique_ptr<ByteSink> OpenHeldHostFileToAppend(std::filesystem::path const& path);
+
 void RemoveHostFile(std::filesystem::path const& path);
 
 // Takes what stands behind so many bytes off the file.

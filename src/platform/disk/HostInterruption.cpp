@@ -46,21 +46,26 @@ namespace {
 
 constexpr int Signals[] = {SIGINT, SIGTERM, SIGHUP}; // NOLINT(*-avoid-c-arrays)
 
-void Note(int) {
-    hasCome = true;
-}
-
+// Nothing but this is called where a signal comes.
 void Handle(int signal, void (*handler)(int)) {
     struct sigaction before {};
 
     struct sigaction action {};
 
-    action.sa_handler = handler;                                   // NOLINT(*-union-access)
-    action.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART); // the next one ends the process
+    action.sa_handler = handler; // NOLINT(*-union-access)
+    action.sa_flags = SA_RESTART;
     sigemptyset(&action.sa_mask);
     bool const isKnown = sigaction(signal, nullptr, &before) == 0;
     if (isKnown && before.sa_handler != SIG_IGN) { // NOLINT(*-union-access)
         sigaction(signal, &action, nullptr);
+    }
+}
+
+// The next one, whichever it is, ends the process.
+void Note(int) {
+    hasCome = true;
+    for (int const signal : Signals) {
+        Handle(signal, SIG_DFL);
     }
 }
 

@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -82,6 +83,16 @@ bool IsFolder(int descriptor) {
 std::string Utf8(std::filesystem::path const& name) {
     auto const text = name.u8string();
     return {text.begin(), text.end()};
+}
+
+// The folder itself tells the kind of all but links, which saves asking for each.
+HostFileKind KindOf(std::filesystem::directory_entry const& entry) {
+    std::error_code unreadable;
+    if (entry.is_regular_file(unreadable)) {
+        return HostFileKind::File;
+    }
+    bool const isFolder = entry.is_directory(unreadable) && !entry.is_symlink(unreadable);
+    return isFolder ? HostFileKind::Folder : HostFileKind::Other;
 }
 
 HostFileKind KindOf(std::filesystem::file_type type) {
@@ -159,6 +170,10 @@ std::size_t WriteSystemFile(SystemFile file, std::string_view bytes) {
     }
 }
 
+bool HoldSystemFile(SystemFile file) {
+    return flock(Descriptor(file), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
 void FlushSystemFile(SystemFile file) {
 #ifdef F_FULLFSYNC
     // On macOS fsync stops at the drive's own memory.
@@ -205,10 +220,7 @@ void VisitHostFolder(std::filesystem::path const& folder, HostEntryVisitor const
     std::error_code error;
     std::filesystem::directory_iterator entry(folder, error);
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-        std::error_code unreadable;
-        auto const kind = KindOf(entry->status(unreadable).type());
-        bool const isLink = kind == HostFileKind::Folder && entry->is_symlink(unreadable);
-        visit(Utf8(entry->path().filename()), isLink ? HostFileKind::Other : kind);
+        visit(Utf8(entry->path().filename()), KindOf(*entry));
     }
     if (error) {
         Raise(error.value(), folder);

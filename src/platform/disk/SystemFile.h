@@ -42,6 +42,10 @@ enum class Opening {
 // How many of the bytes were written.
 [[nodiscard]] std::size_t WriteSystemFile(SystemFile file, std::string_view bytes);
 
+// Holds the file as long as it is open. Returns false when somebody else holds it; where a file cannot be
+// held it counts as held.
+[[nodiscard]] bool HoldSystemFile(SystemFile file);
+
 // Waits for the disk.
 void FlushSystemFile(SystemFile file);
 

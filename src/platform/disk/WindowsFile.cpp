@@ -274,6 +274,15 @@ std::size_t WriteSystemFile(SystemFile file, std::string_view bytes) {
     return count;
 }
 
+bool HoldSystemFile(SystemFile file) {
+    // A byte far behind all others, so that nobody is kept from reading and writing these.
+    OVERLAPPED place{};
+    place.OffsetHigh = 1U << 30;
+    return LockFileEx(HandleOf(file), LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &place) !=
+               0 ||
+           GetLastError() != ERROR_LOCK_VIOLATION;
+}
+
 void FlushSystemFile(SystemFile file) {
     if (FlushFileBuffers(HandleOf(file)) == 0) {
         RaiseLastError();
@@ -351,8 +360,12 @@ void VisitHostFolder(std::filesystem::path const& folder, HostEntryVisitor const
 }
 
 void ShortenHostFile(std::filesystem::path const& path, std::uint64_t length) {
-    HANDLE const handle = OpenHandle(path, GENERIC_WRITE, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL);
-    if (handle == INVALID_HANDLE_VALUE) {
+    HANDLE handle = INVALID_HANDLE_VALUE;
+    bool const isOpen = SucceedsInTime([&] {
+        handle = OpenHandle(path, GENERIC_WRITE, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL);
+        return handle != INVALID_HANDLE_VALUE;
+    });
+    if (!isOpen) {
         RaiseLastError();
     }
     auto const close = [](HANDLE open) { CloseHandle(open); };
