@@ -87,12 +87,13 @@ TEST_F(BatchTest, WritesALineForEachFileInOrder) {
     EXPECT_EQ(fields[3], "250");
     EXPECT_THAT(fields[4], MatchesRegex("[0-9]{4}-[0-9]{2}-[0-9]{2}"));
     EXPECT_EQ(fields[5].substr(5, 2), object.at("LastQuoteDate").get<std::string>().substr(0, 2));
-    EXPECT_EQ(std::stod(fields[6]), object.at("Quotes").at(249).at(4).get<double>());
-    EXPECT_EQ(std::stod(fields[7]), object.at("Correlation").at("r").get<double>());
-    EXPECT_EQ(std::stod(fields[12]), object.at("Cycles").at(1).at("Period").get<double>());
+    EXPECT_EQ(json::parse(fields[6]).get<double>(), object.at("Quotes").at(249).at(4).get<double>());
+    EXPECT_EQ(json::parse(fields[7]).get<double>(), object.at("Correlation").at("r").get<double>());
+    EXPECT_EQ(json::parse(fields[12]).get<double>(), object.at("Cycles").at(1).at("Period").get<double>());
     std::size_t field = 14;
     for (std::size_t const day : {0U, 4U, 9U, 24U}) {
-        EXPECT_EQ(std::stod(fields[field++]), object.at("Forecast").at("Values").at(day).get<double>());
+        EXPECT_EQ(json::parse(fields[field++]).get<double>(),
+                  object.at("Forecast").at("Values").at(day).get<double>());
     }
 }
 
