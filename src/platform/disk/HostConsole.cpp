@@ -10,6 +10,7 @@
 #include <windows.h>
 #else
 #include <fcntl.h>
+#include <initializer_list>
 #include <sys/ioctl.h>
 #include <unistd.h>
 #endif
