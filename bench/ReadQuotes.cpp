@@ -23,6 +23,7 @@ int ReadFolder(char const* folder) {
     platform::disk::DiskFiles const files;
     SilentDialogs dialogs;
     settings::Settings settings;
+    settings.CurrencyFormat = settings::SettingRowOf(&settings::Settings::CurrencyFormat).Default;
     auto const series = std::make_unique<quotes::QuoteSeries>();
     batch::QuoteFileNames names(batch::PathsOf({folder}), folders, {});
     int count = 0;
