@@ -99,7 +99,7 @@ TEST(OrderedWork, BeginsNoMoreFilesThanItHasRoomForWhileTheFirstOneLasts) {
                            .Take = [&](auto const& results) { taken += static_cast<int>(results.size()); }};
     int asked = 0;
     EXPECT_TRUE(DoInOrder(work, 2, [&] {
-        if (++asked == 3) {
+        if (files.Given() >= 32 && ++asked == 3) { // so that more would have been begun by now
             most = files.Given();
             std::scoped_lock const lock(mutex);
             mayEnd = true;
@@ -143,7 +143,7 @@ TEST(OrderedWork, EndsBehindWholeResultsWhenTheWatchSaysNo) {
                                        lines += result.Line;
                                    }
                                }};
-    EXPECT_FALSE(DoInOrder(work, 3, [] { return false; }));
+    EXPECT_FALSE(DoInOrder(work, 3, [&] { return files.Given() < 10; }));
     auto const count = std::ranges::count(lines, '\n');
     EXPECT_GT(count, 0);
     EXPECT_EQ(lines, NumbersTo(static_cast<int>(count)));
