@@ -25,18 +25,29 @@ static_assert(std::atomic<bool>::is_always_lock_free);
 
 namespace {
 
-BOOL WINAPI Note(DWORD) {
-    return hasCome.exchange(true) ? FALSE : TRUE;
+std::atomic<bool> isAwaited = false; // NOLINT(*-avoid-non-const-global-variables)
+
+// When the console is closed, or Windows shut down, the process has ended once this returns, or seconds
+// later.
+BOOL WINAPI Note(DWORD event) {
+    bool const isFirst = !hasCome.exchange(true);
+    bool const isEnd = event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT;
+    while (isFirst && isEnd && isAwaited) {
+        Sleep(10);
+    }
+    return isFirst ? TRUE : FALSE;
 }
 
 } // namespace
 
 HostInterruption::HostInterruption() {
     hasCome = false;
+    isAwaited = true;
     SetConsoleCtrlHandler(Note, TRUE);
 }
 
 HostInterruption::~HostInterruption() {
+    isAwaited = false; // before the next call, which waits for a routine that runs
     SetConsoleCtrlHandler(Note, FALSE);
 }
 

@@ -84,9 +84,10 @@ bool SucceedsInTime(Call const& call) {
     return true;
 }
 
+// Who may not read or write the bytes of a file may not hold it, so that appending reads, too.
 DWORD AccessOf(Opening opening) {
     return opening == Opening::Read     ? GENERIC_READ
-           : opening == Opening::Append ? FILE_APPEND_DATA | SYNCHRONIZE
+           : opening == Opening::Append ? FILE_APPEND_DATA | FILE_READ_DATA | SYNCHRONIZE
                                         : GENERIC_WRITE;
 }
 
@@ -96,12 +97,15 @@ DWORD DispositionOf(Opening opening) {
                                        : OPEN_EXISTING;
 }
 
-// Everybody else may read, replace and delete what the program has open.
+// Everybody else may read, replace and delete what the program has open, and write it but for files that are
+// written anew: of those who append to one file the first one holds it.
 HANDLE OpenHandle(std::filesystem::path const& path, DWORD access, DWORD disposition, DWORD flags) {
     DWORD const shared =
-        FILE_SHARE_READ | FILE_SHARE_DELETE | (access == GENERIC_READ ? FILE_SHARE_WRITE : 0);
+        FILE_SHARE_READ | FILE_SHARE_DELETE | (access == GENERIC_WRITE ? 0 : FILE_SHARE_WRITE);
     return CreateFileW(path.c_str(), access, shared, nullptr, disposition, flags, nullptr);
 }
+
+constexpr DWORD TenthOfASecond = 100; // in milliseconds
 
 bool IsConsole(HANDLE handle) {
     DWORD mode = 0;
@@ -115,8 +119,12 @@ std::size_t ReadConsoleText(HANDLE handle, std::span<char> buffer) {
     constexpr wchar_t EndMark = 0x1A; // Ctrl-Z
     std::wstring typed(std::clamp<std::size_t>(buffer.size() / MostBytes, 1, MostUnits), L'\0');
     DWORD units = 0;
+    SetLastError(ERROR_SUCCESS);
     if (ReadConsoleW(handle, typed.data(), static_cast<DWORD>(typed.size()), &units, nullptr) == 0) {
         RaiseLastError();
+    }
+    if (units == 0 && GetLastError() == ERROR_OPERATION_ABORTED) {
+        Sleep(TenthOfASecond); // Ctrl-C, which another thread is about to note
     }
     if (units == 0 || typed.front() == EndMark) {
         return 0;
@@ -260,8 +268,21 @@ std::size_t ReadSystemFile(SystemFile file, std::span<char> buffer) {
     return count;
 }
 
-bool AwaitSystemFile(SystemFile) {
-    return true;
+// Only of a pipe can be told whether reading would wait. A console stops waiting by itself when Ctrl-C comes.
+bool AwaitSystemFile(SystemFile file) {
+    constexpr DWORD Pause = 5; // milliseconds
+    HANDLE const handle = HandleOf(file);
+    if (GetFileType(handle) != FILE_TYPE_PIPE) {
+        return true;
+    }
+    for (DWORD waited = 0; waited < TenthOfASecond; waited += Pause) {
+        DWORD ready = 0;
+        if (PeekNamedPipe(handle, nullptr, 0, nullptr, &ready, nullptr) == 0 || ready > 0) {
+            return true;
+        }
+        Sleep(Pause);
+    }
+    return false;
 }
 
 std::size_t WriteSystemFile(SystemFile file, std::string_view bytes) {
@@ -362,7 +383,7 @@ void VisitHostFolder(std::filesystem::path const& folder, HostEntryVisitor const
 void ShortenHostFile(std::filesystem::path const& path, std::uint64_t length) {
     HANDLE handle = INVALID_HANDLE_VALUE;
     bool const isOpen = SucceedsInTime([&] {
-        handle = OpenHandle(path, GENERIC_WRITE, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL);
+        handle = OpenHandle(path, FILE_WRITE_DATA | SYNCHRONIZE, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL);
         return handle != INVALID_HANDLE_VALUE;
     });
     if (!isOpen) {
