@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -38,7 +39,12 @@ private:
     platform::disk::DiskFolders disk_;
 };
 
-// "b/a.txt" of each, with " (refusal)" behind where there is one.
+// With the separators that the program writes.
+std::string Native(std::string const& path) {
+    return std::filesystem::path(path).make_preferred().string();
+}
+
+// "b/a.txt" of each, with " (refusal)" behind where there is one, and slashes for the system's separators.
 std::vector<std::string> NamesBelow(tests::TemporaryFolder const& folder, std::vector<std::string> paths,
                                     platform::Folders const& folders, QuoteFileNames::Options options = {}) {
     QuoteFileNames names(PathsOf(std::move(paths)), folders, std::move(options));
@@ -46,6 +52,8 @@ std::vector<std::string> NamesBelow(tests::TemporaryFolder const& folder, std::v
     while (auto const file = names.Next()) {
         std::string name =
             file->Path.starts_with(folder.Text()) ? file->Path.substr(folder.Text().size()) : file->Path;
+        std::replace(name.begin(), name.end(), static_cast<char>(std::filesystem::path::preferred_separator),
+                     '/');
         all.push_back(name + (file->Refusal.empty() ? "" : " (" + file->Refusal + ")"));
     }
     return all;
@@ -101,13 +109,13 @@ TEST_F(QuoteFileNamesTest, TellOfAFolderWithNothingToGive) {
 }
 
 TEST_F(QuoteFileNamesTest, TellOfAFolderThatCannotBeReadAndGoOn) {
-    FoldersWithAFault const folders(folder_.File("b/deep/"));
+    FoldersWithAFault const folders(Native(folder_.File("b/deep/")));
     std::filesystem::create_directories(folder_.File("c"));
     folder_.Write("c/last.txt", "");
     EXPECT_THAT(NamesBelow(folder_, {folder_.Text()}, folders, {.IsRecursive = true}),
                 ElementsAre("B.TXT", "Z.txt", "a.txt", "a/y.txt", "b/1.txt", "b/2.txt",
                             "b/deep/ (Permission denied)", "c/last.txt"));
-    EXPECT_THAT(NamesBelow(folder_, {folder_.File("b/deep")}, folders),
+    EXPECT_THAT(NamesBelow(folder_, {Native(folder_.File("b/deep"))}, folders),
                 ElementsAre("b/deep/ (Permission denied)"));
 }
 
@@ -122,8 +130,7 @@ TEST_F(QuoteFileNamesTest, OfAFolderInTheCurrentOneStandBehindASeparator) {
     std::filesystem::current_path(folder_.Path());
     auto const names = NamesBelow(folder_, {"a"}, folders_);
     std::filesystem::current_path(before);
-    EXPECT_THAT(names, ElementsAre(std::string("a") +
-                                   static_cast<char>(std::filesystem::path::preferred_separator) + "y.txt"));
+    EXPECT_THAT(names, ElementsAre("a/y.txt"));
 }
 
 #ifndef _WIN32

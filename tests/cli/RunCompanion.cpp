@@ -20,7 +20,8 @@ namespace {
 // The text as one word of the system's shell, which takes nothing in it for anything else.
 std::string Quoted(std::string const& text) {
 #ifdef _WIN32
-    return '"' + text + '"';
+    // The program takes a backslash in front of a mark for the mark itself.
+    return '"' + text + (text.ends_with('\\') ? "\\\"" : "\"");
 #else
     return '\'' + text + '\'';
 #endif
