@@ -13,6 +13,16 @@
 
 namespace quorvex::tests {
 
+// Of names of files, what Qt would take for markup and for its mark of changes. Windows forbids both in
+// names, but not the entity that Qt takes for markup as well.
+#ifdef Q_OS_WIN
+inline constexpr char const* MarkupInName = "&lt;b";
+inline constexpr char const* ChangesInName = "[]";
+#else
+inline constexpr char const* MarkupInName = "<b>";
+inline constexpr char const* ChangesInName = "[*]";
+#endif
+
 // What every test of windows has in common: a warning of Qt fails the function during which it comes. Each
 // function builds its own window.
 class WindowTest : public QObject {
@@ -25,10 +35,15 @@ private Q_SLOTS:
 // Brings the application to the state in which the program shows windows.
 void PrepareApplication();
 
-// Runs the functions of one class, under an application of their own.
+// Runs the functions of one class, under an application of their own. A class with a ScaleFactor has a screen
+// with so many pixels, across and down, to a logical one; Wine passes on no variable of this name from
+// outside.
 template <class Test>
 int RunWindowTest(int argc, char** argv) {
     EnterHostileLocale();
+    if constexpr (requires { Test::ScaleFactor; }) {
+        qputenv("QT_SCALE_FACTOR", Test::ScaleFactor);
+    }
     QApplication const application(argc, argv);
     PrepareApplication();
     Test test;

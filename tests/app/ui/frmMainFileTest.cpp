@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
+#include "platform/disk/HostFile.h"
 #include "support/Golden.h"
 #include "support/QuoteTexts.h"
 #include "windows/PaintedLabel.h"
 #include "windows/RunningWindow.h"
 #include "windows/WindowTest.h"
 
+#include <QDir>
 #include <QListWidget>
 #include <QSignalSpy>
 #include <QTimer>
@@ -157,21 +159,50 @@ private Q_SLOTS:
     // In names of files and folders, what means something to Qt stands for itself.
     void CaptionAndPromptShowNamesLetterForLetter() {
         RunningWindow main;
-        std::string const folder = main.Folder.File("[*]/");
+        std::string const inner = std::string(ChangesInName) + '/';
+        std::string const file = std::string("S&P") + MarkupInName + ChangesInName + ".txt";
+        auto const name = QString::fromStdString(file);
+        std::string const folder = main.Folder.File(inner);
         std::filesystem::create_directory(folder);
         main.Data->Settings.DataPath = folder;
-        main.Folder.Write("[*]/S&P<b>[*].txt", QuoteLines(30));
-        main.Answers.Choose(u"S&P<b>[*].txt"_s);
+        main.Folder.Write(inner + file, QuoteLines(30));
+        main.Answers.Choose(name);
         main.Choose("mnuFileOpen");
         QCOMPARE(main.Window->windowHandle()->title(),
-                 u"Quorvex - [%1S&P<b>[*].txt]"_s.arg(QString::fromStdString(folder)));
+                 u"Quorvex - [%1%2]"_s.arg(QString::fromStdString(folder), name));
         bool isPlain = false;
-        main.Answers.Next([&isPlain](QWidget& box) {
-            isPlain = ShowsLetterForLetter(*box.findChild<QLabel*>(), u"Save S&P<b>[*].txt As..."_s);
+        main.Answers.Next([&isPlain, &name](QWidget& box) {
+            isPlain = ShowsLetterForLetter(*box.findChild<QLabel*>(), u"Save %1 As..."_s.arg(name));
             QTest::keyClick(&box, Qt::Key_Escape);
         });
         main.Choose("mnuFileSaveAs");
         QVERIFY(isPlain);
+    }
+
+    // The path is longer than the 260 letters that Windows takes without being asked.
+    void NamesOfOtherAlphabetsAndLongPathsAreOpenedAndSaved() {
+        constexpr int Depth = 3;
+        constexpr int Letters = 90;
+        RunningWindow main;
+        QString const name = u"\u5C0F\u9EA6 \u03A3\u03AF\u03C4\u03BF\u03C2"_s; // wheat, in Chinese and Greek
+        QString place = QString::fromStdString(main.Folder.Text());
+        for (int depth = 1; depth <= Depth; ++depth) {
+            place += QString(Letters, u'\u0395') + QDir::separator();
+            std::filesystem::create_directory(platform::disk::HostPath(place.toStdString()));
+        }
+        main.Data->Settings.DataPath = place.toStdString();
+        main.Files.Replace((place + name + u".txt"_s).toStdString(), QuoteLines(30));
+        main.Answers.Choose(name + u".txt"_s);
+        main.Choose("mnuFileOpen");
+        QCOMPARE(main.Window->windowTitle(), u"Quorvex - [%1%2.txt]"_s.arg(place, name));
+        main.Answers.Next([&name](QWidget& box) { // Qt Test has no keys for these letters
+            auto* edit = box.findChild<QLineEdit*>();
+            edit->setText(name + u" 2.txt"_s);
+            QTest::keyClick(edit, Qt::Key_Return);
+        });
+        main.Choose("mnuFileSaveAs");
+        QCOMPARE(main.Window->windowTitle(), u"Quorvex - [%1%2 2.txt]"_s.arg(place, name));
+        QCOMPARE(main.Files.Length((place + name + u" 2.txt"_s).toStdString()), QuoteLines(30).size());
     }
 
     void SaveAsRefusesABadName_data() {

@@ -352,7 +352,7 @@ private Q_SLOTS:
     }
 
     void TheStatusLineIsAStatusBarToScreenReaders() {
-        ShownEditor shown(QuoteLines(30), "S&P <b>500.txt");
+        ShownEditor shown(QuoteLines(30), std::string("S&P ") + MarkupInName + "500.txt");
         shown.Run([&] {
             shown.Choose("mnuFileSave");
             QAccessibleInterface* line = QAccessible::queryAccessibleInterface(&StatusOf(shown));

@@ -10,6 +10,9 @@ namespace quorvex::tests {
 class DensePictureTest final : public WindowTest {
     Q_OBJECT
 
+public:
+    static constexpr char const* ScaleFactor = "2";
+
 private Q_SLOTS:
 
     void ThePictureHasThePixelsOfTheScreen() {
