@@ -17,6 +17,7 @@ inline constexpr double TwipsPerPoint = 20;
 using Colour = std::uint32_t;
 
 inline constexpr Colour Black = 0x000000;
+inline constexpr Colour White = 0xFFFFFF;
 inline constexpr Colour Magenta = 0xFF00FF;
 
 enum class Fill { Outline, Filled };

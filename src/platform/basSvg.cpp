@@ -109,10 +109,7 @@ class SvgInk final : public Ink {
 public:
     SvgInk(RecordingCanvas const& drawing, std::string& svg) : drawing_(drawing), svg_(svg) {}
 
-    void PutBackground() override {
-        constexpr Colour White = 0xFFFFFF;
-        PutBox({0, 0}, {drawing_.Width(), drawing_.Height()}, White);
-    }
+    void PutBackground() override { PutBox({0, 0}, {drawing_.Width(), drawing_.Height()}, White); }
 
     void PutPoint(Place at, Colour colour) override {
         constexpr double Half = VectorLine / 2;

@@ -3,6 +3,8 @@
 
 #include "platform/pictures/Painting.h"
 
+#include "platform/basProcessor.h"
+#include "platform/pictures/PixelRows.h"
 #include "platform/pictures/QtTexts.h"
 
 #include <QFontMetricsF>
@@ -27,8 +29,10 @@ double Limit(double value) {
     return std::clamp(value, -FarAway, FarAway);
 }
 
+// The floor, without the call that the plainest processors need for it.
 int PixelOf(double value) {
-    return static_cast<int>(std::floor(value));
+    int const truncated = static_cast<int>(value);
+    return truncated - (value < truncated ? 1 : 0);
 }
 
 // The first and the last of a row of pixels.
@@ -67,10 +71,13 @@ PixelSpan SnapUpright(double from, double to) {
 
 class DrawingPainter final : public Ink {
 public:
-    DrawingPainter(QPainter& painter, RecordingCanvas const& drawing, PaintScale scale)
+    // With rows, these are of the image that is painted on, and whole pixels are filled there.
+    DrawingPainter(QPainter& painter, RecordingCanvas const& drawing, PaintScale scale,
+                   PixelRows* rows = nullptr)
         : painter_(painter),
           drawing_(drawing),
-          scale_(scale) {}
+          scale_(scale),
+          rows_(rows) {}
 
     void PutBackground() override;
     void PutPoint(Place at, Colour colour) override;
@@ -91,28 +98,42 @@ private:
         return Unit(scale_.On == Medium::Paper ? PaperLine : VectorLine);
     }
 
-    void PaintStraightLine(QPointF from, QPointF to, QColor const& colour);
-    void PaintPixelRectangle(PixelSpan across, PixelSpan upright, bool isFilled);
-    void PaintExactRectangle(QRectF const& rectangle, bool isFilled);
-    void PaintPaperRectangle(QRectF rectangle, bool isFilled);
+    void FillPixels(int left, int top, int width, int height, Colour colour);
+    void PaintStraightLine(QPointF from, QPointF to, Colour colour);
+    void PaintPixelRectangle(PixelSpan across, PixelSpan upright, Colour colour, bool isFilled);
+    void PaintExactRectangle(QRectF const& rectangle, QColor const& colour, bool isFilled);
+    void PaintPaperRectangle(QRectF rectangle, QColor const& colour, bool isFilled);
     void SetLinePen(QColor const& colour);
 
     QPainter& painter_;
     RecordingCanvas const& drawing_;
     PaintScale scale_;
-    QColor colour_ = Qt::black; // of the rectangle
-    QPolygonF curve_;           // kept for its memory
+    PixelRows* rows_;
+    QPolygonF curve_; // kept for its memory
 };
 
 void DrawingPainter::PutBackground() {
-    painter_.fillRect(QRectF(0, 0, std::ceil(Unit(drawing_.Width())), std::ceil(Unit(drawing_.Height()))),
-                      Qt::white);
+    double const width = std::ceil(Unit(drawing_.Width()));
+    double const height = std::ceil(Unit(drawing_.Height()));
+    if (rows_ != nullptr) {
+        rows_->Fill(0, 0, static_cast<int>(width), static_cast<int>(height), White);
+    } else {
+        painter_.fillRect(QRectF(0, 0, width, height), Qt::white);
+    }
+}
+
+void DrawingPainter::FillPixels(int left, int top, int width, int height, Colour colour) {
+    if (rows_ != nullptr) {
+        rows_->Fill(left, top, width, height, colour);
+    } else {
+        painter_.fillRect(left, top, width, height, ToQt(colour));
+    }
 }
 
 void DrawingPainter::PutPoint(Place at, Colour colour) {
     QPointF const point = Unit(at);
     if (OnPixels()) {
-        painter_.fillRect(PixelOf(point.x()), PixelOf(point.y()), 1, 1, ToQt(colour));
+        FillPixels(PixelOf(point.x()), PixelOf(point.y()), 1, 1, colour);
     } else {
         double const size = LineWidth();
         painter_.fillRect(QRectF(point - QPointF(size, size) / 2, QSizeF(size, size)), ToQt(colour));
@@ -122,7 +143,7 @@ void DrawingPainter::PutPoint(Place at, Colour colour) {
 void DrawingPainter::PutCurve(std::span<Place const> places, Colour colour) {
     constexpr std::size_t PlacesOfLine = 2;
     if (places.size() == PlacesOfLine) {
-        PaintStraightLine(Unit(places.front()), Unit(places.back()), ToQt(colour));
+        PaintStraightLine(Unit(places.front()), Unit(places.back()), colour);
         return;
     }
     curve_.clear();
@@ -133,9 +154,10 @@ void DrawingPainter::PutCurve(std::span<Place const> places, Colour colour) {
     SetLinePen(ToQt(colour));
     painter_.drawPolyline(curve_);
     painter_.setRenderHint(QPainter::Antialiasing, false);
+    FreeWideRegisters();
 }
 
-void DrawingPainter::PaintStraightLine(QPointF from, QPointF to, QColor const& colour) {
+void DrawingPainter::PaintStraightLine(QPointF from, QPointF to, Colour colour) {
     bool const isLevel = from.y() == to.y();
     bool const isUpright = from.x() == to.x();
     if (OnPixels() && (isLevel || isUpright)) {
@@ -143,52 +165,51 @@ void DrawingPainter::PaintStraightLine(QPointF from, QPointF to, QColor const& c
         int const right = PixelOf(std::max(from.x(), to.x()));
         int const top = PixelOf(std::min(from.y(), to.y()));
         int const bottom = PixelOf(std::max(from.y(), to.y()));
-        painter_.fillRect(left, top, right - left + 1, bottom - top + 1, colour);
+        FillPixels(left, top, right - left + 1, bottom - top + 1, colour);
         return;
     }
     painter_.setRenderHint(QPainter::Antialiasing, true);
-    SetLinePen(colour);
+    SetLinePen(ToQt(colour));
     painter_.drawLine(from, to);
     painter_.setRenderHint(QPainter::Antialiasing, false);
+    FreeWideRegisters();
 }
 
 void DrawingPainter::PutRectangle(Place corner, Place opposite, Colour colour, bool isFilled) {
-    colour_ = ToQt(colour);
     QPointF const from = Unit(corner);
     QPointF const to = Unit(opposite);
-    QRectF const rectangle = QRectF(from, to).normalized();
     switch (scale_.On) {
     case Medium::Pixels:
-        PaintPixelRectangle(SnapAcross(from.x(), to.x()), SnapUpright(from.y(), to.y()), isFilled);
+        PaintPixelRectangle(SnapAcross(from.x(), to.x()), SnapUpright(from.y(), to.y()), colour, isFilled);
         break;
     case Medium::Vectors:
-        PaintExactRectangle(rectangle, isFilled);
+        PaintExactRectangle(QRectF(from, to).normalized(), ToQt(colour), isFilled);
         break;
     case Medium::Paper:
-        PaintPaperRectangle(rectangle, isFilled);
+        PaintPaperRectangle(QRectF(from, to).normalized(), ToQt(colour), isFilled);
         break;
     }
 }
 
-void DrawingPainter::PaintPixelRectangle(PixelSpan across, PixelSpan upright, bool isFilled) {
+void DrawingPainter::PaintPixelRectangle(PixelSpan across, PixelSpan upright, Colour colour, bool isFilled) {
     int const width = across.Length();
     int const height = upright.Length();
     if (isFilled || width <= 2 || height <= 2) {
-        painter_.fillRect(across.First, upright.First, width, height, colour_);
+        FillPixels(across.First, upright.First, width, height, colour);
         return;
     }
-    painter_.fillRect(across.First, upright.First, width, 1, colour_);
-    painter_.fillRect(across.First, upright.Last, width, 1, colour_);
-    painter_.fillRect(across.First, upright.First, 1, height, colour_);
-    painter_.fillRect(across.Last, upright.First, 1, height, colour_);
+    FillPixels(across.First, upright.First, width, 1, colour);
+    FillPixels(across.First, upright.Last, width, 1, colour);
+    FillPixels(across.First, upright.First, 1, height, colour);
+    FillPixels(across.Last, upright.First, 1, height, colour);
 }
 
-void DrawingPainter::PaintExactRectangle(QRectF const& rectangle, bool isFilled) {
+void DrawingPainter::PaintExactRectangle(QRectF const& rectangle, QColor const& colour, bool isFilled) {
     if (isFilled) {
-        painter_.fillRect(rectangle, colour_);
+        painter_.fillRect(rectangle, colour);
         return;
     }
-    SetLinePen(colour_);
+    SetLinePen(colour);
     if (rectangle.width() < LineWidth()) {
         painter_.drawLine(QPointF(rectangle.center().x(), rectangle.top()),
                           QPointF(rectangle.center().x(), rectangle.bottom()));
@@ -203,7 +224,7 @@ void DrawingPainter::PaintExactRectangle(QRectF const& rectangle, bool isFilled)
 
 // The border lies within the corners, so that the shapes of neighbours stay apart; what is too thin for a
 // hole is solid.
-void DrawingPainter::PaintPaperRectangle(QRectF rectangle, bool isFilled) {
+void DrawingPainter::PaintPaperRectangle(QRectF rectangle, QColor const& colour, bool isFilled) {
     double const thinnest = std::max(Unit(ThinnestOnPaper), 1.0);
     double const wider = std::max(thinnest - rectangle.width(), 0.0) / 2;
     double const higher = std::max(thinnest - rectangle.height(), 0.0) / 2;
@@ -211,10 +232,10 @@ void DrawingPainter::PaintPaperRectangle(QRectF rectangle, bool isFilled) {
     double const border = LineWidth();
     constexpr int BordersAndHole = 3;
     if (isFilled || std::min(rectangle.width(), rectangle.height()) < BordersAndHole * border) {
-        painter_.fillRect(rectangle, colour_);
+        painter_.fillRect(rectangle, colour);
         return;
     }
-    SetLinePen(colour_);
+    SetLinePen(colour);
     painter_.setBrush(Qt::NoBrush);
     painter_.drawRect(rectangle.adjusted(border / 2, border / 2, -border / 2, -border / 2));
 }
@@ -231,6 +252,7 @@ void DrawingPainter::PutText(Place place, std::string_view text, Colour colour) 
     }
     painter_.setPen(ToQt(colour));
     painter_.drawText(at, ToQt(text));
+    FreeWideRegisters();
 }
 
 void DrawingPainter::SetLinePen(QColor const& colour) {
@@ -254,15 +276,32 @@ QFont FontOf(std::string_view name, double size, bool isBold, double unitsPerTwi
     return font;
 }
 
-void PaintDrawing(QPainter& painter, RecordingCanvas const& drawing, PaintScale scale) {
-    painter.save();
+namespace {
+
+void InkOn(QPainter& painter, RecordingCanvas const& drawing, PaintScale scale, PixelRows* rows) {
+    FreeWideRegisters();
     painter.setRenderHint(QPainter::Antialiasing, false);
-    DrawingPainter drawingPainter(painter, drawing, scale);
+    DrawingPainter drawingPainter(painter, drawing, scale, rows);
     if (!BeginsWithClear(drawing) && scale.On != Medium::Paper) {
         drawingPainter.PutBackground();
     }
     InkDrawing(drawing, drawingPainter);
+}
+
+} // namespace
+
+void PaintDrawing(QPainter& painter, RecordingCanvas const& drawing, PaintScale scale) {
+    painter.save();
+    InkOn(painter, drawing, scale, nullptr);
     painter.restore();
+}
+
+void PaintPicture(QImage& picture, RecordingCanvas const& drawing, double unitsPerTwip) {
+    PixelRows rows(picture);
+    QPainter painter(&picture);
+    // Changes nothing but the time: Qt paints thin lines several times as fast within a rectangle.
+    painter.setClipRect(picture.rect());
+    InkOn(painter, drawing, {unitsPerTwip, Medium::Pixels}, &rows);
 }
 
 } // namespace quorvex::platform::pictures

@@ -9,6 +9,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QImage>
 #include <QPainter>
 #include <string_view>
 
@@ -36,5 +37,11 @@ struct PaintScale {
 
 // Paints the drawing with its top left corner at the painter's origin; on white, unless it is paper.
 void PaintDrawing(QPainter& painter, RecordingCanvas const& drawing, PaintScale scale);
+
+// Paints the drawing on a whole picture, pixel by pixel what PaintDrawing paints there with Medium::Pixels,
+// in a fraction of the time: what is filled and not antialiased is written into the rows of the picture.
+// REQUIRES: a picture of the format RGB32 or ARGB32 premultiplied, at one unit a pixel, on which no painter
+// is at work.
+void PaintPicture(QImage& picture, RecordingCanvas const& drawing, double unitsPerTwip);
 
 } // namespace quorvex::platform::pictures

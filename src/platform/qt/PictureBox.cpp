@@ -78,9 +78,7 @@ void PictureBox::Rasterise() {
     if (drawn.width() < pixels.width() || drawn.height() < pixels.height()) {
         picture_.fill(Qt::white); // the drawing is white as far as it reaches
     }
-    QPainter painter(&picture_);
-    pictures::PaintDrawing(painter, drawing_, {ratio / pictures::TwipsPerPixel, pictures::Medium::Pixels});
-    painter.end();
+    pictures::PaintPicture(picture_, drawing_, ratio / pictures::TwipsPerPixel);
     picture_.setDevicePixelRatio(ratio);
 }
 
@@ -122,10 +120,13 @@ void PictureBox::PaintPixels(QPainter& painter) const {
     QRect const box(QPoint(qRound(edges.left()), qRound(edges.top())),
                     QPoint(qRound(edges.right()) - 1, qRound(edges.bottom()) - 1));
     painter.setWorldTransform(toPixels.inverted());
-    painter.fillRect(box, Qt::white);
+    double const scale = toPixels.m11() / picture_.devicePixelRatio(); // 1 on the screen
+    QRectF const covered(box.topLeft(), QSizeF(picture_.size()) * scale);
+    if (!covered.contains(QRectF(box))) {
+        painter.fillRect(box, Qt::white);
+    }
     if (!picture_.isNull()) {
-        double const scale = toPixels.m11() / picture_.devicePixelRatio(); // 1 on the screen
-        painter.drawImage(QRectF(box.topLeft(), QSizeF(picture_.size()) * scale), picture_);
+        painter.drawImage(covered, picture_);
     }
     PaintBorder(painter, box);
     painter.resetTransform();

@@ -4,6 +4,7 @@
 #include "platform/qt/QtDialogs.h"
 
 #include "platform/basMessages.h"
+#include "platform/basProcessor.h"
 #include "platform/pictures/HeadlessApplication.h"
 #include "platform/pictures/QtTexts.h"
 
@@ -208,6 +209,7 @@ std::string AskInputBox(QWidget& window, Question const& question) {
 
 bool RunGuarded(QWidget& window, bool isShown, std::function<void()> const& routine) {
     Message message;
+    FreeWideRegisters(); // whatever was painted before
     try {
         routine();
         return true;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
+#include "platform/pictures/Painting.h"
 #include "platform/pictures/QtTexts.h"
 #include "support/QuoteTexts.h"
 #include "text/basFormats.h"
@@ -8,6 +9,8 @@
 #include "windows/ToolTips.h"
 #include "windows/WindowTest.h"
 
+#include <QImage>
+#include <QPainter>
 #include <QToolTip>
 #include <algorithm>
 
@@ -96,6 +99,40 @@ private Q_SLOTS:
         QCOMPARE(press(Qt::Key_Left), date(1));
         QCOMPARE(press(Qt::Key_PageDown), date(11));
         QCOMPARE(press(Qt::Key_End), date(60));
+    }
+
+    void PicturesAreWhatAPainterPaintsAtEveryScale_data() {
+        QTest::addColumn<double>("scale");
+        for (double const scale : {1.0, 1.25, 1.5, 2.0}) {
+            QTest::addRow("%g", scale) << scale;
+        }
+    }
+
+    void PicturesAreWhatAPainterPaintsAtEveryScale() {
+        QFETCH(double, scale);
+        RunningWindow main;
+        main.OpenQuotes("q060.txt");
+        main.Choose("mnuParametersAutomate3");
+        for (char const* const type : {"Daily Bar Chart", "Candlestick Chart", "Line Chart"}) {
+            main.Data->Settings.ChartType = type;
+            main.Choose("mnuRefresh");
+            for (int number = 1; number <= 4; ++number) {
+                auto const& drawing = main.Box(number).Drawing();
+                QImage expected((QSizeF(main.Box(number).size()) * scale).toSize(), QImage::Format_RGB32);
+                expected.fill(Qt::white);
+                QImage picture = expected.copy();
+                double const unitsPerTwip = scale / platform::TwipsPerPixel;
+                platform::pictures::PaintPicture(picture, drawing, unitsPerTwip);
+                QPainter painter(&expected);
+                platform::pictures::PaintDrawing(painter, drawing,
+                                                 {unitsPerTwip, platform::pictures::Medium::Pixels});
+                painter.end();
+                QCOMPARE(picture, expected);
+                if (scale == 1) {
+                    QCOMPARE(main.Picture(number), expected);
+                }
+            }
+        }
     }
 
     void DescriptionsTellWhatIsDrawn() {

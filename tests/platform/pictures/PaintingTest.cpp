@@ -10,6 +10,8 @@
 
 #include <QImage>
 #include <QPainter>
+#include <array>
+#include <random>
 
 namespace quorvex::tests {
 
@@ -29,6 +31,81 @@ QImage Painted(RecordingCanvas const& drawing, double scale = 1) {
                                      {scale / TwipsPerPixel, platform::pictures::Medium::Pixels});
     return image;
 }
+
+// The same, painted as a whole picture.
+QImage PaintedPicture(RecordingCanvas const& drawing, double scale, QImage::Format format) {
+    QImage image = Painted(drawing, scale).convertToFormat(format);
+    image.fill(Qt::green);
+    platform::pictures::PaintPicture(image, drawing, scale / TwipsPerPixel);
+    return image;
+}
+
+// Every kind of operation, inside the canvas, across its edges and far away.
+class RandomDrawing {
+public:
+    explicit RandomDrawing(unsigned seed) : random_(seed) {
+        Canvas.Rectangle(-500, -500, 2500, 200, Colour(), Fill::Filled); // which the next line wipes
+        Canvas.Clear();
+        Canvas.SetFont("Arial", 8, true);
+        for (int operation = 0; operation < 1500; ++operation) {
+            Draw(Number(9));
+        }
+    }
+
+    RecordingCanvas Canvas{1507, 1213};
+
+private:
+    int Number(unsigned below) { return static_cast<int>(random_() % below); }
+
+    double Coordinate() {
+        constexpr std::array<double, 4> Far = {1e9, -1e9, 2'000'000, -40'000};
+        return Number(200) == 0 ? Far.at(random_() % Far.size()) : Number(90'000) / 50.0 - 150;
+    }
+
+    platform::Colour Colour() { return static_cast<platform::Colour>(Number(0x1000000)); }
+
+    void Draw(int kind) {
+        double const x = Coordinate();
+        double const y = Coordinate();
+        Fill const fill = Number(2) == 0 ? Fill::Filled : Fill::Outline;
+        switch (kind) {
+        case 0:
+            Canvas.Point(x, y, Colour());
+            break;
+        case 1:
+            Canvas.Line(x, y, x + Number(300), y, Colour());
+            break;
+        case 2:
+            Canvas.Line(x, y, x, Coordinate(), Colour());
+            break;
+        case 3:
+            Canvas.Line(x, y, Coordinate(), Coordinate(), Colour());
+            break;
+        case 4:
+            Canvas.Rectangle(x, y, x + Number(120), y - Number(300), Colour(), fill);
+            break;
+        case 5:
+            Canvas.Rectangle(x, y, Coordinate(), Coordinate(), Colour(), Fill::Outline);
+            break;
+        case 6:
+            Canvas.SetForeColour(Colour());
+            Canvas.SetTextPosition(x, y);
+            Canvas.Print("1234.50");
+            break;
+        default:
+            DrawCurve(Colour());
+        }
+    }
+
+    void DrawCurve(platform::Colour colour) {
+        Canvas.Point(Coordinate(), Coordinate(), colour);
+        for (int points = Number(8); points >= 0; --points) {
+            Canvas.LineTo(Coordinate(), Coordinate(), colour);
+        }
+    }
+
+    std::minstd_rand random_;
+};
 
 // How many pixels of the column or row have exactly this colour.
 int CountInColumn(QImage const& image, int x, QRgb colour) {
@@ -174,6 +251,36 @@ private Q_SLOTS:
         }
         QImage const image = Painted(drawing);
         QCOMPARE(CountInColumn(image, 46, Black), image.height());
+    }
+
+    void AWholePictureIsPixelByPixelWhatAPainterPaints_data() {
+        QTest::addColumn<double>("scale");
+        for (double const scale : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+            QTest::addRow("%g", scale) << scale;
+        }
+    }
+
+    void AWholePictureIsPixelByPixelWhatAPainterPaints() {
+        QFETCH(double, scale);
+        for (unsigned seed = 1; seed <= 5; ++seed) {
+            RandomDrawing const drawing(seed);
+            QImage const expected = Painted(drawing.Canvas, scale);
+            for (auto const format : {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied}) {
+                QImage const picture = PaintedPicture(drawing.Canvas, scale, format);
+                QCOMPARE(picture.convertToFormat(QImage::Format_RGB32), expected);
+            }
+        }
+    }
+
+    void WhatNoDrawingReachesStaysAsItWas() {
+        RecordingCanvas drawing(300, 300);
+        drawing.Clear();
+        QImage picture(40, 30, QImage::Format_RGB32);
+        picture.fill(Qt::green);
+        platform::pictures::PaintPicture(picture, drawing, 1 / TwipsPerPixel);
+        QCOMPARE(picture.pixelColor(19, 19), QColor(Qt::white));
+        QCOMPARE(picture.pixelColor(20, 19), QColor(Qt::green));
+        QCOMPARE(picture.pixelColor(19, 20), QColor(Qt::green));
     }
 
     void ASheetWithoutAnExtentIsAFault() {
