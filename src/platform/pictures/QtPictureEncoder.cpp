@@ -71,6 +71,7 @@ void WritePng(PictureSheet const& sheet, QBuffer& output) {
     constexpr double InchesPerMetre = 1000 / 25.4;
     QImage image(PixelSize(sheet), QImage::Format_RGB32);
     Require(!image.isNull());
+    image.fill(Qt::white); // the sheet ends within the last row and column, whose middle it may not reach
     image.setDotsPerMeterX(static_cast<int>(std::lround(PixelsPerInch * InchesPerMetre)));
     image.setDotsPerMeterY(image.dotsPerMeterX());
     PaintSheetOn(image, sheet, Medium::Pixels);

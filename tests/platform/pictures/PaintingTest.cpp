@@ -307,6 +307,18 @@ private Q_SLOTS:
         QCOMPARE(image.pixel(11, 60), 0xFFFF0000);
         QCOMPARE(image.pixel(110, 60), White);
     }
+
+    void APngIsWhiteWhereItsSizeIsRoundedUp() {
+        RecordingCanvas drawing(1500, 1500);
+        drawing.Clear();
+        std::array<platform::PlacedDrawing, 1> const placed = {{{0, 0, &drawing}}};
+        platform::pictures::QtPictureEncoder encoder;
+        auto const png = encoder.Encode({1503, 1503, placed}, platform::PictureKind::Png);
+        QImage const image = QImage::fromData(QByteArray::fromStdString(png), "PNG");
+        QCOMPARE(image.size(), QSize(101, 101));
+        QCOMPARE(CountInColumn(image, 100, White), 101);
+        QCOMPARE(CountInRow(image, 100, White), 101);
+    }
 };
 
 template struct ListedWindowTest<PaintingTest>;
