@@ -5,8 +5,8 @@
 
 #include "platform/basMessages.h"
 #include "text/RunTimeError.h"
-#include "text/basNumbers.h"
 
+#include <limits>
 #include <memory>
 #include <string_view>
 #include <tuple>
@@ -31,16 +31,18 @@ std::string_view TakeOrEmpty(text::FieldReader& fields) {
     return fields.AtEnd() ? std::string_view() : fields.Take();
 }
 
-std::optional<double> NumberWithinRange(std::string_view field) {
-    std::optional<double> number;
-    static_cast<void>(text::Trap([&] { number = text::LeadingNumber(field); }));
+text::SpelledNumber NumberOrInfinity(std::string_view field) {
+    text::SpelledNumber number{std::numeric_limits<double>::infinity()};
+    static_cast<void>(text::Trap([&] { number = text::LeadingSpelledNumber(field); }));
     return number;
 }
 
 void StoreRounded(QuoteLine const& line, text::NumberFormat const& format, QuoteRecord& record) {
     record.Date = text::FormatDate(*line.Date);
     for (std::size_t index = 0; index < NumberCount; ++index) {
-        record.*NumberFields[index] = format.Round(line.Number(index));
+        double const number = line.Number(index);
+        bool const isRound = format.Keeps(line.Numbers[index].Decimals);
+        record.*NumberFields[index] = isRound ? number : format.Round(number);
     }
 }
 
@@ -70,12 +72,9 @@ std::int16_t ReadRecords(text::ByteSource& source, text::NumberFormat const& for
 
 } // namespace
 
-// It matters only when the line comes to need the number.
+// One beyond a double matters only when the line comes to need it.
 double QuoteLine::Number(std::size_t index) const {
-    if (!Numbers.at(index)) {
-        throw RunTimeError(Fault::Overflow);
-    }
-    return *Numbers.at(index);
+    return text::RequireFinite(Numbers.at(index).Value);
 }
 
 bool QuoteLine::IsQuote() const {
@@ -83,12 +82,9 @@ bool QuoteLine::IsQuote() const {
 }
 
 QuoteLine ReadQuoteLine(text::FieldReader& fields) {
-    QuoteLine line;
-    line.Date = text::ParseDate(TakeOrEmpty(fields));
-    for (auto& number : line.Numbers) {
-        number = NumberWithinRange(TakeOrEmpty(fields));
-    }
-    return line;
+    auto const date = text::ParseDate(TakeOrEmpty(fields));
+    auto const next = [&] { return NumberOrInfinity(TakeOrEmpty(fields)); };
+    return {date, {next(), next(), next(), next(), next(), next()}}; // in this order
 }
 
 std::int16_t ReadQuotes(text::ByteSource& source, text::NumberFormat const& format, QuoteSeries& series) {

@@ -11,6 +11,7 @@
 #include "text/basDates.h"
 #include "text/basFields.h"
 #include "text/basFormats.h"
+#include "text/basNumbers.h"
 
 #include <array>
 #include <cstddef>
@@ -21,10 +22,10 @@
 namespace quorvex::quotes {
 
 // A line as it stands in a quote file, its numbers not rounded: four prices, volume, open interest. A number
-// beyond a double is empty.
+// beyond a double is infinite.
 struct QuoteLine {
     std::optional<text::CalendarDay> Date;
-    std::array<std::optional<double>, 6> Numbers{};
+    std::array<text::SpelledNumber, 6> Numbers{};
 
     // Raises "Overflow" for one beyond a double.
     [[nodiscard]] double Number(std::size_t index) const;

@@ -20,10 +20,6 @@ namespace {
 constexpr int SignificantDigits = std::numeric_limits<double>::digits10;
 static_assert(SignificantDigits == 15);
 
-// Powers of ten that a double holds exactly.
-constexpr std::array<double, 23> ExactPowers = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                                1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                                1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 constexpr int LastExactPower = static_cast<int>(ExactPowers.size()) - 1;
 
 constexpr std::uint64_t FirstTooLarge = 1'000'000'000'000'000; // 16 digits

@@ -42,6 +42,12 @@ public:
     // when the format's text is no number, such as "$5.00".
     [[nodiscard]] double Round(double value) const;
 
+    // Whether Round leaves a number alone whose text has so many decimals, and 15 digits at the most. Not
+    // where the decimals are negative, as those of a text that is no plain decimal.
+    [[nodiscard]] bool Keeps(int decimals) const {
+        return decimals >= 0 && plainDecimals_ && decimals <= *plainDecimals_;
+    }
+
 private:
     enum class Piece { Literal, WholeDigit, Point, Decimal };
 

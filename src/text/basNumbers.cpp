@@ -123,6 +123,33 @@ double ValueOf(std::string_view text, ScannedNumber const& number) {
     return number.Negative ? -magnitude : magnitude;
 }
 
+// What PlainDecimal reads.
+SpelledNumber SpelledPlainly(std::string_view text) {
+    if (text.size() > MostExactDigits) {
+        return {};
+    }
+    std::int64_t digits = 0;
+    std::size_t at = 0;
+    for (; at < text.size() && IsDigit(text[at]); ++at) {
+        digits = digits * 10 + (text[at] - '0');
+    }
+    if (at == text.size()) {
+        return {static_cast<double>(digits), 0};
+    }
+    if (text[at] != '.') {
+        return {};
+    }
+    std::size_t const point = at;
+    for (++at; at < text.size() && IsDigit(text[at]); ++at) {
+        digits = digits * 10 + (text[at] - '0');
+    }
+    if (at < text.size()) {
+        return {};
+    }
+    std::size_t const decimals = at - point - 1;
+    return {static_cast<double>(digits) / ExactPowers[decimals], static_cast<int>(decimals)};
+}
+
 // The text without the commas that stand between two digits in front of the point.
 std::string WithoutThousandsMarks(std::string_view text) {
     std::string kept;
@@ -143,34 +170,17 @@ std::string WithoutThousandsMarks(std::string_view text) {
 } // namespace
 
 std::optional<double> PlainDecimal(std::string_view text) {
-    if (text.size() > MostExactDigits) {
-        return std::nullopt;
-    }
-    std::int64_t digits = 0;
-    std::size_t at = 0;
-    for (; at < text.size() && IsDigit(text[at]); ++at) {
-        digits = digits * 10 + (text[at] - '0');
-    }
-    if (at == text.size()) {
-        return static_cast<double>(digits);
-    }
-    if (text[at] != '.') {
-        return std::nullopt;
-    }
-    double scale = 1;
-    for (++at; at < text.size() && IsDigit(text[at]); ++at) {
-        digits = digits * 10 + (text[at] - '0');
-        scale *= 10;
-    }
-    if (at < text.size()) {
-        return std::nullopt;
-    }
-    return static_cast<double>(digits) / scale;
+    SpelledNumber const number = SpelledPlainly(text);
+    return number.Decimals < 0 ? std::nullopt : std::optional(number.Value);
+}
+
+SpelledNumber LeadingSpelledNumber(std::string_view text) {
+    SpelledNumber const plain = SpelledPlainly(text);
+    return plain.Decimals < 0 ? SpelledNumber{ValueOf(text, ScanNumber(text))} : plain;
 }
 
 double LeadingNumber(std::string_view text) {
-    auto const plain = PlainDecimal(text);
-    return plain ? *plain : ValueOf(text, ScanNumber(text));
+    return LeadingSpelledNumber(text).Value;
 }
 
 double StrictNumber(std::string_view text) {

@@ -23,6 +23,15 @@ namespace quorvex::text {
 // same: this is the quick way for those of most files.
 [[nodiscard]] std::optional<double> PlainDecimal(std::string_view text);
 
+// A number as a text spells it.
+struct SpelledNumber {
+    double Value = 0;
+    int Decimals = -1; // digits behind the point; negative where the text is no plain decimal
+};
+
+// The number at the start of a text, as LeadingNumber reads it, and how it is spelled. Raises "Overflow".
+[[nodiscard]] SpelledNumber LeadingSpelledNumber(std::string_view text);
+
 // The number that the whole text is, blanks around it aside; commas between the digits in front of the point
 // are thousands marks. Raises "Type mismatch" for anything else and "Overflow" beyond the range of a double.
 [[nodiscard]] double StrictNumber(std::string_view text);

@@ -4,6 +4,7 @@
 #include "text/basFormats.h"
 
 #include "support/Golden.h"
+#include "text/basNumbers.h"
 
 #include <gtest/gtest.h>
 
@@ -46,6 +47,24 @@ TEST(NumberFormat, RoundsEveryThousandthAsSchoolArithmeticDoes) {
         std::snprintf(expected.data(), expected.size(), "%d.%02d", hundredths / 100, hundredths % 100);
         ASSERT_EQ(format.Format(thousandths / 1000.0), expected.data()) << thousandths;
     }
+}
+
+TEST(NumberFormat, KeepsWhatHasNoMoreDecimalsThanItPrints) {
+    constexpr int MostDecimals = 8;
+    std::string const digits = "80715369420718";
+    for (int kept = 0; kept <= MostDecimals; ++kept) {
+        NumberFormat const format("0." + std::string(static_cast<std::size_t>(kept), '0'));
+        for (int decimals = 0; decimals <= MostDecimals; ++decimals) {
+            EXPECT_EQ(format.Keeps(decimals), decimals <= kept);
+            auto const point = digits.size() - static_cast<std::size_t>(decimals);
+            double const value = LeadingNumber(digits.substr(0, point) + "." + digits.substr(point));
+            EXPECT_EQ(format.Round(value) == value, format.Keeps(decimals)) << value;
+        }
+    }
+    EXPECT_FALSE(NumberFormat("0.00%").Keeps(0)) << "it prints a hundred times the number";
+    EXPECT_FALSE(NumberFormat("#,##0").Keeps(0)) << "what it prints is to be read back";
+    EXPECT_FALSE(NumberFormat("0;0.0").Keeps(0));
+    EXPECT_FALSE(NumberFormat("0.00").Keeps(-1)) << "of a text that is no plain decimal";
 }
 
 TEST(NumberFormat, SeesFifteenSignificantDigitsOnly) {

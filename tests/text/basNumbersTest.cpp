@@ -14,6 +14,7 @@
 #include <random>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace quorvex::text {
 
@@ -54,6 +55,24 @@ TEST(LeadingNumber, StopsAtTheFirstCharacterThatDoesNotBelong) {
     EXPECT_EQ(LeadingNumber("12-"), 12);
     EXPECT_EQ(LeadingNumber("0x10"), 0);
     EXPECT_EQ(LeadingNumber(std::string_view("1\0002", 3)), 1);
+}
+
+TEST(LeadingSpelledNumber, CountsTheDecimalsOfPlainTexts) {
+    auto const spelled = [](std::string_view text) {
+        auto const [value, decimals] = LeadingSpelledNumber(text);
+        return std::pair(value, decimals);
+    };
+    EXPECT_EQ(spelled("253.75"), std::pair(253.75, 2));
+    EXPECT_EQ(spelled("58915"), std::pair(58915.0, 0));
+    EXPECT_EQ(spelled("7."), std::pair(7.0, 0));
+    EXPECT_EQ(spelled(".050"), std::pair(0.05, 3));
+    EXPECT_EQ(spelled(""), std::pair(0.0, 0));
+    EXPECT_EQ(spelled("123456789012.25"), std::pair(123456789012.25, 2)) << "fifteen characters";
+    for (auto const* other : {"-1.5", "+1.5", " 1.5", "1.5x", "1.5e3", "1.2.3", "1234567890123.25", "x"}) {
+        EXPECT_LT(spelled(other).second, 0) << other;
+        EXPECT_EQ(spelled(other).first, LeadingNumber(other));
+    }
+    EXPECT_EQ(FaultOf([] { static_cast<void>(LeadingSpelledNumber("1e999")); }), "Overflow");
 }
 
 TEST(LeadingNumber, TakesDigitsWithAtMostOnePoint) {
