@@ -56,6 +56,17 @@ Fault FaultOf(int error, std::filesystem::path const& path) {
     throw RunTimeError(FaultOf(error, path));
 }
 
+// What is interrupted by a signal, as on file systems of a network, is done again. Each call tells an error
+// by -1.
+template <class Call>
+auto Uninterrupted(Call call) {
+    auto result = call();
+    while (result < 0 && errno == EINTR) {
+        result = call();
+    }
+    return result;
+}
+
 int Descriptor(SystemFile file) {
     return static_cast<int>(file);
 }
@@ -114,7 +125,8 @@ HostFileKind KindOf(std::filesystem::file_type type) {
 SystemFile OpenSystemFile(std::filesystem::path const& path, Opening opening, bool onlyForOwner) {
     constexpr mode_t Owner = 0600;
     constexpr mode_t EverybodyLessUmask = 0666;
-    int const descriptor = open(path.c_str(), FlagsOf(opening), onlyForOwner ? Owner : EverybodyLessUmask);
+    int const descriptor = Uninterrupted(
+        [&] { return open(path.c_str(), FlagsOf(opening), onlyForOwner ? Owner : EverybodyLessUmask); });
     if (descriptor < 0) {
         if (opening == Opening::Create && errno == EEXIST) {
             return NoSystemFile;
@@ -141,15 +153,11 @@ SystemFile DuplicateStandardFile(int number) {
 }
 
 std::size_t ReadSystemFile(SystemFile file, std::span<char> buffer) {
-    for (;;) {
-        auto const count = read(Descriptor(file), buffer.data(), buffer.size());
-        if (count >= 0) {
-            return static_cast<std::size_t>(count);
-        }
-        if (errno != EINTR) {
-            Raise(errno);
-        }
+    auto const count = Uninterrupted([&] { return read(Descriptor(file), buffer.data(), buffer.size()); });
+    if (count < 0) {
+        Raise(errno);
     }
+    return static_cast<std::size_t>(count);
 }
 
 bool AwaitSystemFile(SystemFile file) {
@@ -159,29 +167,26 @@ bool AwaitSystemFile(SystemFile file) {
 }
 
 std::size_t WriteSystemFile(SystemFile file, std::string_view bytes) {
-    for (;;) {
-        auto const count = write(Descriptor(file), bytes.data(), bytes.size());
-        if (count >= 0) {
-            return static_cast<std::size_t>(count);
-        }
-        if (errno != EINTR) {
-            Raise(errno);
-        }
+    auto const count = Uninterrupted([&] { return write(Descriptor(file), bytes.data(), bytes.size()); });
+    if (count < 0) {
+        Raise(errno);
     }
+    return static_cast<std::size_t>(count);
 }
 
 bool HoldSystemFile(SystemFile file) {
-    return flock(Descriptor(file), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+    return Uninterrupted([&] { return flock(Descriptor(file), LOCK_EX | LOCK_NB); }) == 0 ||
+           errno != EWOULDBLOCK;
 }
 
 void FlushSystemFile(SystemFile file) {
 #ifdef F_FULLFSYNC
     // On macOS fsync stops at the drive's own memory.
-    if (fcntl(Descriptor(file), F_FULLFSYNC) == 0) {
+    if (Uninterrupted([&] { return fcntl(Descriptor(file), F_FULLFSYNC); }) == 0) {
         return;
     }
 #endif
-    if (fsync(Descriptor(file)) != 0) {
+    if (Uninterrupted([&] { return fsync(Descriptor(file)); }) != 0) {
         Raise(errno);
     }
 }
@@ -228,7 +233,7 @@ void VisitHostFolder(std::filesystem::path const& folder, HostEntryVisitor const
 }
 
 void ShortenHostFile(std::filesystem::path const& path, std::uint64_t length) {
-    if (truncate(path.c_str(), static_cast<off_t>(length)) != 0) {
+    if (Uninterrupted([&] { return truncate(path.c_str(), static_cast<off_t>(length)); }) != 0) {
         Raise(errno, path);
     }
 }
@@ -280,9 +285,10 @@ void MoveHostFile(std::filesystem::path const& from, std::filesystem::path const
     // The new name outlives a power failure only once the folder is on the disk. Some file systems cannot
     // flush a folder; the rename itself stands either way.
     auto const folder = to.parent_path();
-    int const descriptor = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_CLOEXEC);
+    int const descriptor =
+        Uninterrupted([&] { return open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_CLOEXEC); });
     if (descriptor >= 0) {
-        fsync(descriptor);
+        Uninterrupted([&] { return fsync(descriptor); });
         close(descriptor);
     }
 }
