@@ -39,7 +39,7 @@ TEST(EvaluateCommand, PrintsTableSurrogatesAndVerdicts) {
 }
 
 TEST(EvaluateCommand, ComparesWithTwoHundredSurrogatesUnlessTold) {
-    auto const run = RunCompanion({"evaluate", ShortContract, "--every", "50"});
+    auto const run = RunCompanion({"evaluate", ShortContract, "--every", "200"});
     EXPECT_NE(run.Output.find(" of 200 surrogates "), std::string::npos) << run.Output;
 }
 

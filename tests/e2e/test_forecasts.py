@@ -18,7 +18,7 @@ class Forecasts(Session):
     def shorten(self):
         """Few days are tested soon."""
         with open(os.path.join(self.folder, "Wheat.txt"), "r+", encoding="ascii") as file:
-            days = file.readlines()[:150]
+            days = file.readlines()[:130]
             file.seek(0)
             file.truncate()
             file.writelines(days)
