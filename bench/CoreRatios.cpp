@@ -13,7 +13,7 @@
 namespace quorvex::bench {
 
 void AddCoreRatios(RatioTable& table) {
-    constexpr double ReadingTarget = 2;
+    constexpr double ReadingTarget = 1.6;
     constexpr double FitTarget = 1.5;
     constexpr double ConvertTarget = 2;
     constexpr double ImportTarget = 4;

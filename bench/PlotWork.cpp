@@ -55,7 +55,7 @@ Values PricesOf(quotes::QuoteSeries const& series, double quotes::QuoteRecord::*
 // One plot and how it gets its data.
 class PlotWork::Plot {
 public:
-    Plot(QSize size, int days, double top, double bottom) {
+    Plot(QWidget const& box, int days, double top, double bottom) {
         plot_.xAxis->setRange(0, days + 1);
         plot_.xAxis->setTicker(QSharedPointer<DayTicker>::create());
         plot_.xAxis->setTickLabels(false);
@@ -69,7 +69,8 @@ public:
         plot_.yAxis->setTickLabelSide(QCPAxis::lsInside);
         plot_.axisRect()->setAutoMargins(QCP::msNone);
         plot_.axisRect()->setMargins({});
-        plot_.resize(size);
+        plot_.resize(box.size());
+        plot_.setBufferDevicePixelRatio(box.devicePixelRatioF());
         plot_.show(); // it has a buffer then
         plot_.setUpdatesEnabled(false);
     }
@@ -113,8 +114,8 @@ PlotWork::PlotWork(RedrawWork const& window) {
     int const count = series.WorkingCount;
     int const days = cycles::CurveDays(series.WorkingCount);
     auto const add = [&](int columns, double top, double bottom) -> Plot& {
-        QSize const size = window.Boxes().at(plots_.size())->size();
-        return *plots_.emplace_back(std::make_unique<Plot>(size, columns, top, bottom));
+        QWidget const& box = *window.Boxes().at(plots_.size());
+        return *plots_.emplace_back(std::make_unique<Plot>(box, columns, top, bottom));
     };
 
     Plot& quotesPlot =

@@ -10,7 +10,7 @@
 
 namespace quorvex::bench {
 
-// The charts of the window as four plots of QCustomPlot, each as large as its box.
+// The charts of the window as four plots of QCustomPlot, each as large and as dense as its box.
 //
 // The plots are what somebody would get who makes the same charts with that library: its own pens and
 // antialiasing (curves with, the rest without), drawn by the processor into the buffer of the widget, one

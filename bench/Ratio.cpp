@@ -40,6 +40,23 @@ int TimesInOneTurn(Work const& work) {
     return times;
 }
 
+// By turns; neither always comes first, so that a clock rate that drifts favours neither.
+template <class TimeWork, class TimeBaseline>
+double MedianRatio(TimeWork const& timeWork, TimeBaseline const& timeBaseline) {
+    std::vector<double> ratios;
+    auto const end = Clock::now() + LongestMeasurement;
+    for (std::size_t round = 0; round < fewestRounds || (round < mostRounds && Clock::now() < end); ++round) {
+        if (round % 2 == 0) {
+            auto const onWork = timeWork();
+            ratios.push_back(onWork / timeBaseline());
+        } else {
+            auto const onBaseline = timeBaseline();
+            ratios.push_back(timeWork() / onBaseline);
+        }
+    }
+    return Median(std::move(ratios));
+}
+
 } // namespace
 
 double Median(std::vector<double> values) {
@@ -56,18 +73,16 @@ void MeasureOnce() {
 double MeasureRatio(Work const& work, Work const& baseline) {
     int const workTimes = TimesInOneTurn(work);
     int const baselineTimes = TimesInOneTurn(baseline);
-    std::vector<double> ratios;
-    auto const end = Clock::now() + LongestMeasurement;
-    for (std::size_t round = 0; round < fewestRounds || (round < mostRounds && Clock::now() < end); ++round) {
-        // Neither always comes first, so that a clock rate that drifts favours neither.
-        bool const workFirst = round % 2 == 0;
-        auto const first = workFirst ? TimeOf(work, workTimes) : TimeOf(baseline, baselineTimes);
-        auto const second = workFirst ? TimeOf(baseline, baselineTimes) : TimeOf(work, workTimes);
-        auto const onWork = (workFirst ? first : second) / workTimes;
-        auto const onBaseline = (workFirst ? second : first) / baselineTimes;
-        ratios.push_back(onWork / onBaseline);
-    }
-    return Median(std::move(ratios));
+    return MedianRatio([&] { return TimeOf(work, workTimes) / workTimes; },
+                       [&] { return TimeOf(baseline, baselineTimes) / baselineTimes; });
+}
+
+double MeasureRatio(PreparedWork const& work, PreparedWork const& baseline) {
+    auto const timeOf = [](PreparedWork const& prepared) {
+        prepared.Prepare();
+        return TimeOf(prepared.Do, 1);
+    };
+    return MedianRatio([&] { return timeOf(work); }, [&] { return timeOf(baseline); });
 }
 
 double MeasureMilliseconds(Work const& work) {

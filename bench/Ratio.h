@@ -20,6 +20,16 @@ void MeasureOnce();
 // median of the rounds' ratios counts: what else the machine does disturbs both alike or a few rounds only.
 [[nodiscard]] double MeasureRatio(Work const& work, Work const& baseline);
 
+// A work and what comes before it each time, which is not counted.
+struct PreparedWork {
+    Work Prepare;
+    Work Do;
+};
+
+// The same for works that find the machine as something else has left it: each is prepared and done once a
+// round.
+[[nodiscard]] double MeasureRatio(PreparedWork const& work, PreparedWork const& baseline);
+
 // How many milliseconds the work takes, the median of many runs: for work that waits for the disk rather than
 // computes.
 [[nodiscard]] double MeasureMilliseconds(Work const& work);

@@ -18,12 +18,16 @@ public:
 
     void Add(std::string const& what, double ratio, double target);
 
+    // How many ratios are over their targets.
+    [[nodiscard]] int OverCount() const { return overCount_; }
+
     [[nodiscard]] std::string Text() const { return text_.str(); }
 
 private:
     std::ostream& Row(std::string const& what, std::string const& ratio);
 
     std::ostringstream text_;
+    int overCount_ = 0;
 };
 
 } // namespace quorvex::bench

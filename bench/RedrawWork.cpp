@@ -17,8 +17,6 @@ namespace quorvex::bench {
 
 namespace {
 
-constexpr QSize WindowSize(1920, 1080);
-
 bool AreReady(cycles::ChartStates const& states) {
     return states.Quotes.IsReady() && states.MovingAverage.IsReady() && states.Cycles.IsReady() &&
            states.Composite.IsReady() && states.Residual.IsReady();
@@ -31,11 +29,13 @@ bool AreAllActive(cycles::CycleParameterSet const& set) {
 
 } // namespace
 
-RedrawWork::RedrawWork()
+RedrawWork::RedrawWork(QSize size, QScreen& screen)
     : file_(GeneratedQuoteText()),
       window_(*program_, file_.Folder(), {profile_, files_, launcher_, registry_, printing_, pointer_}) {
     FindBoxes();
-    window_.resize(WindowSize);
+    window_.setScreen(&screen);
+    window_.move(screen.geometry().topLeft());
+    window_.resize(size);
     window_.show();
     QCoreApplication::processEvents();
     LoadQuotes();
@@ -44,6 +44,9 @@ RedrawWork::RedrawWork()
     window_.setUpdatesEnabled(false);
     Redraw();
     RequireFourCharts();
+    if (window_.size() != size || window_.devicePixelRatioF() != screen.devicePixelRatio()) {
+        throw std::runtime_error("The window is not as large and as dense as it should be.");
+    }
 }
 
 void RedrawWork::FindBoxes() {

@@ -9,22 +9,26 @@
 #include "platform/disk/DiskFiles.h"
 #include "platform/qt/PictureBox.h"
 
+#include <QScreen>
+#include <QSize>
 #include <array>
 #include <memory>
 #include <string_view>
 
 namespace quorvex::bench {
 
-// The real window, 1920 x 1080, with the 500 generated days and ten cycles in it.
+// The real window with the 500 generated days and ten cycles in it.
 class RedrawWork {
 public:
     // REQUIRES: a QApplication. Throws when the window does not come to show all four charts.
-    RedrawWork();
+    RedrawWork(QSize size, QScreen& screen);
 
     void ShowChartType(std::string_view chartType);
 
     // Computes, draws and paints everything, as the Refresh command does.
     void Redraw();
+
+    [[nodiscard]] QWidget& Window() { return window_; }
 
     [[nodiscard]] app::Program const& Data() const { return *program_; }
 

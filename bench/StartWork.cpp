@@ -4,6 +4,7 @@
 #include "StartWork.h"
 
 #include "GeneratedQuotes.h"
+#include "OffscreenScreens.h"
 #include "Ratio.h"
 #include "TemporaryQuoteFile.h"
 
@@ -25,9 +26,8 @@ namespace {
 
 constexpr int Rounds = 25;
 
-// What the offscreen platform shall take for a screen; its own is smaller than the first window.
-constexpr char const* ScreenText = R"({"screens": [{"name": "Screen", "x": 0, "y": 0,
-    "width": 1920, "height": 1080, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+// Its own screen is smaller than the first window.
+constexpr QSize ScreenSize(1920, 1080);
 
 struct StartFigures {
     double Nanoseconds = 0;
@@ -38,12 +38,7 @@ struct StartFigures {
 class StartFolder {
 public:
     StartFolder() {
-        QFile screen(PathOf(QStringLiteral("screen.json")));
-        if (!screen.open(QIODevice::WriteOnly) || screen.write(ScreenText) < 0) {
-            throw std::runtime_error("The description of the screen cannot be written.");
-        }
-        environment_.insert(QStringLiteral("QT_QPA_PLATFORM"),
-                            QStringLiteral("offscreen:configfile=") + screen.fileName());
+        environment_.insert(QStringLiteral("QT_QPA_PLATFORM"), QString::fromUtf8(screens_.Platform()));
     }
 
     // Copies the executable of this name, which lies beside this one.
@@ -77,6 +72,7 @@ private:
         return QString::fromStdString(quotes_.Folder()) + name;
     }
 
+    OffscreenScreens screens_{{{ScreenSize}}};
     TemporaryQuoteFile quotes_{GeneratedQuoteText()};
     QProcessEnvironment environment_ = QProcessEnvironment::systemEnvironment();
 };
@@ -85,21 +81,21 @@ private:
 
 StartRatios MeasureStarts() {
     QString const program = QStringLiteral("quorvex-bench-start");
-    QString const empty = QStringLiteral("quorvex-bench-empty");
+    QString const plain = QStringLiteral("quorvex-bench-plain");
     StartFolder const folder;
     folder.Add(program);
-    folder.Add(empty);
+    folder.Add(plain);
     std::vector<double> times;
     std::vector<double> peaks;
     for (int round = 0; round < Rounds; ++round) {
         // Neither always comes first.
         bool const programFirst = round % 2 == 0;
-        auto first = folder.Measure(programFirst ? program : empty);
-        auto second = folder.Measure(programFirst ? empty : program);
-        auto const& [ofProgram, ofEmpty] = programFirst ? std::tie(first, second) : std::tie(second, first);
-        times.push_back(ofProgram.Nanoseconds / ofEmpty.Nanoseconds);
-        if (ofProgram.PeakKilobytes > 0 && ofEmpty.PeakKilobytes > 0) {
-            peaks.push_back(ofProgram.PeakKilobytes / ofEmpty.PeakKilobytes);
+        auto first = folder.Measure(programFirst ? program : plain);
+        auto second = folder.Measure(programFirst ? plain : program);
+        auto const& [ofProgram, ofPlain] = programFirst ? std::tie(first, second) : std::tie(second, first);
+        times.push_back(ofProgram.Nanoseconds / ofPlain.Nanoseconds);
+        if (ofProgram.PeakKilobytes > 0 && ofPlain.PeakKilobytes > 0) {
+            peaks.push_back(ofProgram.PeakKilobytes / ofPlain.PeakKilobytes);
         }
     }
     StartRatios ratios;

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 // Times the display-free routines, each beside the least work that it could be done with, and ends with a
-// table of the ratios that have a target, those of the window included. With --once as its last argument it
-// measures each ratio a single time, which shows no more than that everything runs.
+// table of the ratios that have a target, those of the window included. Its exit status is 1 when one of them
+// is over its target. With --once as its last argument it measures each ratio a single time, which shows no
+// more than that everything runs.
 
 #include "CoreRatios.h"
 #include "Ratio.h"
@@ -18,7 +19,8 @@
 
 int main(int argc, char** argv) {
     try {
-        if (argc > 1 && std::string_view(argv[argc - 1]) == "--once") {
+        bool const isOnce = argc > 1 && std::string_view(argv[argc - 1]) == "--once";
+        if (isOnce) {
             --argc;
             quorvex::bench::MeasureOnce();
         }
@@ -32,9 +34,9 @@ int main(int argc, char** argv) {
         quorvex::bench::AddCoreRatios(table);
         quorvex::bench::AddWindowRatios(table, argc, argv);
         std::cout << '\n' << table.Text();
+        return isOnce || table.OverCount() == 0 ? 0 : 1;
     } catch (std::exception const& error) {
         std::cerr << error.what() << '\n';
         return 1;
     }
-    return 0;
 }
