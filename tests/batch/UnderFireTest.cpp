@@ -28,6 +28,7 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 using tests::GoldenFile;
+using tests::OwnConsole;
 using tests::StartedProgram;
 using Clock = std::chrono::steady_clock;
 using Arguments = std::vector<std::string>;
@@ -53,9 +54,9 @@ protected:
 
     [[nodiscard]] std::string File(std::string_view name) const { return folder_.File(name); }
 
-    [[nodiscard]] StartedProgram Start(Arguments arguments) const {
+    [[nodiscard]] StartedProgram Start(Arguments arguments, OwnConsole console = OwnConsole::None) const {
         arguments.insert(arguments.begin(), "batch");
-        return {QUORVEX_COMPANION, arguments, File("errors")};
+        return {QUORVEX_COMPANION, arguments, File("errors"), console};
     }
 
     [[nodiscard]] Arguments WholeRun(std::string const& out) const {
@@ -124,7 +125,7 @@ TEST_F(UnderFireTest, KilledAndResumedItComesToTheSame) {
 
 TEST_F(UnderFireTest, AnInterruptionLeavesWholeLines) {
     {
-        StartedProgram const program = Start(UnendingRun("interrupted"));
+        StartedProgram const program = Start(UnendingRun("interrupted"), OwnConsole::WithoutWindow);
         AwaitLines(program, "interrupted");
         program.Interrupt();
         EXPECT_EQ(program.Wait(), 130); // with its names still open
@@ -155,7 +156,7 @@ TEST_F(UnderFireTest, OneRunAtATimeWritesAFile) {
 }
 
 TEST_F(UnderFireTest, NamesComeAndLinesGoThroughPipes) {
-    StartedProgram const program = Start({"--files-from", "-"});
+    StartedProgram const program = Start({"--files-from", "-"}, OwnConsole::WithoutWindow);
     EXPECT_EQ(program.ReadLine().substr(0, 13), "File,Message,");
     for (int number = 0; number < 5; ++number) { // each line is there before the next name is
         program.Write(File(NameOf(number)) + "\r\n");

@@ -47,7 +47,7 @@ BOOL WINAPI Ignore(DWORD) {
 } // namespace
 
 StartedProgram::StartedProgram(std::string const& program, std::vector<std::string> const& arguments,
-                               std::string const& errorPath) {
+                               std::string const& errorPath, OwnConsole console) {
     std::wstring line = L'"' + Wide(program) + L'"';
     for (std::string const& argument : arguments) {
         line += L" \"" + Wide(argument) + L'"';
@@ -65,8 +65,9 @@ StartedProgram::StartedProgram(std::string const& program, std::vector<std::stri
     start.hStdOutput = output.In;
     start.hStdError = errors;
     PROCESS_INFORMATION started{};
-    Require(CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr, nullptr,
-                           &start, &started),
+    Require(CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE,
+                           console == OwnConsole::None ? DETACHED_PROCESS : CREATE_NO_WINDOW, nullptr,
+                           nullptr, &start, &started),
             "CreateProcessW");
     CloseHandle(started.hThread);
     CloseHandle(input.Out);

@@ -9,13 +9,17 @@
 
 namespace quorvex::tests {
 
-// A program of Windows that runs on a console of its own, without a window. Pipes lead to its standard input
-// and from its standard output; its messages go to a file. It is killed with the object.
+// On what a program runs. Under Wine a console stays for ever when its program is killed before it has come
+// to it.
+enum class OwnConsole { None, WithoutWindow };
+
+// A program of Windows. Pipes lead to its standard input and from its standard output; its messages go to
+// a file. It is killed with the object.
 class StartedProgram {
 public:
     // Program, arguments and the file of the messages are UTF-8; no argument has a quotation mark.
     StartedProgram(std::string const& program, std::vector<std::string> const& arguments,
-                   std::string const& errorPath);
+                   std::string const& errorPath, OwnConsole console = OwnConsole::None);
     StartedProgram(StartedProgram const&) = delete;
     StartedProgram& operator=(StartedProgram const&) = delete;
     ~StartedProgram();
@@ -26,7 +30,7 @@ public:
     // Waits for a line and returns it without its end; what is there at the end of the output.
     [[nodiscard]] std::string ReadLine() const;
 
-    // As Ctrl-C on its console does.
+    // As Ctrl-C on its console does, if it has one.
     void Interrupt() const;
 
     // Ends it with this status, if it has not ended yet.
