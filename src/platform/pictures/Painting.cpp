@@ -12,6 +12,7 @@
 #include <QPolygonF>
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace quorvex::platform::pictures {
 
@@ -72,8 +73,7 @@ PixelSpan SnapUpright(double from, double to) {
 class DrawingPainter final : public Ink {
 public:
     // With rows, these are of the image that is painted on, and whole pixels are filled there.
-    DrawingPainter(QPainter& painter, RecordingCanvas const& drawing, PaintScale scale,
-                   PixelRows* rows = nullptr)
+    DrawingPainter(QPainter& painter, RecordingCanvas const& drawing, PaintScale scale, PixelRows* rows)
         : painter_(painter),
           drawing_(drawing),
           scale_(scale),
@@ -297,11 +297,14 @@ void PaintDrawing(QPainter& painter, RecordingCanvas const& drawing, PaintScale 
 }
 
 void PaintPicture(QImage& picture, RecordingCanvas const& drawing, double unitsPerTwip) {
-    PixelRows rows(picture);
+    std::optional<PixelRows> rows;
+    if (PixelRows::CanFill(picture)) {
+        rows.emplace(picture);
+    }
     QPainter painter(&picture);
     // Changes nothing but the time: Qt paints thin lines several times as fast within a rectangle.
     painter.setClipRect(picture.rect());
-    InkOn(painter, drawing, {unitsPerTwip, Medium::Pixels}, &rows);
+    InkOn(painter, drawing, {unitsPerTwip, Medium::Pixels}, rows ? &*rows : nullptr);
 }
 
 } // namespace quorvex::platform::pictures

@@ -39,9 +39,8 @@ struct PaintScale {
 void PaintDrawing(QPainter& painter, RecordingCanvas const& drawing, PaintScale scale);
 
 // Paints the drawing on a whole picture, pixel by pixel what PaintDrawing paints there with Medium::Pixels,
-// in a fraction of the time: what is filled and not antialiased is written into the rows of the picture.
-// REQUIRES: a picture of the format RGB32 or ARGB32 premultiplied, at one unit a pixel, on which no painter
-// is at work.
+// in a fraction of the time where PixelRows can fill it: what is filled and not antialiased is written into
+// the rows of the picture. REQUIRES: no painter is at work on the picture.
 void PaintPicture(QImage& picture, RecordingCanvas const& drawing, double unitsPerTwip);
 
 } // namespace quorvex::platform::pictures

@@ -4,7 +4,6 @@
 #include "platform/pictures/PixelRows.h"
 
 #include <algorithm>
-#include <cstddef>
 
 namespace quorvex::platform::pictures {
 
@@ -13,7 +12,12 @@ PixelRows::PixelRows(QImage& image)
       stride_(image.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(std::uint32_t))),
       width_(image.width()),
       height_(image.height()) {
-    Q_ASSERT(image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32_Premultiplied);
+    Q_ASSERT(CanFill(image));
+}
+
+bool PixelRows::CanFill(QImage const& image) {
+    return image.devicePixelRatio() == 1 &&
+           (image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32_Premultiplied);
 }
 
 void PixelRows::Fill(int left, int top, int width, int height, Colour colour) {

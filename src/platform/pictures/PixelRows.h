@@ -6,6 +6,7 @@
 #include "platform/Canvas.h"
 
 #include <QImage>
+#include <cstddef>
 #include <cstdint>
 
 namespace quorvex::platform::pictures {
@@ -15,8 +16,11 @@ namespace quorvex::platform::pictures {
 // at work on the same image; each paints at once.
 class PixelRows {
 public:
-    // REQUIRES: an image of 32 bits a pixel, RGB32 or ARGB32 premultiplied, that outlives the rows and is not
-    // copied meanwhile.
+    // Whether the image has 32 bits a pixel, RGB32 or ARGB32 premultiplied, and a painter counts in its
+    // pixels.
+    [[nodiscard]] static bool CanFill(QImage const& image);
+
+    // REQUIRES: CanFill(image); the image outlives the rows and is not copied meanwhile.
     explicit PixelRows(QImage& image);
 
     // Makes these pixels opaque and of this colour, as far as the image reaches.

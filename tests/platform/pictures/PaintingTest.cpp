@@ -319,6 +319,29 @@ private Q_SLOTS:
         QCOMPARE(CountInColumn(image, 100, White), 101);
         QCOMPARE(CountInRow(image, 100, White), 101);
     }
+
+    // Which have no rows of 32 bits, or a painter that counts in larger units.
+    void OtherPicturesArePaintedByAPainter_data() {
+        QTest::addColumn<QImage::Format>("format");
+        QTest::addColumn<int>("ratio");
+        QTest::addRow("24 bits") << QImage::Format_RGB888 << 1;
+        QTest::addRow("16 bits") << QImage::Format_RGB16 << 1;
+        QTest::addRow("dense") << QImage::Format_RGB32 << 2;
+    }
+
+    void OtherPicturesArePaintedByAPainter() {
+        QFETCH(QImage::Format, format);
+        QFETCH(int, ratio);
+        RecordingCanvas drawing(1500, 1500);
+        drawing.Rectangle(300, 300, 900, 900, 0xFF0000, Fill::Filled);
+        QImage picture(100 * ratio, 100 * ratio, format);
+        picture.setDevicePixelRatio(ratio);
+        picture.fill(Qt::green);
+        platform::pictures::PaintPicture(picture, drawing, 1.0 / TwipsPerPixel);
+        QCOMPARE(picture.pixelColor(40 * ratio, 40 * ratio), QColor(Qt::red));
+        QCOMPARE(picture.pixelColor(10 * ratio, 10 * ratio), QColor(Qt::white));
+        QCOMPARE(picture.pixelColor(100 * ratio - 1, 100 * ratio - 1), QColor(Qt::white));
+    }
 };
 
 template struct ListedWindowTest<PaintingTest>;
