@@ -1,4 +1,5 @@
-# Runs one fuzz target for a short while: cmake -D PROGRAM=... -D SEEDS=... -D WORK=... -P RunFuzzTarget.cmake
+# Runs one fuzz target for a short while:
+# cmake -D PROGRAM=... -D DICTIONARY=... -D SEEDS=... -D WORK=... -P RunFuzzTarget.cmake
 # Fails with the target, and also when no input was run at all.
 
 file(GLOB seeds ${SEEDS}/*)
@@ -7,7 +8,7 @@ if(NOT seeds)
 endif()
 file(MAKE_DIRECTORY ${WORK}/corpus)
 execute_process(
-    COMMAND ${PROGRAM} -max_total_time=5 -timeout=10 -rss_limit_mb=2048 -print_final_stats=1
+    COMMAND ${PROGRAM} -max_total_time=4 -dict=${DICTIONARY} -timeout=10 -rss_limit_mb=2048 -print_final_stats=1
         -artifact_prefix=${WORK}/ ${WORK}/corpus ${SEEDS}
     RESULT_VARIABLE result
     ERROR_VARIABLE log
