@@ -64,7 +64,13 @@ endif()
 # compile_quickly(<target>): for what takes long to compile and little time to run. Under sanitizers the optimiser takes two
 # thirds of the compilation there.
 function(compile_quickly target)
-    if(QUORVEX_SANITIZERS AND NOT MSVC)
+    if(QUORVEX_SANITIZERS)
+        compile_without_optimiser(${target})
+    endif()
+endfunction()
+
+function(compile_without_optimiser target)
+    if(NOT MSVC)
         target_compile_options(${target} PRIVATE -O0)
     endif()
 endfunction()

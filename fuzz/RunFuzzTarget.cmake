@@ -8,7 +8,7 @@ if(NOT seeds)
 endif()
 file(MAKE_DIRECTORY ${WORK}/corpus)
 execute_process(
-    COMMAND ${PROGRAM} -max_total_time=4 -dict=${DICTIONARY} -timeout=10 -rss_limit_mb=2048 -print_final_stats=1
+    COMMAND ${PROGRAM} -max_total_time=3 -dict=${DICTIONARY} -timeout=10 -rss_limit_mb=2048 -print_final_stats=1
         -artifact_prefix=${WORK}/ ${WORK}/corpus ${SEEDS}
     RESULT_VARIABLE result
     ERROR_VARIABLE log

@@ -5,6 +5,7 @@
 #include "support/Approximate.h"
 #include "support/Golden.h"
 #include "support/QuoteTexts.h"
+#include "support/Sanitizers.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -89,8 +90,9 @@ TEST(AnalyseJson, AgreesWithTheReferenceFits) {
         }
         return found;
     }();
+    int number = 0;
     for (auto const& expected : GoldenVector("fits")) {
-        if (!expected.contains("file") || expected.at("fragile")) {
+        if (!expected.contains("file") || expected.at("fragile") || ++number % tests::Stride != 0) {
             continue;
         }
         std::string const file = expected.at("file");

@@ -21,14 +21,14 @@ LIBRARY = os.environ["QUORVEX_FAILING_CALLS"]
 
 SHORT = 0  # a single byte is read or written
 ERRORS = {
-    "open": (errno.EACCES, errno.ENOENT, errno.EROFS, errno.ENOSPC, errno.EMFILE, errno.EINTR),
+    "open": (errno.EACCES, errno.ENOENT, errno.ENOSPC, errno.EINTR),
     "read": (errno.EIO, errno.EINTR, SHORT),
     "write": (errno.ENOSPC, errno.EIO, errno.EINTR, SHORT),
     "fsync": (errno.ENOSPC, errno.EIO, errno.EINTR),
     "close": (errno.ENOSPC, errno.EIO, errno.EINTR),
-    "rename": (errno.EACCES, errno.EROFS, errno.ENOSPC),
+    "rename": (errno.EROFS, errno.ENOSPC),
     "flock": (errno.EINTR,),
-    "truncate": (errno.EIO, errno.EROFS, errno.EINTR),
+    "truncate": (errno.EIO, errno.EINTR),
 }
 READING = ("open", "read", "close")
 SAVING = (*READING, "write", "fsync", "rename")

@@ -24,4 +24,7 @@ inline constexpr bool HasSanitizers = false;
     return HasSanitizers ? count / 4 : count;
 }
 
+// From one of many cases alike to the next that a test tries, likewise.
+inline constexpr int Stride = HasSanitizers ? 4 : 1;
+
 } // namespace quorvex::tests
