@@ -7,9 +7,10 @@
 
 #include <gtest/gtest.h>
 
+#ifdef _WIN32
+#include "platform/windows/StartedProgram.h"
+#else
 #include <cstdlib>
-
-#ifndef _WIN32
 #include <sys/wait.h>
 #endif
 
@@ -17,37 +18,42 @@ namespace quorvex::tests {
 
 namespace {
 
-// The text as one word of the system's shell, which takes nothing in it for anything else.
-std::string Quoted(std::string const& text) {
 #ifdef _WIN32
-    // The program takes a backslash in front of a mark for the mark itself.
-    return '"' + text + (text.ends_with('\\') ? "\\\"" : "\"");
-#else
-    return '\'' + text + '\'';
-#endif
+
+// Not by the system's shell, which would need a console for each run.
+int ExitStatusOf(std::vector<std::string> const& arguments, TemporaryFolder const& folder) {
+    return RunProgram(
+        QUORVEX_COMPANION, arguments,
+        {.Input = folder.File("input"), .Output = folder.File("output"), .Errors = folder.File("errors")});
 }
 
-} // namespace
+#else
 
-CompanionRun RunCompanion(std::vector<std::string> const& arguments, std::string const& input) {
-    TemporaryFolder const folder;
-    folder.Write("input", input);
+// The text as one word of the system's shell, which takes nothing in it for anything else.
+std::string Quoted(std::string const& text) {
+    return '\'' + text + '\'';
+}
+
+int ExitStatusOf(std::vector<std::string> const& arguments, TemporaryFolder const& folder) {
     std::string command = Quoted(QUORVEX_COMPANION);
     for (std::string const& argument : arguments) {
         command += ' ' + Quoted(argument);
     }
     command += " <" + Quoted(folder.File("input")) + " >" + Quoted(folder.File("output")) + " 2>" +
                Quoted(folder.File("errors"));
-#ifdef _WIN32
-    command = '"' + command + '"'; // the outermost pair goes to the shell
-#endif
     int const status = std::system(command.c_str());
-    CompanionRun run;
-#ifdef _WIN32
-    run.ExitStatus = status;
-#else
-    run.ExitStatus = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
 #endif
+
+} // namespace
+
+CompanionRun RunCompanion(std::vector<std::string> const& arguments, std::string const& input) {
+    TemporaryFolder const folder;
+    folder.Write("input", input);
+    CompanionRun run;
+    run.ExitStatus = ExitStatusOf(arguments, folder);
     run.Output = folder.Read("output");
     run.Errors = folder.Read("errors");
     return run;

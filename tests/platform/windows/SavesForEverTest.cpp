@@ -25,15 +25,19 @@ bool IsWhole(std::string const& text) {
 TEST(SavesForEver, AProgramThatIsKilledLeavesTheOldOrTheNewFile) {
     constexpr int Kills = 200;
     constexpr int LongestLife = 60'000; // microseconds: several files
+    constexpr int KilledStatus = 9;     // no other end has it
     TemporaryFolder const folder;
-    std::mt19937 random(std::random_device{}());
+    auto const seed = std::random_device{}();
+    SCOPED_TRACE("Seed " + std::to_string(seed));
+    std::mt19937 random(seed);
     std::uniform_int_distribution<int> lives(0, LongestLife);
     for (int kill = 0; kill < Kills; ++kill) {
         folder.Write("a.txt", std::string(Length, 'O'));
         StartedProgram const program(QUORVEX_SAVES_FOR_EVER, {folder.File("a.txt")}, folder.File("errors"));
         ASSERT_EQ(program.ReadLine(), "begins\r") << folder.Read("errors");
         std::this_thread::sleep_for(std::chrono::microseconds(lives(random)));
-        program.Kill(1);
+        program.Kill(KilledStatus);
+        ASSERT_EQ(program.Wait(), KilledStatus) << "ended by itself: " << folder.Read("errors");
         ASSERT_TRUE(std::filesystem::exists(folder.Path() / "a.txt"));
         std::string const left = folder.Read("a.txt");
         ASSERT_TRUE(IsWhole(left)) << left.size() << " bytes";
