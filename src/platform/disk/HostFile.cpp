@@ -6,6 +6,7 @@
 #include "platform/disk/SystemFile.h"
 #include "text/RunTimeError.h"
 
+#include <optional>
 #include <utility>
 
 namespace quorvex::platform::disk {
@@ -30,7 +31,9 @@ public:
         }
     }
 
-    [[nodiscard]] std::size_t Read(std::span<char> buffer) const { return ReadSystemFile(file_, buffer); }
+    [[nodiscard]] std::optional<std::size_t> Read(std::span<char> buffer) const {
+        return ReadSystemFile(file_, buffer);
+    }
 
     void Write(std::string_view bytes) const {
         while (!bytes.empty()) {
@@ -55,7 +58,13 @@ class HostFileSource final : public text::ByteSource {
 public:
     explicit HostFileSource(SystemFile file) : file_(file) {}
 
-    [[nodiscard]] std::size_t Read(std::span<char> buffer) override { return file_.Read(buffer); }
+    [[nodiscard]] std::size_t Read(std::span<char> buffer) override {
+        auto count = file_.Read(buffer);
+        while (!count) {
+            count = file_.Read(buffer);
+        }
+        return *count;
+    }
 
 private:
     HostFile file_;
@@ -70,8 +79,9 @@ public:
 
     [[nodiscard]] std::size_t Read(std::span<char> buffer) override {
         while (goesOn_()) {
-            if (AwaitSystemFile(awaited_)) {
-                return file_.Read(buffer);
+            auto const count = AwaitSystemFile(awaited_) ? file_.Read(buffer) : std::nullopt;
+            if (count) {
+                return *count;
             }
         }
         return 0;
@@ -135,7 +145,7 @@ std::unique_ptr<ByteSink> OpenHostFileToAppend(std::filesystem::path const& path
 }
 
 std::unique_ptr<ByteSink> OpenHeldHostFileToAppend(std::filesystem::path const& path) {
-    SystemFile const file = OpenSystemFile(path, Opening::Append, false);
+    SystemFile const file = OpenSystemFile(path, Opening::AppendHeld, false);
     auto sink = std::make_unique<LastingHostFileSink>(file);
     return HoldSystemFile(file) ? std::move(sink) : nullptr;
 }

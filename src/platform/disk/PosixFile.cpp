@@ -78,6 +78,7 @@ int FlagsOf(Opening opening) {
     case Opening::Create:
         return O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
     case Opening::Append:
+    case Opening::AppendHeld:
         return O_WRONLY | O_APPEND | O_CLOEXEC;
     case Opening::Empty:
         break;
@@ -152,7 +153,7 @@ SystemFile DuplicateStandardFile(int number) {
     return descriptor;
 }
 
-std::size_t ReadSystemFile(SystemFile file, std::span<char> buffer) {
+std::optional<std::size_t> ReadSystemFile(SystemFile file, std::span<char> buffer) {
     auto const count = Uninterrupted([&] { return read(Descriptor(file), buffer.data(), buffer.size()); });
     if (count < 0) {
         Raise(errno);

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -20,9 +21,10 @@ inline constexpr SystemFile NoSystemFile = -1;
 
 enum class Opening {
     Read,
-    Create, // a file that is not there yet
-    Append, // to a file that is there
-    Empty,  // or create
+    Create,     // a file that is not there yet
+    Append,     // to a file that is there, while nobody else writes it where the system sees to that
+    AppendHeld, // the same for who holds it, which whoever else opens it so can ask for
+    Empty,      // or create
 };
 
 // The opened file, which is no folder. NoSystemFile when a new file is asked for and its name is in use.
@@ -32,8 +34,9 @@ enum class Opening {
 // What the process was given to read (0) and to write on (1), to be closed by itself.
 [[nodiscard]] SystemFile DuplicateStandardFile(int number);
 
-// How many bytes were read; 0 at the end.
-[[nodiscard]] std::size_t ReadSystemFile(SystemFile file, std::span<char> buffer);
+// How many bytes were read; 0 at the end. Nothing when Ctrl-C broke off the wait for what is typed, which
+// another thread is about to note.
+[[nodiscard]] std::optional<std::size_t> ReadSystemFile(SystemFile file, std::span<char> buffer);
 
 // Waits for bytes to read, or for the end of them, for a tenth of a second at most. Returns whether reading
 // need not wait; always where the system cannot tell.

@@ -84,11 +84,18 @@ bool SucceedsInTime(Call const& call) {
     return true;
 }
 
-// Who may not read or write the bytes of a file may not hold it, so that appending reads, too.
+// Who may not read or write the bytes of a file may not hold it.
 DWORD AccessOf(Opening opening) {
-    return opening == Opening::Read     ? GENERIC_READ
-           : opening == Opening::Append ? FILE_APPEND_DATA | FILE_READ_DATA | SYNCHRONIZE
-                                        : GENERIC_WRITE;
+    switch (opening) {
+    case Opening::Read:
+        return GENERIC_READ;
+    case Opening::Append:
+        return FILE_APPEND_DATA | SYNCHRONIZE;
+    case Opening::AppendHeld:
+        return FILE_APPEND_DATA | FILE_READ_DATA | SYNCHRONIZE;
+    default:
+        return GENERIC_WRITE;
+    }
 }
 
 DWORD DispositionOf(Opening opening) {
@@ -97,12 +104,18 @@ DWORD DispositionOf(Opening opening) {
                                        : OPEN_EXISTING;
 }
 
-// Everybody else may read, replace and delete what the program has open, and write it but for files that are
-// written anew: of those who append to one file the first one holds it.
-HANDLE OpenHandle(std::filesystem::path const& path, DWORD access, DWORD disposition, DWORD flags) {
-    DWORD const shared =
-        FILE_SHARE_READ | FILE_SHARE_DELETE | (access == GENERIC_WRITE ? 0 : FILE_SHARE_WRITE);
-    return CreateFileW(path.c_str(), access, shared, nullptr, disposition, flags, nullptr);
+// Everybody else may read, replace and delete what the program has open.
+constexpr DWORD SharedByAll = FILE_SHARE_READ | FILE_SHARE_DELETE;
+
+// Everybody else may write what the program does not, and what is held: that keeps out who asks for it.
+DWORD SharedOf(Opening opening) {
+    bool const isShared = opening == Opening::Read || opening == Opening::AppendHeld;
+    return isShared ? SharedByAll | FILE_SHARE_WRITE : SharedByAll;
+}
+
+HANDLE OpenHandle(std::filesystem::path const& path, DWORD access, DWORD flags) {
+    return CreateFileW(path.c_str(), access, SharedByAll | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, flags,
+                       nullptr);
 }
 
 constexpr DWORD TenthOfASecond = 100; // in milliseconds
@@ -113,7 +126,7 @@ bool IsConsole(HANDLE handle) {
 }
 
 // What was typed, as UTF-8: reading bytes would lose what the console's code page cannot spell.
-std::size_t ReadConsoleText(HANDLE handle, std::span<char> buffer) {
+std::optional<std::size_t> ReadConsoleText(HANDLE handle, std::span<char> buffer) {
     constexpr std::size_t MostBytes = 3; // of a unit of UTF-16
     constexpr std::size_t MostUnits = 8192;
     constexpr wchar_t EndMark = 0x1A; // Ctrl-Z
@@ -124,7 +137,8 @@ std::size_t ReadConsoleText(HANDLE handle, std::span<char> buffer) {
         RaiseLastError();
     }
     if (units == 0 && GetLastError() == ERROR_OPERATION_ABORTED) {
-        Sleep(TenthOfASecond); // Ctrl-C, which another thread is about to note
+        Sleep(TenthOfASecond); // Ctrl-C: the other thread gets the time to note it
+        return std::nullopt;
     }
     if (units == 0 || typed.front() == EndMark) {
         return 0;
@@ -226,7 +240,8 @@ std::vector<std::byte> OwnAccessList(std::filesystem::path const& path) {
 SystemFile OpenSystemFile(std::filesystem::path const& path, Opening opening, bool) {
     HANDLE handle = INVALID_HANDLE_VALUE;
     bool const isOpen = SucceedsInTime([&] {
-        handle = OpenHandle(path, AccessOf(opening), DispositionOf(opening), FILE_ATTRIBUTE_NORMAL);
+        handle = CreateFileW(path.c_str(), AccessOf(opening), SharedOf(opening), nullptr,
+                             DispositionOf(opening), FILE_ATTRIBUTE_NORMAL, nullptr);
         return handle != INVALID_HANDLE_VALUE;
     });
     if (!isOpen) {
@@ -253,7 +268,7 @@ SystemFile DuplicateStandardFile(int number) {
     return FileOf(copy);
 }
 
-std::size_t ReadSystemFile(SystemFile file, std::span<char> buffer) {
+std::optional<std::size_t> ReadSystemFile(SystemFile file, std::span<char> buffer) {
     constexpr std::size_t MostBytes = 1U << 30;
     HANDLE const handle = HandleOf(file);
     if (IsConsole(handle)) {
@@ -344,7 +359,7 @@ std::filesystem::path FollowHostLinks(std::filesystem::path path) {
     if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) {
         return path;
     }
-    HANDLE const handle = OpenHandle(path, FILE_READ_ATTRIBUTES, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
+    HANDLE const handle = OpenHandle(path, FILE_READ_ATTRIBUTES, FILE_FLAG_BACKUP_SEMANTICS);
     if (handle == INVALID_HANDLE_VALUE) {
         RaiseLastError();
     }
@@ -383,7 +398,7 @@ void VisitHostFolder(std::filesystem::path const& folder, HostEntryVisitor const
 void ShortenHostFile(std::filesystem::path const& path, std::uint64_t length) {
     HANDLE handle = INVALID_HANDLE_VALUE;
     bool const isOpen = SucceedsInTime([&] {
-        handle = OpenHandle(path, FILE_WRITE_DATA | SYNCHRONIZE, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL);
+        handle = OpenHandle(path, FILE_WRITE_DATA | SYNCHRONIZE, FILE_ATTRIBUTE_NORMAL);
         return handle != INVALID_HANDLE_VALUE;
     });
     if (!isOpen) {

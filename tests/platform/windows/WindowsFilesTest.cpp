@@ -5,6 +5,7 @@
 
 #include "platform/basFiles.h"
 #include "platform/disk/DiskFiles.h"
+#include "platform/disk/HostFile.h"
 #include "support/TemporaryFolder.h"
 #include "text/RunTimeError.h"
 
@@ -77,6 +78,37 @@ TEST(WindowsFiles, AFileThatIsNotSharedCannotBeRead) {
     ASSERT_TRUE(held.IsOpen());
     EXPECT_EQ(FaultOf([&] { static_cast<void>(DiskFiles().OpenForInput(folder.File("a.txt"))); }),
               Fault::PermissionDenied);
+}
+
+TEST(WindowsFiles, NobodyElseWritesWhatIsAppendedTo) {
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "one");
+    auto const path = HostPath(folder.File("a.txt"));
+    DiskFiles files;
+    for (bool const isHeld : {false, true}) {
+        SCOPED_TRACE(isHeld);
+        auto const sink = isHeld ? OpenHeldHostFileToAppend(path) : OpenHostFileToAppend(path);
+        ASSERT_NE(sink, nullptr);
+        EXPECT_EQ(FaultOf([&] { files.Append(folder.File("a.txt"), "two"); }), Fault::PermissionDenied);
+        EXPECT_EQ(FaultOf([&] { files.OpenForOutput(folder.File("a.txt"))->Close(); }),
+                  Fault::PermissionDenied);
+        EXPECT_EQ(ReadWholeFile(files, folder.File("a.txt")), "one");
+        sink->Close();
+    }
+    files.Append(folder.File("a.txt"), "two");
+    EXPECT_EQ(folder.Read("a.txt"), "onetwo");
+}
+
+TEST(WindowsFiles, WhoHoldsAFileIsToldFromWhoAppends) {
+    tests::TemporaryFolder const folder;
+    folder.Write("a.txt", "one");
+    auto const path = HostPath(folder.File("a.txt"));
+    auto const held = OpenHeldHostFileToAppend(path);
+    ASSERT_NE(held, nullptr);
+    EXPECT_EQ(OpenHeldHostFileToAppend(path), nullptr);
+    held->Close();
+    auto const appended = OpenHostFileToAppend(path);
+    EXPECT_EQ(FaultOf([&] { static_cast<void>(OpenHeldHostFileToAppend(path)); }), Fault::PermissionDenied);
 }
 
 TEST(WindowsFiles, AFileThatIsHeldForAMomentIsWaitedFor) {
