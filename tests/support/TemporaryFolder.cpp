@@ -9,7 +9,52 @@
 #include <stdexcept>
 #include <system_error>
 
+#ifdef _WIN32
+#include <windows.h>
+#endif
+
 namespace quorvex::tests {
+
+namespace {
+
+#ifdef _WIN32
+
+// The standard library goes into no path of more than 260 letters. The path begins with "\\?\".
+void RemoveFolder(std::wstring const& path) {
+    WIN32_FIND_DATAW entry{};
+    HANDLE const search = FindFirstFileW((path + L"\\*").c_str(), &entry);
+    BOOL isFound = search != INVALID_HANDLE_VALUE ? TRUE : FALSE;
+    for (; isFound != 0; isFound = FindNextFileW(search, &entry)) {
+        std::wstring const name = static_cast<wchar_t const*>(entry.cFileName);
+        std::wstring const inner = path + L'\\' + name;
+        if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
+            SetFileAttributesW(inner.c_str(), FILE_ATTRIBUTE_NORMAL);
+            DeleteFileW(inner.c_str());
+        } else if ((entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
+            RemoveDirectoryW(inner.c_str()); // the link alone
+        } else if (name != L"." && name != L"..") {
+            RemoveFolder(inner);
+        }
+    }
+    FindClose(search);
+    RemoveDirectoryW(path.c_str());
+}
+
+void RemoveFolder(std::filesystem::path const& path) {
+    RemoveFolder(L"\\\\?\\" + path.native());
+}
+
+#else
+
+void RemoveFolder(std::filesystem::path const& path) {
+    std::error_code ignored;
+    std::filesystem::permissions(path, std::filesystem::perms::owner_all, ignored);
+    std::filesystem::remove_all(path, ignored);
+}
+
+#endif
+
+} // namespace
 
 TemporaryFolder::TemporaryFolder() {
     std::random_device random;
@@ -19,9 +64,7 @@ TemporaryFolder::TemporaryFolder() {
 }
 
 TemporaryFolder::~TemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::permissions(path_, std::filesystem::perms::owner_all, ignored);
-    std::filesystem::remove_all(path_, ignored);
+    RemoveFolder(path_);
 }
 
 std::string TemporaryFolder::Text() const {

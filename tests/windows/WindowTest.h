@@ -13,8 +13,8 @@
 
 namespace quorvex::tests {
 
-// Of names of files, what Qt would take for markup and for its mark of changes. Windows forbids both in
-// names, but not the entity that Qt takes for markup as well.
+// Of names of files, what Qt would take for markup and for its mark of changes. Windows forbids "<", ">" and
+// "*" in names. The entity is markup to Qt as well; of the mark the brackets are left, which mean nothing.
 #ifdef Q_OS_WIN
 inline constexpr char const* MarkupInName = "&lt;b";
 inline constexpr char const* ChangesInName = "[]";
