@@ -9,6 +9,10 @@ option(QUORVEX_COVERAGE "Instrument for gcov" OFF)
 option(QUORVEX_WARNINGS_AS_ERRORS "Treat warnings as errors" ON)
 set(QUORVEX_SANITIZERS "" CACHE STRING "Sanitizers, as in -fsanitize=<value>")
 
+if(QUORVEX_SANITIZERS OR QUORVEX_COVERAGE)
+    set(QUORVEX_SLOWED ON) # whatever runs takes several times as long
+endif()
+
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -56,7 +60,8 @@ else()
         target_link_options(quorvex_options INTERFACE -fsanitize=${QUORVEX_SANITIZERS})
     endif()
     if(QUORVEX_COVERAGE)
-        target_compile_options(quorvex_options INTERFACE --coverage)
+        # Counts of several threads make up one total.
+        target_compile_options(quorvex_options INTERFACE --coverage -fprofile-update=atomic)
         target_link_options(quorvex_options INTERFACE --coverage)
     endif()
 endif()
@@ -64,7 +69,7 @@ endif()
 # compile_quickly(<target>): for what takes long to compile and little time to run. Under sanitizers the optimiser takes two
 # thirds of the compilation there.
 function(compile_quickly target)
-    if(QUORVEX_SANITIZERS)
+    if(QUORVEX_SLOWED)
         compile_without_optimiser(${target})
     endif()
 endfunction()

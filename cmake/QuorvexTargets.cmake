@@ -96,6 +96,10 @@ function(add_core name)
         endif()
     endforeach()
     add_level_target(${name} LEVEL ${arg_LEVEL} FILES ${arg_FILES} USES ${arg_USES})
+    if(QUORVEX_COVERAGE)
+        # Those that compute would take minutes to test. A line that this merges with another is not counted at all.
+        target_compile_options(quorvex_${name} PRIVATE -O1)
+    endif()
     set_property(GLOBAL APPEND PROPERTY QUORVEX_CORES ${name})
 endfunction()
 
@@ -147,8 +151,9 @@ function(add_core_test core)
     foreach(used IN LISTS arg_USES)
         target_link_libraries(${target} PRIVATE quorvex_${used})
     endforeach()
-    if(CMAKE_CROSSCOMPILING OR QUORVEX_SANITIZERS)
-        # All in one process: an emulator, and the memory of the sanitizers, take longer to set up than most tests to run.
+    if(CMAKE_CROSSCOMPILING OR QUORVEX_SLOWED)
+        # All in one process: an emulator, the memory of the sanitizers, and counts that go into files, take longer than most
+        # tests.
         add_test(NAME ${core} COMMAND ${target} --gtest_shuffle)
         set_tests_properties(${core} PROPERTIES TIMEOUT 900 ENVIRONMENT "${QUORVEX_TEST_ENVIRONMENT}")
     else()

@@ -7,6 +7,15 @@ set(fish ${QUORVEX_COMPLETIONS}/quorvex-cli.fish)
 file(READ ${zsh} zshScript)
 file(READ ${fish} fishScript)
 
+# Those of the build are what the program makes.
+file(MAKE_DIRECTORY ${QUORVEX_MADE})
+foreach(shell bash zsh fish)
+    cmake_path(GET ${shell} FILENAME name)
+    execute_process(COMMAND ${QUORVEX_MAKER} ${shell} ${QUORVEX_MADE}/${name} COMMAND_ERROR_IS_FATAL ANY)
+    execute_process(COMMAND ${CMAKE_COMMAND} -E compare_files ${QUORVEX_MADE}/${name} ${${shell}}
+        COMMAND_ERROR_IS_FATAL ANY)
+endforeach()
+
 # Sets the variable to what bash offers for the last of these words, for nothing typed yet when that is EMPTY.
 function(complete_in_bash variable)
     list(LENGTH ARGN last)

@@ -1,30 +1,31 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-// Whether the tests run under the address sanitizer.
+// Whether the tests run under the address sanitizer or count the lines that they reach: both take several
+// times as long.
 #pragma once
 
 namespace quorvex::tests {
 
-#if defined(__SANITIZE_ADDRESS__)
-inline constexpr bool HasSanitizers = true;
+#if defined(__SANITIZE_ADDRESS__) || defined(QUORVEX_COVERAGE)
+inline constexpr bool IsSlowed = true;
 #elif defined(__has_feature)
 #if __has_feature(address_sanitizer)
-inline constexpr bool HasSanitizers = true;
+inline constexpr bool IsSlowed = true;
 #else
-inline constexpr bool HasSanitizers = false;
+inline constexpr bool IsSlowed = false;
 #endif
 #else
-inline constexpr bool HasSanitizers = false;
+inline constexpr bool IsSlowed = false;
 #endif
 
-// How many of so many random cases a test tries. Under the sanitizers it is a quarter: each takes some ten
+// How many of so many random cases a test tries. When slowed it is a quarter: each takes up to ten
 // times as long there, and all of them are tried in an optimised build.
 [[nodiscard]] constexpr int Repetitions(int count) {
-    return HasSanitizers ? count / 4 : count;
+    return IsSlowed ? count / 4 : count;
 }
 
 // From one of many cases alike to the next that a test tries, likewise.
-inline constexpr int Stride = HasSanitizers ? 4 : 1;
+inline constexpr int Stride = IsSlowed ? 4 : 1;
 
 } // namespace quorvex::tests

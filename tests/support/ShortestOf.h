@@ -11,12 +11,12 @@
 
 namespace quorvex::tests {
 
-// How much longer than the program's own promise a test may wait: the sanitizers slow everything down, and
+// How much longer than the program's own promise a test may wait: instruments slow everything down, and
 // Wine, under which tests for Windows run, does so with threads that wait for each other.
 #ifdef _WIN32
 inline constexpr int Patience = 5;
 #else
-inline constexpr int Patience = HasSanitizers ? 5 : 1;
+inline constexpr int Patience = IsSlowed ? 5 : 1;
 #endif
 
 // How long the quickest of several tries took; each returns its own duration. Other programs hold up one try
