@@ -119,12 +119,11 @@ function(add_windows name)
         endif()
     endforeach()
     add_level_target(${name} LEVEL ${arg_LEVEL} FILES ${arg_FILES} USES ${arg_USES})
-    set_target_properties(quorvex_${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+    # Resources without the times of their files, which would differ from build to build, and packed so that the static Qt
+    # for Windows can unpack them.
+    set_target_properties(quorvex_${name} PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON
+        AUTORCC_OPTIONS "--no-zstd;--format-version;1")
     compile_quickly(quorvex_${name})
-    if(WIN32)
-        # The static Qt cannot unpack what rcc would choose.
-        set_target_properties(quorvex_${name} PROPERTIES AUTORCC_OPTIONS --no-zstd)
-    endif()
     if(arg_WITHOUT_WIDGETS)
         target_link_libraries(quorvex_${name} PUBLIC Qt6::Gui)
     else()
