@@ -104,18 +104,18 @@ DWORD DispositionOf(Opening opening) {
                                        : OPEN_EXISTING;
 }
 
-// Everybody else may read, replace and delete what the program has open.
-constexpr DWORD SharedByAll = FILE_SHARE_READ | FILE_SHARE_DELETE;
+// Everybody else may do everything to what is open.
+constexpr DWORD SharedByAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-// Everybody else may write what the program does not, and what is held: that keeps out who asks for it.
+// Nobody else may write what the program writes, but what it holds: that keeps out who asks for it.
 DWORD SharedOf(Opening opening) {
     bool const isShared = opening == Opening::Read || opening == Opening::AppendHeld;
-    return isShared ? SharedByAll | FILE_SHARE_WRITE : SharedByAll;
+    return isShared ? SharedByAll : FILE_SHARE_READ | FILE_SHARE_DELETE;
 }
 
-HANDLE OpenHandle(std::filesystem::path const& path, DWORD access, DWORD flags) {
-    return CreateFileW(path.c_str(), access, SharedByAll | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, flags,
-                       nullptr);
+HANDLE OpenHandle(std::filesystem::path const& path, DWORD access, DWORD disposition, DWORD flags,
+                  DWORD shared = SharedByAll) {
+    return CreateFileW(path.c_str(), access, shared, nullptr, disposition, flags, nullptr);
 }
 
 constexpr DWORD TenthOfASecond = 100; // in milliseconds
@@ -240,8 +240,8 @@ std::vector<std::byte> OwnAccessList(std::filesystem::path const& path) {
 SystemFile OpenSystemFile(std::filesystem::path const& path, Opening opening, bool) {
     HANDLE handle = INVALID_HANDLE_VALUE;
     bool const isOpen = SucceedsInTime([&] {
-        handle = CreateFileW(path.c_str(), AccessOf(opening), SharedOf(opening), nullptr,
-                             DispositionOf(opening), FILE_ATTRIBUTE_NORMAL, nullptr);
+        handle = OpenHandle(path, AccessOf(opening), DispositionOf(opening), FILE_ATTRIBUTE_NORMAL,
+                            SharedOf(opening));
         return handle != INVALID_HANDLE_VALUE;
     });
     if (!isOpen) {
@@ -359,7 +359,7 @@ std::filesystem::path FollowHostLinks(std::filesystem::path path) {
     if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) {
         return path;
     }
-    HANDLE const handle = OpenHandle(path, FILE_READ_ATTRIBUTES, FILE_FLAG_BACKUP_SEMANTICS);
+    HANDLE const handle = OpenHandle(path, FILE_READ_ATTRIBUTES, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
     if (handle == INVALID_HANDLE_VALUE) {
         RaiseLastError();
     }
@@ -398,7 +398,7 @@ void VisitHostFolder(std::filesystem::path const& folder, HostEntryVisitor const
 void ShortenHostFile(std::filesystem::path const& path, std::uint64_t length) {
     HANDLE handle = INVALID_HANDLE_VALUE;
     bool const isOpen = SucceedsInTime([&] {
-        handle = OpenHandle(path, FILE_WRITE_DATA | SYNCHRONIZE, FILE_ATTRIBUTE_NORMAL);
+        handle = OpenHandle(path, FILE_WRITE_DATA | SYNCHRONIZE, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL);
         return handle != INVALID_HANDLE_VALUE;
     });
     if (!isOpen) {
