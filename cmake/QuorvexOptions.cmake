@@ -7,6 +7,7 @@ option(QUORVEX_FUZZ "Build the fuzz targets (clang only)" OFF)
 option(QUORVEX_ALONE "Offer to read every source and header alone, by the target quorvex_alone (clang only)" OFF)
 option(QUORVEX_COVERAGE "Instrument for gcov" OFF)
 option(QUORVEX_WARNINGS_AS_ERRORS "Treat warnings as errors" ON)
+set(QUORVEX_SEPARATE "" CACHE STRING "Targets compiled file by file where the others are compiled in large units")
 set(QUORVEX_SANITIZERS "" CACHE STRING "Sanitizers, as in -fsanitize=<value>")
 
 if(QUORVEX_SANITIZERS OR QUORVEX_COVERAGE)

@@ -69,6 +69,9 @@ function(add_level_target name)
     endforeach()
 
     add_library(quorvex_${name} STATIC ${arg_FILES})
+    if(name IN_LIST QUORVEX_SEPARATE)
+        set_target_properties(quorvex_${name} PROPERTIES UNITY_BUILD OFF)
+    endif()
     included_folders(headerFolders ${headers})
     list(REMOVE_ITEM headerFolders "" ${folder})
     set_target_properties(quorvex_${name} PROPERTIES

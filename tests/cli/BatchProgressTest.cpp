@@ -48,6 +48,32 @@ TEST(BatchProgress, FitsIntoTheTerminal) {
     EXPECT_EQ(ProgressText(counts, duration<double>(20), 9), "50000 fil");
 }
 
+class ErrorTerminal final : public platform::Console {
+public:
+    [[nodiscard]] bool IsTerminal() const override { return false; }
+
+    [[nodiscard]] bool ShowsErrors() const override { return true; }
+
+    [[nodiscard]] int Width() const override { return 80; }
+};
+
+TEST(BatchProgress, KnowsTheWholeOnceItIsTold) {
+    ErrorTerminal const console;
+    BatchProgress progress(console);
+    progress.AddBefore(1, 0);
+    progress.Add(false);
+    testing::internal::CaptureStderr();
+    progress.Show();
+    auto const counted = testing::internal::GetCapturedStderr();
+    EXPECT_TRUE(counted.starts_with("\r2 files, ")) << counted;
+    progress.SetWhole(4);
+    testing::internal::CaptureStderr();
+    progress.Show();
+    auto const shared = testing::internal::GetCapturedStderr();
+    EXPECT_NE(shared.find("] 50 %, 2 of 4 files, "), std::string::npos) << shared;
+    EXPECT_FALSE(progress.HasRefused());
+}
+
 TEST(BatchProgress, SumsUp) {
     BatchCounts counts{.Before = 0, .Now = 100, .Refused = 2, .Whole = {}};
     EXPECT_EQ(Summary(counts, duration<double>(4), true), "100 files; 2 with a message; 4.0 s, 25 a second");

@@ -209,6 +209,20 @@ TEST(Import, TakesChoicesOfTheUser) {
     EXPECT_TRUE(folder.Read("out.txt").starts_with("10/01/19, 1.401, 1.404, 1.399, 1.403, 0, 0\r\n"));
 }
 
+TEST(Import, TellsWhichOptionSettlesWhatIsOpen) {
+    auto const columns = RunCompanion(
+        {"import", "-"}, "Date,Open,High,Low,Close,Close\n2019-10-29,401.25,404.25,399.75,402.5,403\n");
+    EXPECT_EQ(columns.ExitStatus, 1);
+    EXPECT_TRUE(columns.Errors.ends_with(". Give --columns, such as close=5,volume=Vol\n")) << columns.Errors;
+    auto const mark =
+        RunCompanion({"import", "-"}, "Date;Open;High;Low;Close\n2019-10-29;1.401;1.404;1.399;1.402\n");
+    EXPECT_EQ(mark.ExitStatus, 1);
+    EXPECT_TRUE(mark.Errors.ends_with(". Give --decimal point|comma\n")) << mark.Errors;
+    auto const fraction = RunCompanion({"import", "-"}, "2019-10-29,118-16,118-20,118-10,118-12\n");
+    EXPECT_EQ(fraction.ExitStatus, 1);
+    EXPECT_TRUE(fraction.Errors.ends_with(". Give --fraction none|2|4|8|16|32|64|128\n")) << fraction.Errors;
+}
+
 TEST(Import, BringsAQuoteFileUpToDate) {
     TemporaryFolder const folder;
     std::string const quotes = folder.File("quotes.txt");

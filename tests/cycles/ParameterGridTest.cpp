@@ -78,6 +78,16 @@ TEST_F(Grid, ScalesWeightsToPercent) {
     }
 }
 
+TEST_F(Grid, CountsTheWeightOfEveryCycle) {
+    for (int cycle = 1; cycle <= CycleCount; ++cycle) {
+        ClearGrid(grid);
+        Type(cycle, {"7", "20", "0", "0"});
+        EXPECT_TRUE(Read()) << cycle;
+        EXPECT_EQ(Weight(cycle), "100");
+        EXPECT_EQ(SumOfWeights(grid), 100);
+    }
+}
+
 TEST_F(Grid, DropsAWeightAboveAHundredAndKeepsAHundred) {
     ClearGrid(grid);
     Type(1, {"100.4", "20", "0", "0"});

@@ -116,6 +116,21 @@ TEST_F(UnsavedEditsTest, RestoringIsOneStepThatCanBeUndone) {
     EXPECT_EQ(sheet.Text(3, 5), "556");
 }
 
+// One cell restored makes the same file as one cell typed.
+TEST_F(UnsavedEditsTest, OfOneCellStayWhenTheirRestorationIsUndone) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    std::string const kept = files.Contents.at(KeptPath);
+    OpenAgain();
+    static_cast<void>(Restore());
+    Undo();
+    ASSERT_TRUE(IsKept());
+    EXPECT_EQ(files.Contents.at(KeptPath), kept);
+    TypeKept(3, 5, "556");
+    EXPECT_EQ(files.Contents.at(KeptPath), kept);
+    EXPECT_TRUE(files.Contents.contains(SecondPath));
+}
+
 TEST_F(UnsavedEditsTest, WhatFollowsARestorationIsKeptWithIt) {
     OpenEdited();
     TypeKept(2, 5, "555");
@@ -471,11 +486,12 @@ TEST_F(UnsavedEditsTest, OfAFileThatHasChangedSinceAreAskedFor) {
 TEST_F(UnsavedEditsTest, AppendOnlyWhatChanged) {
     OpenEdited();
     TypeKept(2, 5, "555");
-    auto const length = files.Contents.at(KeptPath).size();
+    std::string const first = files.Contents.at(KeptPath);
     TypeKept(3, 5, "556");
-    auto const grown = files.Contents.at(KeptPath).size() - length;
-    EXPECT_GT(grown, 0U);
-    EXPECT_LT(grown, 200U);
+    std::string const& both = files.Contents.at(KeptPath);
+    EXPECT_TRUE(both.starts_with(first)); // not written anew
+    EXPECT_GT(both.size(), first.size());
+    EXPECT_LT(both.size(), first.size() + 200);
 }
 
 TEST_F(UnsavedEditsTest, DoNotGrowWithoutEnd) {

@@ -97,6 +97,14 @@ TEST(Plan, PrefersTheSmallerRank) {
     EXPECT_EQ(RolesOf(PlanOf(Under("Date,Open,High,Low,Adj Close,Close,Price"))), "DOHL-C-");
 }
 
+TEST(Plan, PassesOverADateHeadingAboveNoDays) {
+    auto const plan = PlanOf("Date,When,Open,High,Low,Close\n"
+                             "noon,2019-10-29,401.5,404.25,399.75,403\n"
+                             "noon,2019-10-30,403.25,405,401.25,401.5\n");
+    EXPECT_EQ(RefusalText(plan), "");
+    EXPECT_EQ(plan.Find(Role::Date), 1U);
+}
+
 TEST(Plan, RefusesTwoCandidates) {
     auto const plan = PlanOf(Under("Date,Open,High,Low,Close,Close,Volume"));
     EXPECT_EQ(RefusalText(plan), "Column 5 (Close) and column 6 (Close) can both be the close");

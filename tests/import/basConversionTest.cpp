@@ -63,6 +63,26 @@ TEST(Conversion, LeavesOutWhatIsNoQuoteAndTellsWhy) {
     EXPECT_EQ(LeftOut("2019-10-29,1,517,1,518,1,516,1,517\n"), "3: the row has 9 cells, the table 6 columns");
 }
 
+TEST(Conversion, TakesPricesThatAreTheHighOrTheLow) {
+    for (std::string const prices : {"6,6,4,4", "4,6,4,6", "5,5,5,5"}) {
+        auto const conversion = ImportText(Table("2019-10-28,5,6,4,5.5,1\n2019-10-29," + prices + ",1\n"));
+        EXPECT_EQ(RefusalOf(conversion), "");
+        EXPECT_EQ(conversion.Days.size(), 2U) << prices;
+    }
+}
+
+// What the plan is made of ends inside a quoted cell.
+TEST(Conversion, ReadsATableOfFewLongRows) {
+    std::string table = "Date,Open,High,Low,Close,Note\n";
+    for (int day = 1; day <= 31; ++day) {
+        table += "2019-10-" + std::to_string(100 + day).substr(1) + ",5,6,4,5.5,\"" + std::string(5000, 'n') +
+                 "\"\n";
+    }
+    auto const conversion = ImportText(table);
+    EXPECT_EQ(RefusalOf(conversion), "");
+    EXPECT_EQ(conversion.Days.size(), 31U);
+}
+
 TEST(Conversion, RefusesSuchRowsWhenAskedTo) {
     imports::Limits limits;
     limits.IsStrict = true;

@@ -97,6 +97,11 @@ TEST(DescribeUpdate, CountsWhatBecomesOfTheDays) {
         "is new.");
     EXPECT_EQ(DescribeUpdate(Updated(Table(26), changed, true), "w.txt", true),
               "Update of w.txt: 0 days appended, 25 there already, 1 changed and replaced.");
+    std::string gap = Table(27);
+    auto const day = gap.find("2024-03-10");
+    gap.erase(day, gap.find('\n', day) + 1 - day);
+    EXPECT_EQ(DescribeUpdate(Updated(gap, Table(27), false), "w.txt", false),
+              "Update of w.txt: 0 days appended, 1 inserted, 26 there already.");
     EXPECT_EQ(DescribeUpdate(Updated(Table(26), Table(28), false, 27), "w.txt", false),
               "Update of w.txt: 2 days appended, 26 there already, 1 leaving.");
     EXPECT_EQ(
