@@ -3,6 +3,7 @@
 
 #include "import/Plan.h"
 
+#include "Tables.h"
 #include "import/Sample.h"
 
 #include <gtest/gtest.h>
