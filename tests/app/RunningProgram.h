@@ -6,6 +6,7 @@
 #include "RecordingWindow.h"
 #include "app/Program.h"
 #include "platform/RecordingCanvas.h"
+#include "platform/fake/FailingFiles.h"
 #include "platform/fake/MemoryFiles.h"
 #include "platform/fake/MemoryProfile.h"
 #include "platform/fake/RecordingLauncher.h"
@@ -33,6 +34,7 @@ public:
     std::unique_ptr<Program> Data = std::make_unique<Program>();
     cycles::TextGrid Grid;
     platform::fake::MemoryFiles Files;
+    platform::fake::FailingFiles Failing{Files}; // what the program has of them
     platform::fake::MemoryProfile Profile;
     platform::fake::ScriptedDialogs Dialogs;
     platform::NoPendingMessages Pending;
@@ -44,7 +46,7 @@ public:
     RecordingWindow Window;
     platform::fake::RecordingPrintQueue Printing;
     platform::NoRegistry Registry;
-    Services Outside{.System = {Profile, Files, Launcher, Registry, Printing, Printing},
+    Services Outside{.System = {Profile, Failing, Launcher, Registry, Printing, Printing},
                      .Grid = Grid,
                      .Boxes = {Pic1, Pic2, Pic3, Pic4},
                      .Dialogs = Dialogs,

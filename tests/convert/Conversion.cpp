@@ -10,11 +10,7 @@
 namespace quorvex::convert {
 
 std::vector<std::string> BoxesOf(platform::fake::ScriptedDialogs const& dialogs) {
-    std::vector<std::string> boxes;
-    for (auto const& message : dialogs.Messages) {
-        boxes.push_back(tests::Describe(message));
-    }
-    return boxes;
+    return tests::DescribeAll(dialogs.Messages);
 }
 
 std::string InformationBox(std::string const& text) {

@@ -61,4 +61,12 @@ std::string Describe(platform::Message const& message) {
     throw std::out_of_range("No such buttons");
 }
 
+std::vector<std::string> DescribeAll(std::span<platform::Message const> messages) {
+    std::vector<std::string> texts;
+    for (platform::Message const& message : messages) {
+        texts.push_back(Describe(message));
+    }
+    return texts;
+}
+
 } // namespace quorvex::tests

@@ -10,6 +10,7 @@
 
 #include <span>
 #include <string>
+#include <vector>
 
 namespace quorvex::tests {
 
@@ -24,5 +25,8 @@ namespace quorvex::tests {
 
 // What the message says, as "title|icon|text"; "title|icon|buttons|text" when it has not just an OK button.
 [[nodiscard]] std::string Describe(platform::Message const& message);
+
+// The same of each.
+[[nodiscard]] std::vector<std::string> DescribeAll(std::span<platform::Message const> messages);
 
 } // namespace quorvex::tests

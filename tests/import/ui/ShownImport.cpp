@@ -49,7 +49,7 @@ private:
 } // namespace
 
 std::unique_ptr<text::ByteSource> SlowFiles::OpenForInput(std::string const& path) const {
-    return std::make_unique<SlowSource>(files_.OpenForInput(path), *this);
+    return std::make_unique<SlowSource>(ForwardingFiles::OpenForInput(path), *this);
 }
 
 std::string TableRows(int count, std::string const& dateFormat, char separator) {

@@ -5,6 +5,7 @@
 
 #include "import/ui/frmImport.h"
 #include "platform/disk/DiskFiles.h"
+#include "platform/fake/ForwardingFiles.h"
 #include "platform/fake/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"
 #include "windows/ModalAnswers.h"
@@ -19,48 +20,16 @@
 
 namespace quorvex::tests {
 
-// The files of this machine, of which the bytes come slowly as long as that is wanted.
-class SlowFiles final : public platform::Files {
+// Files of which the bytes come slowly as long as that is wanted.
+class SlowFiles final : public platform::fake::ForwardingFiles {
 public:
+    using ForwardingFiles::ForwardingFiles;
+
     [[nodiscard]] std::unique_ptr<text::ByteSource> OpenForInput(std::string const& path) const override;
-
-    void Replace(std::string const& path, std::string_view content) override {
-        files_.Replace(path, content);
-    }
-
-    void Overwrite(std::string const& path, std::string_view content) override {
-        files_.Overwrite(path, content);
-    }
-
-    void Append(std::string const& path, std::string_view bytes) override { files_.Append(path, bytes); }
-
-    void Keep(std::string const& path) override { files_.Keep(path); }
-
-    [[nodiscard]] std::unique_ptr<platform::ByteSink> OpenForOutput(std::string const& path) override {
-        return files_.OpenForOutput(path);
-    }
-
-    void Remove(std::string const& path) override { files_.Remove(path); }
-
-    [[nodiscard]] std::uint64_t Length(std::string const& path) const override { return files_.Length(path); }
-
-    [[nodiscard]] bool AreSame(std::string const& one, std::string const& other) const override {
-        return files_.AreSame(one, other);
-    }
-
-    void EnterFolder(std::string const& folder) override { files_.EnterFolder(folder); }
-
-    [[nodiscard]] std::vector<std::string> List(std::string const& folder,
-                                                std::string_view pattern) const override {
-        return files_.List(folder, pattern);
-    }
 
     std::atomic<bool> IsSlow = false;
     mutable std::atomic<int> OpenCount = 0; // sources that are not closed yet
     mutable std::atomic<int> OpenedInAll = 0;
-
-private:
-    platform::disk::DiskFiles files_;
 };
 
 // So many weekdays of a table with this separator, the dates as the format says (of strftime), the newest
@@ -114,7 +83,8 @@ public:
     void TypeInto(char const* edit, QString const& text) const;
 
     TemporaryFolder Folder;
-    SlowFiles Files;
+    platform::disk::DiskFiles Disk;
+    SlowFiles Files{Disk};
     platform::fake::ScriptedDialogs Dialogs;
     settings::Settings Settings = settings::DefaultSettings(Folder.Text());
     quotes::QuoteSeries Series;
