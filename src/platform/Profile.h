@@ -8,6 +8,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quorvex::platform {
 
@@ -25,10 +26,17 @@ public:
     Profile& operator=(Profile const&) = delete;
     virtual ~Profile() = default;
 
-    // The value of the key, bare and cut as basProfileTexts.h tells. The default as it is given when the file
-    // has no such key or cannot be read.
-    [[nodiscard]] virtual std::string ReadString(std::string_view section, std::string_view key,
-                                                 std::string_view defaultText) const = 0;
+    // The values of the keys, bare and cut as basProfileTexts.h tells. The default as it is given where the
+    // file has no such key, and for all of them when it cannot be read.
+    [[nodiscard]] virtual std::vector<std::string>
+    ReadStrings(std::string_view section, std::span<ProfileEntry const> defaults) const = 0;
+
+    // The same of one key.
+    [[nodiscard]] std::string ReadString(std::string_view section, std::string_view key,
+                                         std::string_view defaultText) const {
+        ProfileEntry const entry{key, defaultText};
+        return ReadStrings(section, {&entry, 1}).front();
+    }
 
     // Writes the values as they are, creating file, section and keys where they are missing. All of them are
     // written or, on a fault, none. Raises the faults of Files, and "Invalid procedure call or argument" for
@@ -39,9 +47,13 @@ public:
 // For runs that keep no settings.
 class NoProfile final : public Profile {
 public:
-    [[nodiscard]] std::string ReadString(std::string_view, std::string_view,
-                                         std::string_view defaultText) const override {
-        return std::string(defaultText);
+    [[nodiscard]] std::vector<std::string>
+    ReadStrings(std::string_view, std::span<ProfileEntry const> defaults) const override {
+        std::vector<std::string> values;
+        for (ProfileEntry const& entry : defaults) {
+            values.emplace_back(entry.Value);
+        }
+        return values;
     }
 
     void WriteStrings(std::string_view, std::span<ProfileEntry const>) override {}

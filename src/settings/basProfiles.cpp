@@ -23,8 +23,13 @@ std::string ProfileFileName(std::string_view programFolder, std::string_view exe
 
 void ReadProfile(Settings& settings, platform::Profile const& profile, std::string_view programFolder) {
     settings = DefaultSettings(programFolder);
+    std::vector<platform::ProfileEntry> defaults;
     for (SettingRow const& row : SettingTable()) {
-        settings.*row.Member = profile.ReadString(Section, row.Key, settings.*row.Member);
+        defaults.push_back({row.Key, settings.*row.Member});
+    }
+    auto const values = profile.ReadStrings(Section, defaults);
+    for (std::size_t index = 0; index < values.size(); ++index) {
+        settings.*SettingTable()[index].Member = values[index];
     }
     settings.DataPath = text::EndWithSeparator(settings.DataPath);
 }

@@ -16,7 +16,8 @@ namespace quorvex::settings {
 // extension.
 [[nodiscard]] std::string ProfileFileName(std::string_view programFolder, std::string_view executableName);
 
-// Reads the settings; one that is missing gets its default. The data path gets its separator.
+// Reads the settings; one that is missing gets its default, and all of them do when the file cannot be read.
+// The data path gets its separator.
 void ReadProfile(Settings& settings, platform::Profile const& profile, std::string_view programFolder);
 
 // Writes all settings, spelled so that they read back as they are up to the longest length of a profile's

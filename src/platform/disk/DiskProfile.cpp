@@ -14,14 +14,16 @@ namespace quorvex::platform::disk {
 
 DiskProfile::DiskProfile(std::string path, Files& files) : path_(std::move(path)), files_(files) {}
 
-std::string DiskProfile::ReadString(std::string_view section, std::string_view key,
-                                    std::string_view defaultText) const {
-    std::string file;
-    if (text::Trap([&] { file = ReadWholeFile(files_, path_); })) {
-        return std::string(defaultText);
+std::vector<std::string> DiskProfile::ReadStrings(std::string_view section,
+                                                  std::span<ProfileEntry const> defaults) const {
+    std::string file; // stays empty when it cannot be read
+    static_cast<void>(text::Trap([&] { file = ReadWholeFile(files_, path_); }));
+    std::vector<std::string> values;
+    for (ProfileEntry const& entry : defaults) {
+        auto const value = FindIniValue(file, section, entry.Key);
+        values.emplace_back(value ? CutProfileText(BareProfileText(*value)) : entry.Value);
     }
-    auto const value = FindIniValue(file, section, key);
-    return std::string(value ? CutProfileText(BareProfileText(*value)) : defaultText);
+    return values;
 }
 
 void DiskProfile::WriteStrings(std::string_view section, std::span<ProfileEntry const> entries) {

@@ -14,8 +14,8 @@ public:
     // The files must outlive the profile.
     DiskProfile(std::string path, Files& files);
 
-    [[nodiscard]] std::string ReadString(std::string_view section, std::string_view key,
-                                         std::string_view defaultText) const override;
+    [[nodiscard]] std::vector<std::string> ReadStrings(std::string_view section,
+                                                       std::span<ProfileEntry const> defaults) const override;
     void WriteStrings(std::string_view section, std::span<ProfileEntry const> entries) override;
 
 private:

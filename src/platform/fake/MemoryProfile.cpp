@@ -18,10 +18,15 @@ std::vector<MemoryProfile::Entry>::const_iterator MemoryProfile::Find(std::strin
     });
 }
 
-std::string MemoryProfile::ReadString(std::string_view section, std::string_view key,
-                                      std::string_view defaultText) const {
-    auto const entry = Find(section, key);
-    return std::string(entry == Entries.end() ? defaultText : CutProfileText(BareProfileText(entry->Value)));
+std::vector<std::string> MemoryProfile::ReadStrings(std::string_view section,
+                                                    std::span<ProfileEntry const> defaults) const {
+    std::vector<std::string> values;
+    for (ProfileEntry const& wanted : defaults) {
+        auto const entry = Find(section, wanted.Key);
+        values.emplace_back(entry == Entries.end() ? wanted.Value
+                                                   : CutProfileText(BareProfileText(entry->Value)));
+    }
+    return values;
 }
 
 void MemoryProfile::WriteStrings(std::string_view section, std::span<ProfileEntry const> entries) {

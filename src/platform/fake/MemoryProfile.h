@@ -22,8 +22,8 @@ public:
         bool operator==(Entry const&) const = default;
     };
 
-    [[nodiscard]] std::string ReadString(std::string_view section, std::string_view key,
-                                         std::string_view defaultText) const override;
+    [[nodiscard]] std::vector<std::string> ReadStrings(std::string_view section,
+                                                       std::span<ProfileEntry const> defaults) const override;
     void WriteStrings(std::string_view section, std::span<ProfileEntry const> entries) override;
 
     // In the order in which the keys were first written.

@@ -14,6 +14,7 @@
 #include <array>
 #include <cstring>
 #include <filesystem>
+#include <optional>
 #include <system_error>
 #include <utility>
 #include <windows.h>
@@ -103,21 +104,30 @@ std::wstring ReadValue(ScratchProfile const& scratch, std::wstring const& sectio
     return {buffer.data(), length};
 }
 
+// An empty value is one; only a key that is not there gives the text for missing ones.
+std::optional<std::wstring> FindValue(ScratchProfile const& scratch, std::wstring const& section,
+                                      std::wstring const& key) {
+    std::wstring value = ReadValue(scratch, section, key, L"");
+    bool const isThere = !value.empty() || ReadValue(scratch, section, key, L"missing").empty();
+    return isThere ? std::optional(std::move(value)) : std::nullopt;
+}
+
 } // namespace
 
 WindowsProfile::WindowsProfile(std::string path, Files& files) : path_(std::move(path)), files_(files) {}
 
-std::string WindowsProfile::ReadString(std::string_view section, std::string_view key,
-                                       std::string_view defaultText) const {
-    std::wstring value;
-    bool isThere = false;
+std::vector<std::string> WindowsProfile::ReadStrings(std::string_view section,
+                                                     std::span<ProfileEntry const> defaults) const {
+    std::vector<std::string> values;
     auto const error = text::Trap([&] {
         ScratchProfile const scratch(ReadWholeFile(files_, path_), path_);
-        value = ReadValue(scratch, Widened(section), Widened(key), L"");
-        // An empty value is one; only a key that is not there gives the text for missing ones.
-        isThere = !value.empty() || ReadValue(scratch, Widened(section), Widened(key), L"missing").empty();
+        for (ProfileEntry const& entry : defaults) {
+            auto const value = FindValue(scratch, Widened(section), Widened(entry.Key));
+            values.push_back(value ? std::string(CutProfileText(Narrowed(*value)))
+                                   : std::string(entry.Value));
+        }
     });
-    return !error && isThere ? std::string(CutProfileText(Narrowed(value))) : std::string(defaultText);
+    return error ? NoProfile().ReadStrings(section, defaults) : values;
 }
 
 void WindowsProfile::WriteStrings(std::string_view section, std::span<ProfileEntry const> entries) {
