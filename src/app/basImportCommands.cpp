@@ -38,17 +38,28 @@ std::optional<ImportedFile> RunImportWindow(ImportSource source, Program& progra
 }
 
 // A contract that stays open because this one cannot be read keeps its folder. The current folder goes along,
-// so that the editor, which saves under the bare name, writes the file that was opened.
+// so that the editor, which saves under the bare name, writes the file that was opened: where it cannot be
+// entered, the contract before stays as well.
 void OpenQuotes(ImportedFile const& file, Program& program, Services& services) {
+    auto const contract = std::make_unique<quotes::QuoteSeries const>(program.Quotes);
     std::string const before = std::exchange(program.Settings.DataPath, file.Folder);
-    bool const isOpen = quotes::OpenNamedQuoteFile(file.Name, program.Quotes, program.Settings,
-                                                   services.System.Files, services.Dialogs);
+    bool isOpen = quotes::OpenNamedQuoteFile(file.Name, program.Quotes, program.Settings,
+                                             services.System.Files, services.Dialogs);
+    auto const fault = text::Trap([&] {
+        if (isOpen && file.Folder != before) {
+            services.System.Files.EnterFolder(file.Folder);
+        }
+    });
+    if (fault) {
+        program.Quotes = *contract;
+        isOpen = false;
+    }
     if (!isOpen) {
         program.Settings.DataPath = before;
     }
     Redraw(program, services);
-    if (isOpen && file.Folder != before) {
-        services.System.Files.EnterFolder(file.Folder);
+    if (fault) {
+        throw text::RunTimeError(*fault);
     }
 }
 
