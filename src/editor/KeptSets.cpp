@@ -49,6 +49,10 @@ std::vector<int> FindNumbers(platform::Files const& files, std::string const& na
     return numbers;
 }
 
+bool HasLength(platform::Files const& files, std::string const& path) {
+    return !text::Trap([&] { static_cast<void>(files.Length(path)); });
+}
+
 } // namespace
 
 std::vector<KeptSet> ReadKeptSets(platform::Files const& files, std::string const& name) {
@@ -65,13 +69,16 @@ std::vector<KeptSet> ReadKeptSets(platform::Files const& files, std::string cons
 
 std::string NextKeptPath(platform::Files const& files, std::string const& name) {
     auto const numbers = FindNumbers(files, name);
-    return NumberedPath(name, numbers.empty() ? 1 : numbers.front() + 1);
+    int number = numbers.empty() ? 1 : numbers.front() + 1;
+    while (HasLength(files, NumberedPath(name, number))) {
+        ++number; // a folder that cannot be listed hides what is in it
+    }
+    return NumberedPath(name, number);
 }
 
 bool HoldsMark(platform::Files const& files, std::string const& path, std::string const& mark) {
-    std::string found;
-    static_cast<void>(text::Trap([&] { found = MarkOf(platform::ReadWholeFile(files, path)); }));
-    return !found.empty() && found == mark;
+    return !mark.empty() && platform::IsThere(files, path) &&
+           MarkOf(platform::ReadWholeFile(files, path)) == mark;
 }
 
 } // namespace quorvex::editor

@@ -27,7 +27,7 @@ struct KeptSet {
 // Where the next editor may keep its edits: behind all others.
 [[nodiscard]] std::string NextKeptPath(platform::Files const& files, std::string const& name);
 
-// Whether the file is there and holds what the mark was made of.
+// Whether the file is there and holds what the mark was made of. Raises the faults of reading.
 [[nodiscard]] bool HoldsMark(platform::Files const& files, std::string const& path, std::string const& mark);
 
 } // namespace quorvex::editor

@@ -56,6 +56,13 @@ void UnsavedEdits::Open(Editor const& editor, quotes::QuoteSeries const& series,
     ReadKept();
 }
 
+// A file that cannot be read is not taken for that of this editor.
+bool UnsavedEdits::IsMine() const {
+    bool isMine = false;
+    static_cast<void>(text::Trap([&] { isMine = HoldsMine(); }));
+    return isMine;
+}
+
 // Of several that kept the same rows the newest is enough, and what the quotes have already is not unsaved.
 void UnsavedEdits::ReadKept() {
     std::vector<std::string> needless;
@@ -188,7 +195,7 @@ void UnsavedEdits::TakeBack() {
     if (restored_ && restored_->IsIn) {
         PutBack();
     }
-    if (IsMine()) {
+    if (HoldsMine()) {
         files_.Remove(path_);
         mine_.clear();
     }

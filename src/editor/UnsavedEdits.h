@@ -76,7 +76,9 @@ private:
     void Append(Change const& change, ChangeKind kind);
     void TakeBack();
 
-    [[nodiscard]] bool IsMine() const { return HoldsMark(files_, path_, mine_); }
+    [[nodiscard]] bool HoldsMine() const { return HoldsMark(files_, path_, mine_); }
+
+    [[nodiscard]] bool IsMine() const;
 
     platform::Files& files_;
     std::string name_;      // of the files, without a number

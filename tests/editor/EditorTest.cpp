@@ -8,21 +8,21 @@
 
 namespace quorvex::tests {
 
-void EditorTest::Open(std::unique_ptr<quotes::QuoteSeries> opened) {
+void EditorWorld::Open(std::unique_ptr<quotes::QuoteSeries> opened) {
     series = std::move(opened);
     editor::OpenEditor(*edited, *series);
     editor::RebuildGrid(*edited, settings);
 }
 
-void EditorTest::OpenDays(int count) {
+void EditorWorld::OpenDays(int count) {
     Open(SeriesOf(QuoteLines(count), settings.CurrencyFormat));
 }
 
-void EditorTest::Type(std::int16_t row, std::int16_t column, std::string const& text) {
+void EditorWorld::Type(std::int16_t row, std::int16_t column, std::string const& text) {
     sheet.SetText(row, column, text);
 }
 
-EditorTest::Texts EditorTest::RowTexts(std::int16_t row) const {
+EditorWorld::Texts EditorWorld::RowTexts(std::int16_t row) const {
     Texts texts;
     for (std::int16_t column = 1; column <= editor::Sheet::Columns; ++column) {
         texts.push_back(sheet.CellAt(row, column).Text);
@@ -30,7 +30,7 @@ EditorTest::Texts EditorTest::RowTexts(std::int16_t row) const {
     return texts;
 }
 
-std::vector<EditorTest::Texts> EditorTest::GridTexts() const {
+std::vector<EditorWorld::Texts> EditorWorld::GridTexts() const {
     std::vector<Texts> rows;
     for (std::int16_t row = 1; row <= sheet.RowCount(); ++row) {
         rows.push_back(RowTexts(row));
@@ -38,11 +38,11 @@ std::vector<EditorTest::Texts> EditorTest::GridTexts() const {
     return rows;
 }
 
-std::pair<int, int> EditorTest::Cursor() const {
+std::pair<int, int> EditorWorld::Cursor() const {
     return {spread.ActiveRow(), spread.ActiveColumn()};
 }
 
-bool EditorTest::IsQuiet() const {
+bool EditorWorld::IsQuiet() const {
     return dialogs.Messages.empty() && dialogs.Questions.empty() && files.Contents.empty();
 }
 

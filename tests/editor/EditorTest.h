@@ -19,12 +19,12 @@
 namespace quorvex::tests {
 
 // A quote editor on a grid without a display.
-class EditorTest : public testing::Test {
-protected:
+class EditorWorld {
+public:
     using Texts = std::vector<std::string>;
 
     // The program runs in the data folder.
-    EditorTest() { files.CurrentFolder = settings.DataPath; }
+    EditorWorld() { files.CurrentFolder = settings.DataPath; }
 
     // Opens the editor on the series and fills the grid, as the window does when it comes up.
     void Open(std::unique_ptr<quotes::QuoteSeries> opened);
@@ -51,5 +51,7 @@ protected:
     std::unique_ptr<editor::Editor> edited =
         std::make_unique<editor::Editor>(editor::Editor{sheet, spread, {}, 0}); // too large for some stacks
 };
+
+class EditorTest : public testing::Test, protected EditorWorld {};
 
 } // namespace quorvex::tests
