@@ -26,7 +26,12 @@ using text::RunTimeError;
 bool FolderExists(std::filesystem::path const& path) {
     std::error_code ignored;
     auto const folder = path.parent_path();
-    return folder.empty() || std::filesystem::is_directory(folder, ignored);
+    if (!folder.empty()) {
+        return std::filesystem::is_directory(folder, ignored);
+    }
+    // The current folder, which has no path any more once it is gone.
+    static_cast<void>(std::filesystem::current_path(ignored));
+    return ignored != std::errc::no_such_file_or_directory;
 }
 
 Fault FaultOf(int error, std::filesystem::path const& path) {
