@@ -14,6 +14,7 @@
 #include "platform/basMessages.h"
 #include "quotes/QuoteSeries.h"
 #include "settings/Settings.h"
+#include "text/RunTimeError.h"
 #include "text/basDates.h"
 
 #include <algorithm>
@@ -176,21 +177,8 @@ bool ReadSource(ImportOptions const& options, ImportResult& result) {
     });
 }
 
-// The same of the quote file that is brought up to date.
-bool MakeFile(ImportOptions const& options, ImportResult& result) {
-    if (options.IntoPath.empty() || result.Read.Refused) {
-        result.File = imports::MakeQuoteFile(result.Read, options.Days);
-        return true;
-    }
-    ConsoleDialogs dialogs(options.IntoPath);
-    PipeFiles const files;
-    return platform::RunReported(dialogs, [&] {
-        auto const old = files.OpenForInput(options.IntoPath);
-        result.File = imports::UpdateQuoteFile(*old, result.Read, options.Replaces, options.Days);
-    });
-}
-
-bool WriteQuotes(ImportOptions const& options, ImportResult& result) {
+bool WriteNewFile(ImportOptions const& options, ImportResult& result) {
+    result.File = imports::MakeQuoteFile(result.Read, options.Days);
     if (options.IsDryRun || options.Target().empty() || !result.File.HasNews()) {
         return true;
     }
@@ -199,6 +187,31 @@ bool WriteQuotes(ImportOptions const& options, ImportResult& result) {
     result.IsWritten = platform::RunReported(
         dialogs, [&] { files.Replace(options.Target(), imports::QuoteText(result.File.Days)); });
     return result.IsWritten;
+}
+
+void Update(ImportOptions const& options, text::ByteSource& old, ImportResult& result) {
+    result.File = imports::UpdateQuoteFile(old, result.Read, options.Replaces, options.Days);
+}
+
+// Of two that bring the file up to date at the same time both succeed.
+bool UpdateFile(ImportOptions const& options, ImportResult& result) {
+    ConsoleDialogs dialogs(options.IntoPath);
+    PipeFiles files;
+    return platform::RunReported(dialogs, [&] {
+        if (options.IsDryRun) {
+            Update(options, *files.OpenForInput(options.IntoPath), result);
+            return;
+        }
+        files.Revise(options.IntoPath, [&](auto const& content) -> std::optional<std::string> {
+            if (!content) {
+                throw text::RunTimeError(text::Fault::FileNotFound);
+            }
+            text::TextSource old(*content);
+            Update(options, old, result);
+            result.IsWritten = result.File.HasNews();
+            return result.IsWritten ? std::optional(imports::QuoteText(result.File.Days)) : std::nullopt;
+        });
+    });
 }
 
 // Where the quotes themselves go to standard output, what is wrong with them goes to standard error.
@@ -241,8 +254,11 @@ ExitStatus Import(ImportOptions const& options) {
     result.IsReplacing = options.Replaces;
     result.CurrencyFormat = options.Format.value_or(
         std::string(settings::SettingRowOf(&settings::Settings::CurrencyFormat).Default));
-    bool const isDone =
-        ReadSource(options, result) && MakeFile(options, result) && WriteQuotes(options, result);
+    if (!ReadSource(options, result)) {
+        return ExitStatus::Refused;
+    }
+    bool const isUpdate = !options.IntoPath.empty() && !result.Read.Refused;
+    bool const isDone = isUpdate ? UpdateFile(options, result) : WriteNewFile(options, result);
     return isDone ? Tell(options, result) : ExitStatus::Refused;
 }
 

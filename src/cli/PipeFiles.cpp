@@ -37,6 +37,15 @@ void PipeFiles::Replace(std::string const& path, std::string_view content) {
     }
 }
 
+// What was written on standard output is not there to be read.
+void PipeFiles::Revise(std::string const& path, platform::Revision const& revise) {
+    if (path != PipeName) {
+        disk_.Revise(path, revise);
+    } else if (auto const content = revise({})) {
+        WriteStandardOutput(*content);
+    }
+}
+
 void PipeFiles::Overwrite(std::string const& path, std::string_view content) {
     if (path == PipeName) {
         WriteStandardOutput(content);

@@ -24,6 +24,7 @@ class PipeFiles final : public platform::Files {
 public:
     [[nodiscard]] std::unique_ptr<text::ByteSource> OpenForInput(std::string const& path) const override;
     void Replace(std::string const& path, std::string_view content) override;
+    void Revise(std::string const& path, platform::Revision const& revise) override;
     void Overwrite(std::string const& path, std::string_view content) override;
     void Append(std::string const& path, std::string_view bytes) override;
     void Keep(std::string const& path) override;

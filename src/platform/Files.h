@@ -8,7 +8,9 @@
 #include "text/basFields.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,6 +36,10 @@ public:
 // What stands behind the name of a file that keeps what another one held.
 inline constexpr std::string_view BackupMark = "~";
 
+// Makes the next content of a file from what it holds, which is nothing when the file is missing. Nothing as
+// the result leaves it as it is.
+using Revision = std::function<std::optional<std::string>(std::optional<std::string> const& content)>;
+
 // The faults are those of text::RunTimeError: "Bad file name or number" for a name that no file can have,
 // "File not found", "Path not found" when its folder is missing, "Permission denied" (a folder, a pipe or a
 // device in place of a file included), "Disk full".
@@ -49,8 +55,13 @@ public:
 
     // Gives the file these bytes as its whole content, creating it when missing. What it held before stays as
     // Keep tells, unless that is the same. On a fault, and also when the program or the machine stops
-    // half-way, the file is as it was before.
+    // half-way, the file is as it was before. Of several programs that replace files in one folder one does
+    // so after the other, as far as the system can see to that: each finds and keeps what the one before has
+    // written. "Permission denied" when another one does not come to an end.
     virtual void Replace(std::string const& path, std::string_view content) = 0;
+
+    // The same with what the revision makes of the file. Nobody else replaces it in between.
+    virtual void Revise(std::string const& path, Revision const& revise) = 0;
 
     // The same for what can be made again, such as a picture: what the file held before is not kept.
     virtual void Overwrite(std::string const& path, std::string_view content) = 0;
@@ -65,7 +76,8 @@ public:
     virtual void Keep(std::string const& path) = 0;
 
     // Makes the file empty at once, creating it when missing, and opens it for writing; what was in it is
-    // lost. A file that a link names is the one that is written. A fault leaves everything as it was.
+    // lost. A file that a link names is the one that is written. A fault leaves everything as it was. Once it
+    // is closed, the disk has it.
     [[nodiscard]] virtual std::unique_ptr<ByteSink> OpenForOutput(std::string const& path) = 0;
 
     // Deletes the file. Of a link, the file that it names goes and the link stays.

@@ -31,8 +31,8 @@ std::string ReadWholeFile(Files const& files, std::string const& path) {
     return content;
 }
 
-std::string ReadFileIfThere(Files const& files, std::string const& path) {
-    std::string content;
+std::optional<std::string> ReadFileIfThere(Files const& files, std::string const& path) {
+    std::optional<std::string> content;
     auto const error = text::Trap([&] { content = ReadWholeFile(files, path); });
     if (error && error->Kind() != text::Fault::FileNotFound) {
         throw text::RunTimeError(error->Kind());

@@ -6,6 +6,7 @@
 
 #include "platform/Files.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,8 +15,8 @@ namespace quorvex::platform {
 // All bytes of the file. Raises the faults of Files.
 [[nodiscard]] std::string ReadWholeFile(Files const& files, std::string const& path);
 
-// The same; the empty text when there is no such file in its folder.
-[[nodiscard]] std::string ReadFileIfThere(Files const& files, std::string const& path);
+// The same; nothing when there is no such file in its folder.
+[[nodiscard]] std::optional<std::string> ReadFileIfThere(Files const& files, std::string const& path);
 
 // Whether something has this name, be it a file that cannot be read.
 [[nodiscard]] bool IsThere(Files const& files, std::string const& path);

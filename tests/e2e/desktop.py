@@ -146,6 +146,11 @@ class Desktop:
         window = int(self.xdotool("search", "--onlyvisible", "--name", f"^{re.escape(title)}$").stdout.split()[0])
         return frame_of(self.environment["DISPLAY"], window)
 
+    def activate(self, pid, title):
+        """Brings the process's window of this title to the front."""
+        self.xdotool("search", "--all", "--onlyvisible", "--pid", str(pid), "--name", f"^{re.escape(title)}$",
+                     "windowactivate", "--sync")
+
     def xdotool(self, *arguments, check=True):
         return subprocess.run(["xdotool", *arguments], env=self.environment, check=check, capture_output=True,
                               text=True, timeout=30)

@@ -28,8 +28,10 @@ CHARTS = ("Daily quotes chart", "Component cycles chart", "Composite estimate cy
 class Program:
     """A running Quorvex."""
 
-    def __init__(self, desktop, executable):
+    def __init__(self, desktop, executable, name="Quorvex"):
+        """The name is that of its output among those of other programs."""
         self.executable = executable
+        self.name = name
         self._desktop = desktop
         self._cells = None
         # The user of the desktop may not be able to read the checkout.
@@ -37,7 +39,7 @@ class Program:
         os.chmod(leaks, 0o644)
         environment = dict(desktop.environment, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
                            LSAN_OPTIONS=f"suppressions={leaks}:print_suppressions=0")
-        self.process = desktop.start([executable], "Quorvex", env=environment)
+        self.process = desktop.start([executable], name, env=environment)
         self.root = wait_for(self._find_root, "the program on the accessibility bus")
         self.main = wait_for(self.root.children, "the main window")[0]
         wait_for(lambda: self.main.has("active"), "the main window's activation")
@@ -48,7 +50,7 @@ class Program:
         return self._desktop.bus.root_of(self.process.pid)
 
     def errors(self):
-        return self._desktop.errors_of("Quorvex")
+        return self._desktop.errors_of(self.name)
 
     # Windows and menus
 
@@ -60,6 +62,11 @@ class Program:
                     return window
             raise Gone("the windows are " + ", ".join(repr(window.name) for window in self.root.children()))
         return wait_for(find, f"the window {title!r}")
+
+    def bring_to_front(self, title):
+        """The window of this title, whichever program was in front."""
+        self._desktop.activate(self.process.pid, title)
+        return self.window(title)
 
     def wait_for_main(self):
         """Waits until the main window is the active one again, with no dialog left over it."""
@@ -190,8 +197,8 @@ class Session(unittest.TestCase):
                 self.desktop.hand_over(shutil.copy2(file, self.folder))
         return executable
 
-    def start(self, executable=None):
-        self.program = Program(self.desktop, executable or self.install())
+    def start(self, executable=None, name="Quorvex"):
+        self.program = Program(self.desktop, executable or self.install(), name)
         self.addCleanup(self._stop, self.program)
         return self.program
 

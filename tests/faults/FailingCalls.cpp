@@ -3,20 +3,20 @@
 
 // A library to be preloaded on Linux: one call of the system fails in a program that knows nothing of it.
 //
-//   FAILING_FOLDER   only calls that concern files below this folder count; absolute, without links, ends
-//   with a slash FAILING_CALL     which one: open, read, write, fsync, close, rename, flock or truncate
+//   PRELOAD_FOLDER   only calls that concern files below this folder count; absolute, without links, ends
+//                    with a slash
+//   FAILING_CALL     which one: open, read, write, fsync, close, rename, flock or truncate
 //   FAILING_NUMBER   how many of them succeed before
 //   FAILING_ERROR    the error that it then tells; 0 means that a read or a write does a single byte
 //   FAILING_MARK     file that is made when the call has failed
 
-#include <array>
+#include "Preloaded.h"
+
 #include <atomic>
 #include <cerrno>
-#include <climits>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
-#include <dlfcn.h>
 #include <fcntl.h>
 #include <string>
 #include <string_view>
@@ -26,24 +26,10 @@
 
 namespace {
 
-std::string_view Setting(char const* name) {
-    char const* const value = std::getenv(name);
-    return value == nullptr ? std::string_view() : std::string_view(value);
-}
-
-bool IsBelowFolder(char const* path) {
-    std::array<char, PATH_MAX> whole{};
-    return realpath(std::string(path).substr(0, std::string_view(path).rfind('/') + 1).append(".").c_str(),
-                    whole.data()) != nullptr &&
-           (std::string(whole.data()) + '/').starts_with(Setting("FAILING_FOLDER"));
-}
-
-bool IsBelowFolder(int descriptor) {
-    std::array<char, PATH_MAX> path{};
-    std::string const link = "/proc/self/fd/" + std::to_string(descriptor);
-    auto const length = readlink(link.c_str(), path.data(), path.size() - 1);
-    return length > 0 && std::string_view(path.data()).starts_with(Setting("FAILING_FOLDER"));
-}
+using quorvex::tests::IsBelowFolder;
+using quorvex::tests::MakesFile;
+using quorvex::tests::Next;
+using quorvex::tests::Setting;
 
 int Number(char const* name) {
     return std::atoi(std::string(Setting(name)).c_str());
@@ -66,16 +52,6 @@ bool Fails(std::string_view call, Place place) {
     syscall(SYS_close, mark);
     errno = Error();
     return true;
-}
-
-// Which has the mode as a further argument.
-bool MakesFile(int flags) {
-    return (flags & O_CREAT) != 0 || (flags & O_TMPFILE) == O_TMPFILE;
-}
-
-template <class Function>
-Function* Next(char const* name) {
-    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
 } // namespace

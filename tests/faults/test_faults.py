@@ -31,7 +31,8 @@ ERRORS = {
     "truncate": (errno.EIO, errno.EINTR),
 }
 READING = ("open", "read", "close")
-SAVING = (*READING, "write", "fsync", "rename")
+DRAWING = (*READING, "write", "fsync", "rename")
+SAVING = (*DRAWING, "flock")
 FEW = {call: {errors[0], SHORT if SHORT in errors else errors[-1]} for call, errors in ERRORS.items()}
 HARMLESS = (errno.EINTR, SHORT)  # what is interrupted or done in part is gone on with
 MOST_CALLS = 2000
@@ -55,7 +56,7 @@ class Faults(unittest.TestCase):
         shutil.copytree(self.prepared, self.folder)
 
     def run_companion(self, arguments, **failing):
-        environment = {**os.environ, "FAILING_FOLDER": self.folder + os.sep, "FAILING_MARK": self.mark, "LC_ALL": "C", **failing}
+        environment = {**os.environ, "PRELOAD_FOLDER": self.folder + os.sep, "FAILING_MARK": self.mark, "LC_ALL": "C", **failing}
         if failing:
             environment["LD_PRELOAD"] = LIBRARY
         return subprocess.run([COMPANION, *arguments], cwd=self.folder, env=environment, capture_output=True, text=True,
@@ -161,18 +162,18 @@ class Faults(unittest.TestCase):
         self.write_old("out.txt")
         with open(os.path.join(self.prepared, "vendor.csv"), "w", encoding="ascii") as file:
             file.writelines(f"200201{day:02},1145.00,1150.00,1140.00,1148.00,25000,400000\n" for day in range(1, 31))
-        self.require_all(["convert", "csi", "vendor.csv", "out.txt"], "out.txt", SAVING)
+        self.require_all(["convert", "csi", "vendor.csv", "out.txt"], "out.txt", DRAWING)
 
     def test_pages(self):
         for command in ("print", "list"):
             self.write_old("page.pdf")
-            self.require_all([command, "C0000000.txt", "-o", "page.pdf"], "page.pdf", SAVING, FEW)
+            self.require_all([command, "C0000000.txt", "-o", "page.pdf"], "page.pdf", DRAWING, FEW)
 
     def test_evaluate(self):
         write_contracts(self.prepared, 1, days=130, bad=False)
         self.write_old("plot.svg")
         self.require_all(["evaluate", "C0000000.txt", "--every", "20", "--surrogates", "9", "--jobs", "1", "--plot",
-                          "plot.svg"], "plot.svg", SAVING, FEW)
+                          "plot.svg"], "plot.svg", DRAWING, FEW)
 
     def test_search_tells(self):
         self.require_all(["search", "C0000000.txt", "--cycles", "1", "--json"], None, READING, FEW)
@@ -186,7 +187,7 @@ class Faults(unittest.TestCase):
         for form in ("svg", "json"):
             self.write_old("chart." + form)
             self.require_all(["chart", "C0000000.txt", "--automate", "1", "-o", "chart." + form], "chart." + form,
-                             SAVING)
+                             DRAWING)
 
 
 if __name__ == "__main__":

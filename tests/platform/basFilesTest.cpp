@@ -28,7 +28,7 @@ TEST(ReadWholeFile, RaisesEveryFault) {
 
 TEST(ReadFileIfThere, ToleratesAMissingFileAlone) {
     fake::MemoryFiles files;
-    EXPECT_EQ(ReadFileIfThere(files, "a.txt"), "");
+    EXPECT_EQ(ReadFileIfThere(files, "a.txt"), std::nullopt);
     files.Contents["a.txt"] = "hello";
     EXPECT_EQ(ReadFileIfThere(files, "a.txt"), "hello");
     files.BreakReading = {2, text::Fault::PermissionDenied};

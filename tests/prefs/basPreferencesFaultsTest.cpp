@@ -83,10 +83,9 @@ TEST(PreferencesUnderFaults, AreSavedOrTheFileStaysAsItIs) {
         trial.MayHold = [](std::string const&, std::string const& after, std::string const& now) {
             return now == after;
         };
-        trial.TriesGone = false; // what is not there is made anew
         return trial;
     };
-    ExpectSafe("Save Settings", make, {"OpenForInput", "Read", "Replace"});
+    ExpectSafe("Save Settings", make, {"Revise", "ReplaceRevised"});
 }
 
 } // namespace

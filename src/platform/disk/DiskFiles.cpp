@@ -3,6 +3,8 @@
 
 #include "platform/disk/DiskFiles.h"
 
+#include "platform/basFiles.h"
+#include "platform/disk/HeldFolder.h"
 #include "platform/disk/HostFile.h"
 #include "platform/disk/TemporaryFile.h"
 #include "text/RunTimeError.h"
@@ -87,6 +89,15 @@ void KeepContent(std::filesystem::path const& file) {
     TemporaryFile(backup, *content, file).MoveTo(backup);
 }
 
+// Of a file in a held folder.
+void ReplaceContent(std::filesystem::path const& target, std::string_view content) {
+    TemporaryFile fresh = Written(target, content);
+    if (!HoldsAlready(target, content)) {
+        KeepContent(target);
+    }
+    fresh.MoveTo(target);
+}
+
 } // namespace
 
 std::unique_ptr<text::ByteSource> OpenFileOrPipe(std::string const& path) {
@@ -103,11 +114,18 @@ std::unique_ptr<text::ByteSource> DiskFiles::OpenForInput(std::string const& pat
 
 void DiskFiles::Replace(std::string const& path, std::string_view content) {
     std::filesystem::path const target = WritableTarget(path);
-    TemporaryFile fresh = Written(target, content);
-    if (!HoldsAlready(target, content)) {
-        KeepContent(target);
+    HeldFolder const held(target.parent_path());
+    ReplaceContent(target, content);
+}
+
+void DiskFiles::Revise(std::string const& path, Revision const& revise) {
+    RequireName(path);
+    std::filesystem::path const target = FollowHostLinks(HostPath(path));
+    HeldFolder const held(target.parent_path());
+    if (auto const content = revise(ReadFileIfThere(*this, path))) {
+        RequireWritableOrNone(target);
+        ReplaceContent(target, *content);
     }
-    fresh.MoveTo(target);
 }
 
 void DiskFiles::Overwrite(std::string const& path, std::string_view content) {

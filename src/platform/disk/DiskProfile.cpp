@@ -27,13 +27,14 @@ std::vector<std::string> DiskProfile::ReadStrings(std::string_view section,
 }
 
 void DiskProfile::WriteStrings(std::string_view section, std::span<ProfileEntry const> entries) {
-    // A file that is there and cannot be read must not be taken for an empty one.
-    std::string file = ReadFileIfThere(files_, path_);
-    for (ProfileEntry const& entry : entries) {
-        RequireProfileValue(entry.Value);
-        SetIniValue(file, section, entry.Key, entry.Value);
-    }
-    files_.Replace(path_, file);
+    files_.Revise(path_, [&](std::optional<std::string> const& content) {
+        std::string file = content.value_or("");
+        for (ProfileEntry const& entry : entries) {
+            RequireProfileValue(entry.Value);
+            SetIniValue(file, section, entry.Key, entry.Value);
+        }
+        return file;
+    });
 }
 
 } // namespace quorvex::platform::disk

@@ -129,7 +129,9 @@ std::unique_ptr<text::ByteSource> OpenHostFile(std::filesystem::path const& path
 }
 
 std::unique_ptr<ByteSink> CreateHostFile(std::filesystem::path const& path) {
-    return std::make_unique<HostFileSink>(OpenSystemFile(path, Opening::Empty, false));
+    auto sink = std::make_unique<LastingHostFileSink>(OpenSystemFile(path, Opening::Empty, false));
+    FlushSystemFolder(path.parent_path()); // the name of a new file
+    return sink;
 }
 
 std::unique_ptr<ByteSink> CreateNewHostFile(std::filesystem::path const& path, bool onlyForOwner) {

@@ -51,7 +51,7 @@ void VisitHostFolder(std::filesystem::path const& folder, HostEntryVisitor const
 
 [[nodiscard]] std::unique_ptr<ByteSink> OpenStandardOutput();
 
-// The file, made empty or created, opened for writing.
+// The file, made empty or created, opened for writing. What was written is on the disk once it is closed.
 [[nodiscard]] std::unique_ptr<ByteSink> CreateHostFile(std::filesystem::path const& path);
 
 // The file, which must be there, opened for writing behind its end. What was written is on the disk once it

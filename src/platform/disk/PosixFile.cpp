@@ -97,6 +97,11 @@ bool IsFolder(int descriptor) {
     return fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+int OpenFolder(std::filesystem::path const& folder) {
+    return Uninterrupted(
+        [&] { return open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
+}
+
 std::string Utf8(std::filesystem::path const& name) {
     auto const text = name.u8string();
     return {text.begin(), text.end()};
@@ -185,6 +190,19 @@ bool HoldSystemFile(SystemFile file) {
            errno != EWOULDBLOCK;
 }
 
+std::optional<SystemFile> HoldSystemFolder(std::filesystem::path const& folder) {
+    int const descriptor = OpenFolder(folder);
+    if (descriptor >= 0 && !HoldSystemFile(descriptor)) {
+        close(descriptor);
+        return std::nullopt;
+    }
+    return descriptor >= 0 ? SystemFile{descriptor} : NoSystemFile;
+}
+
+void ReleaseSystemFolder(SystemFile folder) {
+    close(Descriptor(folder));
+}
+
 void FlushSystemFile(SystemFile file) {
 #ifdef F_FULLFSYNC
     // On macOS fsync stops at the drive's own memory.
@@ -194,6 +212,14 @@ void FlushSystemFile(SystemFile file) {
 #endif
     if (Uninterrupted([&] { return fsync(Descriptor(file)); }) != 0) {
         Raise(errno);
+    }
+}
+
+void FlushSystemFolder(std::filesystem::path const& folder) {
+    int const descriptor = OpenFolder(folder);
+    if (descriptor >= 0) {
+        Uninterrupted([&] { return fsync(descriptor); });
+        close(descriptor);
     }
 }
 
@@ -288,15 +314,7 @@ void MoveHostFile(std::filesystem::path const& from, std::filesystem::path const
     if (rename(from.c_str(), to.c_str()) != 0) {
         Raise(errno, to);
     }
-    // The new name outlives a power failure only once the folder is on the disk. Some file systems cannot
-    // flush a folder; the rename itself stands either way.
-    auto const folder = to.parent_path();
-    int const descriptor =
-        Uninterrupted([&] { return open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_CLOEXEC); });
-    if (descriptor >= 0) {
-        Uninterrupted([&] { return fsync(descriptor); });
-        close(descriptor);
-    }
+    FlushSystemFolder(to.parent_path()); // so that the new name outlives a power failure
 }
 
 bool IsWriteProtected(std::filesystem::path const& path) {

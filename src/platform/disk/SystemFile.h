@@ -49,8 +49,17 @@ enum class Opening {
 // held it counts as held.
 [[nodiscard]] bool HoldSystemFile(SystemFile file);
 
-// Waits for the disk.
+// Holds the folder, of which an empty path names the current one, until it is released or the program ends.
+// Nothing when somebody else holds it, and NoSystemFile where a folder cannot be held.
+[[nodiscard]] std::optional<SystemFile> HoldSystemFolder(std::filesystem::path const& folder);
+
+// By the thread that holds it.
+void ReleaseSystemFolder(SystemFile folder);
+
+// Wait for the disk. Of a folder the names of its files are meant; where it cannot be flushed, they stand
+// nevertheless until the power fails.
 void FlushSystemFile(SystemFile file);
+void FlushSystemFolder(std::filesystem::path const& folder);
 
 // The file is closed after a fault, too.
 void CloseSystemFile(SystemFile file);

@@ -235,6 +235,22 @@ std::vector<std::byte> OwnAccessList(std::filesystem::path const& path) {
     return isOwn ? descriptor : std::vector<std::byte>();
 }
 
+// Nothing for a folder that cannot be opened.
+std::optional<std::wstring> MutexNameOf(std::filesystem::path const& folder) {
+    HANDLE const handle = OpenHandle(folder, FILE_READ_ATTRIBUTES, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
+    if (handle == INVALID_HANDLE_VALUE) {
+        return std::nullopt;
+    }
+    BY_HANDLE_FILE_INFORMATION identity{};
+    bool const isKnown = GetFileInformationByHandle(handle, &identity) != 0;
+    CloseHandle(handle);
+    if (!isKnown) {
+        return std::nullopt;
+    }
+    return L"Local\\Quorvex-" + std::to_wstring(identity.dwVolumeSerialNumber) + L"-" +
+           std::to_wstring(identity.nFileIndexHigh) + L"-" + std::to_wstring(identity.nFileIndexLow);
+}
+
 } // namespace
 
 SystemFile OpenSystemFile(std::filesystem::path const& path, Opening opening, bool) {
@@ -319,11 +335,35 @@ bool HoldSystemFile(SystemFile file) {
            GetLastError() != ERROR_LOCK_VIOLATION;
 }
 
+// A folder itself cannot be held. A mutex stands for it that every program finds by what identifies the
+// folder.
+std::optional<SystemFile> HoldSystemFolder(std::filesystem::path const& folder) {
+    auto const name = MutexNameOf(folder);
+    HANDLE const mutex = name ? CreateMutexW(nullptr, FALSE, name->c_str()) : nullptr;
+    if (mutex == nullptr) {
+        return NoSystemFile;
+    }
+    DWORD const state = WaitForSingleObject(mutex, 0);
+    if (state == WAIT_OBJECT_0 || state == WAIT_ABANDONED) { // by a program that died
+        return FileOf(mutex);
+    }
+    CloseHandle(mutex);
+    return state == WAIT_TIMEOUT ? std::nullopt : std::optional(NoSystemFile);
+}
+
+void ReleaseSystemFolder(SystemFile folder) {
+    ReleaseMutex(HandleOf(folder));
+    CloseHandle(HandleOf(folder));
+}
+
 void FlushSystemFile(SystemFile file) {
     if (FlushFileBuffers(HandleOf(file)) == 0) {
         RaiseLastError();
     }
 }
+
+// Names are on the disk when the file is flushed, or moved as MoveHostFile does.
+void FlushSystemFolder(std::filesystem::path const&) {}
 
 void CloseSystemFile(SystemFile file) {
     if (CloseHandle(HandleOf(file)) == 0) {

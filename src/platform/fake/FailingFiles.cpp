@@ -57,6 +57,10 @@ std::string_view NameOf(FileCall call) {
         return "Read";
     case FileCall::Replace:
         return "Replace";
+    case FileCall::Revise:
+        return "Revise";
+    case FileCall::ReplaceRevised:
+        return "ReplaceRevised";
     case FileCall::Overwrite:
         return "Overwrite";
     case FileCall::Append:
@@ -92,6 +96,17 @@ void FailingFiles::Replace(std::string const& path, std::string_view content) {
         Raise();
     }
     ForwardingFiles::Replace(path, content);
+}
+
+void FailingFiles::Revise(std::string const& path, Revision const& revise) {
+    Meet(FileCall::Revise);
+    ForwardingFiles::Revise(path, [&](auto const& content) {
+        auto revised = revise(content);
+        if (revised) {
+            Meet(FileCall::ReplaceRevised);
+        }
+        return revised;
+    });
 }
 
 void FailingFiles::Overwrite(std::string const& path, std::string_view content) {

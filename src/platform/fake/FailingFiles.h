@@ -18,11 +18,14 @@
 
 namespace quorvex::platform::fake {
 
-// What is asked of files and of what was opened.
+// What is asked of files and of what was opened. A revision is asked for twice: before the file is read, and
+// when it shall be replaced by what was made of it.
 enum class FileCall : std::uint8_t {
     OpenForInput,
     Read,
     Replace,
+    Revise,
+    ReplaceRevised,
     Overwrite,
     Append,
     Keep,
@@ -53,6 +56,7 @@ public:
 
     [[nodiscard]] std::unique_ptr<text::ByteSource> OpenForInput(std::string const& path) const override;
     void Replace(std::string const& path, std::string_view content) override;
+    void Revise(std::string const& path, Revision const& revise) override;
     void Overwrite(std::string const& path, std::string_view content) override;
     void Append(std::string const& path, std::string_view bytes) override;
     void Keep(std::string const& path) override;

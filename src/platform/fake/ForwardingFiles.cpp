@@ -13,6 +13,10 @@ void ForwardingFiles::Replace(std::string const& path, std::string_view content)
     behind_.Replace(path, content);
 }
 
+void ForwardingFiles::Revise(std::string const& path, Revision const& revise) {
+    behind_.Revise(path, revise);
+}
+
 void ForwardingFiles::Overwrite(std::string const& path, std::string_view content) {
     behind_.Overwrite(path, content);
 }

@@ -3,6 +3,7 @@
 
 #include "platform/fake/MemoryFiles.h"
 
+#include "platform/basFiles.h"
 #include "text/basFolders.h"
 
 #include <algorithm>
@@ -101,6 +102,12 @@ void MemoryFiles::Replace(std::string const& path, std::string_view content) {
         Keep(path);
     }
     Contents[path] = content;
+}
+
+void MemoryFiles::Revise(std::string const& path, Revision const& revise) {
+    if (auto const content = revise(ReadFileIfThere(*this, path))) {
+        Replace(path, *content);
+    }
 }
 
 void MemoryFiles::Overwrite(std::string const& path, std::string_view content) {

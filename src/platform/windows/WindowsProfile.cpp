@@ -112,6 +112,22 @@ std::optional<std::wstring> FindValue(ScratchProfile const& scratch, std::wstrin
     return isThere ? std::optional(std::move(value)) : std::nullopt;
 }
 
+void WriteValues(ScratchProfile const& scratch, std::wstring const& section,
+                 std::span<ProfileEntry const> entries) {
+    for (ProfileEntry const& entry : entries) {
+        RequireProfileValue(entry.Value);
+        if (!IsUtf8(entry.Value)) {
+            throw RunTimeError(Fault::InvalidProcedureCall);
+        }
+        if (WritePrivateProfileStringW(section.c_str(), Widened(entry.Key).c_str(),
+                                       Widened(entry.Value).c_str(), scratch.Path().c_str()) == 0) {
+            throw RunTimeError(Fault::PermissionDenied);
+        }
+    }
+    // Flushes what the system keeps of the file; by its own description the call returns no success.
+    WritePrivateProfileStringW(nullptr, nullptr, nullptr, scratch.Path().c_str());
+}
+
 } // namespace
 
 WindowsProfile::WindowsProfile(std::string path, Files& files) : path_(std::move(path)), files_(files) {}
@@ -131,22 +147,12 @@ std::vector<std::string> WindowsProfile::ReadStrings(std::string_view section,
 }
 
 void WindowsProfile::WriteStrings(std::string_view section, std::span<ProfileEntry const> entries) {
-    // A file that is there and cannot be read must not be taken for an empty one.
-    std::string const before = ReadFileIfThere(files_, path_);
-    ScratchProfile const scratch(before, path_);
-    for (ProfileEntry const& entry : entries) {
-        RequireProfileValue(entry.Value);
-        if (!IsUtf8(entry.Value)) {
-            throw RunTimeError(Fault::InvalidProcedureCall);
-        }
-        if (WritePrivateProfileStringW(Widened(section).c_str(), Widened(entry.Key).c_str(),
-                                       Widened(entry.Value).c_str(), scratch.Path().c_str()) == 0) {
-            throw RunTimeError(Fault::PermissionDenied);
-        }
-    }
-    // Flushes what the system keeps of the file; by its own description the call returns no success.
-    WritePrivateProfileStringW(nullptr, nullptr, nullptr, scratch.Path().c_str());
-    files_.Replace(path_, Folded(scratch.Content(), before));
+    files_.Revise(path_, [&](std::optional<std::string> const& content) {
+        std::string const before = content.value_or("");
+        ScratchProfile const scratch(before, path_);
+        WriteValues(scratch, Widened(section), entries);
+        return Folded(scratch.Content(), before);
+    });
 }
 
 } // namespace quorvex::platform::windows
