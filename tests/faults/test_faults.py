@@ -135,10 +135,10 @@ class Faults(unittest.TestCase):
             file.write(OLD)
 
     def test_analyse(self):
-        self.require_all(["analyse", "C0000000.txt", "--automate", "2"], None, READING)
+        self.require_all(["analyse", "C0000000.txt", "--automate", "2"], None, READING, FEW)
 
     def test_batch(self):
-        self.require_all(["batch", ".", "--automate", "2", "--jobs", "1"], None, READING)
+        self.require_all(["batch", ".", "--automate", "2", "--jobs", "1"], None, READING, FEW)
 
     def test_batch_into_a_file(self):
         self.require_all(["batch", "C0000000.txt", "C0000001.txt", "--automate", "2", "--jobs", "1", "-o", "out.csv"],
@@ -146,7 +146,8 @@ class Faults(unittest.TestCase):
 
     def test_search(self):
         self.write_old("model.dat")
-        self.require_all(["search", "C0000000.txt", "--cycles", "1", "-o", "model.dat", "--force"], "model.dat", SAVING)
+        self.require_all(["search", "C0000000.txt", "--cycles", "1", "-o", "model.dat", "--force"], "model.dat", SAVING,
+                         FEW)
 
     def test_import(self):
         self.write_old("new.txt")
@@ -156,7 +157,7 @@ class Faults(unittest.TestCase):
         self.require_all(["import", "table.csv", "--into", "C0000000.txt", "--replace"], "C0000000.txt", SAVING)
 
     def test_check(self):
-        self.require_all(["check", "C0000000.txt"], None, READING)
+        self.require_all(["check", "C0000000.txt"], None, READING, FEW)
 
     def test_convert(self):
         self.write_old("out.txt")
@@ -187,7 +188,7 @@ class Faults(unittest.TestCase):
         for form in ("svg", "json"):
             self.write_old("chart." + form)
             self.require_all(["chart", "C0000000.txt", "--automate", "1", "-o", "chart." + form], "chart." + form,
-                             DRAWING)
+                             DRAWING, FEW)
 
 
 if __name__ == "__main__":

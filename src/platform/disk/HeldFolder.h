@@ -10,8 +10,8 @@
 
 namespace quorvex::platform::disk {
 
-// Keeps all others that hold the folder in this way out of it while it lives: other programs, other threads
-// and this thread itself. Where the system cannot hold a folder, as on some networks, nobody is kept out.
+// Keeps all others that hold the folder in this way out of it while it lives, programs and threads; a thread
+// must not hold it twice. Where the system cannot hold a folder, as on some networks, nobody is kept out.
 class HeldFolder {
 public:
     // Waits for whoever holds the folder. Raises "Permission denied" when that takes too long.
