@@ -12,19 +12,22 @@ namespace {
 
 using imports::Separator;
 
-// One byte after the other, so that every pause is tried.
+// So many bytes after the others; one by one, every pause is tried.
 class DrippingSource final : public text::ByteSource {
 public:
-    explicit DrippingSource(std::string_view text) : rest_(text) {}
+    explicit DrippingSource(std::string_view text, std::size_t pieceSize = 1)
+        : rest_(text),
+          pieceSize_(pieceSize) {}
 
     [[nodiscard]] std::size_t Read(std::span<char> buffer) override {
-        std::size_t const count = rest_.copy(buffer.data(), 1);
+        std::size_t const count = rest_.copy(buffer.data(), pieceSize_);
         rest_.remove_prefix(count);
         return count;
     }
 
 private:
     std::string_view rest_;
+    std::size_t pieceSize_;
 };
 
 std::string AllOf(text::ByteSource& source, Separator separator) {
@@ -89,7 +92,9 @@ TEST(RecordReader, RefusesAQuotationMarkThatIsNotClosed) {
 }
 
 TEST(RecordReader, RefusesALineWithoutEnd) {
-    EXPECT_EQ(Records("a\n" + std::string(70'000, 'x')), "1:[a] 2!");
+    std::string const text = "a\n" + std::string(70'000, 'x');
+    DrippingSource slow(text, 997);
+    EXPECT_EQ(AllOf(slow, Separator::Comma), "1:[a] 2!");
 }
 
 // Which the buffer holds as a whole; however many fields it has.
