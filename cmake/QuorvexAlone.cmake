@@ -7,12 +7,13 @@
 # its own header does not name, the header is read by itself.
 
 # The sets, those that save most first. Each is the name of a target, quorvex_alone_<set>.
-set(QUORVEX_ALONE_SETS json options dialogs widgets fonts forecasts records charts figures files texts string nothing)
+set(QUORVEX_ALONE_SETS json options dialogs widgets fonts strings forecasts records charts figures files texts string nothing)
 set(QUORVEX_ALONE_json <nlohmann/json.hpp>)
 set(QUORVEX_ALONE_options <CLI/CLI.hpp>)
 set(QUORVEX_ALONE_dialogs <QDialog>)
 set(QUORVEX_ALONE_widgets <QWidget>)
 set(QUORVEX_ALONE_fonts <QFont>)
+set(QUORVEX_ALONE_strings <QString>)
 set(QUORVEX_ALONE_forecasts <algorithm> <array> <cmath> <functional> <random> <span> <string> <vector>)
 set(QUORVEX_ALONE_records <array> <chrono> <memory> <optional> <string> <vector>)
 set(QUORVEX_ALONE_charts <array> <cmath> <memory> <optional> <span> <string> <vector>)
@@ -21,7 +22,7 @@ set(QUORVEX_ALONE_files <memory> <optional> <span> <string> <vector>)
 set(QUORVEX_ALONE_texts <optional> <string> <string_view>)
 set(QUORVEX_ALONE_string <string>)
 set(QUORVEX_ALONE_nothing)
-set(QUORVEX_ALONE_LIBRARIES json options dialogs widgets fonts)
+set(QUORVEX_ALONE_LIBRARIES json options dialogs widgets fonts strings)
 
 # Sets the variable to the headers of libraries that the file includes, itself or by a header of the program.
 function(find_library_headers variable file)
