@@ -2,17 +2,18 @@
 # Nothing is made of them. A source begins with its own header, so that it proves that as well.
 #
 # Nearly all of the work is reading the headers of libraries, so those come precompiled, in the sets below. A file is read
-# with a set only if its own includes, followed through the program's headers, name every header of the set: it sees
-# nothing that it would not see without, and an include that is missing is missed. Where a source is read with a set that
-# its own header does not name, the header is read by itself.
+# with a set only if its own includes, followed through the program's headers and those of Qt, name every header of the
+# set: it sees nothing that it would not see without, and an include that is missing is missed. Where a source is read
+# with a set that its own header does not name, the header is read by itself.
 
 # The sets, those that save most first. Each is the name of a target, quorvex_alone_<set>.
-set(QUORVEX_ALONE_SETS json options dialogs widgets fonts strings forecasts records charts figures files texts string nothing)
+set(QUORVEX_ALONE_SETS json options dialogs widgets pages images strings forecasts records charts figures files texts string nothing)
 set(QUORVEX_ALONE_json <nlohmann/json.hpp>)
 set(QUORVEX_ALONE_options <CLI/CLI.hpp>)
 set(QUORVEX_ALONE_dialogs <QDialog>)
 set(QUORVEX_ALONE_widgets <QWidget>)
-set(QUORVEX_ALONE_fonts <QFont>)
+set(QUORVEX_ALONE_pages <QPagedPaintDevice>)
+set(QUORVEX_ALONE_images <QImage>)
 set(QUORVEX_ALONE_strings <QString>)
 set(QUORVEX_ALONE_forecasts <algorithm> <array> <cmath> <functional> <random> <span> <string> <vector>)
 set(QUORVEX_ALONE_records <array> <chrono> <memory> <optional> <string> <vector>)
@@ -22,7 +23,56 @@ set(QUORVEX_ALONE_files <memory> <optional> <span> <string> <vector>)
 set(QUORVEX_ALONE_texts <optional> <string> <string_view>)
 set(QUORVEX_ALONE_string <string>)
 set(QUORVEX_ALONE_nothing)
-set(QUORVEX_ALONE_LIBRARIES json options dialogs widgets fonts strings)
+set(QUORVEX_ALONE_LIBRARIES json options dialogs widgets pages images strings)
+
+# Sets the variable to the paths of the headers of Qt that the one of this path includes in any case, that is outside of
+# conditions but its own guard.
+function(find_next_qt_headers variable path)
+    get_property(found GLOBAL PROPERTY "QUORVEX_QT_HEADERS ${path}")
+    if(NOT found)
+        set(found ${path})
+        set(depth 0)
+        get_filename_component(folder ${path} DIRECTORY)
+        file(STRINGS ${path} lines REGEX "^# *(include|if|endif)")
+        foreach(line IN LISTS lines)
+            if(line MATCHES "^# *if")
+                math(EXPR depth "${depth} + 1")
+            elseif(line MATCHES "^# *endif")
+                math(EXPR depth "${depth} - 1")
+            elseif(depth LESS_EQUAL 1 AND line MATCHES "^# *include +[<\"]([Qq][^>\"]+)[>\"]")
+                find_qt_header(header ${CMAKE_MATCH_1} ${folder})
+                list(APPEND found ${header})
+            endif()
+        endforeach()
+        set_property(GLOBAL PROPERTY "QUORVEX_QT_HEADERS ${path}" "${found}")
+    endif()
+    set(${variable} "${found}" PARENT_SCOPE)
+endfunction()
+
+# Sets the variable to the path of the header of Qt, nothing if it is none.
+function(find_qt_header variable header)
+    unset(path)
+    find_file(path ${header} PATHS ${ARGN} ${Qt6Widgets_INCLUDE_DIRS} ${Qt6PrintSupport_INCLUDE_DIRS} NO_DEFAULT_PATH NO_CACHE)
+    if(NOT path)
+        set(path "")
+    endif()
+    set(${variable} "${path}" PARENT_SCOPE)
+endfunction()
+
+# Sets the variable to the path of the header of Qt and to those of all that come with it.
+function(find_qt_headers variable header)
+    find_qt_header(rest ${header})
+    set(found "")
+    while(rest)
+        list(POP_FRONT rest next)
+        if(NOT next IN_LIST found)
+            list(APPEND found ${next})
+            find_next_qt_headers(more ${next})
+            list(APPEND rest ${more})
+        endif()
+    endwhile()
+    set(${variable} "${found}" PARENT_SCOPE)
+endfunction()
 
 # Sets the variable to the headers of libraries that the file includes, itself or by a header of the program.
 function(find_library_headers variable file)
@@ -33,7 +83,10 @@ function(find_library_headers variable file)
         set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${file})
         file(STRINGS ${file} includes REGEX "^#include ")
         foreach(include IN LISTS includes)
-            if(include MATCHES "^#include (<.+>)")
+            if(include MATCHES "^#include <(Q.+)>")
+                find_qt_headers(more ${CMAKE_MATCH_1})
+                list(APPEND found ${more})
+            elseif(include MATCHES "^#include (<.+>)")
                 list(APPEND found ${CMAKE_MATCH_1})
             elseif(include MATCHES "^#include \"(.+/.+)\"")
                 find_library_headers(more ${PROJECT_SOURCE_DIR}/src/${CMAKE_MATCH_1})
@@ -52,6 +105,10 @@ function(choose_set variable file)
     find_library_headers(headers ${file})
     foreach(set IN LISTS QUORVEX_ALONE_SETS)
         set(rest ${QUORVEX_ALONE_${set}})
+        if(rest MATCHES "^<(Q.+)>$")
+            string(TOLOWER ${CMAKE_MATCH_1}.h name) # where the class is
+            find_qt_header(rest ${name})
+        endif()
         list(REMOVE_ITEM rest "" ${headers})
         if(NOT rest)
             set(${variable} ${set} PARENT_SCOPE)
