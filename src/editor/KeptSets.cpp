@@ -4,7 +4,6 @@
 #include "editor/KeptSets.h"
 
 #include "platform/basFiles.h"
-#include "text/RunTimeError.h"
 
 #include <algorithm>
 #include <charconv>
@@ -55,16 +54,20 @@ bool HasLength(platform::Files const& files, std::string const& path) {
 
 } // namespace
 
-std::vector<KeptSet> ReadKeptSets(platform::Files const& files, std::string const& name) {
-    std::vector<KeptSet> sets;
+KeptSets ReadKeptSets(platform::Files const& files, std::string const& name) {
+    KeptSets kept;
     for (int const number : FindNumbers(files, name)) {
         std::string const path = NumberedPath(name, number);
-        std::string text = platform::ReadWholeFile(files, path);
-        if (auto edits = ReadKeptEdits(text)) {
-            sets.push_back({path, std::move(text), std::move(*edits)});
+        std::optional<std::string> text;
+        auto const fault = text::Trap([&] { text = platform::ReadFileIfThere(files, path); });
+        if (!kept.Fault) {
+            kept.Fault = fault;
+        }
+        if (auto edits = text ? ReadKeptEdits(*text) : std::nullopt) {
+            kept.Sets.push_back({path, std::move(*text), std::move(*edits)});
         }
     }
-    return sets;
+    return kept;
 }
 
 std::string NextKeptPath(platform::Files const& files, std::string const& name) {
@@ -77,8 +80,25 @@ std::string NextKeptPath(platform::Files const& files, std::string const& name) 
 }
 
 bool HoldsMark(platform::Files const& files, std::string const& path, std::string const& mark) {
-    return !mark.empty() && platform::IsThere(files, path) &&
-           MarkOf(platform::ReadWholeFile(files, path)) == mark;
+    if (mark.empty() || !platform::IsThere(files, path)) {
+        return false;
+    }
+    auto const content = platform::ReadFileIfThere(files, path);
+    return content && MarkOf(*content) == mark;
+}
+
+MarkedFile MarkedFileOf(KeptSet const& set) {
+    return {set.Path, MarkOf(set.Text)};
+}
+
+void RemoveMarked(platform::Files& files, MarkedFile const& file) {
+    if (!HoldsMark(files, file.Path, file.Mark)) {
+        return;
+    }
+    auto const fault = text::Trap([&] { files.Remove(file.Path); });
+    if (fault && fault->Kind() != text::Fault::FileNotFound) { // else somebody else has deleted it
+        throw text::RunTimeError(fault->Kind());
+    }
 }
 
 } // namespace quorvex::editor

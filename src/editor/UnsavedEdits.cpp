@@ -26,6 +26,13 @@ std::string MarkOfFile(platform::Files const& files, std::string const& path) {
     return mark;
 }
 
+constexpr std::string_view EarlierEdits = "Edits that were kept before";
+
+// What is told of files that stay as they are, and may be offered another time.
+std::string LeftText(std::string_view what, text::RunTimeError const& fault) {
+    return std::string(what) + " cannot be read or deleted: " + std::string(fault.Description());
+}
+
 bool LookAlike(EditRows const& one, EditRows const& other) {
     return std::ranges::equal(one, other, {}, &EditRow::Texts, &EditRow::Texts);
 }
@@ -39,8 +46,21 @@ bool IsNamed(platform::Files const& files, std::string const& path, std::string 
 
 } // namespace
 
-void UnsavedEdits::Open(Editor const& editor, quotes::QuoteSeries const& series,
-                        settings::Settings const& settings) {
+std::string UnsavedEdits::Open(Editor const& editor, quotes::QuoteSeries const& series,
+                               settings::Settings const& settings) {
+    needless_.clear();
+    auto const fault = Look(editor, series, settings);
+    std::string offer = HasKept() ? "Edits of these quotes were not saved. Restore Unsaved Edits in the "
+                                    "context menu of the cells brings them back."
+                                  : "";
+    if (!fault) {
+        return offer;
+    }
+    return (offer.empty() ? LeftText(EarlierEdits, *fault) : offer + " " + LeftText("Others", *fault)) + ".";
+}
+
+std::optional<text::RunTimeError> UnsavedEdits::Look(Editor const& editor, quotes::QuoteSeries const& series,
+                                                     settings::Settings const& settings) {
     quotePath_ = series.HasQuotes() ? OpenFilePath(series, settings) : std::string();
     name_ = (series.HasQuotes() ? quotePath_ : settings.DataPath + std::string(NameWithoutFile)) +
             std::string(Extension);
@@ -53,7 +73,9 @@ void UnsavedEdits::Open(Editor const& editor, quotes::QuoteSeries const& series,
     path_.clear();
     mine_.clear();
     hasBegun_ = false;
-    ReadKept();
+    auto const fault = ReadKept();
+    auto const left = RemoveNeedless();
+    return fault ? fault : left;
 }
 
 // A file that cannot be read is not taken for that of this editor.
@@ -64,24 +86,38 @@ bool UnsavedEdits::IsMine() const {
 }
 
 // Of several that kept the same rows the newest is enough, and what the quotes have already is not unsaved.
-void UnsavedEdits::ReadKept() {
-    std::vector<std::string> needless;
-    for (KeptSet& set : ReadKeptSets(files_, name_)) {
-        auto const isSame = [&](KeptSet const& other) {
-            return LookAlike(other.Edits.After, set.Edits.After);
-        };
+std::optional<text::RunTimeError> UnsavedEdits::ReadKept() {
+    KeptSets found = ReadKeptSets(files_, name_);
+    for (KeptSet& set : found.Sets) {
         if (!IsNamed(files_, quotePath_, set.Edits.Of.Name)) {
             continue; // somebody gave it this name
         }
-        if (LookAlike(set.Edits.After, rows_) || std::ranges::any_of(kept_, isSame)) {
-            needless.push_back(set.Path);
+        if (IsNeedless(set)) {
+            needless_.push_back(MarkedFileOf(set));
         } else {
             kept_.push_back(std::move(set));
         }
     }
-    for (std::string const& path : needless) {
-        files_.Remove(path);
+    return found.Fault;
+}
+
+bool UnsavedEdits::IsNeedless(KeptSet const& set) const {
+    auto const isSame = [&](KeptSet const& other) { return LookAlike(other.Edits.After, set.Edits.After); };
+    return LookAlike(set.Edits.After, rows_) || std::ranges::any_of(kept_, isSame) ||
+           std::ranges::find(needless_, MarkedFileOf(set)) != needless_.end();
+}
+
+std::optional<text::RunTimeError> UnsavedEdits::RemoveNeedless() {
+    std::optional<text::RunTimeError> first;
+    std::vector<MarkedFile> left;
+    for (MarkedFile& file : needless_) {
+        if (auto const fault = text::Trap([&] { RemoveMarked(files_, file); })) {
+            first = first ? first : fault;
+            left.push_back(std::move(file));
+        }
     }
+    needless_ = std::move(left);
+    return first;
 }
 
 bool UnsavedEdits::HasFileChanged() const {
@@ -155,8 +191,8 @@ void UnsavedEdits::DropRestoredFile() {
         return;
     }
     KeptSet const& set = kept_[restored_->Index];
-    if (set.Path != path_ && HoldsMark(files_, set.Path, MarkOf(set.Text))) {
-        files_.Remove(set.Path);
+    if (set.Path != path_) {
+        RemoveMarked(files_, MarkedFileOf(set));
     }
     restored_->IsFiled = false;
 }
@@ -195,27 +231,21 @@ void UnsavedEdits::TakeBack() {
     if (restored_ && restored_->IsIn) {
         PutBack();
     }
-    if (HoldsMine()) {
-        files_.Remove(path_);
-        mine_.clear();
-    }
+    RemoveMarked(files_, {path_, mine_});
+    mine_.clear();
 }
 
-void UnsavedEdits::Saved(Editor const& editor, quotes::QuoteSeries const& series,
-                         settings::Settings const& settings) {
+std::string UnsavedEdits::Saved(Editor const& editor, quotes::QuoteSeries const& series,
+                                settings::Settings const& settings) {
     if (!IsOpenFileSaved(series, settings, files_)) {
-        return;
+        return {};
     }
-    auto const error = text::Trap([this] {
-        if (IsMine()) {
-            files_.Remove(path_);
-        }
-        DropRestoredFile();
-    });
-    Open(editor, series, settings);
-    if (error) {
-        throw text::RunTimeError(error->Kind());
+    needless_.push_back({path_, mine_});
+    if (restored_ && restored_->IsIn && restored_->IsFiled) {
+        needless_.push_back(MarkedFileOf(kept_[restored_->Index]));
     }
+    auto const fault = Look(editor, series, settings);
+    return fault ? LeftText(EarlierEdits, *fault) : "";
 }
 
 std::string UnsavedEdits::Restore(Editor& editor, platform::Dialogs& dialogs) {
@@ -249,9 +279,7 @@ bool UnsavedEdits::Forget(platform::Dialogs& dialogs) {
         return false;
     }
     KeptSet const& set = kept_[next_];
-    if (HoldsMark(files_, set.Path, MarkOf(set.Text))) {
-        files_.Remove(set.Path);
-    }
+    RemoveMarked(files_, MarkedFileOf(set));
     if (restored_ && restored_->Index == next_) {
         restored_.reset();
     }

@@ -11,6 +11,7 @@
 #include "platform/Files.h"
 #include "quotes/QuoteSeries.h"
 #include "settings/Settings.h"
+#include "text/RunTimeError.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -22,22 +23,26 @@ namespace quorvex::editor {
 
 // Keeps what was done in an editor and not saved, change by change, in a file beside the quote file, so that
 // it outlives the program and the machine's power. What earlier editors kept stays in their files until it is
-// restored and saved, or forgotten. Every routine raises the faults of the files; what could not be kept is
-// kept by the next Keep that can.
+// restored and saved, or forgotten. What could not be kept is kept by the next Keep that can.
 class UnsavedEdits {
 public:
     // The files must outlive the object.
     explicit UnsavedEdits(platform::Files& files) : files_(files) {}
 
     // An editor was opened on the series: looks for what earlier ones kept of it. That is left where it is.
-    void Open(Editor const& editor, quotes::QuoteSeries const& series, settings::Settings const& settings);
+    // Returns what to tell of it in the status line; empty when there is nothing.
+    [[nodiscard]] std::string Open(Editor const& editor, quotes::QuoteSeries const& series,
+                                   settings::Settings const& settings);
 
-    // Keeps what has changed.
+    // Keeps what has changed. Raises the faults of the files.
     void Keep(Change const& change, ChangeKind kind, Editor const& editor);
 
     // All rows were saved under the name of the series: when that is the open file, nothing is unsaved any
-    // more. A bare name can lead to another file, see IsOpenFileSaved; then the edits stay kept.
-    void Saved(Editor const& editor, quotes::QuoteSeries const& series, settings::Settings const& settings);
+    // more. A bare name can lead to another file, see IsOpenFileSaved; then the edits stay kept. Returns what
+    // to tell behind it in the status line, mostly nothing. What could not be deleted is by the next save
+    // that can.
+    [[nodiscard]] std::string Saved(Editor const& editor, quotes::QuoteSeries const& series,
+                                    settings::Settings const& settings);
 
     // Whether earlier editors left rows that differ from those that this one opened with and that were not
     // restored since.
@@ -52,10 +57,12 @@ public:
 
     // Gives the editor the newest rows that were kept and not restored yet, after a question when the quote
     // file has changed, or the editor has changes that restoring would replace. Returns what to tell in the
-    // status line; empty when the user refused. Keep must follow. REQUIRES: there are some.
+    // status line; empty when the user refused. Keep must follow. Raises the faults of the files; then
+    // nothing has changed. REQUIRES: there are some.
     [[nodiscard]] std::string Restore(Editor& editor, platform::Dialogs& dialogs);
 
-    // Deletes the same ones, after a question. Returns whether it has. REQUIRES: there are some.
+    // Deletes the same ones, after a question. Returns whether it has. Raises the faults of the files.
+    // REQUIRES: there are some.
     bool Forget(platform::Dialogs& dialogs);
 
 private:
@@ -67,7 +74,11 @@ private:
         bool IsFiled = true;   // in its file, too
     };
 
-    void ReadKept();
+    [[nodiscard]] std::optional<text::RunTimeError>
+    Look(Editor const& editor, quotes::QuoteSeries const& series, settings::Settings const& settings);
+    [[nodiscard]] std::optional<text::RunTimeError> ReadKept();
+    [[nodiscard]] bool IsNeedless(KeptSet const& set) const;
+    [[nodiscard]] std::optional<text::RunTimeError> RemoveNeedless();
     [[nodiscard]] bool HasWork(Editor const& editor) const;
     void FollowRestored(Editor const& editor);
     void PutBack();
@@ -88,7 +99,8 @@ private:
     std::vector<KeptSet> kept_; // by earlier editors
     std::size_t next_ = 0;      // to be restored
     std::optional<RestoredSet> restored_;
-    std::string path_; // of the file of this editor; empty: it has none yet
+    std::vector<MarkedFile> needless_; // what they hold the quotes have
+    std::string path_;                 // of the file of this editor; empty: it has none yet
     std::string mine_; // the mark of that file, with nothing but what is in this editor; empty: there is none
     bool hasBegun_ = false; // the file holds the edits of this editor, all of them
     KeptEditsWriter writer_;

@@ -7,6 +7,7 @@
 #include "editor/History.h"
 #include "editor/UnsavedEdits.h"
 #include "editor/basEdit.h"
+#include "editor/basSave.h"
 #include "platform/fake/FailingFiles.h"
 #include "support/EveryFault.h"
 #include "support/Messages.h"
@@ -17,9 +18,12 @@
 
 #include <algorithm>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -30,6 +34,7 @@ using editor::ChangeKind;
 using platform::Answer;
 
 constexpr char const* EditedPath = "C:\\Quotes\\test.txt";
+constexpr char const* OtherPath = "C:\\Quotes\\other.txt";
 constexpr std::int16_t CloseColumn = 5;
 constexpr std::int16_t EditedRows = 4;
 
@@ -41,10 +46,10 @@ public:
         Failing.PieceSize = 1000;
     }
 
-    void OpenAgain() {
-        Open(SeriesOf(files.Contents.at(EditedPath), settings.CurrencyFormat, EditedPath));
+    void OpenAgain(std::string const& path = EditedPath) {
+        Open(SeriesOf(files.Contents.at(path), settings.CurrencyFormat, path));
         History.Start(*edited);
-        TellNotKept(text::Trap([this] { Unsaved.Open(*edited, *series, settings); }));
+        TellIfAny(Unsaved.Open(*edited, *series, settings));
     }
 
     void Keep(editor::Change const& change, ChangeKind kind = ChangeKind::Edit) {
@@ -61,12 +66,30 @@ public:
     // As another edit each time.
     void TypeNext() { TypeClose(2, ++last_); }
 
-    // Puts that file of another editor's there.
-    void LeaveSet(std::string const& name, std::int16_t row, int close) {
+    // Puts that file of another editor's there, of edits of the quote file.
+    void LeaveSet(std::string const& name, std::int16_t row, int close,
+                  std::string const& path = EditedPath) {
         KeptEditor other;
-        other.OpenAgain();
+        other.files.Contents[path] = QuoteLines(30);
+        other.OpenAgain(path);
         other.TypeClose(row, close);
-        files.Contents["C:\\Quotes\\" + name] = other.files.Contents.at("C:\\Quotes\\test.txt.edits");
+        files.Contents["C:\\Quotes\\" + name] = other.files.Contents.at(path + ".edits");
+    }
+
+    // As the window does.
+    void Finish(editor::SaveResult const& result) {
+        TellIfAny(result.Status);
+        if (result.IsSaved) {
+            History.Record(*edited);
+            TellIfAny(Unsaved.Saved(*edited, *series, settings));
+        }
+    }
+
+    void Save() { Finish(editor::SaveEdits(*edited, *series, settings, Failing, dialogs)); }
+
+    void SaveAs(std::string const& path) {
+        dialogs.Texts = {path};
+        Finish(editor::SaveEditsAs(*edited, *series, settings, Failing, dialogs));
     }
 
     void Restore() {
@@ -77,6 +100,12 @@ public:
             Record();
         }
         dialogs.Answers.clear();
+    }
+
+    void TellIfAny(std::string const& text) {
+        if (!text.empty()) {
+            Told.push_back(text);
+        }
     }
 
     void TellNotKept(std::optional<text::RunTimeError> const& error) {
@@ -93,11 +122,20 @@ public:
         return text;
     }
 
-    // The sets that an editor offers which is opened now, the newest first.
-    [[nodiscard]] std::vector<std::string> Offered() const {
+    // The sets that an editor offers which is opened now on the quote file, the newest first.
+    [[nodiscard]] std::vector<std::string> Offered(std::string const& path) const {
+        static std::map<std::pair<Contents, std::string>, std::vector<std::string>> known;
+        auto const [found, isNew] = known.try_emplace({files.Contents, path}); // most trials leave the same
+        if (isNew) {
+            found->second = OfferedAnew(path);
+        }
+        return found->second;
+    }
+
+    [[nodiscard]] std::vector<std::string> OfferedAnew(std::string const& path) const {
         KeptEditor next;
         next.files.Contents = files.Contents;
-        next.OpenAgain();
+        next.OpenAgain(path);
         std::vector<std::string> sets;
         while (next.Unsaved.HasKept()) {
             next.Restore();
@@ -108,7 +146,7 @@ public:
 
     // The grid, the newest of the editor's own edits that are offered, and those of others, in any order.
     [[nodiscard]] std::string Memory() const {
-        auto offered = Offered();
+        auto offered = Offered(EditedPath);
         auto const isOfOthers = [](std::string const& set) { return set.find(" 9") != std::string::npos; };
         auto const own = std::ranges::find_if_not(offered, isOfOthers);
         std::string text = series->QuoteFileName + '\n' + Closes();
@@ -116,6 +154,11 @@ public:
         std::ranges::sort(offered);
         for (std::string const& set : offered) {
             text += isOfOthers(set) ? "\nof others: " + set : "";
+        }
+        if (files.Contents.contains(OtherPath)) {
+            for (std::string const& set : Offered(OtherPath)) {
+                text += "\nof the other file: " + set;
+            }
         }
         return text;
     }
@@ -130,6 +173,19 @@ private:
 };
 
 using Deed = std::function<void(KeptEditor&)>;
+
+// A save that was not done leaves everything; one that was tells also what it leaves behind.
+Ending EndingOfSave(KeptEditor const& world, MetFault const& met, std::string const& path) {
+    if (met.Call == platform::fake::FileCall::Replace) {
+        return {{"Not saved: " + met.Description()}};
+    }
+    Ending ending{{"30 rows saved to " + path}};
+    ending.IsDone = world.Told == ending.Told;
+    if (!ending.IsDone) {
+        ending.Told.push_back("Edits that were kept before cannot be read or deleted: " + met.Description());
+    }
+    return ending;
+}
 
 // Either nothing is told and all is kept, or it is told what is not. What is typed stays in either case.
 Ending EndingOf(KeptEditor const& world, MetFault const& met) {
@@ -166,6 +222,49 @@ std::function<Trial()> Maker(Deed const& prepare, Deed const& run) {
 TEST(EditorUnderFaults, KeepsAFirstEditOrTellsThatItDoesNot) {
     ExpectSafe("first edit", Maker([](KeptEditor&) {}, [](KeptEditor& world) { world.TypeNext(); }),
                {"List", "Length", "Overwrite"});
+}
+
+// A save from this world, and how it may end. What is said to be gone is left to be offered.
+Trial TrialOfSave(std::shared_ptr<KeptEditor> const& world, std::string const& path, Deed const& run) {
+    world->Failing.PieceSize = world->files.Contents.at(path).size();
+    Trial trial = TrialOf(world, run);
+    trial.Ends = [world, path](MetFault const& met) { return EndingOfSave(*world, met, path); };
+    trial.MayHold = [](std::string const& before, std::string const& after, std::string const& now) {
+        return now == after || IsDoneInPart(before, after, now);
+    };
+    trial.TriesGone = false;
+    return trial;
+}
+
+std::set<std::string_view> const CallsOfSave = {"Replace", "OpenForInput", "Read",
+                                                "List",    "Length",       "Remove"};
+
+TEST(EditorUnderFaults, SavesWhatWasRestoredAndLeavesTheSetsOfOthers) {
+    ExpectSafe(
+        "save",
+        [] {
+            auto const world = std::make_shared<KeptEditor>();
+            world->LeaveSet("test.txt.edits", 3, 901);
+            world->LeaveSet("test.txt.edits.2", 4, 902);
+            world->OpenAgain();
+            world->Restore();
+            return TrialOfSave(world, EditedPath, [](KeptEditor& running) { running.Save(); });
+        },
+        CallsOfSave);
+}
+
+TEST(EditorUnderFaults, SavesAsAnotherFileOrLeavesAll) {
+    ExpectSafe(
+        "save as",
+        [] {
+            auto const world = std::make_shared<KeptEditor>();
+            world->files.Contents[OtherPath] = QuoteLines(30);
+            world->LeaveSet("other.txt.edits", 3, 901, OtherPath);
+            world->OpenAgain();
+            world->TypeClose(3, 556);
+            return TrialOfSave(world, OtherPath, [](KeptEditor& running) { running.SaveAs(OtherPath); });
+        },
+        CallsOfSave);
 }
 
 TEST(EditorUnderFaults, KeepsAFurtherEditOrTellsThatItDoesNot) {

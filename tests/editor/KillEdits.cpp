@@ -49,7 +49,9 @@ public:
         history_.Start(*editor_);
     }
 
-    void Open(editor::UnsavedEdits& unsaved) const { unsaved.Open(*editor_, *series_, settings_); }
+    void Open(editor::UnsavedEdits& unsaved) const {
+        static_cast<void>(unsaved.Open(*editor_, *series_, settings_));
+    }
 
     // Does the edit; returns what it changed.
     editor::Change Do(int number) {

@@ -8,6 +8,8 @@
 #include "editor/basEdit.h"
 #include "editor/basUnsaved.h"
 #include "platform/disk/DiskFiles.h"
+#include "platform/fake/FailingFiles.h"
+#include "platform/fake/ForwardingFiles.h"
 #include "support/QuoteTexts.h"
 #include "support/TemporaryFolder.h"
 #include "text/RunTimeError.h"
@@ -21,6 +23,24 @@ constexpr char const* KeptPath = "C:\\Quotes\\test.txt.edits";
 constexpr char const* SecondPath = "C:\\Quotes\\test.txt.edits.2";
 constexpr char const* QuotePath = "C:\\Quotes\\test.txt";
 
+// Other files of which one cannot be read.
+class UnreadableFile final : public platform::fake::ForwardingFiles {
+public:
+    UnreadableFile(platform::Files& behind, std::string path)
+        : ForwardingFiles(behind),
+          path_(std::move(path)) {}
+
+    [[nodiscard]] std::unique_ptr<text::ByteSource> OpenForInput(std::string const& path) const override {
+        if (path == path_) {
+            throw text::RunTimeError(text::Fault::PermissionDenied);
+        }
+        return ForwardingFiles::OpenForInput(path);
+    }
+
+private:
+    std::string path_;
+};
+
 class UnsavedEditsTest : public EditorTest {
 protected:
     UnsavedEditsTest() { files.Contents[QuotePath] = QuoteLines(30); }
@@ -29,7 +49,7 @@ protected:
     void OpenEdited() {
         OpenDays(30);
         history.Start(*edited);
-        unsaved.Open(*edited, *series, settings);
+        toldFirst = unsaved.Open(*edited, *series, settings);
     }
 
     void Record(editor::ChangeKind kind = editor::ChangeKind::Edit) {
@@ -67,6 +87,7 @@ protected:
 
     editor::History history;
     editor::UnsavedEdits unsaved{files};
+    std::string toldFirst; // when the editor came up
 };
 
 TEST_F(UnsavedEditsTest, OfAnEditorThatWasLeftAreThereAgain) {
@@ -162,7 +183,7 @@ TEST_F(UnsavedEditsTest, ASaveDropsThem) {
     OpenEdited();
     TypeKept(2, 5, "555");
     EXPECT_TRUE(IsKept());
-    unsaved.Saved(*edited, *series, settings);
+    EXPECT_EQ(unsaved.Saved(*edited, *series, settings), "");
     EXPECT_FALSE(IsKept());
     OpenAgain();
     EXPECT_FALSE(unsaved.HasKept());
@@ -174,7 +195,7 @@ TEST_F(UnsavedEditsTest, ASaveKeepsThoseThatWereNotRestored) {
     std::string const first = files.Contents.at(KeptPath);
     OpenAgain();
     TypeKept(3, 5, "556");
-    unsaved.Saved(*edited, *series, settings);
+    EXPECT_EQ(unsaved.Saved(*edited, *series, settings), "");
     EXPECT_TRUE(unsaved.HasKept());
     EXPECT_EQ(files.Contents.at(KeptPath), first);
     EXPECT_FALSE(files.Contents.contains(SecondPath));
@@ -208,7 +229,7 @@ TEST_F(UnsavedEditsTest, ThatOlderOnesReplacedWaitAgain) {
     static_cast<void>(Restore());
     EXPECT_EQ(sheet.Text(4, 5), "104.00");
     EXPECT_EQ(files.Contents.at(SecondPath), second);
-    unsaved.Saved(*edited, *series, settings);
+    EXPECT_EQ(unsaved.Saved(*edited, *series, settings), "");
     EXPECT_FALSE(IsKept());
     OpenAgain();
     static_cast<void>(Restore());
@@ -262,7 +283,7 @@ TEST_F(UnsavedEditsTest, ThatWereRestoredOverOthersAreBackWhenThatIsUndone) {
     EXPECT_EQ(editor::ReadKeptEdits(files.Contents.at(SecondPath))->After.at(2).Texts.at(4), "556");
     Redo();
     EXPECT_FALSE(IsKept());
-    unsaved.Saved(*edited, *series, settings);
+    EXPECT_EQ(unsaved.Saved(*edited, *series, settings), "");
     EXPECT_FALSE(files.Contents.contains(SecondPath));
 }
 
@@ -290,7 +311,7 @@ TEST_F(UnsavedEditsTest, ThatAnotherEditorHasGoneOnWithAreNotForgotten) {
     TypeKept(2, 5, "555");
     editor::UnsavedEdits other{files};
     Open(SeriesOf(QuoteLines(30), settings.CurrencyFormat, "test.txt"));
-    other.Open(*edited, *series, settings);
+    static_cast<void>(other.Open(*edited, *series, settings));
     files.Contents.at(KeptPath) += "edit\n";
     dialogs.Answers = {platform::Answer::Yes};
     EXPECT_TRUE(other.Forget(dialogs));
@@ -303,7 +324,7 @@ TEST_F(UnsavedEditsTest, ASaveIntoAnotherFolderKeepsThem) {
     TypeKept(2, 5, "555");
     files.CurrentFolder = "D:\\Work\\";
     files.Contents["test.txt"] = QuoteLines(30); // as the save would
-    unsaved.Saved(*edited, *series, settings);
+    EXPECT_EQ(unsaved.Saved(*edited, *series, settings), "");
     EXPECT_TRUE(IsKept());
     TypeKept(3, 5, "556");
     OpenAgain();
@@ -323,17 +344,17 @@ TEST_F(UnsavedEditsTest, OfTheFileUnderAnotherSpellingAreOffered) {
     series->QuoteFileName = "link.txt";
     history.Start(*edited);
     editor::UnsavedEdits one{disk};
-    one.Open(*edited, *series, settings);
+    static_cast<void>(one.Open(*edited, *series, settings));
     Type(2, 5, "555");
     one.Keep(history.Record(*edited), editor::ChangeKind::Edit, *edited);
     std::filesystem::rename(folder.File("link.txt.edits"), folder.File("test.txt.edits"));
     OpenDays(30);
     editor::UnsavedEdits other{disk};
-    other.Open(*edited, *series, settings);
+    static_cast<void>(other.Open(*edited, *series, settings));
     EXPECT_TRUE(other.HasKept());
     EXPECT_FALSE(other.HasFileChanged());
     std::filesystem::remove(folder.File("link.txt"));
-    other.Open(*edited, *series, settings);
+    static_cast<void>(other.Open(*edited, *series, settings));
     EXPECT_FALSE(other.HasKept()); // of another contract
 }
 
@@ -341,7 +362,7 @@ TEST_F(UnsavedEditsTest, BehindASaveAreKeptOnTopOfIt) {
     OpenEdited();
     TypeKept(2, 5, "555");
     files.Contents[QuotePath] += "\r\n"; // as the save would
-    unsaved.Saved(*edited, *series, settings);
+    EXPECT_EQ(unsaved.Saved(*edited, *series, settings), "");
     TypeKept(3, 5, "556");
     OpenAgain();
     ASSERT_TRUE(unsaved.HasKept());
@@ -358,13 +379,13 @@ TEST_F(UnsavedEditsTest, OfRowsOlderThanTheFileAreAskedFor) {
     TypeKept(2, 5, "555");
     auto const saved = GridTexts();
     files.Contents[QuotePath] += "\r\n"; // as the save would
-    unsaved.Saved(*edited, *series, settings);
+    EXPECT_EQ(unsaved.Saved(*edited, *series, settings), "");
     OpenAgain();
     TypeKept(3, 5, "556");
     OpenEdited(); // after a restart, with the rows that were saved
     Type(2, 5, "555");
     static_cast<void>(history.Record(*edited));
-    unsaved.Open(*edited, *series, settings);
+    static_cast<void>(unsaved.Open(*edited, *series, settings));
     ASSERT_EQ(GridTexts(), saved);
     ASSERT_TRUE(unsaved.HasKept());
     EXPECT_TRUE(unsaved.HasFileChanged());
@@ -379,7 +400,7 @@ TEST_F(UnsavedEditsTest, ThatWereNotRestoredStayWhenAnotherNameIsSaved) {
     std::string const first = files.Contents.at(KeptPath);
     OpenAgain();
     series->QuoteFileName = "D:\\Other\\new.txt";
-    unsaved.Saved(*edited, *series, settings);
+    EXPECT_EQ(unsaved.Saved(*edited, *series, settings), "");
     EXPECT_EQ(files.Contents.at(KeptPath), first);
     EXPECT_FALSE(files.Contents.contains(SecondPath));
 }
@@ -388,7 +409,7 @@ TEST_F(UnsavedEditsTest, FollowTheNameThatASaveGave) {
     OpenEdited();
     TypeKept(2, 5, "555");
     series->QuoteFileName = "D:\\Other\\new.txt";
-    unsaved.Saved(*edited, *series, settings);
+    EXPECT_EQ(unsaved.Saved(*edited, *series, settings), "");
     EXPECT_FALSE(IsKept());
     TypeKept(3, 5, "556");
     EXPECT_TRUE(files.Contents.contains("D:\\Other\\new.txt.edits"));
@@ -408,7 +429,7 @@ TEST_F(UnsavedEditsTest, ThatTheLoadedFileHasAreNone) {
     TypeKept(2, 5, "555");
     Open(SeriesOf(QuoteLines(30), settings.CurrencyFormat));
     Type(2, 5, "555"); // as if it were loaded so
-    unsaved.Open(*edited, *series, settings);
+    static_cast<void>(unsaved.Open(*edited, *series, settings));
     EXPECT_FALSE(unsaved.HasKept());
     EXPECT_FALSE(IsKept());
 }
@@ -437,10 +458,10 @@ TEST_F(UnsavedEditsTest, OfAnotherContractAreNotOffered) {
     TypeKept(2, 5, "555");
     std::string const text = files.Contents.at(KeptPath);
     series->QuoteFileName = "corn.txt";
-    unsaved.Open(*edited, *series, settings);
+    static_cast<void>(unsaved.Open(*edited, *series, settings));
     EXPECT_FALSE(unsaved.HasKept());
     files.Contents["C:\\Quotes\\corn.txt.edits"] = text; // under a name that somebody gave it
-    unsaved.Open(*edited, *series, settings);
+    static_cast<void>(unsaved.Open(*edited, *series, settings));
     EXPECT_FALSE(unsaved.HasKept());
     TypeKept(3, 5, "556");
     EXPECT_EQ(files.Contents.at("C:\\Quotes\\corn.txt.edits"), text);
@@ -450,13 +471,13 @@ TEST_F(UnsavedEditsTest, OfAnotherContractAreNotOffered) {
 TEST_F(UnsavedEditsTest, WithoutAnOpenFileHaveANameOfTheirOwn) {
     Open(std::make_unique<quotes::QuoteSeries>());
     history.Start(*edited);
-    unsaved.Open(*edited, *series, settings);
+    static_cast<void>(unsaved.Open(*edited, *series, settings));
     editor::AppendRow(*edited, settings, dialogs);
     Record();
     EXPECT_TRUE(files.Contents.contains("C:\\Quotes\\untitled.edits"));
     Open(std::make_unique<quotes::QuoteSeries>());
     history.Start(*edited);
-    unsaved.Open(*edited, *series, settings);
+    static_cast<void>(unsaved.Open(*edited, *series, settings));
     ASSERT_TRUE(unsaved.HasKept());
     static_cast<void>(Restore());
     EXPECT_EQ(sheet.RowCount(), 1);
@@ -530,7 +551,7 @@ TEST_F(UnsavedEditsTest, ThatCannotBeKeptAreKeptByTheNextThatCan) {
 TEST_F(UnsavedEditsTest, OfTwoProgramsAreNotMixed) {
     OpenEdited();
     editor::UnsavedEdits other{files};
-    other.Open(*edited, *series, settings);
+    static_cast<void>(other.Open(*edited, *series, settings));
     editor::History otherHistory;
     otherHistory.Start(*edited);
     TypeKept(2, 5, "555");
@@ -550,7 +571,7 @@ TEST_F(UnsavedEditsTest, OfTwoProgramsAreNotMixed) {
 TEST_F(UnsavedEditsTest, OfAnotherProgramStayWhenTheGridIsFilledAgain) {
     OpenEdited();
     editor::UnsavedEdits other{files};
-    other.Open(*edited, *series, settings);
+    static_cast<void>(other.Open(*edited, *series, settings));
     editor::History otherHistory;
     otherHistory.Start(*edited);
     TypeKept(2, 5, "555");
@@ -564,11 +585,12 @@ TEST_F(UnsavedEditsTest, OfAnotherProgramStayWhenTheGridIsFilledAgain) {
     EXPECT_EQ(editor::ReadKeptEdits(files.Contents.at(KeptPath))->After.at(3).Texts.at(4), "557");
 }
 
-TEST_F(UnsavedEditsTest, AFileThatCannotBeReadIsAFault) {
+TEST_F(UnsavedEditsTest, ThatCannotBeReadAreToldAndStay) {
     OpenEdited();
     TypeKept(2, 5, "555");
     files.BreakReading = {0, text::Fault::PermissionDenied};
-    EXPECT_THROW(OpenAgain(), text::RunTimeError);
+    OpenAgain();
+    EXPECT_EQ(toldFirst, "Edits that were kept before cannot be read or deleted: Permission denied.");
     EXPECT_FALSE(unsaved.HasKept());
     files.BreakReading.reset();
     std::string const first = files.Contents.at(KeptPath);
@@ -577,11 +599,54 @@ TEST_F(UnsavedEditsTest, AFileThatCannotBeReadIsAFault) {
     EXPECT_TRUE(files.Contents.contains(SecondPath));
 }
 
-TEST_F(UnsavedEditsTest, ThatCannotBeDroppedAreAFaultAndTheNextOnesAreKept) {
+// As when a virus scanner holds the file of the second of three editors.
+TEST_F(UnsavedEditsTest, ThatCannotBeReadDoNotHideOthers) {
+    LeaveTwoSets();
+    TypeKept(4, 5, "557");
+    UnreadableFile unreadable(files, SecondPath);
+    editor::UnsavedEdits next(unreadable);
+    OpenDays(30);
+    EXPECT_EQ(next.Open(*edited, *series, settings),
+              "Edits of these quotes were not saved. Restore Unsaved Edits in the context menu of the cells "
+              "brings them back. Others cannot be read or deleted: Permission denied.");
+    EXPECT_EQ(next.Restore(*edited, dialogs), "Unsaved edits restored");
+    EXPECT_EQ(sheet.Text(4, 5), "557");
+    ASSERT_TRUE(next.HasKept());
+    EXPECT_EQ(next.Restore(*edited, dialogs), "Unsaved edits restored");
+    EXPECT_EQ(sheet.Text(2, 5), "555");
+    EXPECT_FALSE(next.HasKept());
+}
+
+TEST_F(UnsavedEditsTest, OfTheNameThatASaveGaveAreToldWhenTheyCannotBeRead) {
+    OpenEdited();
+    TypeKept(2, 5, "555");
+    UnreadableFile unreadable(files, "D:\\Other\\new.txt.edits");
+    files.Contents["D:\\Other\\new.txt.edits"] = "of another editor";
+    editor::UnsavedEdits next(unreadable);
+    OpenDays(30);
+    static_cast<void>(next.Open(*edited, *series, settings));
+    series->QuoteFileName = "D:\\Other\\new.txt";
+    EXPECT_EQ(next.Saved(*edited, *series, settings),
+              "Edits that were kept before cannot be read or deleted: Permission denied");
+}
+
+// Of a file that is not there the system may tell that it must not be looked at.
+TEST_F(UnsavedEditsTest, ThatAreNotThereAreNotMissed) {
+    platform::fake::FailingFiles failing(files);
+    editor::UnsavedEdits next(failing);
+    OpenDays(30);
+    static_cast<void>(next.Open(*edited, *series, settings));
+    failing.FailAt({.Number = 5, .Raised = text::Fault::PermissionDenied});
+    EXPECT_EQ(next.Saved(*edited, *series, settings), "");
+    EXPECT_EQ(failing.Failed(), platform::fake::FileCall::Length);
+}
+
+TEST_F(UnsavedEditsTest, ThatCannotBeDroppedAreToldAndTheNextOnesAreKept) {
     OpenEdited();
     TypeKept(2, 5, "555");
     files.BreakRemoving = text::Fault::PermissionDenied;
-    EXPECT_THROW(unsaved.Saved(*edited, *series, settings), text::RunTimeError);
+    EXPECT_EQ(unsaved.Saved(*edited, *series, settings),
+              "Edits that were kept before cannot be read or deleted: Permission denied");
     files.BreakRemoving.reset();
     TypeKept(3, 5, "556");
     OpenAgain();

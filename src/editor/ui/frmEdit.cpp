@@ -222,12 +222,15 @@ QString frmEdit::RestoreCaption() const {
 }
 
 void frmEdit::Finish(SaveResult const& result) {
-    if (!result.Status.empty()) {
-        status_->Tell(ToQt(result.Status));
-    }
+    std::string told = result.Status;
     if (result.IsSaved) {
         history_.Record(*editor_); // the sorting, which was saved as well
-        TellNotKept(text::Trap([this] { unsaved_.Saved(*editor_, series_, settings_); }));
+        notKept_.clear();
+        std::string const left = unsaved_.Saved(*editor_, series_, settings_);
+        told += left.empty() ? left : ". " + left;
+    }
+    if (!told.empty()) {
+        status_->Tell(ToQt(told));
     }
 }
 
@@ -249,17 +252,11 @@ void frmEdit::LoadQuotes() {
     PlaceGrid(); // the width of the columns follows from its width
     OpenEditor(*editor_, series_);
     notKept_.clear();
-    ForgetStatus();
     platform::qt::SetCaption(*this, EditorCaption(series_));
     spread_->GotoCell(editor_->EditCount > 0 ? 1 : 0, 1);
     RebuildGrid(*editor_, settings_);
     history_.Start(*editor_);
-    TellNotKept(text::Trap([this] { unsaved_.Open(*editor_, series_, settings_); }));
-    if (unsaved_.HasKept()) {
-        status_->Tell(
-            QStringLiteral("Edits of these quotes were not saved. Restore Unsaved Edits in the context "
-                           "menu of the cells brings them back."));
-    }
+    status_->Tell(ToQt(unsaved_.Open(*editor_, series_, settings_)));
 }
 
 void frmEdit::PlaceGrid() {

@@ -41,7 +41,7 @@ ShownEditor::ShownEditor(std::string const& content, std::string const& name)
         Folder.Write(name, content);
     }
     Window =
-        std::make_unique<editor::ui::frmEdit>(nullptr, *Series, Settings, Files, Dialogs, Printer, Printer);
+        std::make_unique<editor::ui::frmEdit>(nullptr, *Series, Settings, Failing, Dialogs, Printer, Printer);
     grid_ = Window->findChild<editor::ui::SpreadGrid*>(QStringLiteral("Spread"));
 }
 

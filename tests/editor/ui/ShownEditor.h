@@ -5,6 +5,7 @@
 
 #include "editor/ui/frmEdit.h"
 #include "platform/disk/DiskFiles.h"
+#include "platform/fake/FailingFiles.h"
 #include "platform/fake/RecordingPrinter.h"
 #include "support/TemporaryFolder.h"
 #include "windows/ModalAnswers.h"
@@ -65,6 +66,7 @@ public:
     std::unique_ptr<quotes::QuoteSeries> Series;
     settings::Settings Settings;
     platform::disk::DiskFiles Files;
+    platform::fake::FailingFiles Failing{Files}; // which the editor has
     platform::fake::RecordingPrintQueue Printer;
     WindowDialogs Dialogs;
     ModalAnswers Answers;

@@ -174,6 +174,33 @@ private Q_SLOTS:
         });
     }
 
+    void ThoseThatCannotBeReadAreToldWhenTheEditorOpensAndBehindASave() {
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        for (char const* name : {KeptName, "oats.txt.edits"}) {
+            std::filesystem::create_directory(shown.Folder.File(name));
+        }
+        shown.Run([&] {
+            QCOMPARE(shown.Status(),
+                     u"Edits that were kept before cannot be read or deleted: Permission denied."_s);
+            shown.Type(2, 5, u"555"_s);
+        });
+        shown.Run([&] {
+            QCOMPARE(
+                shown.Status(),
+                u"Edits of these quotes were not saved. Restore Unsaved Edits in the context menu of the "
+                "cells brings them back. Others cannot be read or deleted: Permission denied."_s);
+            ChooseRestore(shown);
+            QCOMPARE(shown.Text(2, 5), u"555"_s);
+            shown.Answers.Type(QString::fromStdString(shown.Folder.File("oats.txt")));
+            shown.Choose("mnuFileSaveAs");
+            QTRY_VERIFY(shown.Answers.IsDone());
+            QVERIFY2(shown.Status().endsWith(u"oats.txt. Edits that were kept before cannot be read or "
+                                             "deleted: Permission denied"_s),
+                     qPrintable(shown.Status()));
+            QVERIFY(!std::filesystem::exists(shown.Folder.File(SecondName)));
+        });
+    }
+
     void OlderOnesAreOfferedBehindTheNewest() {
         ShownEditor shown(QuoteLines(30), "corn.txt");
         shown.Run([&] { shown.Type(2, 5, u"555"_s); });
@@ -190,6 +217,36 @@ private Q_SLOTS:
             QVERIFY(!OffersToRestore(shown));
             shown.Press(Qt::Key_Z, Qt::ControlModifier);
             QVERIFY(OffersToRestore(shown));
+        });
+    }
+
+    // As often as an edit and the save behind it call files.
+    void AFaultOfAnyCallIsToldAndTheNextSaveWorks() {
+        QString const notKept =
+            u"Unsaved edits cannot be kept: Permission denied. What is not saved is lost when the editor is closed."_s;
+        ShownEditor shown(QuoteLines(30), "corn.txt");
+        shown.Run([&] {
+            QString const saved =
+                u"30 rows saved to "_s + QString::fromStdString(shown.Folder.File("corn.txt"));
+            bool hasMet = true;
+            for (int number = 1; hasMet; ++number) {
+                QString const price = QString::number(500 + number);
+                shown.Failing.FailAt({.Number = number, .Raised = text::Fault::PermissionDenied});
+                shown.Type(2, 5, price);
+                QVERIFY2(shown.Status().isEmpty() || shown.Status() == notKept, qPrintable(shown.Status()));
+                shown.Choose("mnuFileSave");
+                hasMet = shown.Failing.Failed().has_value();
+                shown.Failing.Recover();
+                QVERIFY2(shown.Status().startsWith(saved) ||
+                             shown.Status() == u"Not saved: Permission denied"_s,
+                         qPrintable(shown.Status()));
+                QCOMPARE(shown.Text(2, 5), price);
+                shown.Choose("mnuFileSave");
+                QCOMPARE(shown.Status(), saved);
+                QVERIFY(shown.Folder.Read("corn.txt").find(", " + price.toStdString() + ".00, ") !=
+                        std::string::npos);
+                QVERIFY(!HasKept(shown));
+            }
         });
     }
 
