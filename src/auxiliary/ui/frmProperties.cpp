@@ -42,7 +42,14 @@ bool frmProperties::event(QEvent* event) {
 void frmProperties::ShowFigures() {
     std::vector<PropertyCaption> captions;
     auto const fault = text::Trap([&] { captions = DescribeQuotes(series_, settings_.CurrencyFormat); });
-    for (PropertyCaption const& caption : captions) {
+    if (fault) {
+        for (PropertyCaption& caption : shown_) {
+            caption.Caption.clear(); // those of other quotes
+        }
+    } else {
+        shown_ = std::move(captions);
+    }
+    for (PropertyCaption const& caption : shown_) {
         findChild<QLabel*>(platform::pictures::ToQt(caption.Label))
             ->setText(platform::pictures::ToQt(caption.Caption));
     }

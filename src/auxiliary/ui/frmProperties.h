@@ -3,12 +3,14 @@
 
 #pragma once
 
+#include "auxiliary/basProperties.h"
 #include "platform/Dialogs.h"
 #include "quotes/QuoteSeries.h"
 #include "settings/Settings.h"
 
 #include <QDialog>
 #include <memory>
+#include <vector>
 
 namespace Ui {
 class frmProperties;
@@ -38,6 +40,7 @@ private:
     quotes::QuoteSeries const& series_;
     settings::Settings const& settings_;
     platform::Dialogs& dialogs_;
+    std::vector<PropertyCaption> shown_;
     bool isFaultShown_ = false;
     std::unique_ptr<Ui::frmProperties> ui_;
 };

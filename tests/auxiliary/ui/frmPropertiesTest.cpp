@@ -83,6 +83,24 @@ private Q_SLOTS:
         QCOMPARE(names, QStringList({u"  q060.txt"_s, u"  q025.txt"_s}));
         QCOMPARE(main.Window->findChildren<QWidget*>(u"frmProperties"_s).size(), 1); // kept for later
     }
+
+    void AFaultTakesTheLastFiguresAway() {
+        RunningWindow main;
+        QStringList names;
+        auto const note = [&](QWidget& window) {
+            names.append(window.findChild<QLabel*>(u"lblQuoteFileName"_s)->text());
+            QTest::keyClick(&window, Qt::Key_Escape);
+        };
+        main.OpenQuotes("q060.txt");
+        main.Answers.Next(note);
+        main.Choose("mnuFileProperties");
+        main.Data->Quotes.Working[1].Close = 1.7e308;
+        main.Data->Quotes.Working[2].Close = 1.7e308;
+        main.Answers.Next(note);
+        main.Choose("mnuFileProperties");
+        QCOMPARE(names, QStringList({u"  q060.txt"_s, QString()}));
+        QVERIFY(main.Answers.Shown().contains(OkMessage(u"Quorvex"_s, u"none"_s, u"Overflow"_s)));
+    }
 };
 
 template struct ListedWindowTest<frmPropertiesTest>;
