@@ -3,6 +3,7 @@
 
 #include "auxiliary/ui/frmHelp.h"
 
+#include "platform/fake/FailingFiles.h"
 #include "platform/fake/MemoryFiles.h"
 #include "platform/fake/ScriptedDialogs.h"
 #include "windows/PrintedPdf.h"
@@ -277,6 +278,31 @@ private Q_SLOTS:
         });
         help.RunModal("Some.rtf");
         QVERIFY(answers.IsDone());
+    }
+
+    void ADocumentThatCannotBeReadComesWithTheNextReading() {
+        platform::fake::MemoryFiles files;
+        files.Contents["folder/Some.rtf"] = R"({\rtf1 First})";
+        platform::fake::FailingFiles failing(files);
+        settings::Settings const settings;
+        platform::fake::ScriptedDialogs dialogs;
+        std::string const folder = "folder/";
+        auxiliary::ui::frmHelp help(nullptr, folder, settings, failing, dialogs);
+        ModalAnswers answers;
+        answers.Next([&](QWidget& window) {
+            for (int number = 1; number <= 3; ++number) { // opening, the text, its end
+                failing.FailAt({.Number = number, .Raised = text::Fault::PermissionDenied});
+                Activate(window);
+                QVERIFY(failing.Failed().has_value());
+                QCOMPARE(TextOf(window).toPlainText(), QString());
+                failing.Recover();
+                Activate(window);
+                QCOMPARE(TextOf(window).toPlainText(), u"First"_s);
+            }
+            Choose(window, "mnuFileExit");
+        });
+        help.RunModal("Some.rtf");
+        QCOMPARE(answers.Shown(), QStringList{u"frmHelp"_s});
     }
 
     void AReloadGoesToTheVeryTopWithNothingSelected_data() {

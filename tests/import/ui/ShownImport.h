@@ -5,6 +5,7 @@
 
 #include "import/ui/frmImport.h"
 #include "platform/disk/DiskFiles.h"
+#include "platform/fake/FailingFiles.h"
 #include "platform/fake/ForwardingFiles.h"
 #include "platform/fake/ScriptedDialogs.h"
 #include "support/TemporaryFolder.h"
@@ -84,7 +85,8 @@ public:
 
     TemporaryFolder Folder;
     platform::disk::DiskFiles Disk;
-    SlowFiles Files{Disk};
+    platform::fake::FailingFiles Failing{Disk};
+    SlowFiles Files{Failing};
     platform::fake::ScriptedDialogs Dialogs;
     settings::Settings Settings = settings::DefaultSettings(Folder.Text());
     quotes::QuoteSeries Series;

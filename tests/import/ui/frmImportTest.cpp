@@ -492,6 +492,54 @@ private Q_SLOTS:
         QVERIFY(shown.Answers.Shown().contains(OkMessage(u"Quorvex"_s, u"none"_s, u"Path not found"_s)));
     }
 
+    void AFaultOfAnyCallIsToldAndTheNextReadingWorks() {
+        ShownImport shown;
+        std::string const all = TableRows(60);
+        shown.Folder.Write("wheat.txt", QuotesOf(TableHead + all.substr(all.find("2024-06-26"))));
+        shown.Run("wheat.csv", TableHead + all, [&] {
+            QString const whole = shown.Result();
+            bool hasMet = true;
+            for (int number = 1; hasMet; ++number) {
+                shown.Failing.FailAt({.Number = number, .Raised = text::Fault::PermissionDenied});
+                shown.Press("cmdAsFound");
+                QVERIFY(shown.WaitForEnd());
+                hasMet = shown.Failing.Failed().has_value();
+                QVERIFY2(shown.Result() == whole || shown.Result().endsWith(u"Permission denied."_s),
+                         qPrintable(shown.Result()));
+                shown.Failing.Recover();
+                shown.Press("cmdAsFound");
+                QVERIFY(shown.WaitForEnd());
+                QCOMPARE(shown.Result(), whole);
+                QVERIFY(shown.Can("cmdUpdate"));
+            }
+        });
+    }
+
+    void AFaultOfAnUpdateIsToldAndLeavesTheFile() {
+        ShownImport shown;
+        std::string const all = TableRows(60);
+        std::string const old = QuotesOf(TableHead + all.substr(all.find("2024-06-26")));
+        shown.Folder.Write("wheat.txt", old);
+        auto const imported = shown.Run("wheat.csv", TableHead + all, [&] {
+            for (int number = 1; shown.Window->isVisible(); ++number) {
+                QVERIFY(shown.Can("cmdUpdate"));
+                QCOMPARE(shown.Folder.Read("wheat.txt"), old);
+                shown.Failing.FailAt({.Number = number, .Raised = text::Fault::DiskFull});
+                shown.Press("cmdUpdate");
+                bool const isShown =
+                    shown.Answers.TakeShown().contains(OkMessage(u"Quorvex"_s, u"none"_s, u"Disk full"_s));
+                QVERIFY2(isShown || !shown.Window->isVisible() || shown.Result().endsWith(u"Disk full."_s),
+                         qPrintable(shown.Result()));
+                shown.Failing.Recover();
+                shown.Press("cmdAsFound");
+                QVERIFY(shown.WaitForEnd());
+            }
+        });
+        QVERIFY(imported.has_value());
+        QCOMPARE(shown.Folder.Read("wheat.txt"), QuotesOf(TableHead + all));
+        QCOMPARE(shown.Folder.Read("wheat.txt~"), old);
+    }
+
     void AFileThatCannotBeReadTellsWhy() {
         ShownImport shown;
         shown.RunAtOnce({shown.Folder.File("gone.csv"), nullptr}, [&] {

@@ -195,6 +195,9 @@ private Q_SLOTS:
         QCOMPARE(shown.Dialogs.Messages.size(), 1U);
         QCOMPARE(shown.Dialogs.Messages[0].Text, std::string("Permission denied"));
         QCOMPARE(shown.Dialogs.Messages[0].Title, std::string("Quorvex"));
+        shown.Files.BreakWriting.reset();
+        SaveImageAs(shown, answers, TypeName(folder.File("chart.png")));
+        QVERIFY(IsPng(shown.Files.Contents.at(folder.File("chart.png"))));
     }
 };
 
