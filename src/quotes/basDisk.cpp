@@ -37,6 +37,11 @@ text::SpelledNumber NumberOrInfinity(std::string_view field) {
     return number;
 }
 
+text::SpelledNumber TakeNumber(text::FieldReader& fields) {
+    auto const plain = fields.TakePlainDecimal();
+    return plain.Decimals >= 0 ? plain : NumberOrInfinity(TakeOrEmpty(fields));
+}
+
 void StoreRounded(QuoteLine const& line, text::NumberFormat const& format, QuoteRecord& record) {
     record.Date = text::FormatDate(*line.Date);
     for (std::size_t index = 0; index < NumberCount; ++index) {
@@ -83,7 +88,7 @@ bool QuoteLine::IsQuote() const {
 
 QuoteLine ReadQuoteLine(text::FieldReader& fields) {
     auto const date = text::ParseDate(TakeOrEmpty(fields));
-    auto const next = [&] { return NumberOrInfinity(TakeOrEmpty(fields)); };
+    auto const next = [&] { return TakeNumber(fields); };
     return {date, {next(), next(), next(), next(), next(), next()}}; // in this order
 }
 

@@ -4,6 +4,8 @@
 #include "text/basFields.h"
 
 #include "text/Characters.h"
+#include "text/DecimalNumber.h"
+#include "text/LeadingDigits.h"
 #include "text/RunTimeError.h"
 
 #include <algorithm>
@@ -129,12 +131,40 @@ std::string_view FieldReader::Take() {
             --length;
         }
     }
+    PassEnd(end);
+    return {buffer_.get() + keep_, length};
+}
+
+SpelledNumber FieldReader::TakePlainDecimal() {
+    constexpr std::size_t Most = 7; // digits, so that eight characters have all of them and one that is none
+    constexpr std::size_t MostLooked = 2 * (Most + 1);
+    if (!IsAtField() || owesEmpty_ || end_ - at_ < MostLooked) {
+        return {};
+    }
+    char const* const begin = buffer_.get() + at_;
+    LeadingDigits const whole = ReadLeadingDigits(begin);
+    bool const hasPoint = whole.Count <= Most && begin[whole.Count] == '.';
+    std::size_t length = whole.Count + (hasPoint ? 1 : 0);
+    LeadingDigits const decimals = hasPoint ? ReadLeadingDigits(begin + length) : LeadingDigits();
+    length += decimals.Count;
+    if (length == 0 || whole.Count > Most || decimals.Count > Most || !EndsField(begin[length])) {
+        return {};
+    }
+    keep_ = at_;
+    PassEnd(at_ + length);
+    double const power = ExactPowers[decimals.Count];
+    // Fifteen digits at the most, and so exact before the division.
+    return {(static_cast<double>(whole.Value) * power + static_cast<double>(decimals.Value)) / power,
+            static_cast<int>(decimals.Count)};
+}
+
+// Goes on behind the end of a field.
+void FieldReader::PassEnd(std::size_t end) {
     // A line end stays: it is white space in front of the next field.
     insideLine_ = end < end_ && buffer_[end] == ',';
     end += insideLine_ ? 1 : 0;
     // Mostly a blank follows: with it out of the way the next field is at hand.
     at_ = end < end_ && buffer_[end] == ' ' ? end + 1 : end;
-    return {buffer_.get() + keep_, length};
 }
 
 } // namespace quorvex::text

@@ -4,6 +4,8 @@
 // Free-format fields: the way in which quote files and parameter files are read.
 #pragma once
 
+#include "text/basNumbers.h"
+
 #include <cstddef>
 #include <memory>
 #include <span>
@@ -53,6 +55,11 @@ public:
     // The next field, good until the next call. Raises "Input past end of file" when none is left.
     [[nodiscard]] std::string_view Take();
 
+    // The next field when it is a plain decimal with at most seven digits on either side of the point, and
+    // at hand with its end. Otherwise the number has negative decimals, and the field stays. This is the
+    // quick way for the numbers of most files.
+    [[nodiscard]] SpelledNumber TakePlainDecimal();
+
 private:
     [[nodiscard]] bool Fill();
 
@@ -67,6 +74,7 @@ private:
     template <class Ends>
     [[nodiscard]] std::size_t FindEnd(std::size_t at, Ends ends);
     [[nodiscard]] bool FillBehind(std::size_t& at);
+    void PassEnd(std::size_t end);
 
     ByteSource& source_;
     std::unique_ptr<char[]> buffer_; // bytes 0..end_-1 are filled; a new block need not be cleared first

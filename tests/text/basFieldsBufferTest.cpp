@@ -6,9 +6,11 @@
 #include "support/Golden.h"
 #include "text/RunTimeError.h"
 #include "text/basFields.h"
+#include "text/basNumbers.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <random>
 
@@ -94,6 +96,69 @@ TEST(FieldReaderBuffer, GivesTheSameFieldsOfAnyTextInPiecesOfAnySize) {
         }
     }
     EXPECT_GT(fieldCount, 10'000U);
+}
+
+std::string Spelled(SpelledNumber const& number) {
+    return PlainNumber(number.Value) + '/' + std::to_string(number.Decimals);
+}
+
+// A plain decimal as its number and decimals, other fields as they stand.
+std::string SpelledField(std::string_view field) {
+    SpelledNumber const number = field.empty() ? SpelledNumber() : LeadingSpelledNumber(field);
+    return number.Decimals < 0 ? std::string(field) : Spelled(number);
+}
+
+// The same of all fields, with the plain decimals taken the quick way where that is open.
+FieldTexts SpelledInPieces(std::string_view text, std::size_t pieceSize, int& quickCount) {
+    PieceSource source(text, pieceSize);
+    FieldReader reader(source);
+    FieldTexts fields;
+    while (!reader.AtEnd()) {
+        SpelledNumber const number = reader.TakePlainDecimal();
+        quickCount += number.Decimals < 0 ? 0 : 1;
+        fields.push_back(number.Decimals < 0 ? SpelledField(reader.Take()) : Spelled(number));
+    }
+    return fields;
+}
+
+TEST(FieldReaderBuffer, TakesPlainDecimalsAsItTakesFields) {
+    std::mt19937_64 random(20020305); // NOLINT: the same texts in every run
+    constexpr std::string_view Alphabet = "0123456789987654321012345678.,,,\r\n -x\"";
+    std::uniform_int_distribution<std::size_t> letter(0, Alphabet.size() - 1);
+    std::uniform_int_distribution<std::size_t> length(0, 150);
+    int quickCount = 0;
+    for (int round = 0; round < 300; ++round) {
+        std::string text(length(random), ' ');
+        for (char& c : text) {
+            c = Alphabet[letter(random)];
+        }
+        FieldTexts expected = FieldsOf(text);
+        std::ranges::transform(expected, expected.begin(), SpelledField);
+        for (std::size_t const pieceSize : {23U, 150U}) {
+            ASSERT_EQ(SpelledInPieces(text, pieceSize, quickCount), expected) << testing::PrintToString(text);
+        }
+    }
+    EXPECT_GT(quickCount, 500);
+}
+
+TEST(FieldReaderBuffer, TakesDecimalsOfSevenDigitsOnEitherSideTheQuickWay) {
+    TextSource source("1234567.7654321,.5,12345678,1.12345678,.,0007,-1,1 ,1e1,12:,7\r\n                ");
+    FieldReader reader(source);
+    EXPECT_EQ(Spelled(reader.TakePlainDecimal()), "1234567.7654321/7");
+    EXPECT_EQ(Spelled(reader.TakePlainDecimal()), "0.5/1");
+    for (char const* const notQuick : {"12345678", "1.12345678"}) {
+        EXPECT_LT(reader.TakePlainDecimal().Decimals, 0);
+        EXPECT_EQ(reader.Take(), notQuick);
+    }
+    EXPECT_EQ(Spelled(reader.TakePlainDecimal()), "0/0");
+    EXPECT_EQ(Spelled(reader.TakePlainDecimal()), "7/0");
+    for (char const* const notPlain : {"-1", "1", "1e1", "12:"}) {
+        EXPECT_LT(reader.TakePlainDecimal().Decimals, 0);
+        EXPECT_EQ(reader.Take(), notPlain);
+    }
+    EXPECT_EQ(Spelled(reader.TakePlainDecimal()), "7/0");
+    EXPECT_LT(reader.TakePlainDecimal().Decimals, 0);
+    EXPECT_TRUE(reader.AtEnd());
 }
 
 TEST(FieldReaderBuffer, SkipsAByteOrderMarkThatComesInPieces) {
