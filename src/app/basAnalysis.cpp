@@ -66,7 +66,8 @@ bool ReadParameters(Program& program, AnalysisServices const& services, std::str
 // Returns whether all cycles were fitted.
 bool FitCycles(Program& program, AnalysisServices const& services, int cycleCount,
                std::vector<cycles::SinusoidFit>& fits) {
-    if (cycleCount > 1) {
+    // It has been computed, unless the prices cannot be shown.
+    if (cycleCount > 1 && !program.Curves.States.MovingAverage.IsReady()) {
         cycles::RefreshMovingAverage(program.Quotes, program.Settings, program.Curves);
     }
     return platform::RunReported(services.Dialogs, [&] {
@@ -122,8 +123,6 @@ WholeForecast ComputeWholeForecast(Program const& program) {
     WholeForecast forecast;
     forecast.Values = cycles::ComputeForecast(program.Cycles, program.Quotes);
     forecast.Dates = cycles::ComputeForecastDates(program.Quotes.LastQuoteDate);
-    forecast.PreviousCloses = cycles::PreviousCloseLines(program.Quotes);
-    forecast.EstimatedValues = cycles::EstimatedValueLines(forecast.Values, forecast.Dates);
     return forecast;
 }
 
@@ -131,7 +130,7 @@ WholeForecast ComputeWholeForecast(Program const& program) {
 void FollowCycles(Program& program, AnalysisServices const& services, AnalysisResult& result) {
     platform::NoPendingMessages pending;
     cycles::ReadGrid(services.Grid, program.Cycles, pending);
-    cycles::ComputeCurves(program.Quotes, program.Settings, program.Cycles, program.Curves);
+    cycles::ComputeCurvesOfCycles(program.Quotes, program.Cycles, program.Curves);
     cycles::ChartStates const& states = program.Curves.States;
     Report(states.Composite, services.Dialogs); // which has the fault of the cycles, if they have one
     if (states.Composite.IsReady() && states.MovingAverage.IsReady()) {

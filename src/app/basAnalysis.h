@@ -30,8 +30,6 @@ struct AnalysisRequest {
 struct WholeForecast {
     cycles::ForecastCurve Values;
     cycles::ForecastDates Dates;
-    std::vector<std::string> PreviousCloses;
-    std::vector<std::string> EstimatedValues;
 };
 
 // What an analysis asks of the outside.

@@ -5,6 +5,7 @@
 
 #include "auxiliary/basProperties.h"
 #include "cli/JsonText.h"
+#include "cycles/basForecast.h"
 
 #include <cstddef>
 
@@ -93,11 +94,11 @@ Json CorrelationJson(app::AnalysisResult const& result) {
             {"title", result.CorrelationMessage.Title}};
 }
 
-Json ForecastJson(app::WholeForecast const& forecast) {
+Json ForecastJson(quotes::QuoteSeries const& series, app::WholeForecast const& forecast) {
     return {{"Values", ArrayOf(forecast.Values, cycles::ForecastDays)},
             {"Dates", ArrayOf(forecast.Dates, cycles::ForecastDays)},
-            {"List1", forecast.PreviousCloses},
-            {"List2", forecast.EstimatedValues}};
+            {"List1", cycles::PreviousCloseLines(series)},
+            {"List2", cycles::EstimatedValueLines(forecast.Values, forecast.Dates)}};
 }
 
 Json PropertiesJson(std::vector<auxiliary::PropertyCaption> const& properties) {
@@ -140,7 +141,7 @@ std::string AnalysisJson(app::Program const& program, cycles::ParameterGrid cons
         json["Detrend"] = result.IsDetrended;
     }
     json["Correlation"] = CorrelationJson(result);
-    json["Forecast"] = result.ForecastShown ? ForecastJson(*result.ForecastShown) : Json();
+    json["Forecast"] = result.ForecastShown ? ForecastJson(series, *result.ForecastShown) : Json();
     json["Properties"] = result.Properties ? PropertiesJson(*result.Properties) : Json();
     return JsonText(json);
 }

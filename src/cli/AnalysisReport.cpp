@@ -5,6 +5,7 @@
 
 #include "auxiliary/basProperties.h"
 #include "cycles/basCurves.h"
+#include "cycles/basForecast.h"
 #include "search/basSearchReading.h"
 #include "text/basFormats.h"
 #include "text/basTexts.h"
@@ -122,14 +123,16 @@ std::string Swing(app::Program const& program) {
            '\n';
 }
 
-std::string ForecastTable(app::WholeForecast const& forecast) {
+std::string ForecastTable(quotes::QuoteSeries const& series, app::WholeForecast const& forecast) {
     constexpr std::size_t ColumnWidth = 34;
     std::string lines = "Forecast\n  " + PadRight("Previous Closes", ColumnWidth) + "Estimated Values\n";
-    std::size_t const count = std::max(forecast.PreviousCloses.size(), forecast.EstimatedValues.size());
+    auto const previousCloses = cycles::PreviousCloseLines(series);
+    auto const estimatedValues = cycles::EstimatedValueLines(forecast.Values, forecast.Dates);
+    std::size_t const count = std::max(previousCloses.size(), estimatedValues.size());
     for (std::size_t index = 0; index < count; ++index) {
-        bool const known = index < forecast.PreviousCloses.size();
-        lines += "  " + PadRight(known ? forecast.PreviousCloses[index] : std::string(), ColumnWidth);
-        lines += forecast.EstimatedValues[index] + '\n';
+        bool const known = index < previousCloses.size();
+        lines += "  " + PadRight(known ? previousCloses[index] : std::string(), ColumnWidth);
+        lines += estimatedValues[index] + '\n';
     }
     return lines;
 }
@@ -151,7 +154,7 @@ std::string AnalysisReport(app::Program const& program, cycles::ParameterGrid co
         report += Swing(program) + '\n' + Found(result);
     }
     if (result.ForecastShown) {
-        report += '\n' + ForecastTable(*result.ForecastShown);
+        report += '\n' + ForecastTable(program.Quotes, *result.ForecastShown);
     }
     return report;
 }

@@ -98,8 +98,12 @@ void ComputeFromCycles(quotes::QuoteSeries const& series, CycleParameterSet& set
 
 void ComputeCurves(quotes::QuoteSeries const& series, settings::Settings const& settings,
                    CycleParameterSet& set, CycleCurves& curves) {
-    MarkEmptyCharts(series, set, curves.States);
     ComputeQuoteCurves(series, settings, curves);
+    ComputeCurvesOfCycles(series, set, curves);
+}
+
+void ComputeCurvesOfCycles(quotes::QuoteSeries const& series, CycleParameterSet& set, CycleCurves& curves) {
+    MarkEmptyCharts(series, set, curves.States);
     if (!NeedOfCycles(set)) {
         ComputeFromCycles(series, set, curves);
     }

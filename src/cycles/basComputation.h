@@ -25,6 +25,9 @@ void ComputeCurves(quotes::QuoteSeries const& series, settings::Settings const& 
 void ComputeQuoteCurves(quotes::QuoteSeries const& series, settings::Settings const& settings,
                         CycleCurves& curves);
 
+// The rest, which follows from that part.
+void ComputeCurvesOfCycles(quotes::QuoteSeries const& series, CycleParameterSet& set, CycleCurves& curves);
+
 // The moving average alone, whatever the prices are.
 void RefreshMovingAverage(quotes::QuoteSeries const& series, settings::Settings const& settings,
                           CycleCurves& curves);
