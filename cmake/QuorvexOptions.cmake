@@ -5,12 +5,12 @@ option(QUORVEX_WINDOW "Build the window and the companion's pictures, when there
 option(QUORVEX_BENCH "Build the benchmarks" OFF)
 option(QUORVEX_FUZZ "Build the fuzz targets (clang only)" OFF)
 option(QUORVEX_ALONE "Offer to read every source and header alone, by the target quorvex_alone (clang only)" OFF)
-option(QUORVEX_COVERAGE "Instrument for gcov" OFF)
+option(QUORVEX_COVERAGE "Count which lines of the program are reached, in the build folder's counts (clang only)" OFF)
 option(QUORVEX_WARNINGS_AS_ERRORS "Treat warnings as errors" ON)
 set(QUORVEX_SEPARATE "" CACHE STRING "Targets compiled file by file where the others are compiled in large units")
 set(QUORVEX_SANITIZERS "" CACHE STRING "Sanitizers, as in -fsanitize=<value>")
 
-if(QUORVEX_SANITIZERS OR QUORVEX_COVERAGE)
+if(QUORVEX_SANITIZERS)
     set(QUORVEX_SLOWED ON) # whatever runs takes several times as long
 endif()
 
@@ -61,11 +61,18 @@ else()
         target_link_options(quorvex_options INTERFACE -fsanitize=${QUORVEX_SANITIZERS})
     endif()
     if(QUORVEX_COVERAGE)
-        # Counts of several threads make up one total.
-        target_compile_options(quorvex_options INTERFACE --coverage -fprofile-update=atomic)
-        target_link_options(quorvex_options INTERFACE --coverage)
+        target_link_options(quorvex_options INTERFACE -fprofile-instr-generate)
     endif()
 endif()
+
+# count_reached_lines(<target>): the program's own targets alone, of which it is told. Each process leaves a file of its own:
+# to the runtime, two programs of the same libraries may look like one.
+function(count_reached_lines target)
+    if(QUORVEX_COVERAGE)
+        target_compile_options(${target} PRIVATE -fcoverage-mapping
+            -fprofile-instr-generate=${PROJECT_BINARY_DIR}/counts/%p.profraw)
+    endif()
+endfunction()
 
 # compile_quickly(<target>): for what takes long to compile and little time to run. Under sanitizers the optimiser takes two
 # thirds of the compilation there.

@@ -4,6 +4,7 @@
 #include "RunCompanion.h"
 #include "support/Golden.h"
 #include "support/QuoteTexts.h"
+#include "support/Sanitizers.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -263,7 +264,7 @@ TEST_F(BatchTest, RefusesAParameterFileOnce) {
 TEST_F(BatchTest, GoesOnBehindWholeLines) {
     for (auto const* format : {"csv", "jsonl"}) {
         auto const whole = Run({folder_.Text(), "--format", format}).Output;
-        for (std::size_t length = 0; length <= whole.size(); length += 1 + whole.size() / 17) {
+        for (std::size_t length = 0; length <= whole.size(); length += 1 + whole.size() / Repetitions(17U)) {
             folder_.Write("out", whole.substr(0, length));
             auto const run = Run({folder_.Text(), "--format", format, "-o", File("out"), "--resume"});
             EXPECT_EQ(folder_.Read("out"), whole) << length;

@@ -10,6 +10,7 @@
 #include "editor/basSpread.h"
 #include "editor/basValidate.h"
 #include "support/QuoteTexts.h"
+#include "support/Sanitizers.h"
 #include "text/RunTimeError.h"
 
 #include <array>
@@ -253,7 +254,7 @@ private:
 };
 
 TEST_F(HistoryTest, UndoesAndRedoesAThousandRandomSequencesStepByStep) {
-    constexpr unsigned Sequences = 1000;
+    constexpr unsigned Sequences = Repetitions(1000U);
     constexpr int MostEdits = 15;
     std::size_t steps = 0;
     for (unsigned seed = 1; seed <= Sequences; ++seed) {

@@ -147,20 +147,23 @@ private:
     std::_Exit(EXIT_FAILURE);
 }
 
-// Lets a process edit for so long and kills it. Returns how many edits it had kept; -1 when it was not
-// editing.
-int KillAfter(int microseconds, TemporaryFolder const& folder) {
+// Lets a process keep so many edits, which takes longer on a busy machine, and go on for so long, and kills
+// it. Returns how many edits it had kept; -1 when it was not editing.
+int KillAfter(int edits, int microseconds, TemporaryFolder const& folder) {
     SharedCount const shared;
-    NumberedEdits edits(folder); // which takes its time
+    NumberedEdits numbered(folder);
     pid_t const child = fork();
     if (child == 0) {
-        EditForever(edits, shared.Count());
+        EditForever(numbered, shared.Count());
+    }
+    int status = 0;
+    while (shared.Count() < edits && waitpid(child, &status, WNOHANG) == 0) {
+        usleep(100);
     }
     usleep(static_cast<useconds_t>(microseconds));
     if (child < 0 || kill(child, SIGKILL) != 0) {
         return -1;
     }
-    int status = 0;
     bool const isKilled = waitpid(child, &status, 0) == child && WIFSIGNALED(status);
     return isKilled ? shared.Count().load() : -1;
 }
@@ -190,15 +193,18 @@ void Count(int kept, TemporaryFolder const& folder, Tally& tally) {
 }
 
 int Run(int count, unsigned seed) {
-    constexpr int LongestMicroseconds = 60'000;
+    constexpr int MostEdits = 16;
+    constexpr int LongestMicroseconds = 5'000;
     std::printf("Seed %u\n", seed);
     std::mt19937 random(seed);
+    std::uniform_int_distribution<int> edits(0, MostEdits);
     std::uniform_int_distribution<int> pause(0, LongestMicroseconds);
     Tally tally;
     for (int turn = 0; turn < count; ++turn) {
         TemporaryFolder const folder;
         folder.Write(FileName, QuoteLines(Days));
-        int const kept = KillAfter(pause(random), folder);
+        int const wanted = edits(random);
+        int const kept = KillAfter(wanted, pause(random), folder);
         if (kept < 0) {
             std::printf("Turn %d: the process ended by itself.\n", turn);
             return EXIT_FAILURE;

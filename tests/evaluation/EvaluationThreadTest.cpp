@@ -24,6 +24,9 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
+// Until a thread that was told to stop has ended, at most.
+constexpr auto StopTime = tests::Patience * 200ms;
+
 // Keeps the news in order, for another thread to wait for.
 class EvaluationNewsBox {
 public:
@@ -161,7 +164,7 @@ TEST(EvaluationThread, AStoppedTestEndsWithinAFifthOfASecond) {
             EXPECT_EQ(end.Refusal, "");
             return duration;
         };
-        EXPECT_LT(tests::ShortestOf(3, stop), tests::Patience * 200ms);
+        EXPECT_LT(tests::ShortestOf(3, StopTime, stop), StopTime);
     }
 }
 
@@ -192,7 +195,7 @@ TEST(EvaluationThread, GoesWithATestUnderWay) {
         EXPECT_EQ(box.WaitForEnd(number).Result, nullptr);
         return duration;
     };
-    EXPECT_LT(tests::ShortestOf(3, go), tests::Patience * 200ms);
+    EXPECT_LT(tests::ShortestOf(3, StopTime, go), StopTime);
 }
 
 } // namespace

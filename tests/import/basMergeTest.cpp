@@ -5,6 +5,7 @@
 
 #include "Tables.h"
 #include "import/basImport.h"
+#include "support/Sanitizers.h"
 
 #include <gtest/gtest.h>
 
@@ -193,7 +194,7 @@ TEST(Merge, AgreesWithAModelThroughTheQuoteFile) {
     std::vector<DayQuote> expected(truth.begin(), truth.begin() + 480);
     std::string text = imports::QuoteText(expected);
     int refusedCount = 0;
-    for (int update = 0; update < 200; ++update) {
+    for (int update = 0; update < tests::Repetitions(400); ++update) {
         imports::Conversion conversion;
         conversion.Days = SomeDays(truth, 60, random);
         bool const replaces = Below(random, 2) == 0;
@@ -215,7 +216,7 @@ TEST(Merge, AgreesWithAModelThroughTheQuoteFile) {
     }
     EXPECT_EQ(expected.size(), Most);
     EXPECT_GT(refusedCount, 0);
-    EXPECT_LT(refusedCount, 100);
+    EXPECT_LT(refusedCount, tests::Repetitions(200));
 }
 
 TEST(QuoteText, WritesAsManyDecimalsAsThereAre) {

@@ -72,7 +72,7 @@ void ExpectWellFormed(CycleModel const& model, std::size_t mostCycles, int minPe
 
 TEST(CycleSearch, OneCycleIsTheBestOfAllPeriodsAndShifts) {
     for (int const days : {25, 26, 40, 61}) {
-        for (std::uint32_t seed = 1; seed <= 6; ++seed) {
+        for (std::uint32_t seed = 1; seed <= tests::Repetitions(6U); ++seed) {
             SCOPED_TRACE(std::to_string(days) + " days, seed " + std::to_string(seed));
             Series const series = Randomness(seed).Walk(days);
             CycleModel const expected = tests::BestOneCycle(series, 5, days / 2);
@@ -108,7 +108,7 @@ TEST(CycleSearch, OfEqualShiftsTakesTheSmaller) {
 }
 
 TEST(CycleSearch, TryingHarderFindsNothingWorse) {
-    for (std::uint32_t seed = 1; seed <= 20; ++seed) {
+    for (std::uint32_t seed = 1; seed <= tests::Repetitions(20U); ++seed) {
         Series const series = Randomness(seed).Walk(60);
         auto const quick = Find(series, 3, PeriodsBetween(5, 30), Effort::Quick);
         auto const thorough = Find(series, 3, PeriodsBetween(5, 30), Effort::Thorough);
@@ -170,7 +170,7 @@ TEST(CycleSearch, TellsTheCorrelationOfTheCompositeAndWhatEachCycleAdds) {
 }
 
 TEST(CycleSearch, TwoCyclesAreAtLeastWhatPlainPursuitFinds) {
-    for (std::uint32_t seed = 1; seed <= 4; ++seed) {
+    for (std::uint32_t seed = 1; seed <= tests::Repetitions(4U); ++seed) {
         Series const series = Randomness(seed).Walk(40);
         double const expected = tests::PursueTwoCycles(series, 5, 20);
         EXPECT_GE(Find(series, 2).back().Correlation, expected - 0.003) << seed;
@@ -178,7 +178,7 @@ TEST(CycleSearch, TwoCyclesAreAtLeastWhatPlainPursuitFinds) {
 }
 
 TEST(CycleSearch, MoreCyclesNeverFollowWorse) {
-    for (std::uint32_t seed = 1; seed <= 5; ++seed) {
+    for (std::uint32_t seed = 1; seed <= tests::Repetitions(5U); ++seed) {
         auto const models = Find(Randomness(seed).Walk(100), 10);
         ASSERT_EQ(models.size(), 10U);
         for (std::size_t count = 0; count < models.size(); ++count) {
@@ -243,9 +243,9 @@ TEST(CycleSearch, DoesNotDependOnTheUnitOrTheLevelOfTheSeries) {
 }
 
 TEST(CycleSearch, WholeWeightsFollowAlmostAsWellAsAnyOthers) {
-    for (int seed = 1; seed <= tests::Repetitions(8); ++seed) {
-        int const days = 25 + seed * 10;
-        Series const series = Randomness(static_cast<std::uint32_t>(seed)).Walk(days);
+    for (std::uint32_t seed = 1; seed <= tests::Repetitions(8U); ++seed) {
+        int const days = 25 + static_cast<int>(seed) * 10;
+        Series const series = Randomness(seed).Walk(days);
         for (CycleModel const& model : Find(series, 5)) {
             EXPECT_LE(tests::CorrelationWithAnyWeights(model, series) - model.Correlation, 0.003 + 1e-6)
                 << seed;
@@ -265,7 +265,7 @@ double SwingOf(CycleModel const& model, int days) {
 }
 
 TEST(CycleSearch, TheCompositeSwingsAsFarAsItIsToldTo) {
-    for (std::uint32_t seed = 1; seed <= 6; ++seed) {
+    for (std::uint32_t seed = 1; seed <= tests::Repetitions(6U); ++seed) {
         int const days = 60 + static_cast<int>(seed) * 20;
         Series const series = Randomness(seed).Walk(days);
         CycleSearch search(days, PeriodsBetween(5, days / 2));

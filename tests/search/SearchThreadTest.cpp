@@ -20,6 +20,9 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
+// Until a thread that was told to stop has ended, at most.
+constexpr auto StopTime = tests::Patience * 200ms;
+
 // Keeps the news in order, for another thread to wait for.
 class NewsBox {
 public:
@@ -181,7 +184,7 @@ TEST(SearchThread, AStoppedSearchEndsWithinAFifthOfASecond) {
             box.WaitForEnd(number);
             return Clock::now() - before;
         };
-        EXPECT_LT(tests::ShortestOf(3, stop), tests::Patience * 200ms);
+        EXPECT_LT(tests::ShortestOf(3, StopTime, stop), StopTime);
     }
 }
 

@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
-// Whether the tests run under the address sanitizer or count the lines that they reach: both take several
-// times as long.
+// Whether the tests run under the address sanitizer, where they take several times as long.
 #pragma once
 
 namespace quorvex::tests {
 
-#if defined(__SANITIZE_ADDRESS__) || defined(QUORVEX_COVERAGE)
+#if defined(__SANITIZE_ADDRESS__)
 inline constexpr bool IsSlowed = true;
 #elif defined(__has_feature)
 #if __has_feature(address_sanitizer)
@@ -21,7 +20,8 @@ inline constexpr bool IsSlowed = false;
 
 // How many of so many random cases a test tries. When slowed it is a quarter: each takes up to ten
 // times as long there, and all of them are tried in an optimised build.
-[[nodiscard]] constexpr int Repetitions(int count) {
+template <class Count>
+[[nodiscard]] constexpr Count Repetitions(Count count) {
     return IsSlowed ? count / 4 : count;
 }
 

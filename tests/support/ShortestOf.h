@@ -19,12 +19,12 @@ inline constexpr int Patience = 5;
 inline constexpr int Patience = IsSlowed ? 5 : 1;
 #endif
 
-// How long the quickest of several tries took; each returns its own duration. Other programs hold up one try
-// or two, not every one.
+// How long the quickest of at most so many tries took; each returns its own duration. The first one below the
+// limit is the last. Other programs hold up one try or two, not every one.
 template <class Try>
-[[nodiscard]] std::chrono::nanoseconds ShortestOf(int tries, Try measure) {
+[[nodiscard]] std::chrono::nanoseconds ShortestOf(int tries, std::chrono::nanoseconds limit, Try measure) {
     auto shortest = std::chrono::nanoseconds::max();
-    for (int count = 0; count < tries; ++count) {
+    for (int count = 0; count < tries && shortest >= limit; ++count) {
         shortest = std::min(shortest, std::chrono::nanoseconds(measure()));
     }
     return shortest;

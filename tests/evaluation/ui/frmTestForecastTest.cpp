@@ -166,7 +166,7 @@ private Q_SLOTS:
             });
             return std::chrono::milliseconds(timer.elapsed());
         };
-        QVERIFY(tests::ShortestOf(3, cancel) < AnswerTime);
+        QVERIFY(tests::ShortestOf(3, AnswerTime, cancel) < AnswerTime);
     }
 
     void ClosingEndsTheTest() {
