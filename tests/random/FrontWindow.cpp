@@ -9,6 +9,20 @@
 
 namespace quorvex::tests {
 
+namespace {
+
+// The dialog or main window that the command belongs to: a menu is a window of its own.
+QObject const* OwnerOf(QAction const& command) {
+    QObject const* owner = command.parent();
+    while (owner != nullptr && (!owner->isWidgetType() || !static_cast<QWidget const*>(owner)->isWindow() ||
+                                qobject_cast<QMenu const*>(owner) != nullptr)) {
+        owner = owner->parent();
+    }
+    return owner;
+}
+
+} // namespace
+
 QWidget& FrontWindow(QWidget& main) {
     if (QWidget* popup = QApplication::activePopupWidget(); popup != nullptr) {
         return *popup;
@@ -48,7 +62,8 @@ QList<QAction*> CommandsOf(QWidget const& window) {
     QList<QAction*> commands;
     for (QAction* action : window.findChildren<QAction*>()) {
         // The toolkit's own, which for instance clear a line edit, have no names.
-        bool const isCommand = !action->isSeparator() && action->menu() == nullptr;
+        bool const isCommand =
+            !action->isSeparator() && action->menu() == nullptr && OwnerOf(*action) == &window;
         if (isCommand && action->isEnabled() && action->objectName().startsWith(QStringLiteral("mnu"))) {
             commands.append(action);
         }

@@ -34,7 +34,7 @@ struct Spot {
 // Half of the time a place of the window, however large what lies there is; else of any visible widget.
 [[nodiscard]] Spot PickSpot(QWidget& window, Dice& dice);
 
-// The enabled commands of the window's menus, without separators and menus.
+// The enabled commands of the window's own menus, without separators and menus.
 [[nodiscard]] QList<QAction*> CommandsOf(QWidget const& window);
 
 // What keys go to.

@@ -51,6 +51,20 @@ void Journal::Note(std::string const& kind, QString const& what) {
     }
 }
 
+void Journal::Expect(std::string const& what, QStringList const& found, QStringList const& wanted) {
+    Count("checked: " + what);
+    if (found == wanted) {
+        return;
+    }
+    qsizetype line = 0;
+    while (found.value(line) == wanted.value(line) && line < found.size()) {
+        ++line;
+    }
+    Abort("Not so: " + what + ". Line " + std::to_string(line + 1) + " of " + std::to_string(found.size()) +
+          " is\n" + found.value(line).toStdString() + "\nand should, of " + std::to_string(wanted.size()) +
+          ", be\n" + wanted.value(line).toStdString());
+}
+
 int Journal::CountOf(std::string const& what) const {
     auto const found = counts_.find(what);
     return found == counts_.end() ? 0 : found->second;

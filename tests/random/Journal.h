@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <atomic>
 #include <cstdint>
 #include <deque>
@@ -26,6 +27,9 @@ public:
 
     // Counts what is no action of its own, such as a command or a window.
     void Count(std::string const& what) { ++counts_[what]; }
+
+    // Counts the check, and aborts when it fails: these are to be equal.
+    void Expect(std::string const& what, QStringList const& found, QStringList const& wanted);
 
     [[nodiscard]] int Steps() const { return steps_; }
 

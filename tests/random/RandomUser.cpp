@@ -46,8 +46,9 @@ RandomUser::RandomUser(std::uint64_t seed, int actions, Journal& journal)
     connect(&next_, &QTimer::timeout, this, [this] { Step(); });
 }
 
-void RandomUser::Use(QWidget& main) {
+void RandomUser::Use(QWidget& main, Expectations& expectations) {
     main_ = &main;
+    expectations_ = &expectations;
     waitingActions_ = 0;
     journal_.Count("main windows opened");
     next_.start(0);
@@ -76,9 +77,11 @@ void RandomUser::Disturb() {
         return;
     }
     if (dice_.OneIn(100)) {
+        ++disturbances_;
         journal_.Note("close while busy", NameOf(*main_));
         main_->close();
     } else if (dice_.OneIn(3)) {
+        ++disturbances_;
         QSize const size = PickSize(dice_);
         journal_.Note("resize while busy", SizeText(*main_, size));
         main_->resize(size);
@@ -86,6 +89,7 @@ void RandomUser::Disturb() {
 }
 
 void RandomUser::Act() {
+    expectations_->Check();
     CountState();
     QWidget& front = FrontWindow(*main_);
     waitingActions_ = IsWaiting() ? waitingActions_ + 1 : 0;
@@ -150,8 +154,13 @@ void RandomUser::ActIn(QWidget& window) {
         {5, &RandomUser::ScrollSomewhere},
         {5, &RandomUser::OpenContextMenu},
         {7, &RandomUser::RestSomewhere},
-        {7, &RandomUser::ChangeSize},
+        {6, &RandomUser::ChangeSize},
+        {1, &RandomUser::Compare},
     });
+    if (GridOf(window) != nullptr && dice_.OneIn(10)) {
+        Compare(window);
+        return;
+    }
     int left = dice_.Below(100);
     for (Choice const& choice : Choices) {
         left -= choice.Weight;
@@ -263,7 +272,7 @@ void RandomUser::TypeSomething(QWidget& window) {
         TypeText(receiver, text);
         return;
     }
-    QLineEdit* const edit = dice_.Pick(edits);
+    QPointer<QLineEdit> const edit = dice_.Pick(edits);
     journal_.Note("type", NameOf(*edit) + u' ' + text);
     edit->setFocus(Qt::MouseFocusReason);
     if (dice_.OneIn(6)) {
@@ -271,6 +280,9 @@ void RandomUser::TypeSomething(QWidget& window) {
         PressKey(*edit, Qt::Key_V, Qt::ControlModifier);
     } else {
         TypeText(*edit, text);
+        if (!edit.isNull()) {
+            expectations_->CheckTyped(*edit, text);
+        }
     }
 }
 
@@ -311,6 +323,63 @@ void RandomUser::ChangeSize(QWidget& window) {
         break;
     default:
         window.resize(size);
+    }
+}
+
+// What is done here leads to something that is known.
+void RandomUser::Compare(QWidget& window) {
+    QAbstractItemView* const grid = GridOf(window);
+    if (&window == main_) {
+        CompareRefreshed();
+    } else if (grid != nullptr && window.isActiveWindow() && &KeyReceiver(window) == grid) {
+        dice_.OneIn(2) ? CompareRedone(*grid) : CompareTyped(*grid);
+    } else {
+        PressSomeKey(window);
+    }
+}
+
+void RandomUser::CompareRefreshed() {
+    journal_.Note("compare", QStringLiteral("behind Refresh"));
+    int const disturbancesBefore = disturbances_;
+    int const redrawsBefore = expectations_->RedrawCount();
+    auto const possible = expectations_->PossibleAfterRefresh();
+    main_->findChild<QAction*>(QStringLiteral("mnuRefresh"))->trigger();
+    // In the middle of another redraw there is none.
+    if (disturbances_ == disturbancesBefore && expectations_->RedrawCount() != redrawsBefore) {
+        expectations_->CheckRefreshed(possible);
+    }
+}
+
+void RandomUser::CompareRedone(QAbstractItemView& grid) {
+    journal_.Note("compare", QStringLiteral("behind Undo and Redo"));
+    QStringList const before = RowsOf(grid);
+    PressKey(grid, Qt::Key_Z, Qt::ControlModifier);
+    if (RowsOf(grid) != before) {
+        PressKey(grid, Qt::Key_Y, Qt::ControlModifier);
+        expectations_->Editor().CheckRedone(before, RowsOf(grid));
+    }
+}
+
+void RandomUser::CompareTyped(QAbstractItemView& grid) {
+    QAbstractItemModel const& model = *grid.model();
+    if (model.rowCount() == 0) {
+        return;
+    }
+    int const row = dice_.Below(model.rowCount());
+    QModelIndex const cell = model.index(row, dice_.Below(model.columnCount()));
+    QString const text = QString::number(dice_.Between(1, 9999));
+    journal_.Note("compare",
+                  QStringLiteral("cell %1,%2 with %3").arg(cell.row()).arg(cell.column()).arg(text));
+    grid.setCurrentIndex(cell);
+    PressKey(grid, Qt::Key_F2, {});
+    QPointer<QWidget> const edit = QApplication::focusWidget();
+    if (edit.isNull() || edit == &grid) {
+        return; // something else has the keyboard
+    }
+    TypeText(*edit, text);
+    if (!edit.isNull()) {
+        PressKey(*edit, Qt::Key_Return, {});
+        expectations_->Editor().CheckTyped(cell, text);
     }
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "random/Dice.h"
+#include "random/Expectations.h"
 #include "random/Journal.h"
 
 #include <QFileDialog>
@@ -23,8 +24,8 @@ class RandomUser : public QObject {
 public:
     RandomUser(std::uint64_t seed, int actions, Journal& journal);
 
-    // Works with this main window from now on.
-    void Use(QWidget& main);
+    // Works with this main window from now on, and sees to it that all is as expected.
+    void Use(QWidget& main, Expectations& expectations);
 
     // Whether all actions are done. The last of them leaves the event loop.
     [[nodiscard]] bool IsDone() const { return isDone_; }
@@ -50,6 +51,10 @@ private:
     void OpenContextMenu(QWidget& window);
     void RestSomewhere(QWidget& window);
     void ChangeSize(QWidget& window);
+    void Compare(QWidget& window);
+    void CompareRefreshed();
+    void CompareRedone(QAbstractItemView& grid);
+    void CompareTyped(QAbstractItemView& grid);
     void AnswerDialog(QWidget& dialog);
     void TypeFileName(QWidget& dialog);
 
@@ -57,8 +62,10 @@ private:
     int actions_;
     Journal& journal_;
     QPointer<QWidget> main_;
+    Expectations* expectations_ = nullptr;
     QTimer next_;
     int busyLevel_ = 0;      // of the event loop whose action is still running
+    int disturbances_ = 0;   // so far
     int waitingActions_ = 0; // since something last came in front of the main window
     bool isDone_ = false;
 };

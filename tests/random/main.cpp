@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // A user who clicks, types and resizes at random. The program must neither crash nor hang nor make Qt warn,
-// and it must keep to its folder.
+// it must show and write what is expected, and it must keep to its folder.
 //
 //     test_RandomUse [--seed N] [--actions N] [--trace]
 
@@ -122,7 +122,8 @@ void UseWindows(Surroundings const& surroundings, platform::Files& files, Random
         app::ui::frmMain window(*program, surroundings.ProgramFolder(),
                                 {profile, files, launcher, registry, printing, printing});
         window.show();
-        user.Use(window);
+        Expectations expectations(Journal::OfThisRun(), *program, window, files);
+        user.Use(window, expectations);
         QApplication::exec();
     }
 }
