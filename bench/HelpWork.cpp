@@ -3,32 +3,17 @@
 
 #include "HelpWork.h"
 
+#include "ShownDialog.h"
 #include "app/ui/basResources.h"
 #include "auxiliary/ui/frmHelp.h"
 
-#include <QCoreApplication>
 #include <QDialog>
 #include <QDir>
 #include <QTextEdit>
-#include <QTimer>
 #include <QVBoxLayout>
-#include <functional>
 #include <stdexcept>
 
 namespace quorvex::bench {
-
-namespace {
-
-// Once the dialog has been painted.
-void CloseWhenShown(QDialog& dialog, std::function<void()> const& look) {
-    QTimer::singleShot(0, &dialog, [&dialog, look] {
-        QCoreApplication::processEvents();
-        look();
-        dialog.close();
-    });
-}
-
-} // namespace
 
 HelpWork::HelpWork() {
     app::ui::FillProgramFolder(folder_, files_);
@@ -57,7 +42,7 @@ void HelpWork::TakeDocument(std::string const& name) {
 
 void HelpWork::ShowHelp() {
     auxiliary::ui::frmHelp help(nullptr, folder_, settings_, files_, dialogs_);
-    CloseWhenShown(help, [] {});
+    CloseWhenShown(help);
     help.RunModal(name_);
 }
 
@@ -68,7 +53,7 @@ void HelpWork::ShowHtml() const {
     text->setReadOnly(true);
     text->setHtml(html_);
     dialog.resize(size_);
-    CloseWhenShown(dialog, [] {});
+    CloseWhenShown(dialog);
     dialog.exec();
 }
 

@@ -4,10 +4,12 @@
 #include "WindowRatios.h"
 
 #include "CycleWork.h"
+#include "EditWork.h"
 #include "HelpWork.h"
 #include "OffscreenScreens.h"
 #include "PaintWork.h"
 #include "PlotWork.h"
+#include "PreferencesWork.h"
 #include "Ratio.h"
 #include "RedrawWork.h"
 #include "StartWork.h"
@@ -82,6 +84,34 @@ void AddHelpRatio(RatioTable& table) {
               MeasureRatio([&] { help.ShowHelp(); }, [&] { help.ShowHtml(); }), HelpTarget);
 }
 
+void AddEditorRatios(RatioTable& table) {
+    constexpr double OpenTarget = 1.5;
+    constexpr double PasteTarget = 2;
+    constexpr double AppendTarget = 16; // so that a frame of the screen is enough
+    EditWork edit;
+    table.Add("editor with 500 days opened / Qt's own table of them",
+              MeasureRatio([&] { edit.OpenEditor(); }, [&] { edit.OpenTable(); }), OpenTarget);
+    edit.UseBoth([&] {
+        PreparedWork const paste{[&] { edit.UndoInEditor(); }, [&] { edit.PasteIntoEditor(); }};
+        PreparedWork const plainly{[&] { edit.ShortenTable(); }, [&] { edit.PasteIntoTable(); }};
+        table.Add("    400 rows pasted / the same", MeasureRatio(paste, plainly), PasteTarget);
+        edit.UndoInEditor();
+        auto const append = [&] {
+            edit.AppendToEditor();
+            edit.UndoInEditor();
+        };
+        table.Add("    a row appended and undone, milliseconds", MeasureMilliseconds(append), AppendTarget);
+    });
+}
+
+void AddPreferencesRatio(RatioTable& table) {
+    constexpr double OpenTarget = 1.5;
+    PreferencesWork preferences;
+    table.Add("preferences opened / as many lists with the same items",
+              MeasureRatio([&] { preferences.OpenPreferences(); }, [&] { preferences.OpenLists(); }),
+              OpenTarget);
+}
+
 void AddStartRatios(RatioTable& table) {
     constexpr double StartTarget = 1.3;
     constexpr double MemoryTarget = 1.25;
@@ -105,6 +135,8 @@ void AddWindowRatios(RatioTable& table, int argc, char** argv) {
     }
     AddFitRatio(table);
     AddHelpRatio(table);
+    AddEditorRatios(table);
+    AddPreferencesRatio(table);
     AddStartRatios(table);
 }
 
