@@ -2,11 +2,15 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/MenuTable.h"
+#include "app/ui/basResources.h"
 #include "platform/pictures/QtTexts.h"
+#include "platform/qt/CarriedImage.h"
 #include "windows/RunningWindow.h"
 #include "windows/WindowTest.h"
 
 #include <QAccessible>
+#include <QDir>
+#include <QIcon>
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolButton>
@@ -214,6 +218,37 @@ private Q_SLOTS:
         }
         QCOMPARE(images.join(u", "_s), u"imgOpen Open, imgClose Close, imgEdit Edit, imgConvert Convert, "
                                        u"imgPrint Print, imgProperties Properties"_s);
+    }
+
+    // The images are read one by one as they are wanted.
+    void ImagesAreThoseThatQtTakesOfAllFilesAtOnce() {
+        app::ui::LoadResources();
+        QDir const folder(u":/images"_s);
+        for (QString const& name : {u"imgOpen"_s, u"Quorvex"_s}) {
+            QIcon const icon = platform::qt::CarriedImage(name);
+            QIcon expected;
+            for (QString const& file : folder.entryList({name + u"-*.png"_s})) {
+                expected.addFile(folder.filePath(file));
+            }
+            QVERIFY(!expected.availableSizes().isEmpty());
+            QCOMPARE(icon.availableSizes().size(), expected.availableSizes().size());
+            for (int const side : {12, 24, 25, 80}) {
+                QSize const size(side, side);
+                QCOMPARE(icon.actualSize(size), expected.actualSize(size));
+                for (double const scale : {1.0, 1.5}) {
+                    for (QIcon::Mode const mode : {QIcon::Normal, QIcon::Disabled}) {
+                        QCOMPARE(icon.pixmap(size, scale, mode).toImage(),
+                                 expected.pixmap(size, scale, mode).toImage());
+                    }
+                }
+            }
+        }
+    }
+
+    void AnImageThatIsNotCarriedIsEmpty() {
+        QIcon const icon = platform::qt::CarriedImage(u"imgNone"_s);
+        QVERIFY(icon.isNull());
+        QVERIFY(icon.pixmap(24, 24).isNull());
     }
 
     void ImagesStandFromLeftToRightInsideTheStrip() {
