@@ -62,7 +62,7 @@ public:
 
     void Build() {
         QTextCursor cursor(&shown_);
-        cursor.beginEditBlock(); // one layout at the end instead of one for each piece
+        cursor.beginEditBlock(); // one change instead of one for each piece
         AddBlocks(document_.Blocks, cursor);
         cursor.endEditBlock();
     }
@@ -248,8 +248,12 @@ private:
 } // namespace
 
 std::unique_ptr<QTextDocument> MakeTextDocument(richtext::RichTextDocument const& document) {
+    constexpr double Margin = 12;
+    constexpr QSizeF NoPage(0, 0); // with which Qt lays nothing out
     auto made = std::make_unique<QTextDocument>();
     made->setUndoRedoEnabled(false);
+    made->setPageSize(NoPage);
+    made->setDocumentMargin(Margin); // any later it would lay out everything anew
     RichTextPictures::PaintThoseOf(*made);
     Builder(document, *made).Build();
     return made;

@@ -109,14 +109,14 @@ void frmHelp::LoadDocument() {
     std::optional<std::string> content = ReadDocument();
     if (content != content_) {
         content_ = std::move(content);
-        auto document = std::make_unique<QTextDocument>();
+        richtext::RichTextDocument document;
         // What cannot be understood leaves the box empty.
         static_cast<void>(text::Trap([&] {
             if (content_) {
-                document = MakeTextDocument(richtext::ReadRichText(*content_));
+                document = richtext::ReadRichText(*content_);
             }
         }));
-        Show(std::move(document));
+        Show(MakeTextDocument(document));
     }
     GoToTop();
 }
@@ -132,9 +132,7 @@ std::optional<std::string> frmHelp::ReadDocument() const {
 
 // The box has only this document.
 void frmHelp::Show(std::unique_ptr<QTextDocument> document) {
-    constexpr double Margin = 12;
     QPointer<QTextDocument> const former = richTextBox1_->document();
-    document->setDocumentMargin(Margin);
     document->setParent(richTextBox1_);
     richTextBox1_->setDocument(document.release());
     delete former; // unless the box did
