@@ -65,15 +65,6 @@ else()
     endif()
 endif()
 
-# count_reached_lines(<target>): the program's own targets alone, of which it is told. Each process leaves a file of its own:
-# to the runtime, two programs of the same libraries may look like one.
-function(count_reached_lines target)
-    if(QUORVEX_COVERAGE)
-        target_compile_options(${target} PRIVATE -fcoverage-mapping
-            -fprofile-instr-generate=${PROJECT_BINARY_DIR}/counts/%p.profraw)
-    endif()
-endfunction()
-
 # compile_quickly(<target>): for what takes long to compile and little time to run. Under sanitizers the optimiser takes two
 # thirds of the compilation there.
 function(compile_quickly target)

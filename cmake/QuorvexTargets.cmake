@@ -34,6 +34,15 @@ function(require_own_headers_first)
     endforeach()
 endfunction()
 
+# count_reached_lines(<target>): the program's own targets alone, of which it is told. Each process leaves a file of its own:
+# to the runtime, two programs of the same libraries may look like one.
+function(count_reached_lines target)
+    if(QUORVEX_COVERAGE)
+        target_compile_options(${target} PRIVATE -fcoverage-mapping
+            -fprofile-instr-generate=${PROJECT_BINARY_DIR}/counts/%p.profraw)
+    endif()
+endfunction()
+
 # Checks the edges of a target and adds it with its forwarding headers.
 function(add_level_target name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "LEVEL" "FILES;USES")
