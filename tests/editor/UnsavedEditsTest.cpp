@@ -306,6 +306,18 @@ TEST_F(UnsavedEditsTest, AreForgottenWhenTheUserAgrees) {
     EXPECT_EQ(dialogs.Messages.at(0).Offered, platform::Buttons::YesNo);
 }
 
+// The older ones then have the place of those that were restored.
+TEST_F(UnsavedEditsTest, ThatAreForgottenAfterTheirRestorationWasUndoneAreNotTakenForOthers) {
+    LeaveTwoSets();
+    static_cast<void>(Restore());
+    Undo();
+    dialogs.Answers = {platform::Answer::Yes};
+    ASSERT_TRUE(unsaved.Forget(dialogs));
+    TypeKept(2, 5, "555"); // as in the older ones
+    EXPECT_TRUE(unsaved.HasKept());
+    EXPECT_TRUE(IsKept());
+}
+
 TEST_F(UnsavedEditsTest, ThatAnotherEditorHasGoneOnWithAreNotForgotten) {
     OpenEdited();
     TypeKept(2, 5, "555");
