@@ -3,6 +3,7 @@
 
 #include "cycles/basAutomate.h"
 
+#include "cycles/EvenAngles.h"
 #include "cycles/basCurves.h"
 #include "text/RunTimeError.h"
 
@@ -92,11 +93,10 @@ double EstimateFrequency(QuoteCurve const& x, std::int16_t count) {
 }
 
 void FillBasis(double frequency, std::int16_t count, Basis& basis) {
-    for (int day = 1; day <= count; ++day) {
-        double const angle = frequency * day;
-        basis.Cosine[day] = std::cos(angle);
-        basis.Sine[day] = std::sin(angle);
-    }
+    EvenAngles(frequency).ForEach(0, count, [&basis](int day, double cosine, double sine) {
+        basis.Cosine[day] = cosine;
+        basis.Sine[day] = sine;
+    });
 }
 
 // Least squares for x[t] = a cos(w t) + b sin(w t).

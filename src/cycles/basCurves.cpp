@@ -3,11 +3,11 @@
 
 #include "cycles/basCurves.h"
 
+#include "cycles/EvenAngles.h"
 #include "text/RunTimeError.h"
 #include "text/basNumbers.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace quorvex::cycles {
 
@@ -21,9 +21,8 @@ void ComputeValues(CycleRecord& cycle, int lastDay) {
     double const frequency = text::Divide(TwoPi, cycle.Period);
     double const phase = cycle.Shift == 0 ? 0 : text::Divide(TwoPi, cycle.Shift);
     static_cast<void>(text::RequireFinite(lastDay * frequency + phase));
-    for (int day = 1; day <= lastDay; ++day) {
-        cycle.Values[day] = cycle.Weight * std::sin(day * frequency + phase);
-    }
+    EvenAngles(frequency).ForEach(
+        phase, lastDay, [&cycle](int day, double, double sine) { cycle.Values[day] = cycle.Weight * sine; });
 }
 
 double SumOfCloses(quotes::QuoteRecords const& records, int first, int last) {
