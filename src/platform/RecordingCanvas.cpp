@@ -12,26 +12,32 @@ void RecordingCanvas::Resize(double width, double height) {
     height_ = height;
 }
 
+void RecordingCanvas::Add(DrawingOperation operation, std::string_view text) {
+    operation.Text = texts_.emplace_back(text);
+    Add(operation);
+}
+
 void RecordingCanvas::Clear() {
     ++clearCount_;
     if (kept_ == Keep::SinceClear) {
         operations_.clear();
+        texts_.clear();
     }
-    operations_.push_back({Kind::Clear, {}, Black, false, {}});
+    Add({.What = Kind::Clear});
 }
 
 void RecordingCanvas::SetForeColour(Colour colour) {
-    operations_.push_back({Kind::ForeColour, {}, colour, false, {}});
+    Add({.What = Kind::ForeColour, .Drawn = colour});
 }
 
 void RecordingCanvas::Point(double x, double y, Colour colour) {
-    operations_.push_back({Kind::Point, {x, y}, colour, false, {}});
+    Add({.What = Kind::Point, .Drawn = colour, .Coordinates = {x, y}});
     x_ = x;
     y_ = y;
 }
 
 void RecordingCanvas::Line(double x1, double y1, double x2, double y2, Colour colour) {
-    operations_.push_back({Kind::Line, {x1, y1, x2, y2}, colour, false, {}});
+    Add({.What = Kind::Line, .Drawn = colour, .Coordinates = {x1, y1, x2, y2}});
     x_ = x2;
     y_ = y2;
 }
@@ -41,20 +47,23 @@ void RecordingCanvas::LineTo(double x, double y, Colour colour) {
 }
 
 void RecordingCanvas::Rectangle(double x1, double y1, double x2, double y2, Colour colour, Fill fill) {
-    operations_.push_back({Kind::Rectangle, {x1, y1, x2, y2}, colour, fill == Fill::Filled, {}});
+    Add({.What = Kind::Rectangle,
+         .Flag = fill == Fill::Filled,
+         .Drawn = colour,
+         .Coordinates = {x1, y1, x2, y2}});
 }
 
 void RecordingCanvas::SetTextPosition(double x, double y) {
-    operations_.push_back({Kind::TextPosition, {x, y}, Black, false, {}});
+    Add({.What = Kind::TextPosition, .Coordinates = {x, y}});
 }
 
 void RecordingCanvas::SetFont(std::string_view name, int size, bool bold) {
-    operations_.push_back({Kind::Font, {static_cast<double>(size)}, Black, bold, std::string(name)});
+    Add({.What = Kind::Font, .Flag = bold, .Coordinates = {static_cast<double>(size)}}, name);
     font_.Size = size;
 }
 
 void RecordingCanvas::Print(std::string_view text) {
-    operations_.push_back({Kind::Print, {}, Black, false, std::string(text)});
+    Add({.What = Kind::Print}, text);
 }
 
 } // namespace quorvex::platform

@@ -7,20 +7,24 @@
 #include "platform/NominalFont.h"
 
 #include <array>
+#include <cstdint>
+#include <deque>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quorvex::platform {
 
-// One drawing operation as it was asked for. A line to a point is a line from the point that was current.
+// One drawing operation as it was asked for. A line to a point is a line from the point that was current. A
+// chart has thousands: they are small, and cheap to forget.
 struct DrawingOperation {
-    enum class Kind { Clear, ForeColour, Point, Line, Rectangle, TextPosition, Font, Print };
+    enum class Kind : std::uint8_t { Clear, ForeColour, Point, Line, Rectangle, TextPosition, Font, Print };
 
     Kind What = Kind::Clear;
-    std::array<double, 4> Coordinates{}; // of a point or a text position the first two, of a font its size
-    Colour Drawn = Black;
     bool Flag = false; // a rectangle is filled, a font is bold
-    std::string Text;  // of a font its name
+    Colour Drawn = Black;
+    std::array<double, 4> Coordinates{}; // of a point or a text position the first two, of a font its size
+    std::string_view Text = "";          // of a font its name; the canvas keeps it as long as the operation
 };
 
 // What of it a recording keeps.
@@ -61,6 +65,11 @@ public:
     [[nodiscard]] std::vector<DrawingOperation> const& Operations() const { return operations_; }
 
 private:
+    void Add(DrawingOperation const& operation) { operations_.push_back(operation); }
+
+    // The same, with a text.
+    void Add(DrawingOperation operation, std::string_view text);
+
     Keep kept_;
     int clearCount_ = 0;
     double width_;
@@ -69,6 +78,7 @@ private:
     double y_ = 0;
     NominalFont font_;
     std::vector<DrawingOperation> operations_;
+    std::deque<std::string> texts_; // of the operations; they stay where they are
 };
 
 } // namespace quorvex::platform

@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstddef>
+#include <string>
+
 namespace quorvex::platform {
 namespace {
 
@@ -33,6 +37,30 @@ TEST(RecordingCanvas, MeasuresTextInANominalFontWithoutRecordingIt) {
     EXPECT_NEAR(canvas.TextHeight(), 368, 0.01);
     EXPECT_EQ(canvas.TextWidth(""), 0);
     EXPECT_EQ(canvas.Operations().size(), 1U);
+}
+
+TEST(RecordingCanvas, KeepsItsOwnCopyOfEveryText) {
+    constexpr int Count = 1000;
+    RecordingCanvas canvas(100, 50);
+    for (int number = 0; number < Count; ++number) {
+        canvas.Print("text " + std::to_string(number));
+    }
+    canvas.SetFont(std::string("Arial"), 8, false);
+    ASSERT_EQ(canvas.Operations().size(), Count + 1U);
+    for (std::size_t number = 0; number < Count; ++number) {
+        EXPECT_EQ(canvas.Operations()[number].Text, "text " + std::to_string(number));
+    }
+    EXPECT_EQ(canvas.Operations().back().Text, "Arial");
+}
+
+TEST(RecordingCanvas, ForgetsWhatCameBeforeAClearWhereThatIsWanted) {
+    RecordingCanvas canvas(100, 50, Keep::SinceClear);
+    canvas.Print("before");
+    canvas.Clear();
+    canvas.Print("behind");
+    ASSERT_EQ(canvas.Operations().size(), 2U);
+    EXPECT_EQ(canvas.Operations()[0].What, DrawingOperation::Kind::Clear);
+    EXPECT_EQ(canvas.Operations()[1].Text, "behind");
 }
 
 } // namespace

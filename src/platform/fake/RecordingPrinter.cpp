@@ -23,7 +23,7 @@ public:
     void Clear() override { Fail(); }
 
     void SetForeColour(Colour colour) override {
-        Page().Shapes.push_back({Kind::ForeColour, {}, colour, false, {}});
+        Page().Shapes.push_back({.What = Kind::ForeColour, .Drawn = colour});
     }
 
     void Point(double x, double y, Colour colour) override {
@@ -112,7 +112,7 @@ private:
 
     void Shape(Kind kind, std::array<double, 4> const& coordinates, Colour colour, bool flag = false) {
         FailAt(++shapeCount_, queue_.Sheet.FailingShape);
-        Page().Shapes.push_back({kind, coordinates, colour, flag, {}});
+        Page().Shapes.push_back({.What = kind, .Flag = flag, .Drawn = colour, .Coordinates = coordinates});
     }
 
     void MoveTo(double x, double y) {

@@ -116,7 +116,7 @@ void DrawingPainter::PutBackground() {
     double const width = std::ceil(Unit(drawing_.Width()));
     double const height = std::ceil(Unit(drawing_.Height()));
     if (rows_ != nullptr) {
-        rows_->Fill(0, 0, static_cast<int>(width), static_cast<int>(height), White);
+        rows_->Whiten(static_cast<int>(width), static_cast<int>(height));
     } else {
         painter_.fillRect(QRectF(0, 0, width, height), Qt::white);
     }
@@ -146,10 +146,8 @@ void DrawingPainter::PutCurve(std::span<Place const> places, Colour colour) {
         PaintStraightLine(Unit(places.front()), Unit(places.back()), colour);
         return;
     }
-    curve_.clear();
-    for (Place const& place : places) {
-        curve_.append(Unit(place));
-    }
+    curve_.resize(static_cast<qsizetype>(places.size()));
+    std::ranges::transform(places, curve_.begin(), [this](Place place) { return Unit(place); });
     painter_.setRenderHint(QPainter::Antialiasing, true);
     SetLinePen(ToQt(colour));
     painter_.drawPolyline(curve_);

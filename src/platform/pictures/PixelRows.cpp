@@ -4,6 +4,7 @@
 #include "platform/pictures/PixelRows.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace quorvex::platform::pictures {
 
@@ -18,6 +19,15 @@ PixelRows::PixelRows(QImage& image)
 bool PixelRows::CanFill(QImage const& image) {
     return image.devicePixelRatio() == 1 &&
            (image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32_Premultiplied);
+}
+
+// Byte by byte, for which the C library has the quickest way of the processor.
+void PixelRows::Whiten(int width, int height) {
+    constexpr int FullByte = 0xFF;
+    auto const bytes = static_cast<std::size_t>(std::clamp(width, 0, width_)) * sizeof(std::uint32_t);
+    for (int y = 0; y < std::min(height, height_); ++y) {
+        std::memset(Row(y), FullByte, bytes);
+    }
 }
 
 void PixelRows::Fill(int left, int top, int width, int height, Colour colour) {

@@ -23,6 +23,9 @@ public:
     // REQUIRES: CanFill(image); the image outlives the rows and is not copied meanwhile.
     explicit PixelRows(QImage& image);
 
+    // Makes the first so many rows and columns white, as far as the image reaches.
+    void Whiten(int width, int height);
+
     // Makes these pixels opaque and of this colour, as far as the image reaches.
     void Fill(int left, int top, int width, int height, Colour colour);
 

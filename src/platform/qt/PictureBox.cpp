@@ -75,7 +75,7 @@ void PictureBox::Rasterise() {
     }
     picture_.setDevicePixelRatio(1);
     QSizeF const drawn = QSizeF(drawing_.Width(), drawing_.Height()) * (ratio / pictures::TwipsPerPixel);
-    if (drawn.width() < pixels.width() || drawn.height() < pixels.height()) {
+    if (std::ceil(drawn.width()) < pixels.width() || std::ceil(drawn.height()) < pixels.height()) {
         picture_.fill(Qt::white); // the drawing is white as far as it reaches
     }
     pictures::PaintPicture(picture_, drawing_, ratio / pictures::TwipsPerPixel);
