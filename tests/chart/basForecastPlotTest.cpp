@@ -267,7 +267,7 @@ TEST(ForecastChart, StepsByOneTwoOrFive) {
         std::vector<std::string> texts;
         for (auto const& operation : box.Operations()) {
             if (operation.What == Kind::Print) {
-                texts.push_back(operation.Text);
+                texts.emplace_back(operation.Text);
             }
         }
         ASSERT_GT(texts.size(), 1U);
