@@ -4,6 +4,7 @@
 // The commands of the converters with a fault in each of their calls of files.
 
 #include "Conversion.h"
+#include "ConversionEndings.h"
 #include "convert/basConvertBarChart.h"
 #include "convert/basConvertCSI.h"
 #include "convert/basSourcePreview.h"
@@ -18,8 +19,6 @@
 namespace quorvex::convert {
 namespace {
 
-using platform::fake::FileCall;
-using tests::Ending;
 using tests::ExpectSafe;
 using tests::MetFault;
 using tests::Trial;
@@ -65,8 +64,6 @@ std::vector<Vendor> Vendors() {
              "01/15/02,1145.00,1150.00,1140.00,1148.00,25000,400000"}};
 }
 
-// A fault of the destination takes what was written of it away again; what it held stays as its backup. A
-// destination that cannot be deleted is told of as well, and left without content where that can be.
 TEST(ConversionUnderFaults, LeavesNothingHalfConverted) {
     constexpr int Lines = 1700; // two pieces of output
     for (Vendor const& vendor : Vendors()) {
@@ -82,24 +79,13 @@ TEST(ConversionUnderFaults, LeavesNothingHalfConverted) {
             Trial trial = TrialOf(converter, [layout = vendor.Layout](Converter& running) {
                 ConvertDataFile(UsualNames, *layout, running.Failing, running.Dialogs);
             });
-            trial.Ends = [](MetFault const& met) {
-                bool const hasOpened =
-                    met.Call == FileCall::Write || met.Call == FileCall::Close || met.Call == FileCall::Read;
-                std::vector<std::string> boxes = {ExclamationBox(met.Description())};
-                // Removing it fails, too, but where nothing has the name any more.
-                if (hasOpened && met.Lasts && met.Raised != text::Fault::FileNotFound) {
-                    boxes.push_back(boxes.front());
-                }
-                return Ending{boxes};
-            };
+            trial.Ends = EndOfConversion;
             return trial;
         };
         ExpectSafe(vendor.Name, make, {"OpenForInput", "Keep", "OpenForOutput", "Read", "Write", "Close"});
     }
 }
 
-// A length that cannot be learnt empties both boxes without a message (docs/behaviour.md); a file that cannot
-// be shown keeps its name.
 TEST(ConversionUnderFaults, BrowseShowsAllOfAFileOrNothing) {
     auto const make = [] {
         auto const converter = std::make_shared<Converter>();
@@ -109,14 +95,7 @@ TEST(ConversionUnderFaults, BrowseShowsAllOfAFileOrNothing) {
             running.Dialogs.Paths = {"C:\\in.txt"};
             BrowseForSource(CsiTexts(), running.Failing, running.Dialogs, running);
         });
-        trial.Ends = [converter](MetFault const& met) -> Ending {
-            if (converter->Name.empty()) {
-                return {};
-            }
-            bool const isMissing = met.Call == FileCall::Length && met.IsGone();
-            return {{isMissing ? "Data Conversion Utility|none|Source file not found"
-                               : ExclamationBox(met.Description())}};
-        };
+        trial.Ends = [converter](MetFault const& met) { return EndOfBrowse(met, converter->Name); };
         trial.MayHold = [](std::string const&, std::string const&, std::string const& now) {
             return now == "\n" || now == "C:\\in.txt\n";
         };

@@ -5,6 +5,8 @@
 #pragma once
 
 #include "platform/disk/DiskFiles.h"
+#include "platform/fake/FailingFiles.h"
+#include "platform/fake/MemoryFiles.h"
 #include "platform/fake/RecordingPrinter.h"
 #include "platform/fake/ScriptedDialogs.h"
 #include "platform/pictures/QtTexts.h"
@@ -14,12 +16,15 @@
 #include <QDialog>
 #include <QStringList>
 #include <QTest>
+#include <string>
 
 namespace quorvex::tests {
 
 struct ConverterSurroundings {
     TemporaryFolder Folder;
     platform::disk::DiskFiles Files;
+    platform::fake::MemoryFiles Memory;
+    platform::fake::FailingFiles Failing{Memory}; // for windows that have these files
     platform::fake::ScriptedDialogs Dialogs;
     platform::fake::RecordingPrintQueue Printing;
     ModalAnswers Answers;
@@ -56,5 +61,9 @@ void BrowseTo(ConverterSurroundings& around, QWidget& window, QString const& pat
 [[nodiscard]] QStringList ClippedControls(QWidget const& window);
 
 void ShowWindow(QDialog& window);
+
+// Shows a window over the files that fail, and lets each of their calls do so while it converts the line, of
+// one day, and while it browses: it tells so, whole files stay, and the next time it does what it should.
+void LetEveryCallFail(ConverterSurroundings& around, QDialog& window, std::string const& line);
 
 } // namespace quorvex::tests

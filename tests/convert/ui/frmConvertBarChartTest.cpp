@@ -95,6 +95,14 @@ private Q_SLOTS:
         QCOMPARE(barchart.Folder.EntryCount(), 1);
     }
 
+    void AFaultOfAnyCallIsToldAndTheNextTimeWorks() {
+        ConverterSurroundings around;
+        convert::ui::frmConvertBarChart window(nullptr, around.Failing, around.Dialogs, around.Printing,
+                                               [] {});
+        window.findChild<QRadioButton*>(u"optFormat_N"_s)->setChecked(true);
+        LetEveryCallFail(around, window, "SPH2,020115,1145.00,1150.00,1140.00,1148.00,25000,400000\r\n");
+    }
+
     void HelpOpensTheDocument() {
         BarchartWindow barchart;
         ChooseByKeys(barchart.Window, u"h"_s);

@@ -175,6 +175,12 @@ private Q_SLOTS:
         QCOMPARE(texts.join(u""_s), csi.Path("in.txt")); // which may need more than one line
     }
 
+    void AFaultOfAnyCallIsToldAndTheNextTimeWorks() {
+        ConverterSurroundings around;
+        convert::ui::frmConvertCSI window(nullptr, around.Failing, around.Dialogs, around.Printing);
+        LetEveryCallFail(around, window, "20020115,1145.00,1150.00,1140.00,1148.00,25000,400000\r\n");
+    }
+
     void HelpIsAMessage() {
         CsiWindow csi;
         ChooseByKeys(csi.Window, u"h"_s);

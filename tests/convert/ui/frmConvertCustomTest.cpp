@@ -252,6 +252,12 @@ private Q_SLOTS:
             custom.Dialogs.FileQuestions[0].Filter.starts_with("Comma Separated Values (*.csv)|*.csv|Text"));
     }
 
+    void AFaultOfAnyCallIsToldAndTheNextTimeWorks() {
+        ConverterSurroundings around;
+        convert::ui::frmConvertCustom window(nullptr, around.Failing, around.Dialogs, around.Printing, [] {});
+        LetEveryCallFail(around, window, "01/15/02,1145.00,1150.00,1140.00,1148.00,25000,400000\r\n");
+    }
+
     void HelpOpensTheDocument() {
         CustomWindow custom;
         ChooseByKeys(custom.Window, u"h"_s);
