@@ -61,11 +61,9 @@ Parts FindParts(Rows rows) {
 }
 
 std::size_t FilledWidth(SampleRow const& row) {
-    std::size_t width = row.Cells.size();
-    while (width > 0 && row.Cells[width - 1].empty()) {
-        --width;
-    }
-    return width;
+    auto const last = std::find_if_not(row.Cells.rbegin(), row.Cells.rend(),
+                                       [](std::string const& cell) { return cell.empty(); });
+    return static_cast<std::size_t>(row.Cells.rend() - last);
 }
 
 std::size_t WidthOf(Rows rows) {
