@@ -21,7 +21,6 @@
 #include "platform/disk/HostInterruption.h"
 #include "text/RunTimeError.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -78,13 +77,6 @@ std::unique_ptr<BatchLines> LinesOf(BatchOptions const& options) {
     return std::make_unique<BatchTable>(CycleCount(options.Analysis.Request), options.HasTest);
 }
 
-// One line, of whatever length the message is.
-std::string InOneLine(std::string_view message) {
-    std::string line(message);
-    std::replace(line.begin(), line.end(), '\n', ' ');
-    return line;
-}
-
 // Analyses the file as "analyse" and "evaluate" do. Nothing when it was ended early. For any thread.
 std::optional<AnalysedFile> AnalyseFile(batch::BatchFile const& file, BatchOptions const& options) {
     AnalysedFile analysed;
@@ -132,15 +124,7 @@ public:
         if (path_ == PipeName) {
             sink_ = platform::disk::OpenStandardOutput();
         } else {
-            earlier.Refusal = Take();
-        }
-        if (path_ != PipeName && earlier.Refusal.empty()) {
-            if (isResumed_) {
-                earlier = batch::ReadEarlierRun(*files_.OpenForInput(path_), lines_, next, doAgain);
-            }
-            if (earlier.Refusal.empty()) {
-                platform::disk::ShortenHostFile(platform::disk::HostPath(path_), earlier.Length);
-            }
+            earlier = OpenFile(next, doAgain);
         }
         if (earlier.Refusal.empty()) {
             Write((earlier.Length == 0 ? lines_.Head() : "") + earlier.LastLine);
@@ -153,6 +137,18 @@ public:
     void Close() const { sink_->Close(); }
 
 private:
+    [[nodiscard]] batch::EarlierRun OpenFile(batch::NextFile const& next, batch::DoAgain const& doAgain) {
+        batch::EarlierRun earlier;
+        earlier.Refusal = Take();
+        if (earlier.Refusal.empty() && isResumed_) {
+            earlier = batch::ReadEarlierRun(*files_.OpenForInput(path_), lines_, next, doAgain);
+        }
+        if (earlier.Refusal.empty()) {
+            platform::disk::ShortenHostFile(platform::disk::HostPath(path_), earlier.Length);
+        }
+        return earlier;
+    }
+
     // Opens the file, if it may be written over, for this run alone. Returns the refusal.
     [[nodiscard]] std::string Take() {
         if (!platform::IsThere(files_, path_)) {

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <string>
 
 namespace quorvex::cli {
 
@@ -20,11 +19,15 @@ bool Print(std::string_view text) {
     return written;
 }
 
+std::string InOneLine(std::string_view text) {
+    std::string line(text);
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    return line;
+}
+
 void Complain(std::string_view name, std::string_view message) {
     std::string line = "quorvex-cli: ";
-    line.append(name).append(name.empty() ? "" : ": ").append(message);
-    std::replace(line.begin(), line.end(), '\n', ' ');
-    line += '\n';
+    line.append(InOneLine(name)).append(name.empty() ? "" : ": ").append(InOneLine(message)) += '\n';
     // When even this fails there is nobody left to tell.
     static_cast<void>(std::fwrite(line.data(), 1, line.size(), stderr));
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quorvex developers
 // SPDX-License-Identifier: MIT
 
+#include "FakeConsole.h"
 #include "cli/SubCommands.h"
 #include "support/Golden.h"
 
@@ -9,24 +10,11 @@
 namespace quorvex::cli {
 namespace {
 
-class FakeConsole final : public platform::Console {
-public:
-    explicit FakeConsole(bool terminal) : terminal_(terminal) {}
-
-    [[nodiscard]] bool IsTerminal() const override { return terminal_; }
-
-    [[nodiscard]] bool ShowsErrors() const override { return false; }
-
-    [[nodiscard]] int Width() const override { return 60; }
-
-private:
-    bool terminal_;
-};
-
-std::string OutputOf(platform::Console const& console, std::vector<std::string> reversedArguments) {
+std::string OutputOf(bool isTerminal, std::vector<std::string> reversedArguments) {
     CLI::App app("test", "quorvex-cli");
     app.allow_windows_style_options(false);
     auto status = ExitStatus::Usage;
+    FakeConsole const console({.IsTerminal = isTerminal, .Width = 60});
     AddAnalyse(app, console, status);
     testing::internal::CaptureStdout();
     app.parse(reversedArguments);
@@ -35,8 +23,7 @@ std::string OutputOf(platform::Console const& console, std::vector<std::string> 
 }
 
 TEST(AnalyseOnTerminal, EndsWithAChartOfItsWidth) {
-    auto const output =
-        OutputOf(FakeConsole(true), {"2", "--automate", tests::GoldenPath("quotes/q250.txt"), "analyse"});
+    auto const output = OutputOf(true, {"2", "--automate", tests::GoldenPath("quotes/q250.txt"), "analyse"});
     auto const axis = output.rfind('+');
     ASSERT_NE(axis, std::string::npos);
     auto const begin = output.rfind('\n', axis) + 1;
@@ -47,8 +34,8 @@ TEST(AnalyseOnTerminal, EndsWithAChartOfItsWidth) {
 
 TEST(AnalyseOnTerminal, HasNoChartElsewhereNorInJson) {
     auto const file = tests::GoldenPath("quotes/q250.txt");
-    EXPECT_EQ(OutputOf(FakeConsole(false), {file, "analyse"}).find("* close"), std::string::npos);
-    EXPECT_EQ(OutputOf(FakeConsole(true), {"--json", file, "analyse"}).find("* close"), std::string::npos);
+    EXPECT_EQ(OutputOf(false, {file, "analyse"}).find("* close"), std::string::npos);
+    EXPECT_EQ(OutputOf(true, {"--json", file, "analyse"}).find("* close"), std::string::npos);
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 
 #include "cli/BatchProgress.h"
 
+#include "FakeConsole.h"
+
 #include <gtest/gtest.h>
 
 #include <chrono>
@@ -48,17 +50,8 @@ TEST(BatchProgress, FitsIntoTheTerminal) {
     EXPECT_EQ(ProgressText(counts, duration<double>(20), 9), "50000 fil");
 }
 
-class ErrorTerminal final : public platform::Console {
-public:
-    [[nodiscard]] bool IsTerminal() const override { return false; }
-
-    [[nodiscard]] bool ShowsErrors() const override { return true; }
-
-    [[nodiscard]] int Width() const override { return 80; }
-};
-
 TEST(BatchProgress, KnowsTheWholeOnceItIsTold) {
-    ErrorTerminal const console;
+    FakeConsole const console({.ShowsErrors = true});
     BatchProgress progress(console);
     progress.AddBefore(1, 0);
     progress.Add(false);

@@ -3,6 +3,8 @@
 
 #include "cli/ProgressLine.h"
 
+#include "FakeConsole.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -10,24 +12,10 @@
 namespace quorvex::cli {
 namespace {
 
-class ErrorConsole final : public platform::Console {
-public:
-    explicit ErrorConsole(bool shows) : shows_(shows) {}
-
-    [[nodiscard]] bool IsTerminal() const override { return false; }
-
-    [[nodiscard]] bool ShowsErrors() const override { return shows_; }
-
-    [[nodiscard]] int Width() const override { return 80; }
-
-private:
-    bool shows_;
-};
-
 std::string ErrorsOf(bool shows) {
     testing::internal::CaptureStderr();
     {
-        ErrorConsole const console(shows);
+        FakeConsole const console({.ShowsErrors = shows});
         ProgressLine line(console);
         for (double const share : {0.0, 0.004, 0.5, 1.0}) {
             line.Show(ProgressText(share));
