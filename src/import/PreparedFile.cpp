@@ -22,7 +22,8 @@ constexpr std::uint64_t LargestQuoteFile = 4'194'304;
 void PreparedFile::Clear() {
     made_.reset();
     updated_.reset();
-    updateFault_.clear();
+    isTooLong_ = false;
+    readingFault_.reset();
 }
 
 void PreparedFile::Prepare(Conversion const& read, Wish const& wish, platform::Files const& files) {
@@ -36,16 +37,21 @@ void PreparedFile::Prepare(Conversion const& read, Wish const& wish, platform::F
 }
 
 void PreparedFile::PrepareUpdate(Conversion const& read, platform::Files const& files) {
-    auto const fault = text::Trap([&] {
-        if (files.Length(wish_.Path) > LargestQuoteFile) {
-            updateFault_ = "it is too long for a quote file";
-            return;
+    readingFault_ = text::Trap([&] {
+        isTooLong_ = files.Length(wish_.Path) > LargestQuoteFile;
+        if (!isTooLong_) {
+            auto const bytes = files.OpenForInput(wish_.Path);
+            updated_ = UpdateQuoteFile(*bytes, read, wish_.Replaces, wish_.MostDays);
         }
-        auto const bytes = files.OpenForInput(wish_.Path);
-        updated_ = UpdateQuoteFile(*bytes, read, wish_.Replaces, wish_.MostDays);
     });
-    if (fault) {
-        updateFault_ = fault->Description();
+}
+
+void PreparedFile::RequireFile() const {
+    if (readingFault_) {
+        throw text::RunTimeError(*readingFault_);
+    }
+    if (!updated_ && !isTooLong_) {
+        throw text::RunTimeError(text::Fault::FileNotFound);
     }
 }
 
@@ -58,8 +64,10 @@ std::string PreparedFile::Describe() const {
     std::string const name(platform::BareName(wish_.Path));
     if (updated_) {
         text += '\n' + DescribeUpdate(*updated_, name, wish_.Replaces);
-    } else if (!updateFault_.empty()) {
-        text += '\n' + name + " cannot be brought up to date: " + updateFault_ + ".";
+    } else if (isTooLong_ || readingFault_) {
+        std::string_view const why =
+            isTooLong_ ? "it is too long for a quote file" : readingFault_->Description();
+        text.append(1, '\n').append(name).append(" cannot be brought up to date: ").append(why) += '.';
     }
     return text;
 }

@@ -5,6 +5,7 @@
 
 #include "import/basImport.h"
 #include "platform/Files.h"
+#include "text/RunTimeError.h"
 
 #include <cstddef>
 #include <optional>
@@ -34,6 +35,12 @@ public:
 
     [[nodiscard]] bool CanUpdate() const { return updated_ && updated_->HasNews(); }
 
+    // Whether a fault has kept the file of the name from being read, which may be gone the next time.
+    [[nodiscard]] bool MayReadNextTime() const { return readingFault_.has_value(); }
+
+    // Raises that fault, or "File not found" when there is no such file.
+    void RequireFile() const;
+
     // Whether the table has other figures of days that the file of the name has.
     [[nodiscard]] bool HasChanges() const;
 
@@ -55,7 +62,8 @@ private:
     Wish wish_;
     std::optional<QuoteFile> made_;    // of the table alone
     std::optional<QuoteFile> updated_; // of the table and the file of the name
-    std::string updateFault_;          // why that file cannot be brought up to date
+    bool isTooLong_ = false;           // that file, for quotes
+    std::optional<text::RunTimeError> readingFault_;
 };
 
 } // namespace quorvex::imports

@@ -5,10 +5,12 @@
 
 #include "Tables.h"
 #include "platform/fake/MemoryFiles.h"
+#include "text/RunTimeError.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 
 namespace quorvex::imports {
@@ -31,6 +33,11 @@ PreparedFile Prepared(std::string const& table, MemoryFiles const& files, std::s
     PreparedFile prepared;
     prepared.Prepare(ImportText(table), {path, 500, replaces}, files);
     return prepared;
+}
+
+std::optional<text::Fault> FaultOfFile(PreparedFile const& prepared) {
+    auto const fault = text::Trap([&] { prepared.RequireFile(); });
+    return fault ? std::optional(fault->Kind()) : std::nullopt;
 }
 
 TEST(PreparedFile, IsOneOfTheTableWhereThereIsNoneOfItsName) {
@@ -90,8 +97,11 @@ TEST(PreparedFile, RoundsInAnUpdateByATableThatIsTooShortForAFile) {
 TEST(PreparedFile, TellsWhyAFileCannotBeBroughtUpToDate) {
     MemoryFiles files;
     files.Contents["/w.txt"] = std::string(4'194'305, ' ');
-    EXPECT_THAT(Prepared(MarchTable(26), files).Describe(),
+    PreparedFile const tooLong = Prepared(MarchTable(26), files);
+    EXPECT_THAT(tooLong.Describe(),
                 testing::EndsWith("\nw.txt cannot be brought up to date: it is too long for a quote file."));
+    EXPECT_FALSE(tooLong.MayReadNextTime());
+    EXPECT_EQ(FaultOfFile(tooLong), std::nullopt);
     files.Contents["/w.txt"] = QuoteText(ImportText(MarchTable(26)).Days);
     files.BreakReading = std::pair(std::size_t{10}, text::Fault::PermissionDenied);
     PreparedFile const prepared = Prepared(MarchTable(27), files);
@@ -99,6 +109,15 @@ TEST(PreparedFile, TellsWhyAFileCannotBeBroughtUpToDate) {
                 testing::EndsWith("\nw.txt cannot be brought up to date: Permission denied."));
     EXPECT_TRUE(prepared.CanImport());
     EXPECT_FALSE(prepared.CanUpdate());
+    EXPECT_TRUE(prepared.MayReadNextTime());
+    EXPECT_EQ(FaultOfFile(prepared), text::Fault::PermissionDenied);
+    files.BreakReading.reset();
+    PreparedFile const next = Prepared(MarchTable(27), files);
+    EXPECT_TRUE(next.CanUpdate());
+    EXPECT_FALSE(next.MayReadNextTime());
+    EXPECT_EQ(FaultOfFile(next), std::nullopt);
+    files.Contents.clear();
+    EXPECT_EQ(FaultOfFile(Prepared(MarchTable(27), files)), text::Fault::FileNotFound);
 }
 
 } // namespace

@@ -385,7 +385,7 @@ void frmImport::ShowButtons() {
     ui_->cmdClose->setVisible(!isReading);
     bool const canUpdate = prepared_.CanUpdate();
     ui_->cmdImport->setEnabled(prepared_.CanImport());
-    ui_->cmdUpdate->setEnabled(canUpdate);
+    ui_->cmdUpdate->setEnabled(canUpdate || prepared_.MayReadNextTime());
     ui_->cmdUpdate->setDefault(canUpdate);
     ui_->cmdImport->setDefault(prepared_.CanImport() && !canUpdate);
     ui_->chkReplace->setEnabled(prepared_.HasChanges());
@@ -440,10 +440,12 @@ void frmImport::Import() {
     }
 }
 
-// The file may be another one by now than when it was looked at.
+// The file may be another one by now than when it was looked at, and a fault that kept it from being read may
+// be gone.
 void frmImport::Update() {
     PrepareFile();
     ShowState();
+    prepared_.RequireFile();
     if (prepared_.CanUpdate()) {
         Write(TargetPath(), prepared_.Updated());
     }

@@ -515,25 +515,67 @@ private Q_SLOTS:
         });
     }
 
+    void AFaultOfAnUpdateIsToldAndLeavesTheFile_data() {
+        QTest::addColumn<int>("fault");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("full") << static_cast<int>(text::Fault::DiskFull) << u"Disk full"_s;
+        QTest::newRow("gone") << static_cast<int>(text::Fault::FileNotFound) << u"File not found"_s;
+    }
+
     void AFaultOfAnUpdateIsToldAndLeavesTheFile() {
+        QFETCH(int, fault);
+        QFETCH(QString, told);
+        ShownImport shown;
+        std::string const all = TableRows(60);
+        std::string const old = QuotesOf(TableHead + all.substr(all.find("2024-06-26")));
+        bool hasMet = true;
+        for (int number = 1; hasMet; ++number) {
+            shown.Folder.Write("wheat.txt", old);
+            std::filesystem::remove(shown.Folder.File("wheat.txt~"));
+            auto const imported = shown.Run("wheat.csv", TableHead + all, [&] {
+                shown.Failing.FailAt({.Number = number, .Raised = static_cast<text::Fault>(fault)});
+                shown.Press("cmdUpdate");
+                hasMet = shown.Failing.Failed().has_value();
+                shown.Failing.Recover();
+                bool const isTold =
+                    shown.Answers.TakeShown().contains(OkMessage(u"Quorvex"_s, u"none"_s, told));
+                QCOMPARE(shown.Window->isVisible(), isTold);
+                if (!isTold) {
+                    return; // asked again whether the file is there, it was brought up to date
+                }
+                QCOMPARE(shown.Folder.Read("wheat.txt"), old);
+                if (!shown.Can("cmdUpdate")) { // the file seemed to be gone
+                    shown.TypeInto("txtQuoteFile", u"wheat.txt"_s);
+                }
+                shown.Press("cmdUpdate");
+            });
+            QVERIFY(imported.has_value());
+            QCOMPARE(shown.Folder.Read("wheat.txt"), QuotesOf(TableHead + all));
+            QCOMPARE(shown.Folder.Read("wheat.txt~"), old);
+        }
+    }
+
+    void AnUpdateCanBeTriedAgainBehindAFault() {
         ShownImport shown;
         std::string const all = TableRows(60);
         std::string const old = QuotesOf(TableHead + all.substr(all.find("2024-06-26")));
         shown.Folder.Write("wheat.txt", old);
         auto const imported = shown.Run("wheat.csv", TableHead + all, [&] {
-            for (int number = 1; shown.Window->isVisible(); ++number) {
-                QVERIFY(shown.Can("cmdUpdate"));
-                QCOMPARE(shown.Folder.Read("wheat.txt"), old);
-                shown.Failing.FailAt({.Number = number, .Raised = text::Fault::DiskFull});
-                shown.Press("cmdUpdate");
-                bool const isShown =
-                    shown.Answers.TakeShown().contains(OkMessage(u"Quorvex"_s, u"none"_s, u"Disk full"_s));
-                QVERIFY2(isShown || !shown.Window->isVisible() || shown.Result().endsWith(u"Disk full."_s),
-                         qPrintable(shown.Result()));
-                shown.Failing.Recover();
-                shown.Press("cmdAsFound");
-                QVERIFY(shown.WaitForEnd());
-            }
+            QString const why = u"\nwheat.txt cannot be brought up to date: Permission denied."_s;
+            shown.Failing.FailAt({.Raised = text::Fault::PermissionDenied, .Lasts = true});
+            shown.Find<QSpinBox>(u"spnDays"_s).setValue(400); // looks at the file again
+            QVERIFY2(shown.Result().endsWith(why), qPrintable(shown.Result()));
+            QVERIFY(shown.Can("cmdUpdate"));
+            QVERIFY(shown.Find<QPushButton>(u"cmdImport"_s).isDefault());
+            shown.Press("cmdUpdate");
+            QVERIFY(shown.Answers.TakeShown().contains(
+                OkMessage(u"Quorvex"_s, u"none"_s, u"Permission denied"_s)));
+            QVERIFY(shown.Result().endsWith(why));
+            QVERIFY(shown.Can("cmdUpdate"));
+            QCOMPARE(shown.Folder.Read("wheat.txt"), old);
+            shown.Failing.Recover();
+            shown.Press("cmdUpdate");
+            QVERIFY(!shown.Window->isVisible());
         });
         QVERIFY(imported.has_value());
         QCOMPARE(shown.Folder.Read("wheat.txt"), QuotesOf(TableHead + all));
