@@ -115,7 +115,7 @@ private:
     QTimer redrawAfterEvent_;
     bool isCommandRunning_ = false;
     bool isRedrawing_ = false;
-    bool isAway_ = true;    // another program has the focus
+    bool isAway_ = false;   // another program has the focus
     bool isBroken_ = false; // the last redraw ended with an exception, which was shown
     bool isRedrawWanted_ = false;
 };

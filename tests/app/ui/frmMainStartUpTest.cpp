@@ -74,6 +74,15 @@ private Q_SLOTS:
         QVERIFY(main.Answers.Shown().isEmpty());
     }
 
+    void TheChartsAreDrawnOnce() {
+        RunningWindow main;
+        QTRY_VERIFY(main.Box(2).Drawing().ClearCount() > 0);
+        QTest::qWait(0);
+        for (int box = 1; box <= 4; ++box) {
+            QCOMPARE(main.Box(box).Drawing().ClearCount(), 1);
+        }
+    }
+
     void EveryCellHoldsZero() {
         RunningWindow main;
         for (int row = 1; row <= 4; ++row) {
