@@ -3,6 +3,9 @@
 
 #include "import/ui/ShownImport.h"
 
+#include "import/basImport.h"
+#include "import/basMerge.h"
+
 #include <QDate>
 #include <QLabel>
 #include <QLineEdit>
@@ -70,6 +73,11 @@ std::string TableRows(int count, std::string const& dateFormat, char separator) 
         day = day.addDays(day.dayOfWeek() == Qt::Monday ? -3 : -1);
     }
     return rows;
+}
+
+std::string QuotesOf(std::string const& table, std::size_t most) {
+    text::TextSource source(table);
+    return imports::QuoteText(imports::MakeQuoteFile(imports::ImportTable(source, {}, {}), most).Days);
 }
 
 ShownImport::ShownImport() {

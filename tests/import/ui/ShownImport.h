@@ -14,6 +14,7 @@
 #include <QComboBox>
 #include <QStringList>
 #include <atomic>
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -39,6 +40,9 @@ public:
                                     char separator = ',');
 
 inline std::string const TableHead = "Date,Open,High,Low,Close,Volume\n";
+
+// The quote file that the companion would make of the table.
+[[nodiscard]] std::string QuotesOf(std::string const& table, std::size_t most = 500);
 
 // The import window over a folder of its own, which is the data folder.
 class ShownImport {
