@@ -24,7 +24,7 @@ struct DrawingOperation {
     bool Flag = false; // a rectangle is filled, a font is bold
     Colour Drawn = Black;
     std::array<double, 4> Coordinates{}; // of a point or a text position the first two, of a font its size
-    std::string_view Text = "";          // of a font its name; the canvas keeps it as long as the operation
+    std::string_view Text{};             // of a font its name; the canvas keeps it as long as the operation
 };
 
 // What of it a recording keeps.
