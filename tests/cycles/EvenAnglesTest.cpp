@@ -21,7 +21,8 @@ struct Angles {
 class EvenAnglesOf : public testing::TestWithParam<Angles> {};
 
 TEST_P(EvenAnglesOf, AreAsGoodAsTheAngle) {
-    auto const [step, offset] = GetParam();
+    double const step = GetParam().Step;
+    double const offset = GetParam().Offset;
     constexpr int Last = 525;
     EvenAngles(step).ForEach(offset, Last, [&](int number, double cosine, double sine) {
         double const angle = offset + number * step;
