@@ -146,6 +146,9 @@ function(add_windows name)
 endfunction()
 
 # The machine that runs the tests is taken to be in another time zone and to write a decimal comma.
+# For the address sanitizer of Clang 14, which guesses where plugins keep what each thread has of its own: a header that only
+# old C libraries wrote sends it astray, about once in a thousand runs, and it ends with a fault of its own.
+set(QUORVEX_NO_GUESSES intercept_tls_get_addr=0)
 set(QUORVEX_TEST_ENVIRONMENT TZ=Asia/Kathmandu LC_ALL=de_DE.UTF-8 LOCPATH=${PROJECT_BINARY_DIR}/locale)
 
 # add_core_test(<core> FILES <sources> [USES <more cores>]): the tests of one core, linked to that core alone.
@@ -189,7 +192,7 @@ function(add_windows_case name)
     set(leaks ${PROJECT_SOURCE_DIR}/tests/windows/lsan.supp) # of libraries that are not the program's own
     # No test prints on a printer of the machine.
     set_tests_properties(windows.${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
-        "${QUORVEX_TEST_ENVIRONMENT};QT_QPA_PLATFORM=offscreen;CUPS_SERVER=/nowhere;LSAN_OPTIONS=suppressions=${leaks}:print_suppressions=0")
+        "${QUORVEX_TEST_ENVIRONMENT};QT_QPA_PLATFORM=offscreen;CUPS_SERVER=/nowhere;LSAN_OPTIONS=suppressions=${leaks}:print_suppressions=0:${QUORVEX_NO_GUESSES}")
 endfunction()
 
 # add_windows_tests(<sources>): adds them to the program with the window tests. Each source named <name>Test.cpp holds
