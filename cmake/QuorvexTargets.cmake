@@ -145,10 +145,11 @@ function(add_windows name)
     set_property(GLOBAL APPEND PROPERTY QUORVEX_WINDOWS ${name})
 endfunction()
 
-# The machine that runs the tests is taken to be in another time zone and to write a decimal comma.
 # For the address sanitizer of Clang 14, which guesses where plugins keep what each thread has of its own: a header that only
 # old C libraries wrote sends it astray, about once in a thousand runs, and it ends with a fault of its own.
 set(QUORVEX_NO_GUESSES intercept_tls_get_addr=0)
+
+# The machine that runs the tests is taken to be in another time zone and to write a decimal comma.
 set(QUORVEX_TEST_ENVIRONMENT TZ=Asia/Kathmandu LC_ALL=de_DE.UTF-8 LOCPATH=${PROJECT_BINARY_DIR}/locale)
 
 # add_core_test(<core> FILES <sources> [USES <more cores>]): the tests of one core, linked to that core alone.
