@@ -248,6 +248,9 @@ struct Tally {
     int OnlyBackup = 0;
     int Broken = 0;
     int HalfWay = 0;
+
+    // Kills that all miss the saves, or all come before the first one, show nothing.
+    [[nodiscard]] bool ShowsSomething() const { return HalfWay > 0 && Short > 0 && Long > 0; }
 };
 
 // The two contents that are saved in turn.
@@ -301,9 +304,9 @@ bool RunKills(std::string_view kind, unsigned count, std::mt19937& random, Tempo
     }
     std::uniform_int_distribution<int> pause(0, static_cast<int>(longest.count()));
     Tally tally;
-    constexpr unsigned MostTimesMore = 10; // until one comes half-way, where saving is the least of the work
+    constexpr unsigned MostTimesMore = 10; // where saving is the least of the work, or nearly all of it
     unsigned turn = 0;
-    for (; turn < count || (tally.HalfWay == 0 && turn < MostTimesMore * count); ++turn) {
+    for (; turn < count || (!tally.ShowsSomething() && turn < MostTimesMore * count); ++turn) {
         bool const isLongFirst = turn % 2 == 0;
         folder.Write(FileName, isLongFirst ? contents->Short : contents->Long);
         if (!KillAfter(pause(random), saver, isLongFirst)) {
@@ -316,8 +319,7 @@ bool RunKills(std::string_view kind, unsigned count, std::mt19937& random, Tempo
                 "mark, %d times broken; %d kills came half-way through a save.\n",
                 static_cast<int>(kind.size()), kind.data(), turn, tally.Short, tally.Long, tally.OnlyBackup,
                 tally.Broken, tally.HalfWay);
-    // Kills that all miss the saves, or all come before the first one, show nothing.
-    return tally.Broken == 0 && tally.HalfWay > 0 && tally.Short > 0 && tally.Long > 0;
+    return tally.Broken == 0 && tally.ShowsSomething();
 }
 
 template <class SaverOfKind>
