@@ -3,8 +3,6 @@
 
 #include "platform/RecordingCanvas.h"
 
-#include <cstddef>
-
 namespace quorvex::platform {
 
 using Kind = DrawingOperation::Kind;
@@ -25,9 +23,6 @@ void RecordingCanvas::Clear() {
         operations_.clear();
         texts_.clear();
     }
-    // Room for a chart of 500 days, rather than grow to it: memory that stays unused is none.
-    constexpr std::size_t Usual = 8192;
-    operations_.reserve(Usual);
     Add({.What = Kind::Clear});
 }
 
