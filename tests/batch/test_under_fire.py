@@ -3,8 +3,8 @@
 """Kills batch at random moments and lets it go on, interrupts it, and compares with unbroken runs.
 
 QUORVEX_COMPANION names the program, QUORVEX_CONTRACTS says of how many files (300), QUORVEX_KILLS how often it is killed
-(6), QUORVEX_FORMATS in which formats: with 100,000 files the objects take 11 GB, so that only "-k killed -k line" with "csv"
-makes sense."""
+(6), QUORVEX_FORMATS in which formats: with 100,000 files the objects take 11 GB, so that only "-k killed -k has_its_line"
+with "csv" makes sense."""
 
 import os
 import random
