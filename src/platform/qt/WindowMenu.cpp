@@ -7,23 +7,20 @@
 
 #include <QApplication>
 #include <utility>
+#include <vector>
 
 namespace quorvex::platform::qt {
 
-namespace {
+struct WindowMenu::Turn {
+    bool IsTaken = false;
+    std::vector<Command> Waiting;
+};
 
-void Run(QWidget& window, WindowMenu::Command const& command) {
-    CloseMenus();
-    // Keys and mouse do not come through while a dialog is open; assistive technology does.
-    QWidget const* const waiting = QApplication::activeModalWidget();
-    if (waiting == nullptr || waiting == &window) {
-        RunGuarded(window, command);
-    }
-}
-
-} // namespace
-
-WindowMenu::WindowMenu(QWidget& window) : window_(window), bar_(new QMenuBar(&window)), current_(bar_) {
+WindowMenu::WindowMenu(QWidget& window)
+    : window_(window),
+      turn_(std::make_shared<Turn>()),
+      bar_(new QMenuBar(&window)),
+      current_(bar_) {
     // A menu bar of the system's own shows no commands outside of menus.
     bar_->setNativeMenuBar(false);
 }
@@ -45,7 +42,7 @@ WindowMenu& WindowMenu::Item(char const* name, char const* caption, Command comm
     action->setObjectName(QString::fromLatin1(name));
     action->setMenuRole(QAction::NoRole); // macOS would move some into a menu of its own
     QObject::connect(action, &QAction::triggered, &window_,
-                     [&window = window_, run = std::move(command)] { Run(window, run); });
+                     [&window = window_, turn = turn_, run = std::move(command)] { Run(window, turn, run); });
     current_->addAction(action);
     return *this;
 }
@@ -55,6 +52,33 @@ WindowMenu& WindowMenu::Separator() {
     action->setSeparator(true);
     current_->addAction(action);
     return *this;
+}
+
+void WindowMenu::Run(QWidget& window, std::shared_ptr<Turn> const& turn, Command const& command) {
+    CloseMenus();
+    // Keys and mouse do not come through while a dialog is open; assistive technology does.
+    QWidget const* const waiting = QApplication::activeModalWidget();
+    if (waiting != nullptr && waiting != &window) {
+        return;
+    }
+    if (turn->IsTaken) {
+        // Its dialog is closed and about to return: it cannot be opened before.
+        turn->Waiting.push_back(command);
+        return;
+    }
+    turn->IsTaken = true;
+    RunGuarded(window, command);
+    turn->IsTaken = false;
+    for (Command& next : std::exchange(turn->Waiting, {})) {
+        QMetaObject::invokeMethod(
+            &window,
+            [&window, turn, run = std::move(next)] {
+                if (window.isVisible()) {
+                    Run(window, turn, run);
+                }
+            },
+            Qt::QueuedConnection);
+    }
 }
 
 } // namespace quorvex::platform::qt

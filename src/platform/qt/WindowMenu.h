@@ -5,11 +5,13 @@
 
 #include <QMenuBar>
 #include <functional>
+#include <memory>
 
 namespace quorvex::platform::qt {
 
 // The menu bar of a window other than the main one. A command runs guarded once the menus are closed; one
-// that assistive technology chooses while another window waits for an answer does not run.
+// that assistive technology chooses while another window waits for an answer does not run, and one that is
+// chosen while the command before is about to end waits for that.
 class WindowMenu {
 public:
     using Command = std::function<void()>;
@@ -30,7 +32,12 @@ public:
     [[nodiscard]] QMenuBar& Bar() { return *bar_; }
 
 private:
+    struct Turn; // one command at a time
+
+    static void Run(QWidget& window, std::shared_ptr<Turn> const& turn, Command const& command);
+
     QWidget& window_;
+    std::shared_ptr<Turn> turn_; // of the items, which outlive this
     QMenuBar* bar_;
     QWidget* current_; // the bar or the last menu
 };

@@ -102,6 +102,48 @@ private Q_SLOTS:
         QCOMPARE(runs, 1);
         QVERIFY(answers.IsDone());
     }
+
+    void ACommandWaitsForTheOneBeforeToEnd() {
+        QDialog window;
+        QDialog help(&window);
+        help.setObjectName(u"frmHelp"_s);
+        WindowMenu menu(window);
+        menu.Item("mnuHelp", "&Help", [&help] { help.exec(); });
+        auto* item = window.findChild<QAction*>(u"mnuHelp"_s);
+        ModalAnswers answers;
+        answers.Next([item](QWidget&) { item->trigger(); });
+        answers.Next([item](QWidget& shown) {
+            shown.close();
+            item->trigger();
+        });
+        answers.Next([&window](QWidget& shown) {
+            shown.close();
+            window.close();
+        });
+        window.exec();
+        QVERIFY(answers.IsDone());
+        QCOMPARE(answers.Shown(), QStringList({u""_s, u"frmHelp"_s, u"frmHelp"_s}));
+    }
+
+    void ACommandThatWaitedDoesNotRunOnceTheWindowIsClosed() {
+        QDialog window;
+        QDialog question(&window);
+        question.setObjectName(u"question"_s);
+        WindowMenu menu(window);
+        menu.Item("mnuAsk", "&Ask", [&question] { question.exec(); });
+        auto* item = window.findChild<QAction*>(u"mnuAsk"_s);
+        ModalAnswers answers;
+        answers.Next([item](QWidget&) { item->trigger(); });
+        answers.Next([&window, item](QWidget& shown) {
+            shown.close();
+            item->trigger();
+            window.close();
+        });
+        window.exec();
+        QCoreApplication::processEvents();
+        QVERIFY(answers.IsDone());
+        QCOMPARE(answers.Shown(), QStringList({u""_s, u"question"_s}));
+    }
 };
 
 template struct ListedWindowTest<WindowMenuTest>;
