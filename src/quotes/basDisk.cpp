@@ -127,8 +127,10 @@ void AppendReadableNumber(std::string& text, double value, text::NumberFormat co
     std::size_t const begin = text.size();
     format.AppendTo(text, value);
     std::string_view const field = std::string_view(text).substr(begin);
-    if (field.find_first_of(",\"\r\n") != std::string_view::npos ||
-        text::LeadingNumber(field) != format.Round(value)) {
+    double const written = format.Round(value);
+    // The loader rounds what it reads once more: digits that the format itself holds would be put in again.
+    if (field.find_first_of(",\"\r\n") != std::string_view::npos || text::LeadingNumber(field) != written ||
+        format.Round(written) != written) {
         throw RunTimeError(Fault::TypeMismatch);
     }
 }

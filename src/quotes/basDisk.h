@@ -54,7 +54,7 @@ std::int16_t LoadQuoteFile(QuoteSeries& series, settings::Settings const& settin
 
 // Puts the number behind the text in the form in which a quote file holds it. A quote file is the user's
 // data: raises "Type mismatch" when the format spells the number in a way that would not read back as the
-// same one, such as with thousands commas.
+// same one, such as with thousands commas or digits of its own.
 void AppendReadableNumber(std::string& text, double value, text::NumberFormat const& format);
 
 // The working copy as the text of a quote file. Raises the fault of AppendReadableNumber.

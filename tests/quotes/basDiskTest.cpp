@@ -240,8 +240,8 @@ TEST_F(QuoteFile, SavingNoQuotesWritesAnEmptyFile) {
 }
 
 TEST_F(QuoteFile, RefusesToWriteNumbersThatWouldNotReadBack) {
-    // "1,234.50" would come back as two fields, "$5.00" as zero.
-    for (auto const* format : {"#,##0.00", "$0.00", "0.00%", "\"x\""}) {
+    // "1,234.50" would come back as two fields, "$5.00" as zero, "15.00" as "115.00".
+    for (auto const* format : {"#,##0.00", "$0.00", "0.00%", "\"x\"", "1#0.00"}) {
         SCOPED_TRACE(format);
         settings.CurrencyFormat = "####0.00";
         ASSERT_EQ(Load("03/05/02, 1234.5, 1234.5, 1234.5, 1234.5, 1, 1\r\n" + QuoteLines(25)), 26);
