@@ -16,7 +16,13 @@ bool HasActiveCycle(CycleParameterSet const& set) {
 
 void ClearCycles(CycleParameterSet& set, CycleCurve& compositeCurve) {
     for (int cycle = 1; cycle <= CycleCount; ++cycle) {
-        set.Cycles[cycle] = CycleRecord();
+        // In place: a cleared record to copy from would be as long once more.
+        CycleRecord& record = set.Cycles[cycle];
+        record.Weight = 0;
+        record.Period = 0;
+        record.Shift = 0;
+        record.Decay = 0;
+        record.Values.Fill(0);
     }
     compositeCurve.Fill(0);
 }

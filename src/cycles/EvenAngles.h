@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "text/RunTimeError.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -11,50 +13,42 @@
 namespace quorvex::cycles {
 
 // Cosines and sines of angles at even distances, in radians, for a fraction of what the C library takes for
-// them: it is asked for one angle of each block alone, and the addition theorems give the others, as good as
-// the angle, which a double rounds, too.
+// them: it is asked for the first angle and for one turn each time that their number doubles. The addition
+// theorems give the others, as good as the angle, which a double rounds, too.
+template <std::size_t Most>
 class EvenAngles {
 public:
-    explicit EvenAngles(double step) : step_(step) {
-        for (std::size_t length = 1; length < BlockLength; length *= 2) {
-            Turn(length, static_cast<double>(length) * step, steps_, length);
+    // Takes the angles offset + number * step of the numbers 1..last. More than Most raise "Subscript out of
+    // range".
+    void Take(double offset, double step, int last) {
+        if (last > static_cast<int>(Most)) {
+            throw text::RunTimeError(text::Fault::SubscriptOutOfRange);
+        }
+        cosines_[0] = std::cos(offset + step);
+        sines_[0] = std::sin(offset + step);
+        for (int known = 1; known < last; known *= 2) {
+            Turn(known * step, static_cast<std::size_t>(known),
+                 static_cast<std::size_t>(std::min(known, last - known)));
         }
     }
 
-    // Calls take(number, cosine, sine) of the angle offset + number * step, for the numbers 1..last.
-    template <class Take>
-    void ForEach(double offset, int last, Take&& take) const {
-        Block block{};
-        for (int begin = 1; begin <= last; begin += static_cast<int>(BlockLength)) {
-            Turn(BlockLength, offset + begin * step_, block, 0);
-            int const count = std::min(static_cast<int>(BlockLength), last - begin + 1);
-            for (int index = 0; index < count; ++index) {
-                auto const at = static_cast<std::size_t>(index);
-                take(begin + index, block.Cosines[at], block.Sines[at]);
-            }
-        }
-    }
+    [[nodiscard]] double Cosine(int number) const { return cosines_[static_cast<std::size_t>(number - 1)]; }
+
+    [[nodiscard]] double Sine(int number) const { return sines_[static_cast<std::size_t>(number - 1)]; }
 
 private:
-    static constexpr std::size_t BlockLength = 64;
-
-    struct Block {
-        std::array<double, BlockLength> Cosines;
-        std::array<double, BlockLength> Sines;
-    };
-
-    // Writes the first so many steps, turned by the angle, to this place.
-    void Turn(std::size_t count, double angle, Block& to, std::size_t place) const {
+    // Puts the first so many, turned by the angle, behind the known ones.
+    void Turn(double angle, std::size_t known, std::size_t count) {
         double const cosine = std::cos(angle);
         double const sine = std::sin(angle);
         for (std::size_t at = 0; at < count; ++at) {
-            to.Cosines[place + at] = steps_.Cosines[at] * cosine - steps_.Sines[at] * sine;
-            to.Sines[place + at] = steps_.Sines[at] * cosine + steps_.Cosines[at] * sine;
+            cosines_[known + at] = cosines_[at] * cosine - sines_[at] * sine;
+            sines_[known + at] = sines_[at] * cosine + cosines_[at] * sine;
         }
     }
 
-    double step_;
-    Block steps_{{1}, {0}}; // from no step on
+    std::array<double, Most> cosines_{};
+    std::array<double, Most> sines_{};
 };
 
 } // namespace quorvex::cycles

@@ -8,6 +8,7 @@
 #include "text/basNumbers.h"
 
 #include <cstddef>
+#include <string>
 
 namespace quorvex::cycles {
 
@@ -121,7 +122,7 @@ void WriteGrid(CycleParameterSet const& set, ParameterGrid& grid) {
 }
 
 void WriteCell(ParameterGrid& grid, Parameter parameter, int cycle, double value) {
-    grid.SetText(parameter, cycle, WholeFormat().Format(text::WholeNumber(value)));
+    grid.SetText(parameter, cycle, std::to_string(text::WholeNumber(value)));
 }
 
 double SumOfWeights(ParameterGrid const& grid) {

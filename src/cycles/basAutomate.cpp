@@ -22,10 +22,7 @@ constexpr double Pi = 3.14159265358979;
 constexpr std::array<double, 3> FixedWeights = {50, 34, 16};
 
 // cos(w t) and sin(w t) of the days, which the fit and the stripping share.
-struct Basis {
-    QuoteCurve Cosine;
-    QuoteCurve Sine;
-};
+using Basis = EvenAngles<quotes::MaxQuotes>;
 
 // The sum of many arc cosines at the cost of one arc.
 //
@@ -41,18 +38,15 @@ struct Basis {
 // The last point tells the rest: sin r is |y|, and cos r is x, or -x where y is below zero.
 //
 // The arc cosine of this program is Pi / 2 - arctan(c / sin a), with a Pi that falls short of pi: each angle
-// is less by half of that. A c of -1 or 1, or beyond, counts as an angle of 0.
+// is less by half of that.
 class ArcCosineSum {
 public:
+    // REQUIRES: IsCosine.
     void Add(double cosine) {
-        double const square = cosine * cosine;
-        if (square >= 1) {
-            return;
-        }
-        double const sine = std::sqrt(1 - square);
+        double const sine = std::sqrt(1 - cosine * cosine);
         double const x = x_ * cosine - y_ * sine;
         double const y = x_ * sine + y_ * cosine;
-        halfTurns_ += std::signbit(y) != std::signbit(y_) ? 1 : 0;
+        halfTurns_ += static_cast<int>(std::signbit(y) != std::signbit(y_));
         x_ = x;
         y_ = y;
         ++angles_;
@@ -71,11 +65,24 @@ private:
     int angles_ = 0;
 };
 
+// Whether this is the cosine of an angle that adds anything: one of -1 or 1, or beyond, counts as an angle
+// of 0.
+bool IsCosine(double value) {
+    return value * value < 1;
+}
+
+// What the days say about the frequency.
+struct FrequencyVotes {
+    std::array<double, quotes::MaxQuotes> Cosines{}; // of the angles, the first AngleCount
+    std::size_t AngleCount = 0;
+    int Count = 0; // of the votes, those for an angle of 0 included
+};
+
 // For a pure sinusoid the quotient is cos w at every day, so that each day within range votes for a
-// frequency.
-double EstimateFrequency(QuoteCurve const& x, std::int16_t count) {
-    ArcCosineSum sum;
-    double votes = 0;
+// frequency. Which days do is as good as random: choosing without a branch spares the processor wrong
+// guesses.
+FrequencyVotes CollectVotes(QuoteCurve const& x, std::int16_t count) {
+    FrequencyVotes votes;
     for (int day = 3; day <= count - 2; ++day) {
         double const above = 2 * x[day] + x[day - 2] + x[day + 2];
         double const below = 2 * (x[day - 1] + x[day + 1]);
@@ -84,19 +91,20 @@ double EstimateFrequency(QuoteCurve const& x, std::int16_t count) {
             continue;
         }
         double const ratio = text::RequireFinite(above / below);
-        if (std::fabs(ratio) <= 1) {
-            sum.Add(ratio);
-            votes += 1;
-        }
+        votes.Cosines[votes.AngleCount] = ratio;
+        votes.AngleCount += static_cast<std::size_t>(IsCosine(ratio));
+        votes.Count += static_cast<int>(std::fabs(ratio) <= 1);
     }
-    return text::Divide(sum.Radians(), votes);
+    return votes;
 }
 
-void FillBasis(double frequency, std::int16_t count, Basis& basis) {
-    EvenAngles(frequency).ForEach(0, count, [&basis](int day, double cosine, double sine) {
-        basis.Cosine[day] = cosine;
-        basis.Sine[day] = sine;
-    });
+double EstimateFrequency(QuoteCurve const& x, std::int16_t count) {
+    FrequencyVotes const votes = CollectVotes(x, count);
+    ArcCosineSum sum;
+    for (std::size_t angle = 0; angle < votes.AngleCount; ++angle) {
+        sum.Add(votes.Cosines[angle]);
+    }
+    return text::Divide(sum.Radians(), votes.Count);
 }
 
 // Least squares for x[t] = a cos(w t) + b sin(w t).
@@ -108,8 +116,8 @@ SinusoidFit SolveLeastSquares(QuoteCurve const& x, Basis const& basis, std::int1
     double cs = 0;
     for (int day = 1; day <= count; ++day) {
         double const value = x[day];
-        double const cosine = basis.Cosine[day];
-        double const sine = basis.Sine[day];
+        double const cosine = basis.Cosine(day);
+        double const sine = basis.Sine(day);
         xc += value * cosine;
         xs += value * sine;
         cc += cosine * cosine;
@@ -125,7 +133,7 @@ SinusoidFit SolveLeastSquares(QuoteCurve const& x, Basis const& basis, std::int1
 
 SinusoidFit FitWithBasis(QuoteCurve const& x, std::int16_t count, Basis& basis) {
     double const frequency = EstimateFrequency(x, count);
-    FillBasis(frequency, count, basis);
+    basis.Take(0, frequency, count);
     SinusoidFit fit = SolveLeastSquares(x, basis, count);
     double const a = fit.CosineCoefficient;
     double const b = fit.SineCoefficient;
@@ -152,7 +160,7 @@ QuoteCurve CentredSeries(QuoteCurve const& movingAverageCurve, std::int16_t coun
 void Strip(QuoteCurve& series, SinusoidFit const& fit, Basis const& basis, std::int16_t count) {
     for (int day = 1; day <= count; ++day) {
         series[day] =
-            series[day] - fit.CosineCoefficient * basis.Cosine[day] - fit.SineCoefficient * basis.Sine[day];
+            series[day] - fit.CosineCoefficient * basis.Cosine(day) - fit.SineCoefficient * basis.Sine(day);
     }
 }
 
@@ -166,7 +174,9 @@ void WriteFit(ParameterGrid& grid, int cycle, SinusoidFit const& fit) {
 
 double ArcCosine(double x) {
     ArcCosineSum sum;
-    sum.Add(x);
+    if (IsCosine(x)) {
+        sum.Add(x);
+    }
     return sum.Radians();
 }
 

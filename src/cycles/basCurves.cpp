@@ -17,12 +17,16 @@ int LastDay(std::int16_t workingCount) {
     return CurveDays(workingCount) + ForecastDays;
 }
 
-void ComputeValues(CycleRecord& cycle, int lastDay) {
+using CurveAngles = EvenAngles<LastCurveDay>;
+
+void ComputeValues(CycleRecord& cycle, int lastDay, CurveAngles& angles) {
     double const frequency = text::Divide(TwoPi, cycle.Period);
     double const phase = cycle.Shift == 0 ? 0 : text::Divide(TwoPi, cycle.Shift);
     static_cast<void>(text::RequireFinite(lastDay * frequency + phase));
-    EvenAngles(frequency).ForEach(
-        phase, lastDay, [&cycle](int day, double, double sine) { cycle.Values[day] = cycle.Weight * sine; });
+    angles.Take(phase, frequency, lastDay);
+    for (int day = 1; day <= lastDay; ++day) {
+        cycle.Values[day] = cycle.Weight * angles.Sine(day);
+    }
 }
 
 double SumOfCloses(quotes::QuoteRecords const& records, int first, int last) {
@@ -45,10 +49,11 @@ std::int16_t CurveDays(std::int16_t workingCount) {
 }
 
 void ComputeCycleValues(CycleParameterSet& set, std::int16_t workingCount) {
+    CurveAngles angles;
     for (int index = 1; index <= CycleCount; ++index) {
         CycleRecord& cycle = set.Cycles[index];
         if (cycle.IsActive()) {
-            ComputeValues(cycle, LastDay(workingCount));
+            ComputeValues(cycle, LastDay(workingCount), angles);
         }
     }
 }

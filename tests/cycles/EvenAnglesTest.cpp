@@ -3,11 +3,13 @@
 
 #include "cycles/EvenAngles.h"
 
+#include "text/RunTimeError.h"
+
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
-#include <vector>
 
 namespace quorvex::cycles {
 
@@ -24,12 +26,14 @@ TEST_P(EvenAnglesOf, AreAsGoodAsTheAngle) {
     double const step = GetParam().Step;
     double const offset = GetParam().Offset;
     constexpr int Last = 525;
-    EvenAngles(step).ForEach(offset, Last, [&](int number, double cosine, double sine) {
+    EvenAngles<Last> angles;
+    angles.Take(offset, step, Last);
+    for (int number = 1; number <= Last; ++number) {
         double const angle = offset + number * step;
         double const rounding = 4 * std::numeric_limits<double>::epsilon() * (1 + std::fabs(angle));
-        EXPECT_NEAR(cosine, std::cos(angle), rounding) << number;
-        EXPECT_NEAR(sine, std::sin(angle), rounding) << number;
-    });
+        EXPECT_NEAR(angles.Cosine(number), std::cos(angle), rounding) << number;
+        EXPECT_NEAR(angles.Sine(number), std::sin(angle), rounding) << number;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(EvenAngles, EvenAnglesOf,
@@ -38,16 +42,16 @@ INSTANTIATE_TEST_SUITE_P(EvenAngles, EvenAnglesOf,
                                          Angles{-0.37, 1000}));
 
 TEST(EvenAngles, AreAsManyAsWanted) {
-    for (int const last : {0, 1, 63, 64, 65, 128, 500}) {
-        std::vector<int> numbers;
-        EvenAngles(0.1).ForEach(0, last,
-                                [&numbers](int number, double, double) { numbers.push_back(number); });
-        std::vector<int> wanted;
-        for (int number = 1; number <= last; ++number) {
-            wanted.push_back(number);
+    EvenAngles<8> angles;
+    for (int const last : {8, 7, 5, 4, 3, 1, 0}) {
+        angles.Take(0, 0.1, 8);
+        angles.Take(1, 0.2, last);
+        for (int number = 1; number <= 8; ++number) {
+            double const angle = number <= std::max(last, 1) ? 1 + 0.2 * number : 0.1 * number;
+            EXPECT_NEAR(angles.Sine(number), std::sin(angle), 1e-15) << number << " of " << last;
         }
-        EXPECT_EQ(numbers, wanted);
     }
+    EXPECT_THROW(angles.Take(0, 0.1, 9), text::RunTimeError);
 }
 
 } // namespace
