@@ -20,9 +20,13 @@ class CarriedImageEngine final : public QIconEngine {
 public:
     explicit CarriedImageEngine(QString const& name) {
         QDir const folder(QStringLiteral(":/images"));
-        for (QString const& file : folder.entryList({name + QStringLiteral("-*.png")})) {
-            int const side = file.section(u'-', -1).section(u'.', 0, 0).toInt();
-            images_[side].Path = folder.filePath(file);
+        // Not by a pattern, for which Qt would compile a regular expression.
+        for (QString const& file : folder.entryList(QDir::Files)) {
+            qsizetype const mark = file.lastIndexOf(u'-');
+            if (QStringView(file).first(std::max<qsizetype>(mark, 0)) == name) {
+                int const side = file.sliced(mark + 1).section(u'.', 0, 0).toInt();
+                images_[side].Path = folder.filePath(file);
+            }
         }
     }
 
