@@ -45,8 +45,13 @@ std::vector<std::string> NameDays(quotes::QuoteSeries const& series) {
     int const count = cycles::CurveDays(series.WorkingCount);
     std::vector<std::string> days;
     days.reserve(static_cast<std::size_t>(count));
+    bool const hasDates = HasDates(series);
     for (int day = 1; day <= count; ++day) {
-        days.push_back(HasDates(series) ? series.Working[day].Date : "Day " + std::to_string(day));
+        if (hasDates) {
+            days.push_back(series.Working[day].Date);
+        } else {
+            days.push_back("Day " + std::to_string(day));
+        }
     }
     return days;
 }
@@ -73,12 +78,19 @@ Row MakeRow(std::string name, int days, ValueOfDay valueOfDay) {
     return row;
 }
 
-double Lowest(Row const& row) {
-    return *std::min_element(row.Values.begin(), row.Values.end());
-}
+struct Extent {
+    double Low = 0;
+    double High = 0;
+};
 
-double Highest(Row const& row) {
-    return *std::max_element(row.Values.begin(), row.Values.end());
+// From the lowest to the highest value. REQUIRES: one value.
+Extent ExtentOf(Row const& row) {
+    Extent extent{row.Values.front(), row.Values.front()};
+    for (double const value : row.Values) {
+        extent.Low = std::min(extent.Low, value);
+        extent.High = std::max(extent.High, value);
+    }
+    return extent;
 }
 
 // Adds the moving average to what is read of the quotes, unless its length is 0.
@@ -106,20 +118,21 @@ void ReadQuotes(ChartReading& reading, ChartContents const& contents) {
     auto row = [&series](char const* name, double quotes::QuoteRecord::*price) {
         return MakeRow(name, series.WorkingCount, [&](int day) { return series.Working[day].*price; });
     };
-    Row const high = row("High", &quotes::QuoteRecord::High);
-    Row const low = row("Low", &quotes::QuoteRecord::Low);
-    Row const close = row("Close", &quotes::QuoteRecord::Close);
+    if (!closesAlone) {
+        reading.Rows.push_back(row("Open", &quotes::QuoteRecord::Open));
+        reading.Rows.push_back(row("High", &quotes::QuoteRecord::High));
+        reading.Rows.push_back(row("Low", &quotes::QuoteRecord::Low));
+    }
+    reading.Rows.push_back(row("Close", &quotes::QuoteRecord::Close));
+    Row const& close = reading.Rows.back();
+    Row const& high = closesAlone ? close : reading.Rows[1];
+    Row const& low = closesAlone ? close : reading.Rows[2];
     text::NumberFormat const price(reading.NumberFormat);
     std::string_view const noun = closesAlone ? " close" : "";
-    reading.Description = Join({type.InSpeech, " of ", DescribeSpan(series), ". Lowest", noun, " ",
-                                price.Format(Lowest(closesAlone ? close : low)), ", highest", noun, " ",
-                                price.Format(Highest(closesAlone ? close : high)), ", last close ",
-                                price.Format(close.Values.back()), "."});
-    if (closesAlone) {
-        reading.Rows = {close};
-    } else {
-        reading.Rows = {row("Open", &quotes::QuoteRecord::Open), high, low, close};
-    }
+    reading.Description =
+        Join({type.InSpeech, " of ", DescribeSpan(series), ". Lowest", noun, " ",
+              price.Format(ExtentOf(low).Low), ", highest", noun, " ", price.Format(ExtentOf(high).High),
+              ", last close ", price.Format(close.Values.back()), "."});
     ReadMovingAverage(reading, contents);
 }
 
@@ -136,16 +149,15 @@ void ReadCycles(ChartReading& reading, ChartContents const& contents) {
                                            [&](int day) { return cycle.Values[day]; }));
         }
     }
-    double low = Lowest(reading.Rows.front());
-    double high = Highest(reading.Rows.front());
+    Extent all = ExtentOf(reading.Rows.front());
     for (Row const& row : reading.Rows) {
-        low = std::min(low, Lowest(row));
-        high = std::max(high, Highest(row));
+        Extent const extent = ExtentOf(row);
+        all = {std::min(all.Low, extent.Low), std::max(all.High, extent.High)};
     }
     text::NumberFormat const units(CycleUnits);
     reading.Description = Join({Count(static_cast<int>(reading.Rows.size()), "component cycle"), " over ",
-                                DescribeSpan(contents.Series), ". ", parameters, "Lowest ", units.Format(low),
-                                ", highest ", units.Format(high), "."});
+                                DescribeSpan(contents.Series), ". ", parameters, "Lowest ",
+                                units.Format(all.Low), ", highest ", units.Format(all.High), "."});
 }
 
 // Reads composite or residual.
@@ -154,10 +166,11 @@ void ReadSingleCurve(ChartReading& reading, std::string_view title, std::string 
                      quotes::QuoteSeries const& series, Curve const& curve) {
     Row row =
         MakeRow(std::move(name), cycles::CurveDays(series.WorkingCount), [&](int day) { return curve[day]; });
+    Extent const extent = ExtentOf(row);
     text::NumberFormat const units(CycleUnits);
     reading.Description =
-        Join({title, " over ", DescribeSpan(series), ". Lowest ", units.Format(Lowest(row)), ", highest ",
-              units.Format(Highest(row)), ", last value ", units.Format(row.Values.back()), "."});
+        Join({title, " over ", DescribeSpan(series), ". Lowest ", units.Format(extent.Low), ", highest ",
+              units.Format(extent.High), ", last value ", units.Format(row.Values.back()), "."});
     reading.Rows.push_back(std::move(row));
 }
 
