@@ -42,6 +42,11 @@ void CheckFormat(double value, std::string_view formatText) {
     Require(error.has_value() == expectedError.has_value());
     Require(!error || error->Kind() == expectedError->Kind());
     Require(rounded == expected);
+
+    // A format of nothing but places leaves alone what it has rounded: it is one that prices can be saved in.
+    if (!error && formatText.find_first_not_of("#0.") == std::string_view::npos) {
+        Require(format.Round(rounded) == rounded);
+    }
 }
 
 } // namespace
