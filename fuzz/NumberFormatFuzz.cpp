@@ -45,7 +45,7 @@ void CheckFormat(double value, std::string_view formatText) {
 
     // A format of nothing but places leaves alone what it has rounded: it is one that prices can be saved in.
     if (!error && formatText.find_first_not_of("#0.") == std::string_view::npos) {
-        Require(format.Round(rounded) == rounded);
+        Require(format.Round(rounded) == rounded && format.RoundDecimals(value) == rounded);
     }
 }
 

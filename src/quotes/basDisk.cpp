@@ -128,9 +128,10 @@ void AppendReadableNumber(std::string& text, double value, text::NumberFormat co
     format.AppendTo(text, value);
     std::string_view const field = std::string_view(text).substr(begin);
     double const written = format.Round(value);
-    // The loader rounds what it reads once more: digits that the format itself holds would be put in again.
-    if (field.find_first_of(",\"\r\n") != std::string_view::npos || text::LeadingNumber(field) != written ||
-        format.Round(written) != written) {
+    // A format may hold digits of its own, which the loader would even put in once more.
+    bool const isNumber = written == format.RoundDecimals(value) && written == format.Round(written);
+    if (field.find_first_of(",\"\r\n") != std::string_view::npos || !isNumber ||
+        text::LeadingNumber(field) != written) {
         throw RunTimeError(Fault::TypeMismatch);
     }
 }

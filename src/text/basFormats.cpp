@@ -145,6 +145,11 @@ NumberFormat::Section const& NumberFormat::Choose(double value) const {
     return sections_[own ? index : 0];
 }
 
+// Whether the number is printed as if there were no format.
+bool NumberFormat::IsPlain(double value) const {
+    return sections_.empty() || (&Choose(value) == sections_.data() && sections_[0].Tokens.empty());
+}
+
 std::string NumberFormat::Format(double value) const {
     std::string text;
     AppendTo(text, value);
@@ -152,7 +157,7 @@ std::string NumberFormat::Format(double value) const {
 }
 
 void NumberFormat::AppendTo(std::string& text, double value) const {
-    if (sections_.empty() || (&Choose(value) == sections_.data() && sections_[0].Tokens.empty())) {
+    if (IsPlain(value)) {
         text += PlainNumber(value == 0 ? 0 : value); // a zero has no sign
         return;
     }
@@ -226,7 +231,14 @@ double NumberFormat::Round(double value) const {
             }
         }
     }
-    DecimalNumber const number = RoundHalfAway(ToDecimal(value), *plainDecimals_);
+    return RoundDecimals(value);
+}
+
+double NumberFormat::RoundDecimals(double value) const {
+    if (IsPlain(value)) {
+        return value;
+    }
+    DecimalNumber const number = RoundHalfAway(ToDecimal(value), Choose(value).DecimalPlaces);
     return number.Digits == 0 ? 0 : ToDouble(number);
 }
 

@@ -146,7 +146,7 @@ TEST_F(SavedEdits, AreRefusedQuietlyWhenACellIsNoNumber) {
 TEST_F(SavedEdits, AreRefusedWhenTheFormatWouldNotReadBack) {
     OpenDays(3);
     files.Contents["test.txt"] = "old";
-    for (auto const* format : {"#,##0.00", "$0.00", "0.00%", "1#0.00"}) {
+    for (auto const* format : {"#,##0.00", "$0.00", "0.00%", "1#0.00", "1", "0.04"}) {
         settings.CurrencyFormat = format;
         Type(2, 5, "1,234.50");
         dialogs.Messages.clear();

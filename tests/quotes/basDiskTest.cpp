@@ -240,11 +240,13 @@ TEST_F(QuoteFile, SavingNoQuotesWritesAnEmptyFile) {
 }
 
 TEST_F(QuoteFile, RefusesToWriteNumbersThatWouldNotReadBack) {
-    // "1,234.50" would come back as two fields, "$5.00" as zero, "15.00" as "115.00".
-    for (auto const* format : {"#,##0.00", "$0.00", "0.00%", "\"x\"", "1#0.00"}) {
+    // "1,234.50" would come back as two fields, "$5.00" as zero, "11234.50" as "111234.50"; "1"
+    // and "1234.54" are other numbers.
+    for (auto const* format :
+         {"#,##0.00", "$0.00", "0.00%", "\"x\"", "1#0.00", "1", "0.04", "0e0", "0.00;;1"}) {
         SCOPED_TRACE(format);
         settings.CurrencyFormat = "####0.00";
-        ASSERT_EQ(Load("03/05/02, 1234.5, 1234.5, 1234.5, 1234.5, 1, 1\r\n" + QuoteLines(25)), 26);
+        ASSERT_EQ(Load("03/05/02, 1234.5, 1234.5, 1234.5, 1234.5, 1, 0\r\n" + QuoteLines(25)), 26);
         dialogs.Messages.clear();
         settings.CurrencyFormat = format;
         files.Contents["C:\\Quotes\\kept.txt"] = "as it was";
@@ -267,6 +269,19 @@ TEST_F(QuoteFile, LoadsThroughAFormatThatLeavesZeroBlank) {
     EXPECT_EQ(Load("03/05/02, 1.5, 1, 1, 1, 0, 0\r\n" + QuoteLines(25)), 26);
     EXPECT_EQ(series->Working[1].Open, 1.5);
     EXPECT_EQ(series->Working[1].Volume, 0);
+}
+
+TEST_F(QuoteFile, WritesThroughFormatsThatPrintNothingButTheNumber) {
+    for (auto const* format :
+         {"", "0", "#", "0.", "#.##", ".00", "0.00#", "#0.00000", "0.0E+00", "0.00;-0.00;0", "0.00;;\"0\""}) {
+        SCOPED_TRACE(format);
+        settings.CurrencyFormat = format;
+        ASSERT_EQ(Load("03/05/02, 1234.5, 1234.5, 1234.5, 1234.5, 1, 0\r\n" + QuoteLines(25)), 26);
+        double const open = series->Working[1].Open;
+        EXPECT_TRUE(Save("kept.txt"));
+        EXPECT_EQ(Load(files.Contents["C:\\Quotes\\kept.txt"]), 26);
+        EXPECT_EQ(series->Working[1].Open, open);
+    }
 }
 
 } // namespace

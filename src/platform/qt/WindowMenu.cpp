@@ -6,14 +6,26 @@
 #include "platform/qt/QtDialogs.h"
 
 #include <QApplication>
+#include <QPointer>
+#include <QScopeGuard>
+#include <deque>
 #include <utility>
-#include <vector>
 
 namespace quorvex::platform::qt {
 
+namespace {
+
+// Keys and mouse do not come through while a dialog is open; assistive technology does.
+bool IsAnotherWaiting(QWidget const& window) {
+    QWidget const* const waiting = QApplication::activeModalWidget();
+    return waiting != nullptr && waiting != &window;
+}
+
+} // namespace
+
 struct WindowMenu::Turn {
     bool IsTaken = false;
-    std::vector<Command> Waiting;
+    std::deque<Command> Waiting;
 };
 
 WindowMenu::WindowMenu(QWidget& window)
@@ -56,9 +68,7 @@ WindowMenu& WindowMenu::Separator() {
 
 void WindowMenu::Run(QWidget& window, std::shared_ptr<Turn> const& turn, Command const& command) {
     CloseMenus();
-    // Keys and mouse do not come through while a dialog is open; assistive technology does.
-    QWidget const* const waiting = QApplication::activeModalWidget();
-    if (waiting != nullptr && waiting != &window) {
+    if (IsAnotherWaiting(window)) {
         return;
     }
     if (turn->IsTaken) {
@@ -67,17 +77,13 @@ void WindowMenu::Run(QWidget& window, std::shared_ptr<Turn> const& turn, Command
         return;
     }
     turn->IsTaken = true;
+    auto const end = qScopeGuard([turn] { *turn = {}; });
+    QPointer<QWidget> const shown(&window);
     RunGuarded(window, command);
-    turn->IsTaken = false;
-    for (Command& next : std::exchange(turn->Waiting, {})) {
-        QMetaObject::invokeMethod(
-            &window,
-            [&window, turn, run = std::move(next)] {
-                if (window.isVisible()) {
-                    Run(window, turn, run);
-                }
-            },
-            Qt::QueuedConnection);
+    while (!turn->Waiting.empty() && shown != nullptr && shown->isVisible() && !IsAnotherWaiting(window)) {
+        Command const next = std::move(turn->Waiting.front());
+        turn->Waiting.pop_front();
+        RunGuarded(window, next);
     }
 }
 

@@ -10,8 +10,8 @@
 namespace quorvex::platform::qt {
 
 // The menu bar of a window other than the main one. A command runs guarded once the menus are closed; one
-// that assistive technology chooses while another window waits for an answer does not run, and one that is
-// chosen while the command before is about to end waits for that.
+// that assistive technology chooses while another window waits for an answer does not run. One that is chosen
+// while the command before is about to end runs behind it, as long as the window is open.
 class WindowMenu {
 public:
     using Command = std::function<void()>;

@@ -108,19 +108,27 @@ private Q_SLOTS:
         QDialog help(&window);
         help.setObjectName(u"frmHelp"_s);
         WindowMenu menu(window);
-        menu.Item("mnuHelp", "&Help", [&help] { help.exec(); });
-        auto* item = window.findChild<QAction*>(u"mnuHelp"_s);
-        ModalAnswers answers;
-        answers.Next([item](QWidget&) { item->trigger(); });
-        answers.Next([item](QWidget& shown) {
-            shown.close();
-            item->trigger();
-        });
-        answers.Next([&window](QWidget& shown) {
-            shown.close();
+        int exits = 0;
+        menu.Item("mnuHelp", "&Help", [&help] { help.exec(); }).Item("mnuFileExit", "E&xit", [&] {
+            ++exits;
             window.close();
         });
+        auto* item = window.findChild<QAction*>(u"mnuHelp"_s);
+        auto* exit = window.findChild<QAction*>(u"mnuFileExit"_s);
+        ModalAnswers answers;
+        answers.Next([item](QWidget&) { item->trigger(); });
+        answers.Next([item, exit](QWidget& shown) {
+            exit->trigger(); // Help is open
+            shown.close();
+            item->trigger();
+            exit->trigger();
+        });
+        answers.Next([&exits](QWidget& shown) {
+            QCOMPARE(exits, 0);
+            shown.close();
+        });
         window.exec();
+        QCOMPARE(exits, 1);
         QVERIFY(answers.IsDone());
         QCOMPARE(answers.Shown(), QStringList({u""_s, u"frmHelp"_s, u"frmHelp"_s}));
     }
@@ -143,6 +151,18 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QVERIFY(answers.IsDone());
         QCOMPARE(answers.Shown(), QStringList({u""_s, u"question"_s}));
+    }
+
+    void ACommandRunsBehindOneThatEndedOtherwise() {
+        struct Odd {};
+
+        QWidget window;
+        WindowMenu menu(window);
+        int runs = 0;
+        menu.Item("mnuOdd", "&Odd", [] { throw Odd(); }).Item("mnuPrint", "&Print", [&runs] { ++runs; });
+        QVERIFY_THROWS_EXCEPTION(Odd, window.findChild<QAction*>(u"mnuOdd"_s)->trigger());
+        window.findChild<QAction*>(u"mnuPrint"_s)->trigger();
+        QCOMPARE(runs, 1);
     }
 };
 
