@@ -43,10 +43,13 @@ void CheckFormat(double value, std::string_view formatText) {
     Require(!error || error->Kind() == expectedError->Kind());
     Require(rounded == expected);
 
-    // A format of nothing but places leaves alone what it has rounded: it is one that prices can be saved in.
-    if (!error && formatText.find_first_not_of("#0.") == std::string_view::npos) {
-        Require(format.Round(rounded) == rounded && format.RoundDecimals(value) == rounded);
+    // What such a format has rounded, to the last decimal of the number, stays as it is.
+    if (!error && format.RoundsOnly()) {
+        Require(std::fabs(rounded - value) <= 0.5 + std::fabs(value) * 1e-14);
+        Require(format.Round(rounded) == rounded);
     }
+    bool const isNothingButPlaces = formatText.find_first_not_of("#0.") == std::string_view::npos;
+    Require(!isNothingButPlaces || std::ranges::count(formatText, '.') > 1 || format.RoundsOnly());
 }
 
 } // namespace

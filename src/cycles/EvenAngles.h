@@ -32,6 +32,7 @@ public:
         }
     }
 
+    // Of the numbers last taken: any other is not checked.
     [[nodiscard]] double Cosine(int number) const { return cosines_[static_cast<std::size_t>(number - 1)]; }
 
     [[nodiscard]] double Sine(int number) const { return sines_[static_cast<std::size_t>(number - 1)]; }

@@ -127,11 +127,8 @@ void AppendReadableNumber(std::string& text, double value, text::NumberFormat co
     std::size_t const begin = text.size();
     format.AppendTo(text, value);
     std::string_view const field = std::string_view(text).substr(begin);
-    double const written = format.Round(value);
-    // A format may hold digits of its own, which the loader would even put in once more.
-    bool const isNumber = written == format.RoundDecimals(value) && written == format.Round(written);
-    if (field.find_first_of(",\"\r\n") != std::string_view::npos || !isNumber ||
-        text::LeadingNumber(field) != written) {
+    if (field.find(',') != std::string_view::npos || !format.RoundsOnly() ||
+        text::LeadingNumber(field) != format.Round(value)) {
         throw RunTimeError(Fault::TypeMismatch);
     }
 }

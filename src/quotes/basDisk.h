@@ -54,7 +54,8 @@ std::int16_t LoadQuoteFile(QuoteSeries& series, settings::Settings const& settin
 
 // Puts the number behind the text in the form in which a quote file holds it. A quote file is the user's
 // data: raises "Type mismatch" when the format spells the number in a way that would not read back as the
-// same one, such as with thousands commas or digits of its own.
+// same one, such as with thousands commas, and for every number when the format makes other numbers of them
+// by digits or signs of its own: then the number was read as another one already.
 void AppendReadableNumber(std::string& text, double value, text::NumberFormat const& format);
 
 // The working copy as the text of a quote file. Raises the fault of AppendReadableNumber.

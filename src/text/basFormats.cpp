@@ -5,11 +5,13 @@
 
 #include "text/DecimalNumber.h"
 #include "text/basNumbers.h"
+#include "text/basTexts.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <numeric>
 
 namespace quorvex::text {
 
@@ -57,6 +59,11 @@ void SplitDigits(DecimalNumber const& number, std::string& whole, std::string& d
     while (!decimals.empty() && decimals.back() == '0') {
         decimals.pop_back();
     }
+}
+
+// Whether a character of the text is in no number.
+bool HoldsNoNumber(std::string_view text) {
+    return text.find_first_not_of("0123456789.,+-eEdD \t") != std::string_view::npos;
 }
 
 void PadLeft(std::string& digits, int least) {
@@ -145,11 +152,6 @@ NumberFormat::Section const& NumberFormat::Choose(double value) const {
     return sections_[own ? index : 0];
 }
 
-// Whether the number is printed as if there were no format.
-bool NumberFormat::IsPlain(double value) const {
-    return sections_.empty() || (&Choose(value) == sections_.data() && sections_[0].Tokens.empty());
-}
-
 std::string NumberFormat::Format(double value) const {
     std::string text;
     AppendTo(text, value);
@@ -157,7 +159,7 @@ std::string NumberFormat::Format(double value) const {
 }
 
 void NumberFormat::AppendTo(std::string& text, double value) const {
-    if (IsPlain(value)) {
+    if (sections_.empty() || (&Choose(value) == sections_.data() && sections_[0].Tokens.empty())) {
         text += PlainNumber(value == 0 ? 0 : value); // a zero has no sign
         return;
     }
@@ -231,15 +233,44 @@ double NumberFormat::Round(double value) const {
             }
         }
     }
-    return RoundDecimals(value);
+    DecimalNumber const number = RoundHalfAway(ToDecimal(value), *plainDecimals_);
+    return number.Digits == 0 ? 0 : ToDouble(number);
 }
 
-double NumberFormat::RoundDecimals(double value) const {
-    if (IsPlain(value)) {
-        return value;
+// Whether the text is the digits and the point of the number, with the sign in front and blanks around them.
+bool NumberFormat::PrintsNumberAlone(Section const& section, std::string_view sign) {
+    auto const isLiteral = [](Token const& token) { return token.Kind == Piece::Literal; };
+    auto const begin = section.Tokens.begin();
+    auto const end = section.Tokens.end();
+    auto const first = std::find_if_not(begin, end, isLiteral);
+    auto const last = std::find_if(first, end, isLiteral);
+    auto const textOf = [](auto from, auto to) {
+        return std::accumulate(from, to, std::string(),
+                               [](std::string const& text, Token const& token) { return text + token.Text; });
+    };
+    return first != last && std::all_of(last, end, isLiteral) && Trim(textOf(begin, first)) == sign &&
+           Trim(textOf(last, end)).empty();
+}
+
+// Whether no text of it can be read as a number.
+bool NumberFormat::PrintsNoNumber(Section const& section) {
+    return std::ranges::any_of(section.Tokens, [](Token const& token) { return HoldsNoNumber(token.Text); });
+}
+
+bool NumberFormat::RoundsOnly() const {
+    constexpr std::array<std::string_view, MostSections - 1> Signs = {"", "-"};
+    bool const hasZeros = sections_.size() == MostSections; // which have but one text
+    std::size_t const count = sections_.size() - (hasZeros ? 1 : 0);
+    for (std::size_t index = 0; index < count; ++index) {
+        Section const& section = sections_[index];
+        // An empty one prints by the first; that one, numbers as they are.
+        if (!section.Tokens.empty() && !PrintsNumberAlone(section, Signs.at(index)) &&
+            !PrintsNoNumber(section)) {
+            return false;
+        }
     }
-    DecimalNumber const number = RoundHalfAway(ToDecimal(value), Choose(value).DecimalPlaces);
-    return number.Digits == 0 ? 0 : ToDouble(number);
+    std::string const zero = Format(0);
+    return zero.find_first_not_of("0. ") == std::string::npos || HoldsNoNumber(zero);
 }
 
 std::string Counted(int count, std::string_view noun) {

@@ -42,8 +42,9 @@ public:
     // when the format's text is no number, such as "$5.00".
     [[nodiscard]] double Round(double value) const;
 
-    // The finite number rounded to the decimals that it is printed with, whatever is printed besides.
-    [[nodiscard]] double RoundDecimals(double value) const;
+    // Whether Round makes nothing of a number but that number, rounded to the decimals, or raises. Not with
+    // digits and signs of the format's own: in "1" every number becomes 1.
+    [[nodiscard]] bool RoundsOnly() const;
 
     // Whether Round leaves a number alone whose text has so many decimals, and 15 digits at the most. Not
     // where the decimals are negative, as those of a text that is no plain decimal.
@@ -74,7 +75,8 @@ private:
     static Section ReadSection(std::string_view& rest);
     void FindPlainDecimals();
     [[nodiscard]] Section const& Choose(double value) const;
-    [[nodiscard]] bool IsPlain(double value) const;
+    static bool PrintsNumberAlone(Section const& section, std::string_view sign);
+    static bool PrintsNoNumber(Section const& section);
     static void AppendDigits(std::string& text, Section const& section, std::string const& whole,
                              std::string const& decimals);
 

@@ -32,6 +32,15 @@ protected:
 
     bool Save(std::string const& name) { return SaveQuoteFile(name, *series, settings, files, dialogs); }
 
+    void ExpectRefusedSave() {
+        dialogs.Messages.clear();
+        files.Contents["C:\\Quotes\\kept.txt"] = "as it was";
+        EXPECT_FALSE(Save("kept.txt"));
+        EXPECT_TRUE(IsOnlyMessage(dialogs.Messages, "Type mismatch", "Quorvex", Icon::None));
+        EXPECT_EQ(files.Contents["C:\\Quotes\\kept.txt"], "as it was");
+        dialogs.Messages.clear();
+    }
+
     std::unique_ptr<QuoteSeries> series = std::make_unique<QuoteSeries>();
     settings::Settings settings = settings::DefaultSettings("C:\\Quotes");
     platform::fake::MemoryFiles files;
@@ -240,20 +249,25 @@ TEST_F(QuoteFile, SavingNoQuotesWritesAnEmptyFile) {
 }
 
 TEST_F(QuoteFile, RefusesToWriteNumbersThatWouldNotReadBack) {
-    // "1,234.50" would come back as two fields, "$5.00" as zero, "11234.50" as "111234.50"; "1"
-    // and "1234.54" are other numbers.
+    // "1,234.50" would come back as two fields, "$5.00" as zero, "11234.50" as "111234.50"; "1" and "1234.54"
+    // are other numbers.
     for (auto const* format :
          {"#,##0.00", "$0.00", "0.00%", "\"x\"", "1#0.00", "1", "0.04", "0e0", "0.00;;1"}) {
         SCOPED_TRACE(format);
         settings.CurrencyFormat = "####0.00";
         ASSERT_EQ(Load("03/05/02, 1234.5, 1234.5, 1234.5, 1234.5, 1, 0\r\n" + QuoteLines(25)), 26);
-        dialogs.Messages.clear();
         settings.CurrencyFormat = format;
-        files.Contents["C:\\Quotes\\kept.txt"] = "as it was";
-        EXPECT_FALSE(Save("kept.txt"));
-        EXPECT_TRUE(IsOnlyMessage(dialogs.Messages, "Type mismatch", "Quorvex", Icon::None));
-        EXPECT_EQ(files.Contents["C:\\Quotes\\kept.txt"], "as it was");
-        dialogs.Messages.clear();
+        ExpectRefusedSave();
+    }
+}
+
+TEST_F(QuoteFile, RefusesToWriteWhatItsFormatHasMadeOfTheNumbersOnceTheyWereRead) {
+    for (auto const* format :
+         {"1", "0.0E+00", "0.00;;1", "0.00;-0.00;5", "0;0", "\"\"", "0\\5", "0.00;-1", "# 0", "0-0"}) {
+        SCOPED_TRACE(format);
+        settings.CurrencyFormat = format;
+        static_cast<void>(Load("03/05/02, 1234.56, 1234.56, 1234.56, 1234.56, 1, 0\r\n" + QuoteLines(25)));
+        ExpectRefusedSave();
     }
 }
 
@@ -272,15 +286,16 @@ TEST_F(QuoteFile, LoadsThroughAFormatThatLeavesZeroBlank) {
 }
 
 TEST_F(QuoteFile, WritesThroughFormatsThatPrintNothingButTheNumber) {
-    for (auto const* format :
-         {"", "0", "#", "0.", "#.##", ".00", "0.00#", "#0.00000", "0.0E+00", "0.00;-0.00;0", "0.00;;\"0\""}) {
+    for (auto const* format : {"", "0", "#", "0.", "#.##", ".00", "0.00#", "#0.00000", " 0.00\" \"",
+                               "0.00;-0.00;0", "0.00;(0.00)", "0.00;;\"0\"", ";-0.00;"}) {
         SCOPED_TRACE(format);
         settings.CurrencyFormat = format;
-        ASSERT_EQ(Load("03/05/02, 1234.5, 1234.5, 1234.5, 1234.5, 1, 0\r\n" + QuoteLines(25)), 26);
-        double const open = series->Working[1].Open;
+        ASSERT_EQ(Load("03/05/02, 1234, 1234, 1234, 1234, 1, 0\r\n" + QuoteLines(25)), 26);
         EXPECT_TRUE(Save("kept.txt"));
         EXPECT_EQ(Load(files.Contents["C:\\Quotes\\kept.txt"]), 26);
-        EXPECT_EQ(series->Working[1].Open, open);
+        EXPECT_EQ(series->Working[1].Open, 1234);
+        EXPECT_EQ(series->Working[1].Volume, 1);
+        EXPECT_EQ(series->Working[1].OpenInterest, 0);
     }
 }
 

@@ -150,6 +150,18 @@ TEST(NumberFormatRound, RefusesATextThatIsNoNumber) {
     }
 }
 
+TEST(NumberFormatRound, GivesNoOtherNumberInFormatsWithoutDigitsAndSignsOfTheirOwn) {
+    for (char const* const format :
+         {"", "0", "####0.00", "#", ".", "#,##0.00", " 0 ", "0;-0", "0; -0.0 ;", ";-0;", "0;;.0", "0;;\"0\"",
+          "0;;", "$0", "0%", "(1)", "0;(0)", "0;;none"}) {
+        EXPECT_TRUE(NumberFormat(format).RoundsOnly()) << format;
+    }
+    for (char const* const format : {"1", "10", "01", "0 0", "0-", "-0", "0e0", "0.0.0", "\"\"", "\" \"", ",",
+                                     "0;0", "0;-", "0;0-", "0;--0", "0;-01", "0;;1", "0;;-0", "0;;\"\"5"}) {
+        EXPECT_FALSE(NumberFormat(format).RoundsOnly()) << format;
+    }
+}
+
 TEST(NumberFormatRound, OverflowsWhereFifteenDigitsRoundBeyondADouble) {
     double const largest = std::numeric_limits<double>::max();
     EXPECT_EQ(FaultOf([&] { static_cast<void>(NumberFormat("0.00").Round(largest)); }), "Overflow");

@@ -72,7 +72,7 @@ void WindowMenu::Run(QWidget& window, std::shared_ptr<Turn> const& turn, Command
         return;
     }
     if (turn->IsTaken) {
-        // Its dialog is closed and about to return: it cannot be opened before.
+        // The command before has not returned; its dialog could not be opened anew.
         turn->Waiting.push_back(command);
         return;
     }

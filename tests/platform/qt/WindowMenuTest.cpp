@@ -9,6 +9,7 @@
 #include "windows/WindowTest.h"
 
 #include <QDialog>
+#include <memory>
 
 namespace quorvex::tests {
 
@@ -155,6 +156,35 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QVERIFY(answers.IsDone());
         QCOMPARE(answers.Shown(), QStringList({u""_s, u"question"_s}));
+    }
+
+    void ACommandThatWaitedRunsBehindOneThatFailed() {
+        QWidget window;
+        WindowMenu menu(window);
+        int runs = 0;
+        menu.Item("mnuPrint", "&Print", [&runs] { ++runs; }).Item("mnuExport", "&Export", [&window] {
+            window.findChild<QAction*>(u"mnuPrint"_s)->trigger();
+            throw text::RunTimeError(text::Fault::PrinterError);
+        });
+        window.show();
+        ModalAnswers answers;
+        window.findChild<QAction*>(u"mnuExport"_s)->trigger();
+        QCOMPARE(answers.Shown(), QStringList(OkMessage(u"Quorvex"_s, u"none"_s, u"Printer error"_s)));
+        QCOMPARE(runs, 1);
+    }
+
+    void ACommandThatWaitedDoesNotRunOnceTheWindowIsGone() {
+        auto window = std::make_unique<QWidget>();
+        WindowMenu menu(*window);
+        int runs = 0;
+        menu.Item("mnuPrint", "&Print", [&runs] { ++runs; }).Item("mnuFileExit", "E&xit", [&window] {
+            window->findChild<QAction*>(u"mnuPrint"_s)->trigger();
+            window.reset();
+        });
+        window->show();
+        window->findChild<QAction*>(u"mnuFileExit"_s)->trigger();
+        QVERIFY(window == nullptr);
+        QCOMPARE(runs, 0);
     }
 };
 
