@@ -35,7 +35,13 @@ public:
     void Compute() { cycles::ComputeCurves(*Series, Settings, *Set, *Curves); }
 
     [[nodiscard]] ChartReading Read(ChartKind kind) const {
-        return ReadChart(kind, {*Series, Settings, *Set, *Curves});
+        ChartReading reading;
+        ReadInto(reading, kind);
+        return reading;
+    }
+
+    void ReadInto(ChartReading& reading, ChartKind kind) const {
+        ReadChart(kind, {*Series, Settings, *Set, *Curves}, NameDays(*Series), reading);
     }
 
     [[nodiscard]] ChartReading ComputeAndRead(ChartKind kind) {
@@ -72,7 +78,7 @@ Charts LoadFlatPrices() {
 
 void ExpectEmpty(ChartReading const& reading, std::string const& description) {
     EXPECT_EQ(reading.Description, description);
-    EXPECT_TRUE(reading.Days.empty());
+    EXPECT_EQ(CountDays(reading), 0);
     EXPECT_EQ(DescribeDay(reading, 1), "");
 }
 
@@ -265,7 +271,7 @@ TEST(CycleReading, OfCyclesThatCannotBeComputedClaimsNothing) {
     ExpectEmpty(charts.Read(ChartKind::Composite),
                 "The composite estimate cycle could not be drawn: Overflow.");
     ExpectEmpty(charts.Read(ChartKind::Residual), "The residual could not be drawn: Overflow.");
-    EXPECT_EQ(charts.Read(ChartKind::Quotes).Days.size(), 25U);
+    EXPECT_EQ(CountDays(charts.Read(ChartKind::Quotes)), 25);
 }
 
 TEST(ChartReading, HoldsWhatWasDrawnWhenTheQuotesAreClosed) {
@@ -280,6 +286,25 @@ TEST(ChartReading, HoldsWhatWasDrawnWhenTheQuotesAreClosed) {
     EXPECT_EQ(DescribeDay(drawn, 17), "12/22/00\nComposite: 72.6");
     EXPECT_EQ(DescribeDay(drawn, 26), "");
     ExpectEmpty(charts.Read(ChartKind::Composite), "No cycle is active.");
+}
+
+TEST(ChartReading, TakesThePlaceOfTheOneBefore) {
+    Charts charts = LoadReference();
+    charts.Compute();
+    ChartReading reading;
+    charts.ReadInto(reading, ChartKind::Quotes);
+    charts.Settings.ChartType = "Line Chart";
+    for (ChartKind const kind :
+         {ChartKind::Quotes, ChartKind::Cycles, ChartKind::Composite, ChartKind::Quotes}) {
+        charts.ReadInto(reading, kind);
+        EXPECT_EQ(DescribeDay(reading, 3), DescribeDay(charts.Read(kind), 3));
+        EXPECT_EQ(reading.Rows.size(), charts.Read(kind).Rows.size());
+        EXPECT_EQ(reading.Description, charts.Read(kind).Description);
+    }
+    SetCycle(*charts.Set, 1, 1, 1e-320);
+    charts.Compute();
+    charts.ReadInto(reading, ChartKind::Cycles);
+    ExpectEmpty(reading, "The cycles could not be drawn: Overflow.");
 }
 
 TEST(ChartReading, HasNoDayOutsideItsDays) {

@@ -69,7 +69,9 @@ void Recompute(app::Program& program) {
 QStringList DescriptionsOf(app::Program const& program) {
     QStringList texts;
     for (auto const& [name, kind] : Boxes) {
-        texts.append(ToQt(chart::ReadChart(kind, app::ContentsOf(program)).Description));
+        chart::ChartReading reading;
+        chart::ReadChart(kind, app::ContentsOf(program), chart::NameDays(program.Quotes), reading);
+        texts.append(ToQt(reading.Description));
     }
     return texts;
 }

@@ -16,9 +16,10 @@ public:
     // The drawing must outlive the readings.
     explicit ChartReadings(platform::RecordingCanvas const& drawing) : drawing_(drawing) {}
 
-    void Take(chart::ChartReading reading) { reading_ = std::move(reading); }
+    // To be read into whenever the box was drawn.
+    [[nodiscard]] chart::ChartReading& Reading() { return reading_; }
 
-    [[nodiscard]] int Columns() const override { return static_cast<int>(reading_.Days.size()); }
+    [[nodiscard]] int Columns() const override { return chart::CountDays(reading_); }
 
     [[nodiscard]] int ColumnAt(double place) const override {
         return chart::ColumnAt(place, drawing_.Width(), Columns());

@@ -192,12 +192,14 @@ void frmMain::SetBoxUpdates(bool isEnabled) {
 }
 
 void frmMain::ShowDrawings(Program const& program) {
+    chart::DayNames days;
     for (std::size_t index = 0; index < BoxCount; ++index) {
         platform::qt::PictureBox& box = *boxes_.at(index);
         if (box.ShowDrawing()) {
-            auto reading = chart::ReadChart(BoxTable.at(index).Kind, ContentsOf(program));
+            chart::ChartReading& reading = readings_.at(index)->Reading();
+            days = days == nullptr ? chart::NameDays(program.Quotes) : days;
+            chart::ReadChart(BoxTable.at(index).Kind, ContentsOf(program), days, reading);
             box.setAccessibleDescription(ToQt(reading.Description));
-            readings_.at(index)->Take(std::move(reading));
         }
     }
 }

@@ -39,9 +39,16 @@ void PixelRows::Fill(int left, int top, int width, int height, Colour colour) {
     if (left >= right) {
         return;
     }
+    std::uint32_t const pixel = Opaque | colour;
+    if (right - left == 1) {
+        for (int y = top; y < bottom; ++y) {
+            Row(y)[left] = pixel;
+        }
+        return;
+    }
     for (int y = top; y < bottom; ++y) {
         std::uint32_t* const row = Row(y);
-        std::fill(row + left, row + right, Opaque | colour);
+        std::fill(row + left, row + right, pixel);
     }
 }
 
