@@ -26,6 +26,22 @@ double ThroughText(std::string const& printed) {
     return printed.empty() || printed == "." ? 0 : text::StrictNumber(printed);
 }
 
+bool IsPlace(char c) {
+    return c == '0' || c == '#';
+}
+
+// To some number of decimals up to the most.
+bool IsRounded(double rounded, double value, std::ptrdiff_t most) {
+    std::string format = "0.";
+    for (std::ptrdiff_t decimals = 0; decimals <= most; ++decimals) {
+        if (text::NumberFormat(format).Round(value) == rounded) {
+            return true;
+        }
+        format += '0';
+    }
+    return false;
+}
+
 void CheckFormat(double value, std::string_view formatText) {
     text::NumberFormat const format(formatText);
     std::string const printed = format.Format(value);
@@ -46,12 +62,14 @@ void CheckFormat(double value, std::string_view formatText) {
 
     // What such a format has rounded stays as it is, or is a zero that the format has no number for.
     if (!error && format.RoundsOnly()) {
-        Require(std::fabs(rounded - value) <= 0.5 + std::fabs(value) * 1e-14);
+        Require(rounded == value ||
+                IsRounded(rounded, value, std::count_if(formatText.begin(), formatText.end(), IsPlace)));
         auto const raised = text::Trap([&] { Require(format.Round(rounded) == rounded); });
         Require(!raised || rounded == 0);
     }
     bool const isNothingButPlaces = formatText.find_first_not_of("#0.") == std::string_view::npos;
-    Require(!isNothingButPlaces || std::ranges::count(formatText, '.') > 1 || format.RoundsOnly());
+    Require(!isNothingButPlaces || std::count(formatText.begin(), formatText.end(), '.') > 1 ||
+            format.RoundsOnly());
 }
 
 } // namespace

@@ -263,7 +263,7 @@ void ReadChart(ChartKind kind, ChartContents const& contents, DayNames const& da
         reading = MakeEmptyReading(std::string(ReasonOf(*state.Missing)));
         return;
     }
-    reading.Days = days;
+    reading.Days = nullptr; // until the rows have as many
     auto fault = state.Fault;
     if (!fault) {
         fault = text::Trap([&] { ReadDrawing(kind, contents, reading); });
@@ -271,7 +271,9 @@ void ReadChart(ChartKind kind, ChartContents const& contents, DayNames const& da
     if (fault) {
         reading =
             MakeEmptyReading(Join({SubjectOf(kind), " could not be drawn: ", fault->Description(), "."}));
+        return;
     }
+    reading.Days = days;
 }
 
 int CountDays(ChartReading const& reading) {

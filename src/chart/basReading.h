@@ -35,7 +35,7 @@ struct ChartReading {
 
 // Reads one box that was just drawn, prepared or emptied, with the contents that it was drawn from. Of a
 // chart that is empty or ended with a fault it says why. Raises no fault. Takes the place of what was read
-// before, whose memory it uses: each redraw reads every box.
+// before, whose memory it uses: each redraw reads every box. REQUIRES: days are NameDays(contents.Series).
 void ReadChart(ChartKind kind, ChartContents const& contents, DayNames const& days, ChartReading& reading);
 
 // How many days the box shows.

@@ -4,6 +4,7 @@
 #include "text/basFormats.h"
 
 #include "text/DecimalNumber.h"
+#include "text/RunTimeError.h"
 #include "text/basNumbers.h"
 #include "text/basTexts.h"
 
@@ -248,8 +249,8 @@ bool NumberFormat::PrintsNumberAlone(Section const& section, std::string_view si
         return std::accumulate(from, to, std::string(),
                                [](std::string const& text, Token const& token) { return text + token.Text; });
     };
-    return first != last && std::all_of(last, end, isLiteral) && Trim(textOf(begin, first)) == sign &&
-           Trim(textOf(last, end)).empty();
+    return first != last && std::all_of(last, end, isLiteral) &&
+           TrimBlanksAndTabs(textOf(begin, first)) == sign && TrimBlanksAndTabs(textOf(last, end)).empty();
 }
 
 // Whether no text of it can be read as a number.
@@ -258,6 +259,9 @@ bool NumberFormat::PrintsNoNumber(Section const& section) {
 }
 
 bool NumberFormat::RoundsOnly() const {
+    if (plainDecimals_) {
+        return true;
+    }
     constexpr std::array<std::string_view, MostSections - 1> Signs = {"", "-"};
     bool const hasZeros = sections_.size() == MostSections; // which have but one text
     std::size_t const count = sections_.size() - (hasZeros ? 1 : 0);
@@ -269,8 +273,9 @@ bool NumberFormat::RoundsOnly() const {
             return false;
         }
     }
-    std::string const zero = Format(0);
-    return zero.find_first_not_of("0. ") == std::string::npos || HoldsNoNumber(zero);
+    bool isZero = false;
+    auto const fault = Trap([&] { isZero = Round(0) == 0; });
+    return isZero || fault;
 }
 
 std::string Counted(int count, std::string_view noun) {

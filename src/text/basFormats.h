@@ -43,7 +43,8 @@ public:
     [[nodiscard]] double Round(double value) const;
 
     // Whether Round makes nothing of a number but that number, rounded to the decimals, or raises. Not with
-    // digits and signs of the format's own: in "1" every number becomes 1.
+    // digits and signs of the format's own: in "1" every number becomes 1. In doubt not, as with signs
+    // behind.
     [[nodiscard]] bool RoundsOnly() const;
 
     // Whether Round leaves a number alone whose text has so many decimals, and 15 digits at the most. Not

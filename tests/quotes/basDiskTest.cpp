@@ -14,6 +14,8 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
+#include <utility>
 
 namespace quorvex::quotes {
 namespace {
@@ -262,11 +264,19 @@ TEST_F(QuoteFile, RefusesToWriteNumbersThatWouldNotReadBack) {
 }
 
 TEST_F(QuoteFile, RefusesToWriteWhatItsFormatHasMadeOfTheNumbersOnceTheyWereRead) {
-    for (auto const* format :
-         {"1", "0.0E+00", "0.00;;1", "0.00;-0.00;5", "0;0", "\"\"", "0\\5", "0.00;-1", "# 0", "0-0"}) {
+    std::string const positive = "03/05/02, 1234.56, 1234.56, 1234.56, 1234.56, 1, 0\r\n";
+    std::string const negative = "03/05/02, -1234.56, 1234.56, -1234.56, 1234.56, 1, 0\r\n";
+    for (auto const& [format, line] : {std::pair("1", positive),
+                                       {"0.0E+00", positive},
+                                       {"0.00;;1", positive},
+                                       {"0.00;-0.00;5", positive},
+                                       {"\"\"", positive},
+                                       {"0\\5", positive},
+                                       {"0;0", negative},
+                                       {"0.00;-1", negative}}) {
         SCOPED_TRACE(format);
         settings.CurrencyFormat = format;
-        static_cast<void>(Load("03/05/02, 1234.56, 1234.56, 1234.56, 1234.56, 1, 0\r\n" + QuoteLines(25)));
+        ASSERT_EQ(Load(line + QuoteLines(25)), 26);
         ExpectRefusedSave();
     }
 }

@@ -152,12 +152,13 @@ TEST(NumberFormatRound, RefusesATextThatIsNoNumber) {
 
 TEST(NumberFormatRound, GivesNoOtherNumberInFormatsWithoutDigitsAndSignsOfTheirOwn) {
     for (char const* const format :
-         {"", "0", "####0.00", "#", ".", "#,##0.00", " 0 ", "0;-0", "0; -0.0 ;", ";-0;", "0;;.0", "0;;\"0\"",
-          "0;;", "$0", "0%", "(1)", "0;(0)", "0;;none"}) {
+         {"",     "0",         "####0.00", "#",       ".",        "#,##0.00", " 0 ",
+          "0;-0", "0; -0.0 ;", ";-0;",     "0;;.0",   "0;;\"0\"", "0;;",      "$0",
+          "0%",   "(1)",       "0;(0)",    "0;;none", "0;;-",     "0;;-0",    "\t0"}) {
         EXPECT_TRUE(NumberFormat(format).RoundsOnly()) << format;
     }
     for (char const* const format : {"1", "10", "01", "0 0", "0-", "-0", "0e0", "0.0.0", "\"\"", "\" \"", ",",
-                                     "0;0", "0;-", "0;0-", "0;--0", "0;-01", "0;;1", "0;;-0", "0;;\"\"5"}) {
+                                     "0;0", "0;-", "0;0-", "0;--0", "0;-01", "0;;1", "0;;0.5", "0;;\"\"5"}) {
         EXPECT_FALSE(NumberFormat(format).RoundsOnly()) << format;
     }
 }

@@ -40,7 +40,7 @@ void PixelRows::Fill(int left, int top, int width, int height, Colour colour) {
         return;
     }
     std::uint32_t const pixel = Opaque | colour;
-    if (right - left == 1) {
+    if (right - left == 1) { // as ticks, bars and wicks are: not worth the start of a fill
         for (int y = top; y < bottom; ++y) {
             Row(y)[left] = pixel;
         }
