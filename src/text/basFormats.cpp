@@ -243,14 +243,14 @@ bool NumberFormat::PrintsNumberAlone(Section const& section, std::string_view si
     auto const isLiteral = [](Token const& token) { return token.Kind == Piece::Literal; };
     auto const begin = section.Tokens.begin();
     auto const end = section.Tokens.end();
-    auto const first = std::find_if_not(begin, end, isLiteral);
-    auto const last = std::find_if(first, end, isLiteral);
+    auto const digits = std::find_if_not(begin, end, isLiteral);
+    auto const behind = std::find_if(digits, end, isLiteral);
     auto const textOf = [](auto from, auto to) {
         return std::accumulate(from, to, std::string(),
                                [](std::string const& text, Token const& token) { return text + token.Text; });
     };
-    return first != last && std::all_of(last, end, isLiteral) &&
-           TrimBlanksAndTabs(textOf(begin, first)) == sign && TrimBlanksAndTabs(textOf(last, end)).empty();
+    return digits != behind && std::all_of(behind, end, isLiteral) &&
+           TrimBlanksAndTabs(textOf(begin, digits)) == sign && TrimBlanksAndTabs(textOf(behind, end)).empty();
 }
 
 // Whether no text of it can be read as a number.
